@@ -1,0 +1,44 @@
+// The profiles, as the settings plug-in offers them to other plug-ins.
+#ifndef ORBISDIAL_INETCONNECTSETTING_H
+#define ORBISDIAL_INETCONNECTSETTING_H
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include "NetConnectRecords.h"
+
+// All operations are called on the GUI thread. Status: 0 success, 13 a needed object is missing, 23 an
+// output argument is null or the profiles can't be had, 25 a file can't be written. Their order is part
+// of the binary interface.
+class INetConnectSetting {
+public:
+    virtual ~INetConnectSetting() {}
+
+    // 1 when the configuration switches roaming by IMSI on.
+    virtual int IsIMSIROAMEnable() = 0;
+
+    // Appends every profile name in display order.
+    virtual int GetAllDialUpProfile(QList<QString>* names) = 0;
+
+    // Fills the profile, its password in plain text; every field is empty when there is no such profile.
+    virtual int GetDialUpProfile(QString name, DialupProfile* profile) = 0;
+
+    // Adds the profile, or replaces the one of its name. The password is given in plain text.
+    virtual int SaveDialUpProfile(DialupProfile profile) = 0;
+
+    // The default profile's name; empty when there is none.
+    virtual int GetDefaultDialUpProfileName(QString* name) = 0;
+
+    // Makes the profile the default by the user's choice; an empty name changes nothing.
+    virtual int SetDefaultDialUpProfileName(QString name) = 0;
+
+    virtual UserPrompt GetUserPromptInfo() = 0;
+
+    // A value of the function configuration; empty when the key is not configured.
+    virtual int GetFunctionConfigStringValues(QString key, QString* value) = 0;
+};
+
+Q_DECLARE_INTERFACE(INetConnectSetting, "com.kestra.orbisdial.plugin.INetConnectSetting")
+
+#endif

@@ -1,0 +1,186 @@
+// The plug-in's profile data in memory, and every operation on it.
+//
+// Its source is spread over topics:
+//   NetConnectSettingUILogic.cpp           life, loading, device events
+//   NetConnectSettingUILogic_Store.cpp     list, fetch, add, delete, replace, template
+//   NetConnectSettingUILogic_Default.cpp   the default profile
+//   NetConnectSettingUILogic_Lists.cpp     presets by IMSI and by configuration
+//   NetConnectSettingUILogic_Config.cpp    function configuration
+//   NetConnectSettingUILogic_Password.cpp  sealing of passwords
+//   NetConnectSettingUILogic_Transfer.cpp  import and export
+//   NetConnectStoreAction.cpp              gathered writes and the lock between processes
+#ifndef ORBISDIAL_NETCONNECTSETTINGUILOGIC_H
+#define ORBISDIAL_NETCONNECTSETTINGUILOGIC_H
+
+#include <QHash>
+#include <QList>
+#include <QMap>
+#include <QMultiHash>
+#include <QMutex>
+#include <QObject>
+#include <QStringList>
+#include <QWidget>
+#include <atomic>
+
+#include "NetConnectStorageProblem.h"
+#include "NetConnectXMLParse.h"
+
+// Which presets a SIM selects.
+struct NetConnectIMSISelection {
+    QString prefix;          // the IMSI prefix that matched; empty when none did
+    QStringList names;       // the presets, as shown
+    QString defaultProfile;  // the proposed default; empty when no row is marked
+};
+
+// Answers an import's question whether a profile of this name may be replaced.
+class NetConnectClashPolicy {
+public:
+    virtual ~NetConnectClashPolicy() {}
+    virtual bool replace(const QString& name) = 0;
+};
+
+// One instance per process, made on first use. Everything is for the GUI thread, but OnDevInitEvent and
+// ResetFlags, which the device SDK calls on its own thread.
+//
+// Status of the operations, where no other meaning is given: 0 success, 6 a file is not well-formed, 13 a
+// needed object is missing, 23 a file is missing or an output is null, 25 a file can't be opened, written or
+// locked; LastStorageProblem() then says which and why.
+class NetConnectSettingUILogic : public QObject {
+    Q_OBJECT
+
+public:
+    enum Status {
+        Success = 0,
+        NoXMLParse = 1,
+        ReadError = 6,
+        ObjectMissing = 13,
+        FileMissing = 23,
+        FileNotOpened = 25,
+        NothingImported = 113,
+        NameTaken = 114  // ReplaceDialUpProfile only: another profile has the new name
+    };
+
+    static NetConnectSettingUILogic* GetInstance();
+
+    // Clears an automatically chosen default from the user's file, stops the device's events and deletes the
+    // instance and the XML singleton.
+    static void Destroy();
+
+    // Reads every file again. 23 is usual without a SIM card, and no failure.
+    int Init();
+
+    // Reads the configuration into the caches.
+    int getConfigData();
+
+    static void RegisterDevice();
+    static void UnRegisterDevice();
+
+    // The device SDK's callback: 1 when the event was acted on. SDK thread.
+    static int OnDevInitEvent(int event, void* data);
+
+    // Forgets the default that the IMSI proposed. Any thread; takes no lock.
+    void ResetFlags();
+
+    // --- listing and changing profiles ---
+
+    // Appends the names of all profiles in display order.
+    int GetAllDialUpProfile(QList<QString>* names);
+    int sortProfileNames(QList<QString>* names);
+
+    // Fills the profile, its password in plain text; all fields are empty when there is none of that name.
+    int GetDialUpProfile(QString name, DialupProfile* profile);
+
+    // Adds a profile whose password is in plain text; does nothing when the user has one of that name.
+    int SaveDialUpProfile(DialupProfile profile);
+
+    // Deletes a user's profile, or takes a preset out of the lists in memory.
+    int DelDialUpProfile(QString name);
+
+    // Puts a profile in the place of a user's profile, in one write: the default moves along with the flag
+    // that it had, and a new name loses the langid. 114 when the new name is another profile's (nothing changes).
+    int ReplaceDialUpProfile(const QString& oldName, const DialupProfile& profile);
+
+    int NewDialUpProfileTemplate(DialupProfile* profile);
+    int updateProfileTemplate();
+
+    // True when the user's file holds a profile of that name, as last read.
+    bool HasUserProfile(const QString& name) const;
+
+    // --- the default profile ---
+
+    int GetDefaultDialUpProfileName(QString* name);
+    int SetDefaultDialUpProfileName(QString name, bool isUserSet);
+
+    // Whether the user chose the default.
+    bool IsDefaultUserSet() const;
+
+    // --- presets ---
+
+    int getIMSIProfileList();
+    QStringList getAPNListFromHash();
+    QStringList getDefaultOrIMSIProfileList();
+    QStringList GetDefaultAPNProfileList();
+    bool IsIMSIROAMSettingEnable();
+    bool IsEhrpdSubMode();
+
+    // What a SIM with this IMSI selects; the prefix is empty when no section matches.
+    NetConnectIMSISelection SelectByIMSI(const QString& imsi);
+
+    // What is in force: the prefix that the present SIM matched (empty when none did), and the proposals.
+    QString MatchedIMSIPrefix() const;
+    QString ProposedDefault() const;
+
+    // True when the configuration names presets by IMSI at all; a customised configuration may empty them.
+    bool HasIMSIPresets() const;
+
+    // --- function configuration ---
+
+    int GetFunctionConfigValue(QString key, bool* on);
+    int GetFunctionConfigValue(QString key, int& value, int defaultValue);
+    int GetFunctionConfigStringValues(QString key, QString* value);
+    UserPrompt GetUserNamePasswdPromptInfo();
+    QString isLangidDefine(QString name);
+
+    // Every configured key, sorted.
+    QStringList FunctionConfigKeys() const;
+
+    // --- passwords ---
+
+    QString XorEncrypt(QString password, QString encryptType);
+    QString XorDecrypt(QString stored, QString encryptType);
+
+    // --- import and export ---
+
+    int GetDialUpProfileFromFile(QList<QString>* names, QString path);
+
+    // Imports by the user's answers in message boxes over the parent. 0 also when the file could not be
+    // written; 113 when nothing was imported.
+    int ImportDialupProfiles(QStringList* names, QWidget* parent);
+
+    // Imports by the policy's answers; answers the status of the write.
+    int ImportChosenProfiles(const QStringList& names, NetConnectClashPolicy* policy);
+
+    // Always 0 but for 13; ExportChosenProfiles answers the status of the write, and 25 for a path that must
+    // not be written: an empty one, the user's own file, a file that can't be opened.
+    int ExportSelectedProfilesToFile(QStringList* names, QString path);
+    int ExportChosenProfiles(const QStringList& names, const QString& path);
+
+    // The profiles that were last read for an import.
+    QList<DialupProfile> ImportCandidates() const;
+
+    // --- problems ---
+
+    // The last file that could not be read or written, until it can again; null when all is well.
+    NetConnectStorageProblem LastStorageProblem() const;
+
+signals:
+    // The device has finished initialising. Emitted on the SDK's thread.
+    void DeviceInit();
+
+private:
+    friend class NetConnectStoreAction;
+    struct Snapshot;
+    struct Translations;
+
+    NetConnectSettingUILogic();
+    virtual ~NetConnectSettingUILogic();

@@ -1,0 +1,40 @@
+// Gathers the writes of one action into one rewrite of the user's profile file.
+#ifndef ORBISDIAL_NETCONNECTSTOREACTION_H
+#define ORBISDIAL_NETCONNECTSTOREACTION_H
+
+#include <QList>
+#include <QtGlobal>
+
+#include "NetConnectRecords.h"
+
+// Usage: make one, call the logic's operations, then commit() or drop(). One that goes without either is
+// dropped. Actions nest: an inner one joins the outermost, which alone locks, writes or drops. GUI thread;
+// never keep one open while a question is on screen, since it locks other processes out.
+//
+// A Change locks the user's file against other processes when the first operation wants to write, and takes in
+// what they changed. A Browse never locks and never writes: what the operations would store is dropped when it
+// ends; it may outlive the logic, so that the logic's end writes nothing either.
+class NetConnectStoreAction {
+public:
+    enum Kind { Change, Browse };
+
+    explicit NetConnectStoreAction(Kind kind = Change);
+    ~NetConnectStoreAction();
+
+    // Writes once what was gathered. 0, or 25 when the file could not be locked or written; the status of the
+    // operations in between counts too. An inner action answers 0 or the failed lock and leaves the write to
+    // the outermost.
+    int commit();
+
+    // Forgets what was gathered and puts profiles and default back to what they were before the action. Dropping
+    // an inner action drops the whole.
+    void drop();
+
+private:
+    Q_DISABLE_COPY(NetConnectStoreAction)
+    friend class NetConnectSettingUILogic;
+
+    bool m_bOpen;
+};
+
+#endif

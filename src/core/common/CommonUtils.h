@@ -1,0 +1,75 @@
+// What the host core library offers to every plug-in: messages, settings, places, sealed texts.
+//
+// All operations are for the GUI thread, but Encrypt, Decrypt, CryptLocalFree, ParanthesisCorrection and
+// GetPluginLibraryPath, which are safe from any.
+#ifndef ORBISDIAL_COMMONUTILS_H
+#define ORBISDIAL_COMMONUTILS_H
+
+#include <QDebug>
+#include <QFontMetrics>
+#include <QMessageBox>
+#include <QString>
+#include <QTime>
+#include <QWidget>
+
+#include "HostCoreExport.h"
+
+class HOSTCORE_EXPORT CommonUtils {
+public:
+    // What ShowMessage answers for each button, in their order; closing the box answers the last one shown.
+    enum MessageAnswer { FirstButton = 1024, SecondButton = 4194304, ThirdButton = 1048576 };
+
+    // Shows a message box and waits for the answer. The caption and texts are shown as plain text. The button
+    // labels are string IDs, translated here in the context "NetConnectPlugin"; an empty label makes no
+    // button, but there is always one. The parent may be null and may be destroyed while the box is up.
+    static int ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QString& caption, const QString& text,
+                           const QString& button1, const QString& button2 = QString(),
+                           const QString& button3 = QString(), const QString& informativeText = QString(),
+                           bool modal = true, Qt::WindowFlags flags = Qt::WindowCloseButtonHint);
+
+    // Moves a window to the centre of its parent's window, or of the screen.
+    static void MoveCentre(QWidget* widget);
+
+    // A value of the host's settings file, in the user's XDG configuration directory or in
+    // $ORBISDIAL_CONFIG_DIR; empty when it is not set.
+    static QString GetSettings(const QString& group, const QString& key);
+
+    // Stores a value; false when the settings file can't be written.
+    static bool SetSettings(const QString& group, const QString& key, const QString& value);
+
+    // The host's main window, which SetMainWindow() names; null before and after its life.
+    static QWidget* GetMainWindow();
+    static void SetMainWindow(QWidget* window);
+
+    // The directory that holds "plugins" and "lang", without a slash at its end: $ORBISDIAL_LIBRARY_PATH, or
+    // else "orbisdial" beside this library.
+    static QString GetPluginLibraryPath();
+
+    // Corrects parentheses in right-to-left text. Qt mirrors them when it draws, so the text comes back as is.
+    static QString ParanthesisCorrection(const QString& text);
+
+    // Seals a zero-terminated text under a key: libsodium's authenticated box (XSalsa20-Poly1305) with a
+    // random nonce under a hash of the key, as ASCII text that begins with a version mark. out becomes a new
+    // text to free with CryptLocalFree, or null on failure.
+    static void Encrypt(const char* data, const char* key, char*& out);
+
+    // Opens what Encrypt sealed. Text that Encrypt did not make comes back unchanged; a sealed text that was
+    // changed, or sealed under another key, gives null.
+    static void Decrypt(const char* data, const char* key, char*& out);
+
+    // Wipes and frees a result of Encrypt or Decrypt; null is ignored.
+    static void CryptLocalFree(char* text);
+
+    // Shortens a widget's caption to a width in pixels and keeps the full text as its tool tip. Works on the
+    // text that the widget holds: set the full text again before each call.
+    template <class T>
+    static void setElidedTextForWidgetText(T* widget, int width, Qt::TextElideMode mode);
+
+    // The same for widgets with a title.
+    template <class T>
+    static void setElidedTextForWidgetTitle(T* widget, int width, Qt::TextElideMode mode);
+};
+
+#include "CommonUtilsElide.h"
+
+#endif
