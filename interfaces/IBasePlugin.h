@@ -8,6 +8,9 @@
 #include "IBaseInterface.h"
 #include "IDestroyEvent.h"
 
+// The numbers that QueryInterface() of a settings plug-in answers.
+enum QueryInterfaceId { SettingPageInterface = 4098, NetConnectSettingInterface = 28689 };
+
 // All operations are called on the GUI thread. Their order is part of the binary interface.
 class IBasePlugin : public IBaseInterface, public IDestroyEvent {
 public:
@@ -24,7 +27,7 @@ public:
     virtual bool IsAllowRelease() = 0;
 
     // Stores in *out the object behind a numbered interface and answers 1, or answers 0 and leaves *out.
-    // The object stays the plug-in's. Numbers of a settings page: 4098 and 28689.
+    // The object stays the plug-in's.
     virtual int QueryInterface(int id, QObject** out) = 0;
 };
 

@@ -8,6 +8,19 @@
 
 #include "NetConnectRecords.h"
 
+// The class identifier and the kind under which the host puts the object that offers this interface into the
+// container; the plug-in itself has no class identifier.
+#define ORBISDIAL_NETCONNECT_CLSID "761CCDE4-B4F2-45DE-A151-6C55F918DE2B"
+enum { NetConnectSettingKind = 28689 };
+
+// What the object may tell besides, each as a QObject property of this name that holds text; one that is not
+// there has nothing to say. The last problem with a file of the profiles (empty when all is well), the leading
+// digits by which the SIM's IMSI selected its presets (empty when none matched), and the preset that they
+// propose as the default.
+#define ORBISDIAL_LAST_STORAGE_PROBLEM "lastStorageProblem"
+#define ORBISDIAL_MATCHED_IMSI_PREFIX "matchedIMSIPrefix"
+#define ORBISDIAL_PROPOSED_DEFAULT "proposedDefault"
+
 // All operations are called on the GUI thread. Status: 0 success, 13 a needed object is missing, 23 an
 // output argument is null or the profiles can't be had, 25 a file can't be written. Their order is part
 // of the binary interface.

@@ -8,6 +8,7 @@
 enum NotifyEvent {
     NotifyLanguageChanged = 320,    // host to every plug-in: set every text again
     NotifyProfilesChanged = 512,    // settings page to dial-up plug-in and host: read the profiles again
+    NotifyConnectionChanged = 528,  // dial-up plug-in to host, host to every plug-in: ask the state again
     NotifySystemModeChanged = 4101  // host to every plug-in: the modem changed its system mode
 };
 

@@ -7,13 +7,7 @@
 namespace NetConnectProfileRules {
 
 // Lengths in UTF-16 code units, as Qt's line edits count them. The name's is configurable.
-enum {
-    DefaultNameLength = 48,
-    AccessNumberLength = 24,
-    UserNameLength = 48,
-    PasswordLength = 48,
-    APNLength = 100
-};
+enum { DefaultNameLength = 48, AccessNumberLength = 24, UserNameLength = 48, PasswordLength = 48, APNLength = 100 };
 
 // The patterns, in QRegExp's syntax, case-sensitive, for the whole text.
 extern const char NamePattern[];       // what a name may be

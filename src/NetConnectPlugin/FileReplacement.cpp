@@ -1,0 +1,158 @@
+#include "FileReplacement.h"
+
+#include <errno.h>
+#include <fcntl.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+const char TemporaryMark[] = ".tmp-";
+const int LeftoverAge = 60;  // seconds after which a temporary file is a dead writer's
+
+// An open file descriptor that closes itself.
+class Descriptor {
+public:
+    explicit Descriptor(int fd) : m_Fd(fd) {}
+    ~Descriptor() {
+        if (m_Fd >= 0) ::close(m_Fd);
+    }
+    int get() const { return m_Fd; }
+    bool close() {
+        const int fd = m_Fd;
+        m_Fd = -1;
+        return ::close(fd) == 0;
+    }
+
+private:
+    Q_DISABLE_COPY(Descriptor)
+    int m_Fd;
+};
+
+// A file's name that is removed again unless it is kept.
+class TemporaryName {
+public:
+    explicit TemporaryName(const QByteArray& name) : m_Name(name) {}
+    ~TemporaryName() {
+        if (!m_Name.isEmpty()) ::unlink(m_Name.constData());
+    }
+    void keep() { m_Name.clear(); }
+
+private:
+    Q_DISABLE_COPY(TemporaryName)
+    QByteArray m_Name;
+};
+
+bool failed(const char* step, QString* reason) {
+    *reason = QString::fromLatin1("%1: %2").arg(QString::fromLatin1(step), QString::fromLocal8Bit(strerror(errno)));
+    return false;
+}
+
+bool writeAll(int fd, const QByteArray& content) {
+    const char* data = content.constData();
+    qint64 left = content.size();
+    while (left > 0) {
+        const ssize_t written = ::write(fd, data, size_t(left));
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) return false;
+        data += written;
+        left -= written;
+    }
+    return true;
+}
+
+// A folder that can't be flushed by its kind of file system is none that could lose the name.
+bool flushFolder(const QString& folder) {
+    Descriptor descriptor(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.get() < 0) return errno == EACCES;
+    return ::fsync(descriptor.get()) == 0 || errno == EINVAL || errno == EROFS;
+}
+
+// Removes what a writer that died left beside the file: it may hold passwords.
+void removeLeftovers(const QFileInfo& file) {
+    const QStringList pattern(file.fileName() + QLatin1String(TemporaryMark) + QLatin1String("??????"));
+    const QFileInfoList leftovers =
+        file.absoluteDir().entryInfoList(pattern, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    const QDateTime limit = QDateTime::currentDateTime().addSecs(-LeftoverAge);
+    for (int i = 0; i < leftovers.size(); ++i)
+        if (leftovers.at(i).lastModified() < limit) QFile::remove(leftovers.at(i).filePath());
+}
+
+// Gives the new file the mode and, when root writes another user's file, the owner that it should have.
+bool applyRights(int fd, const QByteArray& target, FileReplacement::Access access) {
+    struct stat before;
+    const bool existed = ::stat(target.constData(), &before) == 0;
+    if (existed && before.st_uid != ::geteuid() && ::fchown(fd, before.st_uid, before.st_gid) != 0 && errno != EPERM)
+        return false;
+    mode_t mode = 0600;
+    if (access == FileReplacement::AsBefore) mode = existed ? before.st_mode & 07777 : 0644;
+    return ::fchmod(fd, mode) == 0;
+}
+
+}  // namespace
+
+namespace FileReplacement {
+
+QString target(const QString& path) {
+    const int deepest = 40;  // as the kernel bounds a chain of links
+    QString result = path;
+    for (int i = 0; i < deepest; ++i) {
+        const QFileInfo info(result);
+        if (!info.isSymLink()) break;
+        result = info.symLinkTarget();
+    }
+    return result;
+}
+
+bool isSameFile(const QString& one, const QString& other) {
+    struct stat first;
+    struct stat second;
+    return ::stat(QFile::encodeName(one).constData(), &first) == 0 &&
+           ::stat(QFile::encodeName(other).constData(), &second) == 0 && first.st_dev == second.st_dev &&
+           first.st_ino == second.st_ino;
+}
+
+bool replace(const QString& path, const QByteArray& content, Access access, QString* reason) {
+    const QString file = target(path);
+    const QFileInfo info(file);
+    removeLeftovers(info);
+
+    const QByteArray name = QFile::encodeName(info.absoluteFilePath());
+    QByteArray temporary = name + TemporaryMark + "XXXXXX";
+    Descriptor descriptor(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (descriptor.get() < 0) return failed("can't create a file in the folder", reason);
+    TemporaryName leftover(temporary);
+
+    if (!writeAll(descriptor.get(), content)) return failed("can't write", reason);
+    if (!applyRights(descriptor.get(), name, access)) return failed("can't set the file's mode", reason);
+    if (::fsync(descriptor.get()) != 0) return failed("can't flush to disk", reason);
+    if (!descriptor.close()) return failed("can't close", reason);
+    if (::rename(temporary.constData(), name.constData()) != 0) return failed("can't replace", reason);
+    leftover.keep();
+
+    if (!flushFolder(info.absolutePath())) failed("written, but the folder can't be flushed to disk", reason);
+    return true;
+}
+
+bool keepDamaged(const QString& path, QString* copy, QString* reason) {
+    QFile damaged(path);
+    if (!damaged.open(QIODevice::ReadOnly)) {
+        *reason = QString::fromLatin1("can't read the damaged file: ") + damaged.errorString();
+        return false;
+    }
+    const QByteArray content = damaged.readAll();
+    const QString stem = target(path) + QLatin1String(".damaged-") +
+                         QDateTime::currentDateTime().toUTC().toString(QLatin1String("yyyyMMddThhmmssZ"));
+    *copy = stem;
+    for (int i = 2; QFileInfo(*copy).exists(); ++i) *copy = stem + QLatin1Char('-') + QString::number(i);
+    return replace(*copy, content, OwnerOnly, reason);
+}
+
+}  // namespace FileReplacement

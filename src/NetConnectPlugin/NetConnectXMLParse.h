@@ -1,0 +1,202 @@
+// The file layer: reads and writes the profile files, the profile template and the configuration.
+//
+// Its source is spread over topics:
+//   NetConnectXMLParse.cpp           life, places, problems
+//   NetConnectXMLParse_Profiles.cpp  profile files
+//   NetConnectXMLParse_Config.cpp    NetConnectConfig.xml
+//   NetConnectXMLParse_Template.cpp  SysProfile.prof
+#ifndef ORBISDIAL_NETCONNECTXMLPARSE_H
+#define ORBISDIAL_NETCONNECTXMLPARSE_H
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QMultiHash>
+#include <QString>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include "FileStamp.h"
+#include "NetConnectRecords.h"
+#include "NetConnectStorageProblem.h"
+
+// Whether the SIM card serves CDMA and WCDMA, and in which mode it is now.
+struct NetConnectCardMode {
+    enum Mode { None = 0, CDMA = 2 };  // every other mode is a WCDMA one
+
+    NetConnectCardMode() : isMultiMode(false), mode(None) {}
+
+    bool isCDMA() const { return isMultiMode && mode == CDMA; }
+    bool isWCDMA() const { return isMultiMode && mode != None && mode != CDMA; }
+
+    // Asks the device SDK; a query that fails gives a card that is not multi-mode.
+    static NetConnectCardMode current(bool* answered = 0);
+
+    bool isMultiMode;
+    unsigned int mode;
+};
+
+// A default profile's name, and whether the user chose it.
+struct NetConnectDefault {
+    NetConnectDefault() : isUserSet(false) {}
+    NetConnectDefault(const QString& defaultName, bool userSet) : name(defaultName), isUserSet(userSet) {}
+    bool operator==(const NetConnectDefault& other) const { return name == other.name && isUserSet == other.isUserSet; }
+    bool operator!=(const NetConnectDefault& other) const { return !(*this == other); }
+
+    QString name;
+    bool isUserSet;
+};
+
+// What the file layer remembers between calls of the defaults in the user's file.
+struct NetConnectRememberedDefaults {
+    NetConnectDefault plain;
+    NetConnectDefault cdma;
+    NetConnectDefault wcdma;
+};
+
+// One instance per process, made on first use. GUI thread only; nothing here locks.
+//
+// Status: 0 success, 6 the file is not well-formed, 23 it is missing, 25 it can't be opened or written;
+// lastProblem() then says which and why.
+class NetConnectXMLParse {
+public:
+    static NetConnectXMLParse* GetInstance();
+    static void Destroy();
+
+    // --- profile files ---
+
+    // Appends a file's profiles and stores its default. An empty name means the user's file, the bare name
+    // "ProfileLib.prof" the shipped library, any other is a path. defaultName keeps its value when the file names
+    // no default; isUserSet may be null.
+    int GetAllProfileFromUserDataXML(QList<DialupProfile>* profiles, QString* defaultName, QString fileName,
+                                     bool* isUserSet);
+
+    // The same from a reader: 0, or 6 at the first error; what was read before stays.
+    int readXML(QXmlStreamReader& reader, QList<DialupProfile>* profiles, QString* defaultName, bool* isUserSet);
+
+    // Replaces a file; the defaults go into the user's file (an empty name) alone.
+    int SaveProfileToXML(QList<DialupProfile> profiles, QString defaultName, QString fileName, bool isUserSet);
+
+    // --- configuration ---
+
+    // Adds the items of one group and module to the containers; 23 also for a null group or module. A null
+    // prompt leaves the prompt items aside.
+    int GetSettingsFromXML(QString* group, QString* module, QHash<QString, NetConnectXML>* templates,
+                           QHash<QString, NetConnectXML>* functions, QHash<QString, NetConnectXML>* profileList,
+                           QMultiHash<QString, IMSIINFO>* imsiProfiles, UserPrompt* prompt);
+
+    // Files the reader's current element; always 0.
+    int getConfigData(QXmlStreamReader& reader, QHash<QString, NetConnectXML>* templates,
+                      QHash<QString, NetConnectXML>* functions, QHash<QString, NetConnectXML>* profileList,
+                      QMultiHash<QString, IMSIINFO>* imsiProfiles);
+
+    // Takes the reader's current element as a prompt item, if it is one; always 0.
+    int getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt);
+
+    // --- profile template ---
+
+    // Fills the profile from the system file; langid and encrypttype stay.
+    int GetProfileTemplateFromSysXML(DialupProfile* profile);
+
+    // Rewrites the system file; 23 for no items (the file stays).
+    int ModifyProfileTemplateToSysXML(QHash<QString, NetConnectXML>* templates);
+
+    // --- places ---
+
+    // Ends with a slash; empty when the device SDK can't give it.
+    QString getUserDataDirectory();
+
+    // The user's profile file; empty when there is no user data directory.
+    QString userProfilePath();
+
+    // A file of the shipped set, by its bare name.
+    static QString shippedPath(const char* fileName);
+
+    // --- state ---
+
+    // Lives as long as the singleton.
+    NetConnectDeviceInfo* GetCurrentDeviceInfo();
+
+    NetConnectRememberedDefaults rememberedDefaults() const { return m_Remembered; }
+    void setRememberedDefaults(const NetConnectRememberedDefaults& defaults) { m_Remembered = defaults; }
+
+    // True when saving this default would leave the card mode's remembered one as it is.
+    bool isModeDefault(const NetConnectDefault& value) const;
+
+    // Counts the times that the library was really parsed, so that callers can keep what they derive from it.
+    int libraryRevision() const { return m_Library.revision; }
+
+    // The stamp of the user's file as last read or written here.
+    FileStamp userFileStamp() const { return m_User.stamp; }
+
+    NetConnectStorageProblem lastProblem() const { return m_Problem; }
+    void reportProblem(const QString& file, const QString& reason, qint64 line = 0, qint64 column = 0);
+
+    // Forgets the last problem if it was this file's.
+    void clearProblem(const QString& file);
+
+private:
+    // One default that a profile file names, in file order.
+    struct DefaultEntry {
+        enum Kind { Plain, CDMA, WCDMA };
+        Kind kind;
+        NetConnectDefault value;
+    };
+
+    // What one profile file says, its names as stored.
+    struct ProfileDocument {
+        QList<DialupProfile> profiles;
+        QList<DefaultEntry> defaults;
+    };
+
+    // A profile file that is kept, so that it is parsed again only when it changed.
+    struct KeptFile {
+        KeptFile() : isComplete(false), revision(0) {}
+        bool isCurrent(const QString& file, const FileStamp& now) const {
+            return isComplete && path == file && stamp.settled && stamp == now;
+        }
+
+        QString path;
+        FileStamp stamp;  // taken before the file was read, or after it was written
+        bool isComplete;  // read or written to its end
+        ProfileDocument document;
+        int revision;
+    };
+
+    NetConnectXMLParse() : m_bKeepProblem(false) {}
+    ~NetConnectXMLParse() {}
+    Q_DISABLE_COPY(NetConnectXMLParse)
+
+    QString profilePath(const QString& fileName);
+    KeptFile* keptFile(const QString& fileName);
+    int loadDocument(const QString& path, KeptFile* kept, ProfileDocument* document);
+    int parseDocument(QXmlStreamReader& reader, ProfileDocument* document);
+    void applyDocument(const ProfileDocument& document, QList<DialupProfile>* profiles, QString* defaultName,
+                       bool* isUserSet);
+    void applyDefault(const DefaultEntry& entry, const NetConnectCardMode& card, QString* defaultName, bool* isUserSet);
+    QByteArray writeDocument(const QList<DialupProfile>& profiles, const NetConnectDefault* value,
+                             const NetConnectRememberedDefaults& remembered);
+    NetConnectRememberedDefaults withModeDefault(const NetConnectDefault& value) const;
+    bool prepareTarget(const QString& path, const KeptFile& kept);
+
+    // Opens and reads a file whole: 0, 23 or 25, traced and reported.
+    int readFile(const QString& path, QByteArray* content);
+
+    // Traces and reports a reader's error: 6.
+    int readError(const QXmlStreamReader& reader, const QString& path, const char* function);
+
+    // Replaces a file's content: 0 or 25, traced and reported.
+    int writeFile(const QString& path, const QByteArray& content, bool isShared);
+
+    KeptFile m_User;
+    KeptFile m_Library;
+    NetConnectRememberedDefaults m_Remembered;
+    QString m_strSection;
+    QString m_strSpare;
+    QString m_strCurrentIMSI;
+    NetConnectDeviceInfo m_DeviceInfo;
+    NetConnectStorageProblem m_Problem;
+    bool m_bKeepProblem;  // the last problem tells of a damaged file put aside: no success outdates it
+};
+
+#endif

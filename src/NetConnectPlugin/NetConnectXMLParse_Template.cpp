@@ -1,0 +1,83 @@
+// The template for new profiles, in the system profile file.
+
+#include <QFile>
+
+#include "NetConnectXMLParse.h"
+#include "Trace.h"
+#include "XmlText.h"
+
+namespace {
+
+// Fields of the record that the system file's template never holds, though "device" is taken when it is there.
+bool isInTemplate(const char* attribute, bool forWriting) {
+    const QLatin1String name(attribute);
+    if (QLatin1String("langid") == name || QLatin1String("encrypttype") == name) return false;
+    return !forWriting || QLatin1String("device") != name;
+}
+
+void fillFromTemplate(const QXmlStreamAttributes& attributes, DialupProfile* profile) {
+    for (int i = 0; i < DialupProfileFieldCount; ++i) {
+        const DialupProfileField& field = DialupProfileFields[i];
+        if (isInTemplate(field.attribute, false))
+            profile->*field.member = attributes.value(QLatin1String(field.attribute)).toString();
+    }
+}
+
+QByteArray templateDocument(const QHash<QString, NetConnectXML>& templates) {
+    QByteArray content;
+    QXmlStreamWriter writer(&content);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    writer.writeStartElement(QLatin1String("vrksdoc"));
+    writer.writeAttribute(QLatin1String("type"), QLatin1String("Profile"));
+    writer.writeEmptyElement(QLatin1String("Default"));
+    writer.writeAttribute(QLatin1String("Default"), QLatin1String("kestra"));
+    writer.writeAttribute(QLatin1String("type"), QLatin1String("DialUp"));
+    writer.writeStartElement(QLatin1String("ProfileGroup"));
+    writer.writeAttribute(QLatin1String("type"), QLatin1String("Dailup"));
+    writer.writeEmptyElement(QLatin1String("Template"));
+    for (int i = 0; i < DialupProfileFieldCount; ++i) {
+        const QLatin1String attribute(DialupProfileFields[i].attribute);
+        if (isInTemplate(DialupProfileFields[i].attribute, true))
+            writer.writeAttribute(attribute, XmlText::clean(templates.value(attribute).value));
+    }
+    writer.writeEndDocument();
+    return writer.hasError() ? QByteArray() : content;
+}
+
+}  // namespace
+
+int NetConnectXMLParse::GetProfileTemplateFromSysXML(DialupProfile* profile) {
+    const TraceScope trace(__FILE__, "GetProfileTemplateFromSysXML");
+    const QString path = shippedPath("SysProfile.prof");
+    QByteArray content;
+    const int status = readFile(path, &content);
+    if (status != 0) return status;
+
+    QXmlStreamReader reader(content);
+    const QString refusal = XmlText::refusal(content);
+    if (!refusal.isEmpty()) reader.raiseError(refusal);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        XmlText::refuseDeclarations(reader);
+        if (reader.hasError()) return readError(reader, path, "GetProfileTemplateFromSysXML");
+        if (!reader.isStartElement() || reader.name() != QLatin1String("Template")) continue;
+        fillFromTemplate(reader.attributes(), profile);
+        break;
+    }
+    if (reader.hasError()) return readError(reader, path, "GetProfileTemplateFromSysXML");
+    clearProblem(path);
+    return 0;
+}
+
+int NetConnectXMLParse::ModifyProfileTemplateToSysXML(QHash<QString, NetConnectXML>* templates) {
+    const TraceScope trace(__FILE__, "ModifyProfileTemplateToSysXML");
+    if (!templates || templates->isEmpty()) return 23;
+    const QString path = shippedPath("SysProfile.prof");
+    const QByteArray content = templateDocument(*templates);
+
+    // The file lies where many users may read but few may write: leave one alone that is right already.
+    QFile present(path);
+    if (!content.isEmpty() && present.open(QIODevice::ReadOnly) && present.readAll() == content) return 0;
+    return writeFile(path, content, true);
+}
