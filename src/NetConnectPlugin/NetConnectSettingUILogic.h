@@ -18,12 +18,16 @@
 #include <QMultiHash>
 #include <QMutex>
 #include <QObject>
+#include <QPointer>
+#include <QSet>
 #include <QStringList>
 #include <QWidget>
 #include <atomic>
 
 #include "NetConnectStorageProblem.h"
 #include "NetConnectXMLParse.h"
+
+class UserFileLock;
 
 // Which presets a SIM selects.
 struct NetConnectIMSISelection {
@@ -57,7 +61,7 @@ public:
         FileMissing = 23,
         FileNotOpened = 25,
         NothingImported = 113,
-        NameTaken = 114  // ReplaceDialUpProfile only: another profile has the new name
+        NameTaken = 114  // AddDialUpProfile and ReplaceDialUpProfile: another profile has the name
     };
 
     static NetConnectSettingUILogic* GetInstance();
@@ -96,6 +100,9 @@ public:
     // Deletes a user's profile, or takes a preset out of the lists in memory.
     int DelDialUpProfile(QString name);
 
+    // SaveDialUpProfile, but 114 when the user has a profile of that name.
+    int AddDialUpProfile(const DialupProfile& profile);
+
     // Puts a profile in the place of a user's profile, in one write: the default moves along with the flag
     // that it had, and a new name loses the langid. 114 when the new name is another profile's (nothing changes).
     int ReplaceDialUpProfile(const QString& oldName, const DialupProfile& profile);
@@ -129,6 +136,9 @@ public:
     // What is in force: the prefix that the present SIM matched (empty when none did), and the proposals.
     QString MatchedIMSIPrefix() const;
     QString ProposedDefault() const;
+
+    // The proposal of the configuration's own list, for SIMs that select nothing; empty when it makes none.
+    QString APNDefault() const { return m_strAPNDefaultProfile; }
 
     // True when the configuration names presets by IMSI at all; a customised configuration may empty them.
     bool HasIMSIPresets() const;
@@ -173,14 +183,107 @@ public:
     // The last file that could not be read or written, until it can again; null when all is well.
     NetConnectStorageProblem LastStorageProblem() const;
 
+    // Keeps the dynamic properties "lastStorageProblem", "matchedIMSIPrefix" and "proposedDefault" (texts) of an
+    // object up to date, so that a host which knows only that object can show them. The object stays the caller's.
+    void PublishStatus(QObject* object);
+
 signals:
     // The device has finished initialising. Emitted on the SDK's thread.
     void DeviceInit();
 
 private:
     friend class NetConnectStoreAction;
-    struct Snapshot;
-    struct Translations;
+    friend class NetConnectOperation;
+
+    // What a dropped action puts back.
+    struct Snapshot {
+        QList<DialupProfile> userProfiles;
+        NetConnectDefault defaultProfile;
+    };
 
     NetConnectSettingUILogic();
     virtual ~NetConnectSettingUILogic();
+
+    // loading
+    int readConfigPair(QString group, QString module, UserPrompt* prompt);
+    static QString customizeName();
+    static bool isCDMAProduct();
+    int readUserProfiles();
+    void readLibrary(QString* defaultName);
+    int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);
+    void forgetForeignDefault();
+    void clearAutomaticDefault();
+    static QString translated(const QString& langid);
+    static bool translateName(DialupProfile* profile);
+
+    // the user's file
+    static NetConnectSettingUILogic* instance();
+    bool lockUserFile(UserFileLock* lock);
+    void takeInChanges();
+    int writeUserProfiles(bool isUserSet);
+    Snapshot snapshot() const;
+    void restore(const Snapshot& snapshot);
+    void userListChanged() { m_bUserIndexValid = false; }
+    int findUserProfile(const QString& name) const;
+    int findLibraryProfile(const QString& name);
+    bool sealPassword(DialupProfile* profile);
+    bool translateUserProfiles();
+    void openPassword(DialupProfile* profile);
+    void fillFromDevice(DialupProfile* profile, const char* function);
+    void removePreset(const QString& name);
+
+    // the default profile
+    QString imsiProposal() const;
+    QString replacementDefault(const QSet<QString>& names) const;
+
+    // presets
+    void refreshLibraryNames();
+    QString translatedLibraryName(const QString& name);
+
+    // import and export
+    int refuseExportTo(const QString& path);
+    bool addCandidates(const QStringList& names, const QSet<QString>& replaced);
+    bool exportProfile(QString name, QList<DialupProfile> target, QList<DialupProfile> source);
+
+    void publishStatus();
+
+    NetConnectXMLParse* m_pXMLParse;
+    QHash<QString, NetConnectXML>* m_pProfileTemplateHash;
+    QHash<QString, NetConnectXML>* m_pFunctionHash;
+    QHash<QString, NetConnectXML>* m_pProfileListHash;
+    QMultiHash<QString, IMSIINFO>* m_pIMSIHash;
+    UserPrompt m_UserPrompt;
+    QStringList m_IMSIProfileList;
+    QString m_strIMSIDefaultProfile;
+    QStringList m_APNProfileList;
+    QString m_strAPNDefaultProfile;
+    QList<DialupProfile> m_UserProfileList;
+    QString m_strDefaultProfile;
+    bool m_bIsUserSet;
+    QList<DialupProfile> m_ProfileLibList;
+    QStringList m_ProfileNameList;
+    QList<DialupProfile> m_ImportList;
+    QList<DialupProfile> m_ExportList;
+    QHash<QString, QString> m_ProfileHash;
+    QMap<QString, QString> m_ProfileMap;
+    QMutex m_Mutex;
+
+    // The device's event makes the IMSI's proposal void on its own thread, where the text must not be touched.
+    std::atomic<bool> m_bIMSIDefaultForgotten;
+
+    QString m_strMatchedPrefix;
+    NetConnectDefault m_StoredDefault;  // as last read from or written to the user's file
+    FileStamp m_UserFileStamp;          // the user's file as m_UserProfileList was read or written
+    bool m_bForeignDefault;             // m_strDefaultProfile came from a file that was browsed
+    NetConnectDefault m_OwnDefault;     // what it was before
+
+    mutable QHash<QString, int> m_UserIndex;  // name to first place in m_UserProfileList
+    mutable bool m_bUserIndexValid;
+    QHash<QString, int> m_LibraryIndex;        // shown name to first place in m_ProfileLibList
+    int m_nLibraryRevision;                    // of m_LibraryLangids
+    QHash<QString, QString> m_LibraryLangids;  // stored name to langid
+    QHash<QString, QString> m_StoredNames;     // shown name to stored name, the inverse of m_ProfileMap
+    QPointer<QObject> m_pStatusObject;
+};
+
+#endif

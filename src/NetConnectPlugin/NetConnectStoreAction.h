@@ -2,10 +2,7 @@
 #ifndef ORBISDIAL_NETCONNECTSTOREACTION_H
 #define ORBISDIAL_NETCONNECTSTOREACTION_H
 
-#include <QList>
 #include <QtGlobal>
-
-#include "NetConnectRecords.h"
 
 // Usage: make one, call the logic's operations, then commit() or drop(). One that goes without either is
 // dropped. Actions nest: an inner one joins the outermost, which alone locks, writes or drops. GUI thread;
@@ -21,6 +18,10 @@ public:
     explicit NetConnectStoreAction(Kind kind = Change);
     ~NetConnectStoreAction();
 
+    // Locks the user's file now rather than at the first write, and takes in what other processes changed: none gets
+    // in between a look and the change that depends on it. 0 or 25; 0 without a lock for a Browse.
+    int lock();
+
     // Writes once what was gathered. 0, or 25 when the file could not be locked or written; the status of the
     // operations in between counts too. An inner action answers 0 or the failed lock and leaves the write to
     // the outermost.
@@ -32,7 +33,12 @@ public:
 
 private:
     Q_DISABLE_COPY(NetConnectStoreAction)
-    friend class NetConnectSettingUILogic;
+    friend class NetConnectOperation;
+
+    struct State;
+    static State& state();
+    static void releaseLock();
+    void close();
 
     bool m_bOpen;
 };

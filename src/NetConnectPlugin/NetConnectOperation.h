@@ -1,0 +1,25 @@
+// One operation of the logic on the user's profiles: locks, takes in, and writes or gathers.
+#ifndef ORBISDIAL_NETCONNECTOPERATION_H
+#define ORBISDIAL_NETCONNECTOPERATION_H
+
+#include <QtGlobal>
+
+class NetConnectSettingUILogic;
+
+// Makes sure that the user's file is locked and that what other processes changed is taken in, before the
+// operation changes the lists. Operations nest. GUI thread, for the logic's own use.
+class NetConnectOperation {
+public:
+    explicit NetConnectOperation(NetConnectSettingUILogic* logic);
+    ~NetConnectOperation();
+
+    // Writes the user's profiles and default, or leaves that to the open NetConnectStoreAction: 0 or 25.
+    int store(bool isUserSet);
+
+private:
+    Q_DISABLE_COPY(NetConnectOperation)
+
+    NetConnectSettingUILogic* m_pLogic;
+};
+
+#endif

@@ -1,0 +1,328 @@
+#include "NetConnectSettingUILogic.h"
+
+#include <QVariant>
+
+#include "Change.h"
+#include "FileReplacement.h"
+#include "NetConnectOperation.h"
+#include "Trace.h"
+#include "UserFileLock.h"
+#include "vrks.h"
+
+// Atomic, since the device's thread asks whether there is an instance.
+static std::atomic<NetConnectSettingUILogic*> m_pNetConnectSettingUILogic(0);
+
+static const char LibraryName[] = "ProfileLib.prof";
+
+NetConnectSettingUILogic* NetConnectSettingUILogic::GetInstance() {
+    if (!m_pNetConnectSettingUILogic) m_pNetConnectSettingUILogic = new NetConnectSettingUILogic;
+    return m_pNetConnectSettingUILogic;
+}
+
+NetConnectSettingUILogic* NetConnectSettingUILogic::instance() { return m_pNetConnectSettingUILogic; }
+
+void NetConnectSettingUILogic::Destroy() {
+    NetConnectSettingUILogic* logic = m_pNetConnectSettingUILogic;
+    if (!logic) return;
+    // A callback that is running still uses the instance; once this returns, none is.
+    VRKS_DevSrv_UnRegisterDevInitEventCallback(&NetConnectSettingUILogic::OnDevInitEvent);
+    delete logic;
+    m_pNetConnectSettingUILogic = 0;
+}
+
+NetConnectSettingUILogic::NetConnectSettingUILogic()
+    : m_pXMLParse(0),
+      m_pProfileTemplateHash(0),
+      m_pFunctionHash(0),
+      m_pProfileListHash(0),
+      m_pIMSIHash(0),
+      m_bIsUserSet(false),
+      m_Mutex(QMutex::Recursive),
+      m_bIMSIDefaultForgotten(false),
+      m_bForeignDefault(false),
+      m_bUserIndexValid(false),
+      m_nLibraryRevision(-1) {
+    Init();
+}
+
+NetConnectSettingUILogic::~NetConnectSettingUILogic() {
+    try {
+        clearAutomaticDefault();
+    } catch (...) {
+        // The rest of the end must not depend on the user's file.
+    }
+    VRKS_DevSrv_UnRegisterDevInitEventCallback(&NetConnectSettingUILogic::OnDevInitEvent);
+    delete m_pProfileTemplateHash;
+    delete m_pFunctionHash;
+    delete m_pProfileListHash;
+    delete m_pIMSIHash;
+    NetConnectXMLParse::Destroy();
+}
+
+// A default that the configuration proposed is not left in the user's file.
+void NetConnectSettingUILogic::clearAutomaticDefault() {
+    if (m_strDefaultProfile.isEmpty()) return;
+    bool followsIMSI = false;
+    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
+    const bool isIMSIListInForce = !m_IMSIProfileList.isEmpty() && followsIMSI;
+    const QString proposal = isIMSIListInForce ? imsiProposal() : m_strAPNDefaultProfile;
+    if (m_strDefaultProfile == proposal) SetDefaultDialUpProfileName(QLatin1String(""), false);
+}
+
+int NetConnectSettingUILogic::Init() {
+    QMutexLocker locker(&m_Mutex);
+    m_pXMLParse = NetConnectXMLParse::GetInstance();
+    qDebug("%s: %s: ", __FILE__, "Init");
+    if (!m_pXMLParse) return NoXMLParse;
+
+    delete m_pProfileTemplateHash;
+    delete m_pFunctionHash;
+    delete m_pProfileListHash;
+    delete m_pIMSIHash;
+    m_pProfileTemplateHash = m_pFunctionHash = m_pProfileListHash = 0;
+    m_pIMSIHash = 0;
+    int result = getConfigData();
+
+    forgetForeignDefault();
+    readLibrary(&m_strDefaultProfile);
+    readUserProfiles();
+    m_APNProfileList = getAPNListFromHash();
+
+    m_IMSIProfileList.clear();
+    m_strMatchedPrefix.clear();
+    bool followsIMSI = false;
+    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
+    int deviceStatus = 0;
+    if (followsIMSI && VRKS_DevSrv_GetDevStatus(&deviceStatus) == 0 && deviceStatus == VRKS_DEV_STATUS_READY)
+        result = getIMSIProfileList();
+    publishStatus();
+    return result;
+}
+
+int NetConnectSettingUILogic::getConfigData() {
+    QMutexLocker locker(&m_Mutex);
+    delete m_pProfileTemplateHash;
+    delete m_pFunctionHash;
+    delete m_pProfileListHash;
+    delete m_pIMSIHash;
+    m_pProfileTemplateHash = new QHash<QString, NetConnectXML>;
+    m_pFunctionHash = new QHash<QString, NetConnectXML>;
+    m_pProfileListHash = new QHash<QString, NetConnectXML>;
+    m_pIMSIHash = new QMultiHash<QString, IMSIINFO>;
+    qDebug("%s: %s: ", __FILE__, "getConfigData");
+    if (!m_pXMLParse) {
+        qWarning("Failed to Memory allocation == %d", int(ObjectMissing));
+        return ObjectMissing;
+    }
+
+    int result = readConfigPair("common", "common", &m_UserPrompt);
+    const QString deviceName = customizeName();
+    if (!deviceName.isEmpty() && deviceName != QLatin1String("common")) {
+        m_pIMSIHash->clear();
+        result = readConfigPair("customize", deviceName, 0);
+    }
+    if (isCDMAProduct()) result = readConfigPair("common", "CDMA", 0);
+    return result;
+}
+
+int NetConnectSettingUILogic::readConfigPair(QString group, QString module, UserPrompt* prompt) {
+    return m_pXMLParse->GetSettingsFromXML(&group, &module, m_pProfileTemplateHash, m_pFunctionHash, m_pProfileListHash,
+                                           m_pIMSIHash, prompt);
+}
+
+// The device's customisation name; empty when it has none.
+QString NetConnectSettingUILogic::customizeName() {
+    char name[VRKS_CUSTOMIZE_NAME_SIZE] = {0};
+    const char* const function = "getConfigData";
+    qDebug("%s : %s: %s:VRKS_DevSrv_GetCustomizeName() Calling:", traceTime().constData(), __FILE__, function);
+    const long retVal = VRKS_DevSrv_GetCustomizeName(name);
+    qDebug("%s : %s: %s:VRKS_DevSrv_GetCustomizeName() Return: %li ", traceTime().constData(), __FILE__, function,
+           retVal);
+    if (retVal != 0) return QString();
+    name[VRKS_CUSTOMIZE_NAME_SIZE - 1] = 0;
+    qDebug("%s : %s: %s:VRKS_DevSrv_GetCustomizeName() Return: %s ", traceTime().constData(), __FILE__, function, name);
+    qDebug("Device Name %s ==", name);
+    return QString::fromUtf8(name);
+}
+
+bool NetConnectSettingUILogic::isCDMAProduct() {
+    const int unknownType = 3;
+    int type = unknownType;
+    const char* const function = "getConfigData";
+    qDebug("%s : %s: %s:VRKS_DevSrv_GetProductType() Calling: %d ", traceTime().constData(), __FILE__, function, type);
+    const long retVal = VRKS_DevSrv_GetProductType(&type);
+    if (retVal == -1)
+        qDebug("%s : %s: %s:VRKS_DevSrv_GetProductType() Return FAILURE ", traceTime().constData(), __FILE__, function);
+    return retVal == 0 && type == VRKS_PRODUCT_TYPE_CDMA;
+}
+
+QString NetConnectSettingUILogic::translated(const QString& langid) {
+    return Change::tr(langid, QLatin1String("NetConnectPlugin"));
+}
+
+// Gives a profile the name that its langid stands for; false when there is none, and the stored name stays.
+bool NetConnectSettingUILogic::translateName(DialupProfile* profile) {
+    if (profile->langid.isEmpty()) return false;
+    const QString name = translated(profile->langid);
+    if (name.isEmpty() || name == profile->name) return false;
+    profile->name = name;
+    return true;
+}
+
+void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
+    m_ProfileLibList.clear();
+    readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(LibraryName));
+    m_LibraryIndex.clear();
+    m_LibraryIndex.reserve(m_ProfileLibList.size());
+    for (int i = 0; i < m_ProfileLibList.size(); ++i) {
+        if (!m_ProfileLibList.at(i).langid.isEmpty()) translateName(&m_ProfileLibList[i]);
+        const QString& name = m_ProfileLibList.at(i).name;
+        if (!m_LibraryIndex.contains(name)) m_LibraryIndex.insert(name, i);
+    }
+}
+
+// Reads a file that is not the user's: the defaults that it names for the card's modes are not the user's.
+int NetConnectSettingUILogic::readForeignFile(QList<DialupProfile>* profiles, QString* defaultName,
+                                              const QString& fileName) {
+    const NetConnectRememberedDefaults remembered = m_pXMLParse->rememberedDefaults();
+    const int status = m_pXMLParse->GetAllProfileFromUserDataXML(profiles, defaultName, fileName, 0);
+    m_pXMLParse->setRememberedDefaults(remembered);
+    return status;
+}
+
+// Puts the default back that reading a browsed file replaced.
+void NetConnectSettingUILogic::forgetForeignDefault() {
+    if (!m_bForeignDefault) return;
+    m_strDefaultProfile = m_OwnDefault.name;
+    m_bIsUserSet = m_OwnDefault.isUserSet;
+    m_bForeignDefault = false;
+}
+
+int NetConnectSettingUILogic::readUserProfiles() {
+    m_UserProfileList.clear();
+    userListChanged();
+    bool isUserSet = false;
+    const int status =
+        m_pXMLParse->GetAllProfileFromUserDataXML(&m_UserProfileList, &m_strDefaultProfile, QString(), &isUserSet);
+    m_bIsUserSet = isUserSet;
+    m_StoredDefault = NetConnectDefault(m_strDefaultProfile, m_bIsUserSet);
+    m_UserFileStamp = m_pXMLParse->userFileStamp();
+    return status;
+}
+
+bool NetConnectSettingUILogic::lockUserFile(UserFileLock* lock) {
+    const QString path = m_pXMLParse ? m_pXMLParse->userProfilePath() : QString();
+    if (path.isEmpty()) return false;
+    const QString lockPath = path + QLatin1String(".lock");
+    QString reason;
+    if (!lock->acquire(lockPath, &reason)) {
+        m_pXMLParse->reportProblem(lockPath, reason);
+        publishStatus();
+        return false;
+    }
+    m_pXMLParse->clearProblem(lockPath);
+    return true;
+}
+
+// Takes in what other processes wrote since the user's file was last read or written here. The default counts only
+// when they changed it: the one in memory may be newer.
+void NetConnectSettingUILogic::takeInChanges() {
+    const FileStamp stamp = FileStamp::of(m_pXMLParse->userProfilePath());
+    if (m_UserFileStamp.settled && stamp == m_UserFileStamp) return;
+    QList<DialupProfile> profiles;
+    QString defaultName = m_StoredDefault.name;
+    bool isUserSet = false;
+    const int status = m_pXMLParse->GetAllProfileFromUserDataXML(&profiles, &defaultName, QString(), &isUserSet);
+    m_UserFileStamp = m_pXMLParse->userFileStamp();
+    if (status != Success && status != FileMissing) return;  // what was read before is better than a part
+
+    m_UserProfileList = profiles;
+    userListChanged();
+    const NetConnectDefault stored(defaultName, isUserSet);
+    if (stored == m_StoredDefault) return;
+    m_StoredDefault = stored;
+    m_strDefaultProfile = stored.name;
+    m_bIsUserSet = stored.isUserSet;
+}
+
+int NetConnectSettingUILogic::writeUserProfiles(bool isUserSet) {
+    const int status = m_pXMLParse->SaveProfileToXML(m_UserProfileList, m_strDefaultProfile, QString(), isUserSet);
+    if (status == Success) {
+        m_StoredDefault = NetConnectDefault(m_strDefaultProfile, isUserSet);
+        m_UserFileStamp = m_pXMLParse->userFileStamp();
+    }
+    publishStatus();
+    return status;
+}
+
+NetConnectSettingUILogic::Snapshot NetConnectSettingUILogic::snapshot() const {
+    const Snapshot snapshot = {m_UserProfileList, NetConnectDefault(m_strDefaultProfile, m_bIsUserSet)};
+    return snapshot;
+}
+
+void NetConnectSettingUILogic::restore(const Snapshot& snapshot) {
+    m_UserProfileList = snapshot.userProfiles;
+    m_strDefaultProfile = snapshot.defaultProfile.name;
+    m_bIsUserSet = snapshot.defaultProfile.isUserSet;
+    userListChanged();
+}
+
+void NetConnectSettingUILogic::RegisterDevice() {
+    const char* const function = "RegisterDevice";
+    qDebug("%s: %s: %s: Entered", traceTime().constData(), __FILE__, function);
+    if (VRKS_DevSrv_RegisterDevInitEventCallback(&NetConnectSettingUILogic::OnDevInitEvent) != 0)
+        qDebug("%s: %s: VRKS_DevSrv_RegisterDevInitEventCallback failed", __FILE__, function);
+}
+
+void NetConnectSettingUILogic::UnRegisterDevice() {
+    const char* const function = "UnRegisterDevice";
+    qDebug("%s: %s: %s: Entered", traceTime().constData(), __FILE__, function);
+    qDebug("%s: %s: %s: Calling VRKS_DevSrv_UnRegisterDevInitEventCallback()", traceTime().constData(), __FILE__,
+           function);
+    if (VRKS_DevSrv_UnRegisterDevInitEventCallback(&NetConnectSettingUILogic::OnDevInitEvent) != 0)
+        qDebug("%s: %s: %s: VRKS_DevSrv_UnRegisterDevInitEventCallback failed", traceTime().constData(), __FILE__,
+               function);
+    qDebug("%s: %s: %s: VRKS_DevSrv_UnRegisterDevInitEventCallback Success", traceTime().constData(), __FILE__,
+           function);
+}
+
+int NetConnectSettingUILogic::OnDevInitEvent(int event, void*) {
+    const char* const function = "OnDevInitEvent";
+    qDebug("%s: %s: %s:  Entered", traceTime().constData(), __FILE__, function);
+    NetConnectSettingUILogic* logic = m_pNetConnectSettingUILogic;
+    if (!logic) {
+        qDebug("%s: %s: %s: _Instance is NULL ", traceTime().constData(), __FILE__, function);
+        return 0;
+    }
+    bool isReady = event == VRKS_EVENT_DEV_CARD_CHANGED;
+    if (event == VRKS_EVENT_DEV_DEVICE_INIT_FINISH) {
+        qDebug("%s: %s: %s: VRKS_EVENT_DEV_DEVICE_INIT_FINISH ", traceTime().constData(), __FILE__, function);
+        int status = 0;
+        isReady = VRKS_DevSrv_GetDevStatus(&status) == 0 && status == VRKS_DEV_STATUS_READY;
+    }
+    if (isReady) {
+        logic->ResetFlags();
+        emit logic->DeviceInit();
+    }
+    qDebug("%s: %s: %s:  Exit", traceTime().constData(), __FILE__, function);
+    return event == VRKS_EVENT_DEV_DEVICE_INIT_FINISH || event == VRKS_EVENT_DEV_CARD_CHANGED ? 1 : 0;
+}
+
+void NetConnectSettingUILogic::ResetFlags() { m_bIMSIDefaultForgotten = true; }
+
+NetConnectStorageProblem NetConnectSettingUILogic::LastStorageProblem() const {
+    return m_pXMLParse ? m_pXMLParse->lastProblem() : NetConnectStorageProblem();
+}
+
+void NetConnectSettingUILogic::PublishStatus(QObject* object) {
+    m_pStatusObject = object;
+    publishStatus();
+}
+
+void NetConnectSettingUILogic::publishStatus() {
+    if (!m_pStatusObject) return;
+    const NetConnectStorageProblem problem = LastStorageProblem();
+    m_pStatusObject->setProperty("lastStorageProblem", problem.isNull() ? QString() : problem.text());
+    m_pStatusObject->setProperty("matchedIMSIPrefix", m_strMatchedPrefix);
+    m_pStatusObject->setProperty("proposedDefault", ProposedDefault());
+}

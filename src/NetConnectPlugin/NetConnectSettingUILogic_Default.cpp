@@ -1,0 +1,47 @@
+// The default profile.
+
+#include "NetConnectOperation.h"
+#include "NetConnectSettingUILogic.h"
+#include "Trace.h"
+
+int NetConnectSettingUILogic::GetDefaultDialUpProfileName(QString* name) {
+    const TraceScope trace(__FILE__, "GetDefaultDialUpProfileName", "%s : %s: %s: enter", "%s : %s: %s: exit");
+    *name = m_strDefaultProfile;
+    return Success;
+}
+
+bool NetConnectSettingUILogic::IsDefaultUserSet() const { return m_bIsUserSet; }
+
+int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isUserSet) {
+    QMutexLocker locker(&m_Mutex);
+    if (!m_pXMLParse) return ObjectMissing;
+    NetConnectOperation operation(this);
+    m_bForeignDefault = false;
+    m_strDefaultProfile = name;
+    m_bIsUserSet = isUserSet;
+    bool followsIMSI = false;
+    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
+
+    // To choose what the configuration proposes is no choice: the configuration may replace it later.
+    const bool isIMSIListEmpty = m_IMSIProfileList.isEmpty();
+    if (!isIMSIListEmpty && followsIMSI && name == imsiProposal()) m_bIsUserSet = false;
+    if (isIMSIListEmpty && name == m_strAPNDefaultProfile) m_bIsUserSet = false;
+    return operation.store(m_bIsUserSet);
+}
+
+// The default that the configuration puts in the place of the stored one; null when that stays.
+QString NetConnectSettingUILogic::replacementDefault(const QSet<QString>& names) const {
+    const QString fromIMSI = imsiProposal();
+    const bool hasIMSIProposal = fromIMSI.size() > 1;
+    const bool isListed = names.contains(m_strDefaultProfile);
+    const bool isChosen = hasIMSIProposal ? (isListed && m_strDefaultProfile != m_strAPNDefaultProfile) ||
+                                                m_IMSIProfileList.contains(m_strDefaultProfile)
+                                          : isListed;
+    if (isChosen && m_bIsUserSet) return QString();
+
+    const QString proposal = hasIMSIProposal ? fromIMSI : m_strAPNDefaultProfile;
+    if (proposal.isNull() || !names.contains(proposal)) return QString();
+    const NetConnectDefault wanted(proposal, false);
+    const bool isStored = m_StoredDefault == wanted && NetConnectDefault(m_strDefaultProfile, m_bIsUserSet) == wanted;
+    return isStored && m_pXMLParse->isModeDefault(wanted) ? QString() : proposal;
+}

@@ -1,0 +1,256 @@
+// Listing, fetching, adding, deleting and replacing of profiles.
+
+#include <algorithm>
+
+#include "NetConnectOperation.h"
+#include "NetConnectSettingUILogic.h"
+#include "NetConnectStoreAction.h"
+#include "Trace.h"
+#include "vrks.h"
+
+static const char KeyedMethod[] = "2";
+static const char Base64Method[] = "1";
+
+int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
+    QMutexLocker locker(&m_Mutex);
+    m_UserProfileList.clear();
+    userListChanged();
+    if (!m_pXMLParse) return ObjectMissing;
+    forgetForeignDefault();
+    readUserProfiles();
+    if (translateUserProfiles()) {
+        NetConnectOperation operation(this);
+        translateUserProfiles();  // what another process changed meanwhile
+        operation.store(m_bIsUserSet);
+    }
+    for (int i = 0; i < m_UserProfileList.size(); ++i) names->append(m_UserProfileList.at(i).name);
+
+    QSet<QString> listed;
+    listed.reserve(names->size());
+    for (int i = 0; i < names->size(); ++i) listed.insert(names->at(i));
+    const QStringList presets = getDefaultOrIMSIProfileList();
+    for (int i = 0; i < presets.size(); ++i) {
+        if (listed.contains(presets.at(i))) continue;
+        listed.insert(presets.at(i));
+        names->append(presets.at(i));
+    }
+    m_ProfileNameList = QStringList(*names);
+
+    const QString replacement = replacementDefault(listed);
+    if (!replacement.isNull()) {
+        m_strDefaultProfile = replacement;
+        SetDefaultDialUpProfileName(m_strDefaultProfile, false);
+    }
+    sortProfileNames(names);
+    publishStatus();
+    return Success;
+}
+
+// Gives the user's profiles the names that their langids stand for now; true when a name really changed. The default
+// moves along.
+bool NetConnectSettingUILogic::translateUserProfiles() {
+    bool changed = false;
+    for (int i = 0; i < m_UserProfileList.size(); ++i) {
+        if (m_UserProfileList.at(i).langid.isEmpty()) continue;
+        const QString storedName = m_UserProfileList.at(i).name;
+        if (!translateName(&m_UserProfileList[i])) continue;
+        if (m_strDefaultProfile == storedName) m_strDefaultProfile = m_UserProfileList.at(i).name;
+        changed = true;
+    }
+    if (changed) userListChanged();
+    return changed;
+}
+
+static bool isBeforeIgnoringCase(const QString& first, const QString& second) {
+    return QString::compare(first, second, Qt::CaseInsensitive) < 0;
+}
+
+int NetConnectSettingUILogic::sortProfileNames(QList<QString>* names) {
+    std::stable_sort(names->begin(), names->end(), isBeforeIgnoringCase);
+    return Success;
+}
+
+int NetConnectSettingUILogic::findUserProfile(const QString& name) const {
+    if (!m_bUserIndexValid) {
+        m_UserIndex.clear();
+        m_UserIndex.reserve(m_UserProfileList.size());
+        for (int i = m_UserProfileList.size() - 1; i >= 0; --i) m_UserIndex.insert(m_UserProfileList.at(i).name, i);
+        m_bUserIndexValid = true;
+    }
+    return m_UserIndex.value(name, -1);
+}
+
+bool NetConnectSettingUILogic::HasUserProfile(const QString& name) const { return findUserProfile(name) >= 0; }
+
+int NetConnectSettingUILogic::findLibraryProfile(const QString& name) {
+    if (m_ProfileLibList.isEmpty() && m_pXMLParse) {
+        QString ignoredDefault;
+        readLibrary(&ignoredDefault);
+    }
+    return m_LibraryIndex.value(name, -1);
+}
+
+int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* profile) {
+    *profile = DialupProfile();
+    for (int i = 0; i < DialupProfileFieldCount; ++i) profile->*DialupProfileFields[i].member = QLatin1String("");
+
+    // A preset that is shown under its translated name may be kept under the stored one or under the shown one.
+    bool followsIMSI = false;
+    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
+    QStringList candidates(name);
+    if (followsIMSI && m_StoredNames.contains(name)) candidates.prepend(m_StoredNames.value(name));
+
+    for (int i = 0; i < candidates.size(); ++i) {
+        const int index = findUserProfile(candidates.at(i));
+        if (index < 0) continue;
+        *profile = m_UserProfileList.at(index);
+        openPassword(profile);
+        return Success;
+    }
+    for (int i = 0; i < candidates.size(); ++i) {
+        const int index = findLibraryProfile(candidates.at(i));
+        if (index < 0) continue;
+        *profile = m_ProfileLibList.at(index);
+        if (profile->user.isEmpty() && profile->password.isEmpty()) fillFromDevice(profile, "GetDialUpProfile");
+        break;
+    }
+    return Success;
+}
+
+// Turns a stored password into a plain one.
+void NetConnectSettingUILogic::openPassword(DialupProfile* profile) {
+    bool encrypts = false;
+    GetFunctionConfigValue("ENCRYPT", &encrypts);
+    if (!encrypts) return;
+    if (profile->encrypttype == QLatin1String("0") || profile->encrypttype.isEmpty())
+        profile->encrypttype = QLatin1String(Base64Method);
+    const QString stored = profile->password;
+    profile->password = XorDecrypt(stored, profile->encrypttype);
+    if (profile->password.isNull() && !stored.isEmpty() && profile->encrypttype != QLatin1String(Base64Method))
+        m_pXMLParse->reportProblem(
+            m_pXMLParse->userProfilePath(),
+            QString::fromLatin1("the sealed password of \"%1\" was changed outside and can't be opened")
+                .arg(profile->name));
+}
+
+// Seals a plain password when the configuration says so; false when it can't be sealed.
+bool NetConnectSettingUILogic::sealPassword(DialupProfile* profile) {
+    bool encrypts = false;
+    GetFunctionConfigValue("ENCRYPT", &encrypts);
+    if (!encrypts) return true;
+    profile->encrypttype = QLatin1String(KeyedMethod);
+    const bool hasPassword = !profile->password.isEmpty();
+    profile->password = XorEncrypt(profile->password, profile->encrypttype);
+    return !hasPassword || !profile->password.isNull();
+}
+
+// Takes user name and password from the device's data-service profile, when the configuration says so.
+void NetConnectSettingUILogic::fillFromDevice(DialupProfile* profile, const char* function) {
+    if (!m_pFunctionHash || m_pFunctionHash->value("Auto Get Profile").value != QLatin1String("true")) return;
+    const int passwordOffset = 256;
+    const int textSize = 256;
+    char record[VRKS_DSPROFILE_SIZE] = {0};
+    qDebug("%s : %s: %s:VRKS_NetConnectSrv_DSGetProfile() Calling:", traceTime().constData(), __FILE__, function);
+    const long retVal = VRKS_NetConnectSrv_DSGetProfile(record);
+    qDebug("%s : %s: %s:VRKS_NetConnectSrv_DSGetProfile() return: %li", traceTime().constData(), __FILE__, function,
+           retVal);
+    if (retVal != 0) return;
+    profile->user = QString::fromUtf8(record, int(qstrnlen(record, textSize)));
+    profile->password = QString::fromUtf8(record + passwordOffset, int(qstrnlen(record + passwordOffset, textSize)));
+}
+
+int NetConnectSettingUILogic::SaveDialUpProfile(DialupProfile profile) {
+    const int status = AddDialUpProfile(profile);
+    return status == NameTaken ? int(Success) : status;
+}
+
+int NetConnectSettingUILogic::AddDialUpProfile(const DialupProfile& profile) {
+    QMutexLocker locker(&m_Mutex);
+    if (!m_pXMLParse) return ObjectMissing;
+    NetConnectOperation operation(this);
+    if (HasUserProfile(profile.name)) return NameTaken;
+    DialupProfile stored = profile;
+    if (!sealPassword(&stored)) {
+        m_pXMLParse->reportProblem(m_pXMLParse->userProfilePath(), QLatin1String("a password can't be sealed"));
+        return FileNotOpened;
+    }
+    m_UserProfileList.append(stored);
+    userListChanged();
+    return operation.store(m_bIsUserSet);
+}
+
+int NetConnectSettingUILogic::DelDialUpProfile(QString name) {
+    QMutexLocker locker(&m_Mutex);
+    if (m_pXMLParse) {
+        NetConnectOperation operation(this);
+        const int index = findUserProfile(name);
+        if (index >= 0) {
+            m_UserProfileList.removeAt(index);
+            userListChanged();
+            return operation.store(m_bIsUserSet);
+        }
+    } else if (findUserProfile(name) >= 0) {
+        m_UserProfileList.removeAt(findUserProfile(name));
+        userListChanged();
+        return ObjectMissing;
+    }
+    removePreset(name);
+    return Success;
+}
+
+// Takes a preset out of every list in memory; it comes back when the configuration is read again.
+void NetConnectSettingUILogic::removePreset(const QString& name) {
+    m_IMSIProfileList.removeOne(name);
+    m_APNProfileList.removeOne(name);
+    if (!m_pProfileListHash) return;
+    QStringList items = m_ProfileHash.keys(name);
+    items.sort();
+    m_pProfileListHash->remove(items.isEmpty() ? name : items.first());
+}
+
+int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const DialupProfile& profile) {
+    QMutexLocker locker(&m_Mutex);
+    if (!m_pXMLParse) return ObjectMissing;
+    NetConnectStoreAction action;
+    NetConnectOperation operation(this);  // from here on the lists hold what other processes changed
+    const bool isRenamed = profile.name != oldName;
+    if (isRenamed && HasUserProfile(profile.name)) return NameTaken;
+
+    DialupProfile stored = profile;
+    if (isRenamed) stored.langid = QLatin1String("");
+    if (m_strDefaultProfile == oldName) SetDefaultDialUpProfileName(profile.name, m_bIsUserSet);
+    const int index = findUserProfile(oldName);
+    if (index >= 0) DelDialUpProfile(oldName);
+    int status = AddDialUpProfile(stored);
+    if (status == NameTaken && sealPassword(&stored)) {
+        // An import may have brought in two of that name: the edited one keeps its place before the other.
+        m_UserProfileList.insert(index, stored);
+        userListChanged();
+        status = operation.store(m_bIsUserSet);
+    }
+    if (status != Success) return status;
+    return action.commit();
+}
+
+int NetConnectSettingUILogic::updateProfileTemplate() {
+    return m_pXMLParse ? m_pXMLParse->ModifyProfileTemplateToSysXML(m_pProfileTemplateHash) : int(ObjectMissing);
+}
+
+int NetConnectSettingUILogic::NewDialUpProfileTemplate(DialupProfile* profile) {
+    // Where the shipped files can't be written the template stands as it was shipped: no problem to report.
+    const NetConnectStorageProblem before = LastStorageProblem();
+    if (updateProfileTemplate() == FileNotOpened)
+        m_pXMLParse->reportProblem(before.file, before.reason, before.line, before.column);
+    if (!m_pXMLParse || m_pXMLParse->GetProfileTemplateFromSysXML(profile) != Success) return FileMissing;
+
+    QString baseName = translated(profile->name);
+    if (baseName.isEmpty()) baseName = QLatin1String("New Profile");
+    DialupProfile taken;
+    int number = 0;
+    do {
+        profile->name = baseName + QString::number(++number);
+    } while (GetDialUpProfile(profile->name, &taken) == Success && !taken.name.isEmpty());
+
+    fillFromDevice(profile, "NewDialUpProfileTemplate");
+    return Success;
+}

@@ -1,0 +1,180 @@
+// Import and export.
+
+#include "Change.h"
+#include "CommonUtils.h"
+#include "FileReplacement.h"
+#include "NetConnectOperation.h"
+#include "NetConnectProfileRules.h"
+#include "NetConnectSettingUILogic.h"
+
+namespace {
+
+// Asks the user, in a message box over the import dialog.
+class AskUser : public NetConnectClashPolicy {
+public:
+    explicit AskUser(QWidget* parent)
+        : m_pParent(parent), m_strClash(text("IDS_NET_TIPS_PROFILEEXIST")), m_strCaption(text("IDS_PROMPT_CAPTION")) {}
+
+    bool replace(const QString& name) {
+        if (!m_pParent) return false;  // the dialog went while an earlier question was on screen
+        const int answer = CommonUtils::ShowMessage(
+            QMessageBox::Information, m_pParent, m_strCaption, name + QLatin1String(" ") + m_strClash,
+            QLatin1String("IDS_YES"), QLatin1String("IDS_NO"), QString(), QString(), true, Qt::WindowCloseButtonHint);
+        return answer == CommonUtils::FirstButton;
+    }
+
+private:
+    static QString text(const char* id) { return Change::tr(QLatin1String(id), QLatin1String("NetConnectPlugin")); }
+
+    QPointer<QWidget> m_pParent;
+    QString m_strClash;
+    QString m_strCaption;
+};
+
+}  // namespace
+
+int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QString path) {
+    m_ImportList.clear();
+    if (!m_pXMLParse) return ObjectMissing;
+    const QString file = path.isEmpty() ? QString(QLatin1String("ProfileLib.prof")) : path;
+    const NetConnectDefault own(m_strDefaultProfile, m_bIsUserSet);
+    const int status = readForeignFile(&m_ImportList, &m_strDefaultProfile, file);
+    if (!m_bForeignDefault && m_strDefaultProfile != own.name) {
+        m_bForeignDefault = true;
+        m_OwnDefault = own;
+    }
+    publishStatus();
+    if (status != Success) return status;
+    for (int i = 0; i < m_ImportList.size(); ++i) {
+        if (!m_ImportList.at(i).langid.isEmpty()) translateName(&m_ImportList[i]);
+        if (!m_ImportList.at(i).name.isEmpty()) names->append(m_ImportList.at(i).name);
+    }
+    return status;
+}
+
+QList<DialupProfile> NetConnectSettingUILogic::ImportCandidates() const { return m_ImportList; }
+
+int NetConnectSettingUILogic::ImportDialupProfiles(QStringList* names, QWidget* parent) {
+    if (!parent || !m_pXMLParse) return ObjectMissing;
+    AskUser policy(parent);
+    const int status = ImportChosenProfiles(*names, &policy);
+    return status == NothingImported || status == ObjectMissing ? status : int(Success);
+}
+
+int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, NetConnectClashPolicy* policy) {
+    QMutexLocker locker(&m_Mutex);
+    if (!m_pXMLParse) return ObjectMissing;
+    if (names.isEmpty()) return NothingImported;
+
+    // Every question comes before the first change: while one is on screen events run that look at the lists, and
+    // other processes must not wait. A profile that one of them adds meanwhile raises a question of its own.
+    const QList<DialupProfile> candidates = m_ImportList;
+    QSet<QString> clashing = QSet<QString>();
+    for (int i = 0; i < m_ProfileNameList.size(); ++i) clashing.insert(m_ProfileNameList.at(i));
+    QSet<QString> decided;
+    QSet<QString> replaced;
+    for (;;) {
+        for (int i = 0; i < names.size(); ++i) {
+            if (!clashing.contains(names.at(i)) || decided.contains(names.at(i))) continue;
+            decided.insert(names.at(i));
+            if (policy->replace(names.at(i))) replaced.insert(names.at(i));
+        }
+        NetConnectOperation operation(this);
+        bool isSettled = true;
+        for (int i = 0; i < names.size(); ++i) {
+            if (decided.contains(names.at(i)) || !HasUserProfile(names.at(i))) continue;
+            clashing.insert(names.at(i));
+            isSettled = false;
+        }
+        if (!isSettled) continue;
+
+        m_ImportList = candidates;
+        QStringList accepted;
+        for (int i = 0; i < names.size(); ++i)
+            if (!decided.contains(names.at(i)) || replaced.contains(names.at(i))) accepted.append(names.at(i));
+        if (!addCandidates(accepted, replaced)) return NothingImported;
+        return operation.store(m_bIsUserSet);
+    }
+}
+
+// Adds the chosen candidates; a replaced profile goes only when one of its name comes. False when none came.
+bool NetConnectSettingUILogic::addCandidates(const QStringList& names, const QSet<QString>& replaced) {
+    QHash<QString, QList<DialupProfile> > byName;
+    for (int i = 0; i < m_ImportList.size(); ++i) byName[m_ImportList.at(i).name].append(m_ImportList.at(i));
+
+    QSet<QString> leaving;
+    QList<DialupProfile> coming;
+    for (int i = 0; i < names.size(); ++i) {
+        QList<DialupProfile> found = byName.value(names.at(i));
+        if (!found.isEmpty() && replaced.contains(names.at(i))) leaving.insert(names.at(i));
+        for (int j = 0; j < found.size(); ++j) {
+            found[j].name =
+                NetConnectProfileRules::cutToLength(found.at(j).name, NetConnectProfileRules::DefaultNameLength);
+            coming.append(found.at(j));
+        }
+    }
+    if (coming.isEmpty()) return false;
+
+    QList<DialupProfile> staying;
+    for (int i = 0; i < m_UserProfileList.size(); ++i)
+        if (!leaving.contains(m_UserProfileList.at(i).name)) staying.append(m_UserProfileList.at(i));
+    m_UserProfileList = staying + coming;
+    userListChanged();
+    return true;
+}
+
+int NetConnectSettingUILogic::ExportSelectedProfilesToFile(QStringList* names, QString path) {
+    const int status = ExportChosenProfiles(*names, path);
+    return status == ObjectMissing ? status : int(Success);
+}
+
+int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, const QString& path) {
+    QMutexLocker locker(&m_Mutex);
+    m_ExportList.clear();
+    if (!m_pXMLParse) return ObjectMissing;
+    const int refusal = refuseExportTo(path);
+    if (refusal != Success) return refusal;
+
+    NetConnectOperation operation(this);  // another process may be exporting into the same file
+    QList<DialupProfile> target;
+    QString ignoredDefault;
+    if (FileStamp::of(path).exists() && readForeignFile(&target, &ignoredDefault, path) == FileNotOpened)
+        return FileNotOpened;
+    m_ExportList = target;
+
+    QList<DialupProfile> library;
+    readForeignFile(&library, &ignoredDefault, QLatin1String("ProfileLib.prof"));
+    for (int i = 0; i < library.size(); ++i)
+        if (!library.at(i).langid.isEmpty()) translateName(&library[i]);
+    for (int i = 0; i < names.size(); ++i)
+        if (!exportProfile(names.at(i), target, m_UserProfileList)) exportProfile(names.at(i), target, library);
+
+    int status = Success;
+    if (!m_ExportList.isEmpty()) status = m_pXMLParse->SaveProfileToXML(m_ExportList, m_strDefaultProfile, path, false);
+    publishStatus();
+    return status;
+}
+
+// The user's own file would lose its default, and an empty path means that very file.
+int NetConnectSettingUILogic::refuseExportTo(const QString& path) {
+    if (!path.isEmpty() && !FileReplacement::isSameFile(path, m_pXMLParse->userProfilePath()) &&
+        FileReplacement::target(path) != m_pXMLParse->userProfilePath())
+        return Success;
+    m_pXMLParse->reportProblem(path, QLatin1String("profiles can't be exported to this file"));
+    publishStatus();
+    return FileNotOpened;
+}
+
+bool NetConnectSettingUILogic::exportProfile(QString name, QList<DialupProfile> target, QList<DialupProfile> source) {
+    bool isInTarget = false;
+    for (int i = 0; i < target.size() && !isInTarget; ++i) isInTarget = target.at(i).name == name;
+    bool found = false;
+    for (int i = 0; i < source.size(); ++i) {
+        if (source.at(i).name != name) continue;
+        found = true;
+        if (!isInTarget) m_ExportList.append(source.at(i));
+        for (int j = 0; isInTarget && j < m_ExportList.size(); ++j)
+            if (m_ExportList.at(j).name == name) m_ExportList[j] = source.at(i);
+    }
+    return found;
+}
