@@ -38,14 +38,15 @@ typedef int (*VRKS_DevInitEventCallback)(int event, void* data);
 /* Adds a callback; one that is registered already is a failure. */
 VRKS_API long VRKS_DevSrv_RegisterDevInitEventCallback(VRKS_DevInitEventCallback callback);
 
-/* Removes a callback. Returns only when it is not running and will not run again, unless it is called
- * from within the callback itself; so hold no lock that the callback takes. */
+/* Removes a callback; one that is not registered is a failure. Returns only when it is not running and will not run
+ * again, unless it is called from within the callback itself; so hold no lock that the callback takes. */
 VRKS_API long VRKS_DevSrv_UnRegisterDevInitEventCallback(VRKS_DevInitEventCallback callback);
 
 /* The modem's status, 32 bits; 3 means that it is ready. */
 VRKS_API long VRKS_DevSrv_GetDevStatus(int* status);
 
-/* The modem's customisation name, at most VRKS_CUSTOMIZE_NAME_SIZE bytes with the zero, UTF-8. */
+/* The modem's customisation name, at most VRKS_CUSTOMIZE_NAME_SIZE bytes with the zero, UTF-8; a longer
+ * one is cut between two characters. Empty when the modem has none. */
 VRKS_API long VRKS_DevSrv_GetCustomizeName(char* name);
 
 /* The product type, 32 bits; 1 means CDMA. */
@@ -65,8 +66,9 @@ VRKS_API long VRKS_NetSrv_GetSysInfoEx(void* record);
  * most 256 bytes that need not end with a zero when it fills its place. */
 VRKS_API long VRKS_NetConnectSrv_DSGetProfile(void* record);
 
-/* Stores the user data directory, UTF-16 with a terminating zero, ends with '/'. The caller frees it with
- * delete[]. The directory is made with mode 0700 when it is missing; failure when it can't be had. */
+/* Stores the user data directory, absolute, UTF-16 with a terminating zero, ends with '/'. The caller frees
+ * it with delete[]. It is $ORBISDIAL_DATA_DIR, or else "orbisdial" under the XDG data home, asked for at each
+ * call, and made with mode 0700 when it is missing; failure when it can't be had. */
 VRKS_API long VRKS_GetUserDataDirectory(unsigned short** directory);
 
 #ifdef __cplusplus

@@ -3,6 +3,7 @@
 #define ORBISDIAL_CHANGE_H
 
 #include <QString>
+#include <QStringList>
 
 #include "HostCoreExport.h"
 
@@ -14,6 +15,9 @@ public:
 
     // The code of the current language, e.g. "en", "de", "zh_CN".
     static QString GetLangName();
+
+    // The codes of the languages that are shipped, English always and first.
+    static QStringList GetLanguages();
 
     // Makes a language current, for Qt's own dialogs and the layout direction too; false (and nothing changes)
     // when the language is not shipped. The host then sends event 320 to every plug-in.

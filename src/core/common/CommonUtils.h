@@ -16,25 +16,29 @@
 
 class HOSTCORE_EXPORT CommonUtils {
 public:
-    // What ShowMessage answers for each button, in their order; closing the box answers the last one shown.
+    // What ShowMessage answers for each button, in their order. A box that is closed without a button, or
+    // goes with its parent, or can't be shown since there is no QApplication, answers the last one it has.
     enum MessageAnswer { FirstButton = 1024, SecondButton = 4194304, ThirdButton = 1048576 };
 
     // Shows a message box and waits for the answer. The caption and texts are shown as plain text. The button
-    // labels are string IDs, translated here in the context "NetConnectPlugin"; an empty label makes no
-    // button, but there is always one. The parent may be null and may be destroyed while the box is up.
+    // labels are string IDs, translated here in the context "NetConnectPlugin" (an ID without a text is shown
+    // itself); an empty label makes no button, but there is always one. The parent may be null and may be
+    // destroyed while the box is up. A modal box blocks every window, any other one its parent's alone.
     static int ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QString& caption, const QString& text,
                            const QString& button1, const QString& button2 = QString(),
                            const QString& button3 = QString(), const QString& informativeText = QString(),
                            bool modal = true, Qt::WindowFlags flags = Qt::WindowCloseButtonHint);
 
-    // Moves a window to the centre of its parent's window, or of the screen.
+    // Moves a window to the centre of its parent's window, or of the screen when that one is not shown; never
+    // off the screen. Null and a widget that is no window are left alone.
     static void MoveCentre(QWidget* widget);
 
     // A value of the host's settings file, in the user's XDG configuration directory or in
     // $ORBISDIAL_CONFIG_DIR; empty when it is not set.
     static QString GetSettings(const QString& group, const QString& key);
 
-    // Stores a value; false when the settings file can't be written.
+    // Stores a value; false when the settings file can't be written. A folder that is missing is made for the
+    // user alone.
     static bool SetSettings(const QString& group, const QString& key, const QString& value);
 
     // The host's main window, which SetMainWindow() names; null before and after its life.
@@ -50,7 +54,7 @@ public:
 
     // Seals a zero-terminated text under a key: libsodium's authenticated box (XSalsa20-Poly1305) with a
     // random nonce under a hash of the key, as ASCII text that begins with a version mark. out becomes a new
-    // text to free with CryptLocalFree, or null on failure.
+    // text to free with CryptLocalFree, or null on failure (a null argument, no libsodium).
     static void Encrypt(const char* data, const char* key, char*& out);
 
     // Opens what Encrypt sealed. Text that Encrypt did not make comes back unchanged; a sealed text that was

@@ -3,6 +3,7 @@
 #define ORBISDIAL_EXTENDDIALOG_H
 
 #include <QDialog>
+#include <QPointer>
 
 #include "HostCoreExport.h"
 
@@ -17,10 +18,11 @@ public:
     // hidden and without a parent. Null is ignored.
     void AddMainWidget(QWidget* widget);
 
+    // Null before the first AddMainWidget() and after the widget's life.
     QWidget* MainWidget() const;
 
 private:
-    QWidget* m_pMainWidget;
+    QPointer<QWidget> m_pMainWidget;
 };
 
 #endif

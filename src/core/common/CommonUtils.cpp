@@ -1,0 +1,166 @@
+#include "CommonUtils.h"
+
+#include <dlfcn.h>
+#include <sys/stat.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QStyle>
+
+#include "Change.h"
+
+namespace {
+
+// Buttons in their order; their numbers are the answers.
+constexpr QMessageBox::StandardButton Buttons[] = {QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::Ignore};
+static_assert(int(CommonUtils::FirstButton) == Buttons[0] && int(CommonUtils::SecondButton) == Buttons[1] &&
+              int(CommonUtils::ThirdButton) == Buttons[2]);
+
+struct ButtonLabel {
+    QMessageBox::StandardButton button;
+    QString id;
+};
+
+QList<ButtonLabel> shownButtons(const QStringList& ids) {
+    QList<ButtonLabel> shown;
+    for (int i = 0; i < ids.size(); ++i)
+        if (!ids.at(i).isEmpty()) shown.append({Buttons[i], ids.at(i)});
+    if (shown.isEmpty()) shown.append({Buttons[0], "IDS_OK"});
+    return shown;
+}
+
+QString labelText(const QString& id) {
+    const QString text = Change::tr(id, "NetConnectPlugin");
+    return text.isEmpty() ? id : text;
+}
+
+// The box itself sets the format of its main text alone.
+void setPlainTexts(QMessageBox* box, const QString& text, const QString& informativeText) {
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text);
+    box->setInformativeText(informativeText);
+    if (auto* label = box->findChild<QLabel*>("qt_msgbox_informativelabel")) label->setTextFormat(Qt::PlainText);
+}
+
+void addButtons(QMessageBox* box, const QList<ButtonLabel>& buttons) {
+    for (const ButtonLabel& shown : buttons) box->addButton(shown.button)->setText(labelText(shown.id));
+    box->setDefaultButton(buttons.first().button);
+    box->setEscapeButton(buttons.last().button);
+}
+
+bool canShowWidgets() { return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr; }
+
+// Where a window is to be centred; empty when there is no screen.
+QRect centringArea(const QWidget* widget) {
+    const QWidget* parent = widget->parentWidget() ? widget->parentWidget()->window() : nullptr;
+    if (parent && parent->isVisible() && !parent->isMinimized()) return parent->frameGeometry();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect();
+}
+
+// Moves a rectangle into the screen on which its centre lies, or else the first one; its top left corner wins when it
+// is too large.
+QRect insideScreen(QRect rect) {
+    const QScreen* screen = QGuiApplication::screenAt(rect.center());
+    if (!screen) screen = QGuiApplication::primaryScreen();
+    if (!screen) return rect;
+    const QRect area = screen->availableGeometry();
+    rect.moveRight(qMin(rect.right(), area.right()));
+    rect.moveBottom(qMin(rect.bottom(), area.bottom()));
+    rect.moveLeft(qMax(rect.left(), area.left()));
+    rect.moveTop(qMax(rect.top(), area.top()));
+    return rect;
+}
+
+QString settingsFolder() {
+    const QString configured = qEnvironmentVariable("ORBISDIAL_CONFIG_DIR");
+    if (!configured.isEmpty()) return configured;
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/orbisdial";
+}
+
+QString settingsFile() { return settingsFolder() + "/orbisdial.ini"; }
+
+QString settingsKey(const QString& group, const QString& key) { return group.isEmpty() ? key : group + '/' + key; }
+
+bool makeSettingsFolder() {
+    const QString folder = QDir::cleanPath(settingsFolder());
+    if (QFileInfo(folder).isDir()) return true;
+    return QDir().mkpath(QFileInfo(folder).path()) && ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0;
+}
+
+QPointer<QWidget>& mainWindow() {
+    static QPointer<QWidget> window;
+    return window;
+}
+
+QString folderOfThisLibrary() {
+    static const char address = 0;
+    Dl_info info;
+    if (::dladdr(&address, &info) == 0) return QString();
+    return QFileInfo(QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath()).path();
+}
+
+}  // namespace
+
+int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QString& caption, const QString& text,
+                             const QString& button1, const QString& button2, const QString& button3,
+                             const QString& informativeText, bool modal, Qt::WindowFlags flags) {
+    const QList<ButtonLabel> buttons = shownButtons({button1, button2, button3});
+    const int dismissed = buttons.last().button;
+    if (!canShowWidgets()) {
+        qWarning("CommonUtils::ShowMessage: there is no QApplication to show a message");
+        return dismissed;
+    }
+
+    const QPointer<QMessageBox> box = new QMessageBox(icon, caption, QString(), QMessageBox::NoButton, parent, flags);
+    box->setObjectName("CommonUtils_MessageBox");
+    box->setWindowModality(modal ? Qt::ApplicationModal : Qt::WindowModal);
+    setPlainTexts(box, text, informativeText);
+    addButtons(box, buttons);
+
+    const int answer = box->exec();
+    delete box;                                              // null when the parent took the box along
+    return answer > QDialog::Accepted ? answer : dismissed;  // QDialog's own results are no button's
+}
+
+void CommonUtils::MoveCentre(QWidget* widget) {
+    if (!widget || !widget->isWindow()) return;
+    if (!widget->testAttribute(Qt::WA_Resized)) widget->adjustSize();
+    const QRect area = centringArea(widget);
+    if (area.isEmpty()) return;
+    const QSize size = widget->frameGeometry().size();
+    widget->move(insideScreen(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, area)).topLeft());
+}
+
+// A hand-written value with commas is a list to QSettings; it comes back joined.
+QString CommonUtils::GetSettings(const QString& group, const QString& key) {
+    const QSettings settings(settingsFile(), QSettings::IniFormat);
+    return settings.value(settingsKey(group, key)).toStringList().join(',');
+}
+
+bool CommonUtils::SetSettings(const QString& group, const QString& key, const QString& value) {
+    if (!makeSettingsFolder()) return false;
+    QSettings settings(settingsFile(), QSettings::IniFormat);
+    settings.setValue(settingsKey(group, key), value);
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+QWidget* CommonUtils::GetMainWindow() { return mainWindow(); }
+
+void CommonUtils::SetMainWindow(QWidget* window) { mainWindow() = window; }
+
+QString CommonUtils::GetPluginLibraryPath() {
+    static const QString besideThisLibrary = folderOfThisLibrary() + "/orbisdial";
+    const QString configured = qEnvironmentVariable("ORBISDIAL_LIBRARY_PATH");
+    return configured.isEmpty() ? besideThisLibrary : QDir::cleanPath(configured);
+}
+
+QString CommonUtils::ParanthesisCorrection(const QString& text) { return text; }

@@ -1,0 +1,8 @@
+#include "Startup.h"
+
+#include "PluginContainer.h"
+
+IPluginContainer* Startup::GetPluginContainer() {
+    static PluginContainer container;
+    return &container;
+}
