@@ -1,0 +1,119 @@
+// add, set, delete, default.
+
+#include "Command.h"
+#include "CommandError.h"
+#include "Commands.h"
+#include "Output.h"
+#include "ProfileFields.h"
+#include "ProfileSession.h"
+
+namespace {
+
+// A profile whose fields go into the file again. A sealed password that can't be opened reads as empty, so it would be
+// lost without a word.
+DialupProfile profileToStore(const ProfileSession& session, const QString& name, const FieldAssignments& changes) {
+    const QString before = session->LastStorageProblem().text();
+    const DialupProfile profile = session.profile(name);
+    const QString after = session->LastStorageProblem().text();
+    if (after != before && !changes.contains("password"))
+        throw CommandError::failed(after + "; give a new one with password=");
+    return profile;
+}
+
+DialupProfile templateProfile(const ProfileSession& session) {
+    DialupProfile profile;
+    if (session->NewDialUpProfileTemplate(&profile) != NetConnectSettingUILogic::Success)
+        throw CommandError::failed(NetConnectXMLParse::shippedPath("SysProfile.prof") +
+                                   ": holds no template for new profiles; see --like");
+    return profile;
+}
+
+// A profile of the user's own, equal to another in everything but what ties that one to its maker.
+DialupProfile copyOf(const ProfileSession& session, const QString& name, const FieldAssignments& changes) {
+    DialupProfile profile = profileToStore(session, name, changes);
+    profile.readonly = "false";
+    profile.langid = "";
+    return profile;
+}
+
+void requireNameFree(int status, const QString& name) {
+    if (status == NetConnectSettingUILogic::NameTaken)
+        throw CommandError::failed("there is a profile " + quoted(name) + " already");
+}
+
+void showDefault(Output& output) {
+    ProfileSession session(ProfileSession::Reading);
+    const QString name = session.defaultName();
+    const bool isUserSet = session->IsDefaultUserSet();
+    QStringList lines;
+    if (!name.isEmpty())
+        lines.append(name + (isUserSet ? " (chosen by the user)" : " (proposed by the configuration)"));
+    output.result({{"name", name}, {"userSet", isUserSet}}, lines);
+    session.finish();
+}
+
+void storeDefault(const QString& name, Output& output) {
+    ProfileSession session(ProfileSession::Changing);
+    if (!name.isEmpty() && !session.names().contains(name))
+        throw CommandError::failed("there is no profile " + quoted(name));
+    session.require(session->SetDefaultDialUpProfileName(name, !name.isEmpty()), "the default can't be set");
+    const bool isUserSet = session->IsDefaultUserSet();
+    session.finish();
+    output.result({{"name", name}, {"userSet", isUserSet}}, {});
+}
+
+}  // namespace
+
+void addProfile(const Invocation& invocation, Output& output) {
+    const QString name = invocation.arguments().first();
+    const FieldAssignments fields(invocation.arguments().mid(1));
+    if (fields.contains("name")) throw CommandError::usage("the new profile's name is the first argument");
+    ProfileSession session(ProfileSession::Changing);
+    DialupProfile profile =
+        invocation.isSet("like") ? copyOf(session, invocation.value("like"), fields) : templateProfile(session);
+    profile.name = name;
+    fields.applyTo(&profile);
+    checkProfile(session, profile, QString());
+    const int status = session->AddDialUpProfile(profile);
+    requireNameFree(status, name);
+    session.require(status, "the profile can't be added");
+    session.finish();
+    output.result({{"added", name}}, {});
+}
+
+void setFields(const Invocation& invocation, Output& output) {
+    const QString name = invocation.arguments().first();
+    const FieldAssignments changes(invocation.arguments().mid(1));
+    ProfileSession session(ProfileSession::Changing);
+    DialupProfile profile = profileToStore(session, name, changes);
+    session.requireChangeable(profile);
+    changes.applyTo(&profile);
+    checkProfile(session, profile, name);
+    const int status = session->ReplaceDialUpProfile(name, profile);
+    requireNameFree(status, profile.name);
+    session.require(status, "the profile can't be changed");
+    session.finish();
+    output.result({{"changed", profile.name}}, {});
+}
+
+void deleteProfile(const Invocation& invocation, Output& output) {
+    const QString name = invocation.arguments().first();
+    ProfileSession session(ProfileSession::Changing);
+    session.requireChangeable(session.profile(name));
+    if (session.defaultName() == name)
+        session.require(session->SetDefaultDialUpProfileName(QString(""), false), "the default can't be cleared");
+    session.require(session->DelDialUpProfile(name), "the profile can't be deleted");
+    session.finish();
+    output.result({{"deleted", name}}, {});
+}
+
+void defaultProfile(const Invocation& invocation, Output& output) {
+    const bool hasName = !invocation.arguments().isEmpty();
+    if (invocation.isSet("clear")) {
+        if (hasName) throw CommandError::usage("default takes a name or --clear, not both");
+        return storeDefault(QString(""), output);
+    }
+    if (!hasName) return showDefault(output);
+    if (invocation.arguments().first().isEmpty()) throw CommandError::usage("the name is empty; see default --clear");
+    storeDefault(invocation.arguments().first(), output);
+}

@@ -1,0 +1,102 @@
+#include "Command.h"
+
+#include "CommandError.h"
+#include "Commands.h"
+
+namespace {
+
+constexpr CommandOption NoOption{nullptr, nullptr, nullptr};
+constexpr CommandOption Secrets{"secrets", "Show the password too.", nullptr};
+constexpr CommandOption Like{"like", "Start from this profile instead of the template for new ones.", "PROFILE"};
+constexpr CommandOption Clear{"clear", "Have no default profile of one's own.", nullptr};
+constexpr CommandOption Replace{"replace", "Replace profiles whose names exist; without it they are skipped.", nullptr};
+
+constexpr int Any = Command::AnyNumber;
+
+const Command Commands[] = {
+    {"list", "", 0, 0, NoOption, "List all profiles; * marks the default.", listProfiles},
+    {"show", "NAME", 1, 1, Secrets, "Show a profile's fields.", showProfile},
+    {"add", "NAME [FIELD=VALUE...]", 1, Any, Like, "Add a profile. password=- reads the password from standard input.",
+     addProfile},
+    {"set", "NAME FIELD=VALUE...", 2, Any, NoOption, "Change fields of a profile; name=NEW renames it.", setFields},
+    {"delete", "NAME", 1, 1, NoOption, "Delete a profile.", deleteProfile},
+    {"default", "[NAME]", 0, 1, Clear, "Show the default profile, or choose it.", defaultProfile},
+    {"import", "FILE [NAME...]", 1, Any, Replace, "Import all profiles of a file, or the named ones.", importProfiles},
+    {"export", "FILE NAME...", 2, Any, NoOption, "Export profiles into a file; others that it holds stay.",
+     exportProfiles},
+    {"explain", "IMSI...", 1, Any, NoOption, "Tell which presets SIM cards select; - reads IMSIs from standard input.",
+     explainIMSIs},
+    {"config", "[KEY]", 0, 1, NoOption, "Show a value of the function configuration, or all.", showConfiguration},
+    {"device", "", 0, 0, NoOption, "Show what the modem and its SIM card report.", showDevice},
+};
+
+const Command* findCommand(const QString& name) {
+    for (const Command& command : Commands)
+        if (name == command.name) return &command;
+    throw CommandError::usage("unknown command " + quoted(name) + "; see orbisctl --help");
+}
+
+void addGlobalOptions(QCommandLineParser* parser) {
+    parser->addOptions({
+        {"json", "Write results as JSON, one object a line."},
+        {"data-dir", "Keep the user's profiles in this folder.", "DIR"},
+        {"device", "Use this modem: simulated, modemmanager, none or auto.", "KIND"},
+        {"trace", "Write traces to standard error."},
+        {{"h", "help"}, "Show this help, or that of a command."},
+        {{"v", "version"}, "Show the version."},
+    });
+}
+
+void addOption(QCommandLineParser* parser, const CommandOption& option) {
+    if (option.name) parser->addOption({option.name, option.help, option.value});
+}
+
+void parse(QCommandLineParser* parser, const QStringList& commandLine) {
+    if (!parser->parse(commandLine)) throw CommandError::usage(parser->errorText());
+}
+
+// The command's name may follow options, so all options of all commands are looked at to find it.
+const Command* commandOf(const QStringList& commandLine) {
+    QCommandLineParser parser;
+    addGlobalOptions(&parser);
+    for (const Command& command : Commands) addOption(&parser, command.option);
+    parse(&parser, commandLine);
+    if (!parser.positionalArguments().isEmpty()) return findCommand(parser.positionalArguments().first());
+    if (parser.isSet("help") || parser.isSet("version")) return nullptr;
+    throw CommandError::usage("no command is given; see orbisctl --help");
+}
+
+QString overview() {
+    QString text = "Command-line client of the OrbisDial connection manager.\n\nCommands:\n";
+    for (const Command& command : Commands) text += QString("  %1 %2\n").arg(command.name, -8).arg(command.help);
+    return text.trimmed();
+}
+
+}  // namespace
+
+Invocation::Invocation(const QStringList& commandLine) : m_pCommand(commandOf(commandLine)) {
+    describe();
+    parse(&m_Parser, commandLine);
+    m_Arguments = m_Parser.positionalArguments().mid(1);
+    if (m_pCommand && !isSet("help") && !isSet("version")) checkArguments();
+}
+
+void Invocation::describe() {
+    addGlobalOptions(&m_Parser);
+    if (!m_pCommand) {
+        m_Parser.setApplicationDescription(overview());
+        m_Parser.addPositionalArgument("COMMAND", "See orbisctl COMMAND --help.", "COMMAND [ARGUMENT...]");
+        return;
+    }
+    addOption(&m_Parser, m_pCommand->option);
+    const QString syntax = QString("%1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed();
+    m_Parser.addPositionalArgument(m_pCommand->name, m_pCommand->help, syntax);
+}
+
+void Invocation::checkArguments() const {
+    const int count = m_Arguments.size();
+    if (count >= m_pCommand->fewest && (m_pCommand->most == Command::AnyNumber || count <= m_pCommand->most)) return;
+    throw CommandError::usage(QString("usage: orbisctl %1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed());
+}
+
+QString Invocation::helpText() const { return m_Parser.helpText(); }

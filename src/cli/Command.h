@@ -1,0 +1,57 @@
+// The commands of orbisctl, and how one is read from the command line.
+#ifndef ORBISDIAL_CLI_COMMAND_H
+#define ORBISDIAL_CLI_COMMAND_H
+
+#include <QCommandLineParser>
+#include <QStringList>
+
+class Invocation;
+class Output;
+
+// The one option that a command may have for itself. Without a value name it is a switch.
+struct CommandOption {
+    const char* name;
+    const char* help;
+    const char* value;
+};
+
+struct Command {
+    static constexpr int AnyNumber = -1;
+
+    const char* name;
+    const char* arguments;  // as the help shows them
+    int fewest;             // arguments
+    int most;               // AnyNumber: no limit
+    CommandOption option;   // its name is null when there is none
+    const char* help;
+    void (*run)(const Invocation& invocation, Output& output);  // throws CommandError
+};
+
+// One reading of the command line.
+class Invocation {
+public:
+    // Throws a CommandError for a command line that makes no sense.
+    explicit Invocation(const QStringList& commandLine);
+
+    // Null when only help or the version is wanted.
+    const Command* command() const { return m_pCommand; }
+
+    // What follows the command's name.
+    const QStringList& arguments() const { return m_Arguments; }
+
+    bool isSet(const QString& option) const { return m_Parser.isSet(option); }
+    QString value(const QString& option) const { return m_Parser.value(option); }
+
+    // Of the command, or of the whole program.
+    QString helpText() const;
+
+private:
+    void describe();
+    void checkArguments() const;
+
+    const Command* m_pCommand;
+    QStringList m_Arguments;
+    QCommandLineParser m_Parser;
+};
+
+#endif

@@ -1,0 +1,29 @@
+// What the commands do; each is one row of the table in Command.cpp.
+#ifndef ORBISDIAL_CLI_COMMANDS_H
+#define ORBISDIAL_CLI_COMMANDS_H
+
+class Invocation;
+class Output;
+
+// ReadingCommands.cpp
+void listProfiles(const Invocation& invocation, Output& output);
+void showProfile(const Invocation& invocation, Output& output);
+void showConfiguration(const Invocation& invocation, Output& output);
+
+// ChangingCommands.cpp
+void addProfile(const Invocation& invocation, Output& output);
+void setFields(const Invocation& invocation, Output& output);
+void deleteProfile(const Invocation& invocation, Output& output);
+void defaultProfile(const Invocation& invocation, Output& output);
+
+// TransferCommands.cpp
+void importProfiles(const Invocation& invocation, Output& output);
+void exportProfiles(const Invocation& invocation, Output& output);
+
+// ExplainCommand.cpp
+void explainIMSIs(const Invocation& invocation, Output& output);
+
+// DeviceCommand.cpp
+void showDevice(const Invocation& invocation, Output& output);
+
+#endif

@@ -1,0 +1,124 @@
+// explain.
+
+#include <QFile>
+#include <QHash>
+#include <QJsonArray>
+#include <QRegularExpression>
+#include <cstdio>
+
+#include "Command.h"
+#include "CommandError.h"
+#include "Commands.h"
+#include "Output.h"
+#include "ProfileSession.h"
+
+namespace {
+
+struct Explanation {
+    QString imsi;
+    QString prefix;  // null when no section matches
+    QStringList offered;
+    QString proposal;  // null when there is none
+    bool isIMSI = true;
+};
+
+class Explainer {
+public:
+    Explainer(const ProfileSession& session, Output& output) : m_Session(session), m_Output(output) {}
+
+    void explain(const QString& imsi) {
+        const Explanation explanation = explanationFor(imsi);
+        m_Output.result(toJson(explanation), toLines(explanation));
+        ++m_nAsked;
+        if (!explanation.isIMSI) ++m_nInvalid;
+    }
+
+    void explainStandardInput() {
+        QFile input;
+        input.open(stdin, QIODevice::ReadOnly);
+        for (QByteArray line = input.readLine(); !line.isEmpty(); line = input.readLine()) {
+            const QString imsi = QString::fromUtf8(line).trimmed();
+            if (!imsi.isEmpty()) explain(imsi);
+        }
+    }
+
+    void requireAllValid() const {
+        if (m_nInvalid == 0) return;
+        throw CommandError::failed(
+            QString("%1 of %2 were no IMSI, which has 5 to 15 digits").arg(m_nInvalid).arg(m_nAsked));
+    }
+
+private:
+    Explanation explanationFor(const QString& imsi) {
+        static const QRegularExpression pattern("\\A[0-9]{5,15}\\z");
+        Explanation explanation;
+        explanation.imsi = imsi;
+        explanation.isIMSI = pattern.match(imsi).hasMatch();
+        if (!explanation.isIMSI) return explanation;
+
+        NetConnectIMSISelection selection;
+        if (m_bFollowsIMSI) selection = m_Session->SelectByIMSI(imsi);
+        const bool isSelected = !selection.prefix.isEmpty();
+        if (isSelected) explanation.prefix = selection.prefix;
+        explanation.offered = isSelected ? selection.names : m_Configured;
+        // As when the logic replaces the default: a proposal of one character is none, and it must be listed.
+        const QString proposal =
+            selection.defaultProfile.size() > 1 ? selection.defaultProfile : m_Session->APNDefault();
+        if (explanation.offered.contains(proposal)) explanation.proposal = proposal;
+        return explanation;
+    }
+
+    QString apnOf(const QString& name) {
+        const auto known = m_APNs.constFind(name);
+        if (known != m_APNs.constEnd()) return *known;
+        DialupProfile profile;
+        m_Session->GetDialUpProfile(name, &profile);
+        return *m_APNs.insert(name, profile.apn);
+    }
+
+    QJsonObject toJson(const Explanation& explanation) {
+        QJsonArray offered;
+        for (const QString& name : explanation.offered)
+            offered.append(QJsonObject{{"name", name}, {"apn", apnOf(name)}});
+        QJsonObject object{{"imsi", explanation.imsi}, {"offered", offered}};
+        object["prefix"] = explanation.prefix.isNull() ? QJsonValue() : explanation.prefix;
+        object["default"] = explanation.proposal.isNull() ? QJsonValue() : explanation.proposal;
+        if (!explanation.isIMSI) object["note"] = "not an IMSI";
+        return object;
+    }
+
+    QStringList toLines(const Explanation& explanation) {
+        if (!explanation.isIMSI) return {explanation.imsi + ": not an IMSI"};
+        QStringList lines{explanation.imsi + ": " +
+                          (explanation.prefix.isNull() ? "no prefix matches; the configuration's own presets"
+                                                       : "prefix " + explanation.prefix)};
+        for (const QString& name : explanation.offered)
+            lines.append(QString("  %1 %2 [%3]").arg(name == explanation.proposal ? "*" : " ", name, apnOf(name)));
+        return lines;
+    }
+
+    const ProfileSession& m_Session;
+    Output& m_Output;
+    const bool m_bFollowsIMSI = m_Session.isOn("IMSIAPN");
+    const QStringList m_Configured = m_Session->getAPNListFromHash();
+    QHash<QString, QString> m_APNs;
+    int m_nAsked = 0;
+    int m_nInvalid = 0;
+};
+
+}  // namespace
+
+void explainIMSIs(const Invocation& invocation, Output& output) {
+    ProfileSession session(ProfileSession::Reading);
+    const QString note = session.presetsNote();
+    if (!note.isNull()) printWarning(note);
+    Explainer explainer(session, output);
+    for (const QString& imsi : invocation.arguments()) {
+        if (imsi == "-")
+            explainer.explainStandardInput();
+        else
+            explainer.explain(imsi);
+    }
+    session.finish();
+    explainer.requireAllValid();
+}

@@ -1,0 +1,77 @@
+#include "Platform.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTextCodec>
+#include <cstdio>
+#include <memory>
+
+#include "Command.h"
+#include "CommandError.h"
+#include "vrks_simulated.h"
+
+namespace {
+
+const char DataFolderVariable[] = "ORBISDIAL_DATA_DIR";
+const char DeviceVariable[] = "ORBISDIAL_DEVICE";
+
+void dropTrace(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+void writeTrace(QtMsgType, const QMessageLogContext&, const QString& text) {
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+void setVariable(const char* name, const QString& value) {
+    if (value.isEmpty()) throw CommandError::usage("an option's value is empty");
+    qputenv(name, QFile::encodeName(value));
+}
+
+void chooseDevice(const QString& kind) {
+    static const QStringList kinds{"simulated", "modemmanager", "none", "auto"};
+    if (!kinds.contains(kind))
+        throw CommandError::usage("unknown device " + quoted(kind) + "; use one of " + kinds.join(", "));
+    setVariable(DeviceVariable, kind);
+}
+
+void checkDevice() {
+    const char* problem = nullptr;
+    if (!vrks_backend_name(&problem))
+        throw CommandError::failed(problem ? problem : "the modem's backend can't be had");
+}
+
+QString dataFolder() {
+    const QString folder = QFile::decodeName(qgetenv(DataFolderVariable));
+    if (!folder.isEmpty()) return folder;
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/orbisdial";
+}
+
+void checkDataFolder() {
+    unsigned short* directory = nullptr;
+    const long status = VRKS_GetUserDataDirectory(&directory);
+    const std::unique_ptr<unsigned short[]> owned(directory);
+    if (status == 0 && directory) return;
+    const QFileInfo folder(dataFolder());
+    const char* reason = folder.exists() && !folder.isDir() ? "is not a folder" : "can't be made or entered";
+    throw CommandError::failed(QString("the data folder %1 %2").arg(folder.filePath(), reason));
+}
+
+}  // namespace
+
+void Platform::prepare(int argc, char** argv) {
+    qInstallMessageHandler(dropTrace);
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    for (int i = 1; i < argc; ++i)
+        if (QString::fromUtf8(argv[i]).toUtf8() != argv[i])
+            throw CommandError::usage(QString("argument %1 is not UTF-8").arg(i));
+}
+
+void Platform::applyOptions(const Invocation& invocation) {
+    if (invocation.isSet("trace")) qInstallMessageHandler(writeTrace);
+    if (invocation.isSet("data-dir")) setVariable(DataFolderVariable, invocation.value("data-dir"));
+    if (invocation.isSet("device")) chooseDevice(invocation.value("device"));
+    checkDevice();
+    checkDataFolder();
+}

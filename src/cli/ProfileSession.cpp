@@ -1,0 +1,118 @@
+#include "ProfileSession.h"
+
+#include <QFileInfo>
+
+#include "CommandError.h"
+#include "NetConnectXMLParse.h"
+#include "Output.h"
+#include "vrks.h"
+
+namespace {
+
+QString missingText(const QString& path) { return path + ": does not exist"; }
+
+NetConnectStoreAction::Kind actionKind(ProfileSession::Kind kind) {
+    return kind == ProfileSession::Reading ? NetConnectStoreAction::Browse : NetConnectStoreAction::Change;
+}
+
+}  // namespace
+
+ProfileSession::ProfileSession(Kind kind)
+    : m_Kind(kind), m_Action(actionKind(kind)), m_pLogic(NetConnectSettingUILogic::GetInstance()) {
+    m_ConfigurationProblem = configurationProblem();
+    if (kind == Changing) {
+        if (!m_ConfigurationProblem.isEmpty()) throw CommandError::failed(m_ConfigurationProblem);
+        require(m_Action.lock(), "the profiles can't be changed");
+    }
+    loadNames();
+    m_Problem = problem();
+}
+
+void ProfileSession::loadNames() {
+    m_Names.clear();
+    require(m_pLogic->GetAllDialUpProfile(&m_Names), "the profiles can't be listed");
+}
+
+void ProfileSession::reload() {
+    m_pLogic->Init();  // its status tells of the SIM card
+    loadNames();
+}
+
+QString ProfileSession::defaultName() const {
+    QString name;
+    m_pLogic->GetDefaultDialUpProfileName(&name);
+    return name;
+}
+
+bool ProfileSession::isOn(const QString& function) const {
+    bool on = false;
+    m_pLogic->GetFunctionConfigValue(function, &on);
+    return on;
+}
+
+QString ProfileSession::presetsNote() const {
+    if (m_pLogic->HasIMSIPresets() || !isOn("IMSIAPN")) return QString();
+    char name[VRKS_CUSTOMIZE_NAME_SIZE] = {0};
+    const bool isCustomised = VRKS_DevSrv_GetCustomizeName(name) == 0 && *name && qstrcmp(name, "common") != 0;
+    if (!isCustomised) return "the configuration has no presets by IMSI";
+    return "the configuration customised for " + quoted(QString::fromUtf8(name)) + " leaves no presets by IMSI";
+}
+
+bool ProfileSession::hasProfile(const QString& name) const { return fetch(name).has_value(); }
+
+DialupProfile ProfileSession::profile(const QString& name) const {
+    if (const std::optional<DialupProfile> found = fetch(name)) return *found;
+    if (!m_Problem.isEmpty()) throw CommandError::failed(m_Problem);  // it may stand in what can't be read
+    throw CommandError::failed(m_Names.contains(name) ? "the profile library does not hold the preset " + quoted(name)
+                                                      : "there is no profile " + quoted(name));
+}
+
+// The logic may know a preset by its untranslated name too.
+std::optional<DialupProfile> ProfileSession::fetch(const QString& name) const {
+    DialupProfile profile;
+    m_pLogic->GetDialUpProfile(name, &profile);
+    if (name.isEmpty() || profile.name != name) return std::nullopt;
+    return profile;
+}
+
+void ProfileSession::requireChangeable(const DialupProfile& profile) const {
+    const QString name = quoted(profile.name);
+    if (!m_pLogic->HasUserProfile(profile.name))
+        throw CommandError::failed(
+            name + " is a preset; make one of your own from it: orbisctl add \"new name\" --like " + name);
+    if (profile.readonly == "true") throw CommandError::failed(name + " is read-only");
+}
+
+void ProfileSession::require(int status, const QString& what) const {
+    if (status == NetConnectSettingUILogic::Success) return;
+    const NetConnectStorageProblem problem = m_pLogic->LastStorageProblem();
+    throw CommandError::failed(what + ": " + (problem.isNull() ? QString("status %1").arg(status) : problem.text()));
+}
+
+void ProfileSession::finish() {
+    if (m_Kind == Changing) {
+        require(m_Action.commit(), "the profiles can't be stored");
+        if (!problem().isEmpty()) printWarning(problem());
+        return;
+    }
+    if (m_Kind == Reading) m_Problem = problem();
+    if (!m_Problem.isEmpty()) throw CommandError::failed(m_Problem);
+}
+
+// Asked apart, since the logic keeps only the last problem.
+QString ProfileSession::configurationProblem() const {
+    const int status = m_pLogic->getConfigData();
+    if (status == NetConnectSettingUILogic::Success) return QString();
+    const QString path = NetConnectXMLParse::shippedPath("NetConnectConfig.xml");
+    if (!QFileInfo::exists(path)) return missingText(path);
+    return m_pLogic->LastStorageProblem().text();
+}
+
+QString ProfileSession::problem() const {
+    if (!m_ConfigurationProblem.isEmpty()) return m_ConfigurationProblem;
+    const QString library = NetConnectXMLParse::shippedPath("ProfileLib.prof");
+    if (!QFileInfo::exists(library)) return missingText(library);
+    const NetConnectStorageProblem last = m_pLogic->LastStorageProblem();
+    // A change that can't lock has failed already; from a folder that can't be written one may still export.
+    return last.isNull() || last.file.endsWith(".lock") ? QString() : last.text();
+}

@@ -1,0 +1,71 @@
+// The profile logic during one command.
+#ifndef ORBISDIAL_CLI_PROFILESESSION_H
+#define ORBISDIAL_CLI_PROFILESESSION_H
+
+#include <QStringList>
+#include <optional>
+
+#include "NetConnectSettingUILogic.h"
+#include "NetConnectStoreAction.h"
+
+// Loads everything when made and ends the logic when it goes. All operations throw a CommandError on failure.
+class ProfileSession {
+public:
+    enum Kind {
+        Reading,    // the user's file stays as it is
+        Exporting,  // the same, but other processes are locked out
+        Changing    // what is done is stored by finish(), in one write
+    };
+
+    // A change needs the configuration, which says how passwords are stored; the others do with what is readable.
+    explicit ProfileSession(Kind kind);
+
+    NetConnectSettingUILogic* operator->() const { return m_pLogic; }
+
+    // Of all profiles, in display order.
+    const QStringList& names() const { return m_Names; }
+
+    QString defaultName() const;
+    bool isOn(const QString& function) const;
+
+    bool hasProfile(const QString& name) const;
+
+    // A profile of this very name, its password in plain text.
+    DialupProfile profile(const QString& name) const;
+
+    // Refuses presets and read-only profiles; the error says what to do instead.
+    void requireChangeable(const DialupProfile& profile) const;
+
+    // Why no SIM card selects any preset although the configuration lets it; null when that is not so.
+    QString presetsNote() const;
+
+    // Reads everything anew, which puts the user's own default back after an import file was read.
+    void reload();
+
+    // Throws when the status of an operation is not 0; what names the thing that failed.
+    void require(int status, const QString& what) const;
+
+    // Stores the changes. Throws when something that was read is missing or damaged; after a change, which is
+    // done then, it only warns.
+    void finish();
+
+private:
+    struct LogicLife {
+        ~LogicLife() { NetConnectSettingUILogic::Destroy(); }
+    };
+
+    QString configurationProblem() const;
+    QString problem() const;
+    std::optional<DialupProfile> fetch(const QString& name) const;
+    void loadNames();
+
+    const Kind m_Kind;
+    NetConnectStoreAction m_Action;  // outlives the logic, so that the end of what was not stored writes nothing
+    NetConnectSettingUILogic* m_pLogic;
+    LogicLife m_LogicLife;
+    QString m_ConfigurationProblem;
+    QString m_Problem;  // of what was read
+    QStringList m_Names;
+};
+
+#endif

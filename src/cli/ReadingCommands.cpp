@@ -1,0 +1,58 @@
+// list, show, config.
+
+#include <QJsonArray>
+
+#include "Command.h"
+#include "CommandError.h"
+#include "Commands.h"
+#include "Output.h"
+#include "ProfileSession.h"
+
+void listProfiles(const Invocation&, Output& output) {
+    ProfileSession session(ProfileSession::Reading);
+    const QString defaultName = session.defaultName();
+    QJsonArray profiles;
+    QStringList lines;
+    for (const QString& name : session.names()) {
+        const bool isDefault = name == defaultName;
+        const QString source = session->HasUserProfile(name) ? "user" : "preset";
+        profiles.append(QJsonObject{{"name", name}, {"default", isDefault}, {"source", source}});
+        lines.append(QString("%1 %2 %3").arg(isDefault ? "*" : " ", source.leftJustified(6), name));
+    }
+    output.result({{"profiles", profiles}}, lines);
+    session.finish();
+}
+
+void showProfile(const Invocation& invocation, Output& output) {
+    ProfileSession session(ProfileSession::Reading);
+    const DialupProfile profile = session.profile(invocation.arguments().first());
+    QJsonObject object;
+    QStringList lines;
+    for (const DialupProfileField& field : DialupProfileFields) {
+        const QString value = profile.*field.member;
+        const bool isHidden =
+            field.member == &DialupProfile::password && !value.isEmpty() && !invocation.isSet("secrets");
+        object[field.attribute] = isHidden ? QJsonValue() : QJsonValue(value);
+        lines.append(QString("%1 %2").arg(field.attribute, -12).arg(isHidden ? "(hidden)" : value));
+    }
+    output.result(object, lines);
+    session.finish();
+}
+
+void showConfiguration(const Invocation& invocation, Output& output) {
+    ProfileSession session(ProfileSession::Reading);
+    const QStringList all = session->FunctionConfigKeys();
+    const QStringList keys = invocation.arguments().isEmpty() ? all : invocation.arguments();
+    const bool isAll = invocation.arguments().isEmpty();
+    QJsonObject object;
+    QStringList lines;
+    for (const QString& key : keys) {
+        if (!all.contains(key)) throw CommandError::failed("there is no configuration key " + quoted(key));
+        QString value;
+        session->GetFunctionConfigStringValues(key, &value);
+        object[key] = value;
+        lines.append(isAll ? key + '=' + value : value);
+    }
+    output.result(object, lines);
+    session.finish();
+}

@@ -1,0 +1,67 @@
+// Runs the real orbisctl in a test's own folders, on a simulated card of the network 26201.
+#ifndef ORBISDIAL_TESTS_ORBISCTLFIXTURE_H
+#define ORBISDIAL_TESTS_ORBISCTLFIXTURE_H
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include "TestFolder.h"
+
+struct Outcome {
+    int status;  // -1 when it crashed or did not end
+    QByteArray out;
+    QByteArray err;
+
+    QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
+};
+
+class OrbisctlFixture : public TestFolder {
+public:
+    OrbisctlFixture() {
+        const QString fixtures = ORBISDIAL_SOURCE_DIR "/tests/cli/fixtures/";
+        for (const char* file : {"NetConnectConfig.xml", "ProfileLib.prof"}) ship(file, read(fixtures + file));
+        ship("SysProfile.prof", "<vrksdoc/>");
+        QFile::copy(ORBISDIAL_BUILD_DIR "/lib/orbisdial/lang/orbisdial_en.qm", path("library/lang/orbisdial_en.qm"));
+        qputenv("ORBISDIAL_DEVICE", "simulated");
+        qputenv("ORBISDIAL_SIM_IMSI", "262019876543210");
+        qunsetenv("ORBISDIAL_SIM_CUSTOMIZE_NAME");
+    }
+
+    Outcome run(const QStringList& arguments, const QByteArray& input = QByteArray()) const {
+        QProcess process;
+        process.start(ORBISCTL, arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
+        return {ended ? process.exitCode() : -1, process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    QJsonObject show(const QString& name) const { return run({"--json", "show", "--secrets", "--", name}).json(); }
+
+    void writeUser(const QByteArray& profiles, const QByteArray& defaults = "<Default name=\"\"/>") const {
+        write(userFile(),
+              "<vrksdoc type='Profile'>\r\n<ProfileGroup>" + profiles + "</ProfileGroup>" + defaults + "</vrksdoc>");
+    }
+};
+
+// One line that begins with the program's name.
+inline bool isOneDiagnostic(const QByteArray& err) {
+    return err.startsWith("orbisctl: ") && err.count('\n') == 1 && err.endsWith('\n');
+}
+
+#define COMPARE_DONE(outcome)                                       \
+    do {                                                            \
+        const Outcome done = outcome;                               \
+        QVERIFY2(done.status == 0 && done.err.isEmpty(), done.err); \
+    } while (false)
+
+#define COMPARE_REFUSED(outcome, exitStatus, words)                     \
+    do {                                                                \
+        const Outcome refused = outcome;                                \
+        QVERIFY2(isOneDiagnostic(refused.err), refused.err);            \
+        QVERIFY2(refused.err.contains(QByteArray(words)), refused.err); \
+        QCOMPARE(refused.status, exitStatus);                           \
+    } while (false)
+
+#endif
