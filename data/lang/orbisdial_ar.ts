@@ -1,0 +1,533 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>DialupPlugin</name>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TITLE</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TEXT</source>
+        <translation>اسم المستخدم وكلمة المرور لـ «%1»:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USER</source>
+        <translation>اسم المستخدم:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PASSWORD</source>
+        <translation>كلمة المرور:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CONNECT</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SETTINGS</source>
+        <translation>لم يتم تحميل إعدادات الاتصال.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DEFAULT</source>
+        <translation>لا يوجد ملف تعريف افتراضي. عيّن واحدًا في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_PROFILE</source>
+        <translation>لا يوجد ملف تعريف باسم «%1».</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SIMULATED</source>
+        <translation>المودم المحاكى وحده يمكنه الاتصال.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_READY</source>
+        <translation>المودم غير جاهز.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARRIER</source>
+        <translation>الشبكة لا تستجيب (لا توجد موجة حاملة).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
+        <translation>رفضت الشبكة اسم المستخدم أو كلمة المرور.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SIGNAL</source>
+        <translation>لا توجد إشارة لدى المودم.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>تم إلغاء الاتصال.</translation>
+    </message>
+</context>
+<context>
+    <name>NetConnectPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_TABPAGE_NETCONNECTSETTINGDLG_DIALUP</source>
+        <translation>الطلب الهاتفي</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
+        <translation>ملف تعريف الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_VALIDATE</source>
+        <translation>المصادقة</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_GROUP_Authentication_protocol</source>
+        <translation>بروتوكول المصادقة</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_APN_NAME</source>
+        <translation>نقطة الوصول:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_NUMBER</source>
+        <translation>رقم الطلب:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_USENAME</source>
+        <translation>اسم المستخدم:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_PASSWORD</source>
+        <translation>كلمة المرور:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_DYNAMIC</source>
+        <translation>ديناميكي</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_STATIC</source>
+        <translation>ثابت</translation>
+    </message>
+    <message>
+        <source>IDS_USERNAME_AND_PASSWORD</source>
+        <translation>السؤال عند الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_CHAP</source>
+        <translation>CHAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_PAP</source>
+        <translation>PAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NEW</source>
+        <translation>جديد</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_DELETE</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_EDIT</source>
+        <translation>تحرير</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_SAVE</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NO_SAVE</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>كافتراضي</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
+        <translation>استيراد…</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_OUTPUT</source>
+        <translation>تصدير…</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_HIGH</source>
+        <translation>متقدم…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>(افتراضي)</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>إعدادات الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>IDS_YES</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>IDS_NO</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME</source>
+        <translation>الرجاء إدخال اسم ملف التعريف.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME_SAME</source>
+        <translation>يوجد بالفعل ملف تعريف بهذا الاسم. الرجاء اختيار اسم آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_PROFILENAMEERR</source>
+        <translation>يجب ألا يحتوي اسم ملف التعريف على أي من هذه الأحرف: </translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_NULLNUMBER</source>
+        <translation>الرجاء إدخال رقم الطلب، مثل &#x200e;*99#.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_ERROR</source>
+        <translation>اسم نقطة الوصول غير صالح. يمكن أن يحتوي على أحرف وأرقام ونقاط وواصلات، ويجب أن يبدأ وينتهي بحرف أو رقم.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUI_DRAFT_DEL</source>
+        <translation>هل تريد حذف ملف التعريف هذا؟</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_QUERY_USER_TO_SAVE</source>
+        <translation>يحتوي ملف التعريف على تغييرات غير محفوظة. هل تريد حفظها؟</translation>
+    </message>
+    <message>
+        <source>IDS_NET_TIPS_PROFILEEXIST</source>
+        <translation>موجود بالفعل. هل تريد استبدال ملف التعريف هذا؟</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_IP</source>
+        <translation>عنوان IP غير صالح. الرجاء إدخال عنوان مثل 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_DNS_IP</source>
+        <translation>عنوان خادم DNS غير صالح. الرجاء إدخال عنوان مثل 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_WINS_IP</source>
+        <translation>عنوان خادم WINS غير صالح. الرجاء إدخال عنوان مثل 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_IMPORTDLG</source>
+        <translation>استيراد ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_EXPORTDLG</source>
+        <translation>تصدير ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>IDS_TREENODE_PROFILEINPUTDLG_DIALUP</source>
+        <translation>ملفات تعريف الطلب الهاتفي</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
+        <translation>استعراض…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_DIALUPDLG_ADVANCE</source>
+        <translation>إعدادات متقدمة</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_APN_IP</source>
+        <translation>عنوان IP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_DNS</source>
+        <translation>خوادم DNS</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_WINS</source>
+        <translation>خوادم WINS</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_IP</source>
+        <translation>عنوان IP:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS</source>
+        <translation>الأساسي:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS_SECOND</source>
+        <translation>الثانوي:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS1</source>
+        <translation>الأساسي:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS_SECOND</source>
+        <translation>الثانوي:</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_NEW_PROFILE</source>
+        <translation>ملف تعريف جديد</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_READONLY</source>
+        <translation>ملف التعريف هذا للقراءة فقط. لتغييره، اضغط «جديد» وأدخل قيمه باسم آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
+        <translation>ملف التعريف هذا معدّ مسبقًا. لتغييره، اضغط «جديد» وأدخل قيمه باسم آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
+        <translation>ملف التعريف هذا متصل. اقطع الاتصال أولاً.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_DEFAULT_CONNECTED</source>
+        <translation>لا يمكن تغيير ملف التعريف الافتراضي أثناء الاتصال. اقطع الاتصال أولاً.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_NO_PROFILE</source>
+        <translation>لا يوجد ملف تعريف بعد. اضغط «جديد» لإنشاء واحد.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_EDIT_OPEN</source>
+        <translation>يجري تحرير ملف تعريف. اضغط «حفظ» أو «تراجع» أولاً.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
+        <translation>تعذّر حفظ ملف التعريف. لم يُفقد شيء: عالج المشكلة ثم اضغط «حفظ» مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_HINT_PASSWORD</source>
+        <translation>بعض الأحرف لا يمكن حفظها: استخدم أحرف أوروبا الغربية فقط.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_LIST</source>
+        <translation>ملف التعريف</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_NAME</source>
+        <translation>اسم ملف التعريف</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_TRANSFER_TREE</source>
+        <translation>ملفات التعريف المتاحة للاختيار</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_WILDCARD</source>
+        <translation>لا يمكن أن يحتوي اسم الملف على «*». الرجاء إدخال اسم آخر.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
+        <translation>موجود بالفعل. سيتم الاحتفاظ بملفات التعريف الموجودة فيه واستبدال ما يحمل الاسم نفسه. هل تريد التصدير إليه؟</translation>
+    </message>
+</context>
+<context>
+    <name>OrbisDial</name>
+    <message>
+        <source>IDS_HOST_TITLE</source>
+        <translation>OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TITLE_SIMULATED</source>
+        <translation>OrbisDial (مودم محاكى)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CANCEL</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PAGES</source>
+        <translation>صفحات الإعدادات</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DEFAULT_PROFILE</source>
+        <translation>ملف التعريف الافتراضي: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
+        <translation>لا يوجد ملف تعريف افتراضي</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DISCONNECT</source>
+        <translation>قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTED</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING</source>
+        <translation>جارٍ الاتصال…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTED</source>
+        <translation>متصل باستخدام %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTING</source>
+        <translation>جارٍ قطع الاتصال…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_FAILED</source>
+        <translation>غير متصل: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER</source>
+        <translation>لم يتم تحميل ملحق الطلب الهاتفي</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NONE</source>
+        <translation>لم يتم العثور على بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM</source>
+        <translation>بطاقة SIM %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PRESET</source>
+        <translation>بطاقة SIM %1: ملف التعريف المعدّ مسبقًا «%2»، اختير حسب بادئتها %3</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PREFIX</source>
+        <translation>بطاقة SIM %1: البادئة %2 معروفة، لكن لم يُقترح أي من ملفات تعريفها كافتراضي</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NO_MATCH</source>
+        <translation>بطاقة SIM %1: لا يطابقها أي ملف تعريف معدّ مسبقًا</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STORAGE_PROBLEM</source>
+        <translation>مشكلة في التخزين: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_PROBLEM</source>
+        <translation>لا يمكن استخدام %1: %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_LOAD_FAILED</source>
+        <translation>تعذّر التحميل (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_FOREIGN</source>
+        <translation>ليس ملحقًا لهذا البرنامج</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_TAKEN</source>
+        <translation>يوجد ملحق آخر بالمعرّف نفسه</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_INIT_FAILED</source>
+        <translation>تعذّر بدء التشغيل</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PROBLEM</source>
+        <translation>لا يمكن استخدام المودم: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NAME</source>
+        <translation>البرنامج</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LANGUAGE</source>
+        <translation>اللغة:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCK_DEFAULT</source>
+        <translation>تثبيت ملف التعريف الافتراضي: إخفاء الزر «كافتراضي»</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
+        <translation>تعذّر حفظ الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_TITLE</source>
+        <translation>مودم محاكى</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_IMSI</source>
+        <translation>رقم IMSI:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARD</source>
+        <translation>لا توجد بطاقة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_READY</source>
+        <translation>جاهز</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_MULTI_MODE</source>
+        <translation>بطاقة متعددة الأوضاع</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE</source>
+        <translation>وضع البطاقة:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE_NONE</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PRODUCT_TYPE</source>
+        <translation>نوع المنتج:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_MODE</source>
+        <translation>وضع النظام:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_SUBMODE</source>
+        <translation>الوضع الفرعي:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_OUTCOME</source>
+        <translation>نتيجة الطلب:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_ANSWERS</source>
+        <translation>تم الرد</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARRIER</source>
+        <translation>لا توجد موجة حاملة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_AUTHENTICATION_FAILS</source>
+        <translation>فشل المصادقة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_SIGNAL</source>
+        <translation>لا توجد إشارة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_INITIALISE</source>
+        <translation>تهيئة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CHANGE_CARD</source>
+        <translation>تغيير البطاقة</translation>
+    </message>
+</context>
+</TS>

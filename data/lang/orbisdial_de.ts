@@ -1,0 +1,533 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>DialupPlugin</name>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TITLE</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TEXT</source>
+        <translation>Benutzername und Kennwort für „%1“:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USER</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PASSWORD</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CONNECT</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SETTINGS</source>
+        <translation>Die Verbindungseinstellungen sind nicht geladen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DEFAULT</source>
+        <translation>Es gibt kein Standardprofil. Legen Sie eines in den Einstellungen fest.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_PROFILE</source>
+        <translation>Es gibt kein Profil „%1“.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SIMULATED</source>
+        <translation>Nur das simulierte Modem kann wählen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_READY</source>
+        <translation>Das Modem ist nicht bereit.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARRIER</source>
+        <translation>Das Netz antwortet nicht (kein Träger).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
+        <translation>Das Netz hat den Benutzernamen oder das Kennwort abgelehnt.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SIGNAL</source>
+        <translation>Das Modem hat kein Signal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>Das Verbinden wurde abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>NetConnectPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>IDS_TABPAGE_NETCONNECTSETTINGDLG_DIALUP</source>
+        <translation>Einwahl</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
+        <translation>Verbindungsp&amp;rofil</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_VALIDATE</source>
+        <translation>Anmeldung</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_GROUP_Authentication_protocol</source>
+        <translation>Anmeldeprotokoll</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_APN_NAME</source>
+        <translation>&amp;APN:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_NUMBER</source>
+        <translation>Einwahln&amp;ummer:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_USENAME</source>
+        <translation>Benutzerna&amp;me:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_PASSWORD</source>
+        <translation>Kenn&amp;wort:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_DYNAMIC</source>
+        <translation>Dynamisch</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_STATIC</source>
+        <translation>Fest</translation>
+    </message>
+    <message>
+        <source>IDS_USERNAME_AND_PASSWORD</source>
+        <translation>Beim Verbinden abfra&amp;gen</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_CHAP</source>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_PAP</source>
+        <translation>&amp;PAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NEW</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_DELETE</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_EDIT</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_SAVE</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NO_SAVE</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>S&amp;tandard</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
+        <translation>&amp;Import…</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_OUTPUT</source>
+        <translation>E&amp;xport…</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_HIGH</source>
+        <translation>&amp;Erweitert…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>(Standard)</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>Verbindungseinstellungen</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>IDS_YES</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>IDS_NO</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME</source>
+        <translation>Bitte geben Sie einen Profilnamen ein.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME_SAME</source>
+        <translation>Ein Profil mit diesem Namen ist bereits vorhanden. Bitte wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_PROFILENAMEERR</source>
+        <translation>Der Profilname darf keines dieser Zeichen enthalten: </translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_NULLNUMBER</source>
+        <translation>Bitte geben Sie die Einwahlnummer ein, zum Beispiel *99#.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_ERROR</source>
+        <translation>Der APN ist ungültig. Er darf Buchstaben, Ziffern, Punkte und Bindestriche enthalten und muss mit einem Buchstaben oder einer Ziffer beginnen und enden.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUI_DRAFT_DEL</source>
+        <translation>Möchten Sie dieses Profil löschen?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_QUERY_USER_TO_SAVE</source>
+        <translation>Das Profil enthält nicht gespeicherte Änderungen. Möchten Sie sie speichern?</translation>
+    </message>
+    <message>
+        <source>IDS_NET_TIPS_PROFILEEXIST</source>
+        <translation>ist bereits vorhanden. Möchten Sie dieses Profil ersetzen?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_IP</source>
+        <translation>Die IP-Adresse ist ungültig. Bitte geben Sie eine Adresse wie 192.0.2.1 ein.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_DNS_IP</source>
+        <translation>Die Adresse des DNS-Servers ist ungültig. Bitte geben Sie eine Adresse wie 192.0.2.1 ein.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_WINS_IP</source>
+        <translation>Die Adresse des WINS-Servers ist ungültig. Bitte geben Sie eine Adresse wie 192.0.2.1 ein.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_IMPORTDLG</source>
+        <translation>Profile importieren</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_EXPORTDLG</source>
+        <translation>Profile exportieren</translation>
+    </message>
+    <message>
+        <source>IDS_TREENODE_PROFILEINPUTDLG_DIALUP</source>
+        <translation>Einwahlprofile</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_DIALUPDLG_ADVANCE</source>
+        <translation>Erweiterte Einstellungen</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_APN_IP</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_DNS</source>
+        <translation>DNS-Server</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_WINS</source>
+        <translation>WINS-Server</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_IP</source>
+        <translation>&amp;IP-Adresse:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS</source>
+        <translation>P&amp;rimär:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS_SECOND</source>
+        <translation>&amp;Sekundär:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS1</source>
+        <translation>Pri&amp;mär:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS_SECOND</source>
+        <translation>S&amp;ekundär:</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_NEW_PROFILE</source>
+        <translation>Neues Profil</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_READONLY</source>
+        <translation>Dieses Profil ist schreibgeschützt. Um es zu ändern, drücken Sie „Neu“ und geben Sie seine Werte unter einem anderen Namen ein.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
+        <translation>Dieses Profil ist vorgegeben. Um es zu ändern, drücken Sie „Neu“ und geben Sie seine Werte unter einem anderen Namen ein.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
+        <translation>Dieses Profil ist verbunden. Trennen Sie zuerst die Verbindung.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_DEFAULT_CONNECTED</source>
+        <translation>Der Standard kann nicht geändert werden, solange eine Verbindung besteht. Trennen Sie zuerst die Verbindung.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_NO_PROFILE</source>
+        <translation>Es gibt noch kein Profil. Drücken Sie „Neu“, um eines anzulegen.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_EDIT_OPEN</source>
+        <translation>Ein Profil wird gerade bearbeitet. Drücken Sie zuerst „Speichern“ oder „Verwerfen“.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
+        <translation>Das Profil konnte nicht gespeichert werden. Nichts ist verloren: Beheben Sie das Problem und drücken Sie erneut „Speichern“.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_HINT_PASSWORD</source>
+        <translation>Nicht alle Zeichen sind speicherbar: nur westeuropäische verwenden.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_LIST</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_NAME</source>
+        <translation>Profilname</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_TRANSFER_TREE</source>
+        <translation>Profile zur Auswahl</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_WILDCARD</source>
+        <translation>Ein Dateiname darf kein „*“ enthalten. Bitte geben Sie einen anderen ein.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
+        <translation>ist bereits vorhanden. Die Profile der Datei bleiben erhalten, gleichnamige werden ersetzt. In diese Datei exportieren?</translation>
+    </message>
+</context>
+<context>
+    <name>OrbisDial</name>
+    <message>
+        <source>IDS_HOST_TITLE</source>
+        <translation>OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TITLE_SIMULATED</source>
+        <translation>OrbisDial (simuliertes Modem)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CANCEL</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PAGES</source>
+        <translation>Einstellungsseiten</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DEFAULT_PROFILE</source>
+        <translation>Standardprofil: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
+        <translation>Kein Standardprofil</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DISCONNECT</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTED</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING</source>
+        <translation>Verbindung wird hergestellt…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTED</source>
+        <translation>Verbunden mit %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTING</source>
+        <translation>Verbindung wird getrennt…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_FAILED</source>
+        <translation>Nicht verbunden: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER</source>
+        <translation>Kein Einwahl-Plug-in geladen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NONE</source>
+        <translation>Keine SIM-Karte gefunden</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM</source>
+        <translation>SIM-Karte %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PRESET</source>
+        <translation>SIM-Karte %1: Vorgabe „%2“, ausgewählt durch ihr Präfix %3</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PREFIX</source>
+        <translation>SIM-Karte %1: Präfix %2 ist bekannt, aber keine seiner Vorgaben ist als Standard vorgeschlagen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NO_MATCH</source>
+        <translation>SIM-Karte %1: keine Vorgabe passt dazu</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STORAGE_PROBLEM</source>
+        <translation>Speicherproblem: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_PROBLEM</source>
+        <translation>%1 ist nicht verwendbar: %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_LOAD_FAILED</source>
+        <translation>es kann nicht geladen werden (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_FOREIGN</source>
+        <translation>es ist kein Plug-in dieses Programms</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_TAKEN</source>
+        <translation>ein anderes Plug-in hat dieselbe Kennung</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_INIT_FAILED</source>
+        <translation>es konnte nicht starten</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PROBLEM</source>
+        <translation>Das Modem ist nicht verwendbar: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NAME</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LANGUAGE</source>
+        <translation>Sprache:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCK_DEFAULT</source>
+        <translation>Standardprofil beibehalten: Schaltfläche „Standard“ ausblenden</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_TITLE</source>
+        <translation>Simuliertes Modem</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_IMSI</source>
+        <translation>IMSI:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARD</source>
+        <translation>keine Karte</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_READY</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_MULTI_MODE</source>
+        <translation>Multimode-Karte</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE</source>
+        <translation>Kartenmodus:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE_NONE</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PRODUCT_TYPE</source>
+        <translation>Produkttyp:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_MODE</source>
+        <translation>Systemmodus:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_SUBMODE</source>
+        <translation>Untermodus:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_OUTCOME</source>
+        <translation>Einwahl:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_ANSWERS</source>
+        <translation>Gegenstelle antwortet</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARRIER</source>
+        <translation>Kein Träger</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_AUTHENTICATION_FAILS</source>
+        <translation>Anmeldung schlägt fehl</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_SIGNAL</source>
+        <translation>Kein Signal</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_INITIALISE</source>
+        <translation>Initialisieren</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CHANGE_CARD</source>
+        <translation>Karte wechseln</translation>
+    </message>
+</context>
+</TS>

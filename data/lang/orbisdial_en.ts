@@ -1,0 +1,663 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>DialupPlugin</name>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TITLE</source>
+        <extracomment>Title of the small dialog that asks for user name and password when connecting.</extracomment>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TEXT</source>
+        <extracomment>Sentence above the two fields; %1 is the profile's name.</extracomment>
+        <translation>User name and password for "%1":</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USER</source>
+        <extracomment>Label of a field. No mnemonic.</extracomment>
+        <translation>User name:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PASSWORD</source>
+        <extracomment>Label of a field. No mnemonic.</extracomment>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CONNECT</source>
+        <extracomment>Button of the dialog: goes on connecting; up to 14 characters. No mnemonic.</extracomment>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCEL</source>
+        <extracomment>Button of the dialog: gives up connecting; up to 14 characters. No mnemonic.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SETTINGS</source>
+        <extracomment>Why connecting failed: the settings plug-in is missing.</extracomment>
+        <translation>The connection settings are not loaded.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DEFAULT</source>
+        <extracomment>Why connecting failed.</extracomment>
+        <translation>There is no default profile. Set one in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_PROFILE</source>
+        <extracomment>Why connecting failed; %1 is the profile's name.</extracomment>
+        <translation>There is no profile "%1".</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SIMULATED</source>
+        <extracomment>Why connecting failed: another modem is in use, with which this program does not dial.</extracomment>
+        <translation>Only the simulated modem can dial.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_READY</source>
+        <extracomment>Why connecting failed.</extracomment>
+        <translation>The modem is not ready.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARRIER</source>
+        <extracomment>Why connecting failed.</extracomment>
+        <translation>The network does not answer (no carrier).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
+        <extracomment>Why connecting failed.</extracomment>
+        <translation>The network refused the user name or the password.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SIGNAL</source>
+        <extracomment>Why connecting failed.</extracomment>
+        <translation>The modem has no signal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <extracomment>Why connecting failed: the user gave up.</extracomment>
+        <translation>Connecting was cancelled.</translation>
+    </message>
+</context>
+<context>
+    <name>NetConnectPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <extracomment>Name of the page in the host's list of settings pages; up to 120 pixels.</extracomment>
+        <translation>Connection</translation>
+    </message>
+    <message>
+        <source>IDS_TABPAGE_NETCONNECTSETTINGDLG_DIALUP</source>
+        <extracomment>Title of the page's only tab; up to 160 pixels. No mnemonic: there is nothing to switch to.</extracomment>
+        <translation>Dial-up</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
+        <extracomment>Group title above the profile list; up to 220 pixels. Its mnemonic leads to the list.</extracomment>
+        <translation>Connection p&amp;rofile</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_VALIDATE</source>
+        <extracomment>Group title above access number, user name and password; up to 220 pixels. No mnemonic: each field has its own.</extracomment>
+        <translation>Authentication</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_GROUP_Authentication_protocol</source>
+        <extracomment>Group title above the CHAP and PAP boxes, on the page and in the advanced dialog; cut off at 220 pixels. No mnemonic: each box has its own.</extracomment>
+        <translation>Authentication protocol</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_APN_NAME</source>
+        <extracomment>Label of the access point name's field; up to 150 pixels.</extracomment>
+        <translation>&amp;APN:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_NUMBER</source>
+        <extracomment>Label of the field for the number that the modem dials, such as *99#; up to 150 pixels.</extracomment>
+        <translation>Access num&amp;ber:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_USENAME</source>
+        <extracomment>Label of the user name's field; up to 150 pixels.</extracomment>
+        <translation>User na&amp;me:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_PASSWORD</source>
+        <extracomment>Label of the password's field; up to 150 pixels.</extracomment>
+        <translation>Pass&amp;word:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_DYNAMIC</source>
+        <extracomment>Radio button: the network gives the APN or the addresses; up to 100 pixels. No mnemonic: three groups of the advanced dialog share it.</extracomment>
+        <translation>Dynamic</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_STATIC</source>
+        <extracomment>Radio button: the user enters the APN or the addresses; up to 80 pixels. No mnemonic: three groups of the advanced dialog share it.</extracomment>
+        <translation>Static</translation>
+    </message>
+    <message>
+        <source>IDS_USERNAME_AND_PASSWORD</source>
+        <extracomment>Check box below user name and password: ask for both when connecting; cut off at 230 pixels.</extracomment>
+        <translation>As&amp;k when connecting</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_CHAP</source>
+        <extracomment>Check box: authenticate by CHAP, on the page and in the advanced dialog.</extracomment>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_PAP</source>
+        <extracomment>Check box: authenticate by PAP, on the page and in the advanced dialog.</extracomment>
+        <translation>&amp;PAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NEW</source>
+        <extracomment>Button: enter a new profile; up to 105 pixels.</extracomment>
+        <translation>&amp;New</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_DELETE</source>
+        <extracomment>Button: delete the selected profile; up to 105 pixels.</extracomment>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_EDIT</source>
+        <extracomment>Button: edit the selected profile; up to 105 pixels.</extracomment>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_SAVE</source>
+        <extracomment>Button: save what was entered; up to 105 pixels.</extracomment>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NO_SAVE</source>
+        <extracomment>Button: give up what was entered and go back to viewing; up to 105 pixels.</extracomment>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <extracomment>Button: make the selected profile the default one; up to 105 pixels.</extracomment>
+        <translation>Set de&amp;fault</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
+        <extracomment>Button: open the import dialog; up to 105 pixels.</extracomment>
+        <translation>&amp;Import…</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_OUTPUT</source>
+        <extracomment>Button: open the export dialog; up to 105 pixels.</extracomment>
+        <translation>E&amp;xport…</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_HIGH</source>
+        <extracomment>Button: open the advanced dialog; up to 105 pixels.</extracomment>
+        <translation>Ad&amp;vanced…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <extracomment>Follows the default profile's name and a blank in the profile list. Always in ASCII parentheses, without a mnemonic: it is searched for and taken off again.</extracomment>
+        <translation>(Default)</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <extracomment>Caption of every message and question of the page.</extracomment>
+        <translation>Connection settings</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <extracomment>Button of messages and dialogs; up to 100 pixels. No mnemonic: the Return key presses it.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <extracomment>Button of dialogs; up to 100 pixels. No mnemonic: the Escape key presses it.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>IDS_YES</source>
+        <extracomment>Button of questions; up to 100 pixels.</extracomment>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>IDS_NO</source>
+        <extracomment>Button of questions; up to 100 pixels.</extracomment>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME</source>
+        <extracomment>Message: the profile name is empty or blank.</extracomment>
+        <translation>Please enter a profile name.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME_SAME</source>
+        <extracomment>Message: another profile has the name that was entered.</extracomment>
+        <translation>A profile with this name already exists. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_PROFILENAMEERR</source>
+        <extracomment>Message: the profile name has a forbidden character. The list of these characters follows at once, so the text ends with a colon and the blank that belongs after it.</extracomment>
+        <translation>The profile name must not contain any of these characters: </translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_NULLNUMBER</source>
+        <extracomment>Message: the access number is empty.</extracomment>
+        <translation>Please enter the access number, for example *99#.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_ERROR</source>
+        <extracomment>Message: the APN is not well formed.</extracomment>
+        <translation>The APN is not valid. It may contain letters, digits, dots and hyphens, and must begin and end with a letter or a digit.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUI_DRAFT_DEL</source>
+        <extracomment>Question: delete the selected profile?</extracomment>
+        <translation>Do you want to delete this profile?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_QUERY_USER_TO_SAVE</source>
+        <extracomment>Question: the page is left while a profile is being edited.</extracomment>
+        <translation>The profile has unsaved changes. Do you want to save them?</translation>
+    </message>
+    <message>
+        <source>IDS_NET_TIPS_PROFILEEXIST</source>
+        <extracomment>Question of an import: follows the profile's name and a blank, and ends the sentence that the name begins.</extracomment>
+        <translation>already exists. Do you want to replace this profile?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_IP</source>
+        <extracomment>Message of the advanced dialog: the IP address is not valid.</extracomment>
+        <translation>The IP address is not valid. Please enter one such as 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_DNS_IP</source>
+        <extracomment>Message of the advanced dialog: the address of a DNS server is not valid.</extracomment>
+        <translation>The DNS server address is not valid. Please enter one such as 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_WINS_IP</source>
+        <extracomment>Message of the advanced dialog: the address of a WINS server is not valid.</extracomment>
+        <translation>The WINS server address is not valid. Please enter one such as 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_IMPORTDLG</source>
+        <extracomment>Title of the import dialog; up to 350 pixels.</extracomment>
+        <translation>Import profiles</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_EXPORTDLG</source>
+        <extracomment>Title of the export dialog; up to 350 pixels.</extracomment>
+        <translation>Export profiles</translation>
+    </message>
+    <message>
+        <source>IDS_TREENODE_PROFILEINPUTDLG_DIALUP</source>
+        <extracomment>Root of the tree of profiles in the import/export dialog; ticking it ticks all. No mnemonic: a tree shows it as it stands.</extracomment>
+        <translation>Dial-up profiles</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
+        <extracomment>Button of the import dialog: choose the file to import from; up to 140 pixels.</extracomment>
+        <translation>&amp;Browse…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_DIALUPDLG_ADVANCE</source>
+        <extracomment>Title of the advanced dialog; up to 350 pixels.</extracomment>
+        <translation>Advanced settings</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_APN_IP</source>
+        <extracomment>Group title in the advanced dialog; up to 350 pixels. No mnemonic: each field has its own.</extracomment>
+        <translation>IP address</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_DNS</source>
+        <extracomment>Group title in the advanced dialog; up to 350 pixels. No mnemonic: each field has its own.</extracomment>
+        <translation>DNS servers</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_WINS</source>
+        <extracomment>Group title in the advanced dialog; up to 350 pixels. No mnemonic: each field has its own.</extracomment>
+        <translation>WINS servers</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_IP</source>
+        <extracomment>Label in the advanced dialog; up to 110 pixels.</extracomment>
+        <translation>&amp;IP address:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS</source>
+        <extracomment>Label in the advanced dialog, in the group of the DNS servers; up to 110 pixels.</extracomment>
+        <translation>P&amp;rimary:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS_SECOND</source>
+        <extracomment>Label in the advanced dialog, in the group of the DNS servers; up to 110 pixels.</extracomment>
+        <translation>&amp;Secondary:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS1</source>
+        <extracomment>Label in the advanced dialog, in the group of the WINS servers; up to 110 pixels.</extracomment>
+        <translation>Pri&amp;mary:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS_SECOND</source>
+        <extracomment>Label in the advanced dialog, in the group of the WINS servers; up to 110 pixels.</extracomment>
+        <translation>S&amp;econdary:</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_NEW_PROFILE</source>
+        <extracomment>Base of a new profile's name: a number follows at once, as in "New Profile1". No character that a profile name must not have; up to 40 characters.</extracomment>
+        <translation>New Profile</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_READONLY</source>
+        <extracomment>Tool tip of the disabled buttons Edit and Delete: the profile is read-only. Names the button New as it is written there.</extracomment>
+        <translation>This profile is read-only. To change it, press New and enter its values under another name.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
+        <extracomment>Tool tip of the disabled buttons Edit and Delete: the profile comes with the configuration. Names the button New as it is written there.</extracomment>
+        <translation>This profile is a preset. To change it, press New and enter its values under another name.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
+        <extracomment>Tool tip of the disabled buttons Edit and Delete: the profile is in use.</extracomment>
+        <translation>This profile is connected. Disconnect first.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_DEFAULT_CONNECTED</source>
+        <extracomment>Tool tip of the disabled button Set default: a connection is up.</extracomment>
+        <translation>The default can't be changed while a connection is up. Disconnect first.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_NO_PROFILE</source>
+        <extracomment>Tool tip of the disabled buttons Edit, Delete and Set default: the list is empty. Names the button New as it is written there.</extracomment>
+        <translation>There is no profile yet. Press New to create one.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_EDIT_OPEN</source>
+        <extracomment>Tool tip of the disabled buttons Edit, Delete and Set default during an edit. Names the buttons Save and Undo as they are written there.</extracomment>
+        <translation>A profile is being edited. Press Save or Undo first.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
+        <extracomment>Tool tip of the button Save after a failed write. The storage problem follows in the next line. Names the button Save as it is written there.</extracomment>
+        <translation>The profile could not be stored. Nothing is lost: put the problem right and press Save again.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_HINT_PASSWORD</source>
+        <extracomment>Hint line below the password field; wraps into two lines, so up to 600 pixels.</extracomment>
+        <translation>Some characters can't be stored: use Western European ones only.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_LIST</source>
+        <extracomment>Accessible name (for screen readers) of the profile list; not drawn.</extracomment>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_NAME</source>
+        <extracomment>Accessible name (for screen readers) of the field in which a profile's name is typed; not drawn.</extracomment>
+        <translation>Profile name</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_TRANSFER_TREE</source>
+        <extracomment>Accessible name (for screen readers) of the tree in the import/export dialog; not drawn.</extracomment>
+        <translation>Profiles to choose from</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_WILDCARD</source>
+        <extracomment>Message: the file name typed for an export has an asterisk.</extracomment>
+        <translation>A file name can't contain "*". Please enter another one.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
+        <extracomment>Question before an export into an existing file: follows the file's name and a blank, and ends the sentence that the name begins.</extracomment>
+        <translation>exists already. Its profiles are kept; those of the same name are replaced. Export into it?</translation>
+    </message>
+</context>
+<context>
+    <name>OrbisDial</name>
+    <message>
+        <source>IDS_HOST_TITLE</source>
+        <extracomment>Title of the main window and of its messages; the product's name, the same in every language.</extracomment>
+        <translation>OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TITLE_SIMULATED</source>
+        <extracomment>Title of the main window while the simulated modem is in use.</extracomment>
+        <translation>OrbisDial (simulated modem)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_OK</source>
+        <extracomment>Button below the settings page: takes the page's changes; up to 14 characters. No mnemonic.</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CANCEL</source>
+        <extracomment>Button below the settings page: drops the page's changes; up to 14 characters. No mnemonic.</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PAGES</source>
+        <extracomment>Accessible name (for screen readers) of the list of settings pages; not drawn.</extracomment>
+        <translation>Settings pages</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DEFAULT_PROFILE</source>
+        <extracomment>Bar on top; %1 is the profile's name; up to 26 characters without it.</extracomment>
+        <translation>Default profile: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
+        <extracomment>Bar on top: no profile is the default one.</extracomment>
+        <translation>No default profile</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT</source>
+        <extracomment>Button in the bar: connects with the default profile; up to 14 characters. No mnemonic.</extracomment>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DISCONNECT</source>
+        <extracomment>The same button while a connection is up or being made; up to 14 characters. No mnemonic.</extracomment>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTED</source>
+        <extracomment>State of the connection in the bar.</extracomment>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING</source>
+        <extracomment>State of the connection in the bar.</extracomment>
+        <translation>Connecting…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTED</source>
+        <extracomment>State of the connection in the bar; %1 is the profile's name.</extracomment>
+        <translation>Connected with %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTING</source>
+        <extracomment>State of the connection in the bar.</extracomment>
+        <translation>Disconnecting…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_FAILED</source>
+        <extracomment>State in the bar after a failed attempt; %1 is a whole sentence that says why.</extracomment>
+        <translation>Not connected: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER</source>
+        <extracomment>State in the bar when nothing can connect.</extracomment>
+        <translation>No dial-up plug-in is loaded</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NONE</source>
+        <extracomment>Line below the bar.</extracomment>
+        <translation>No SIM card found</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM</source>
+        <extracomment>Line below the bar; %1 is the card's IMSI (digits).</extracomment>
+        <translation>SIM card %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PRESET</source>
+        <extracomment>Line below the bar; %1 is the card's IMSI (digits), %2 the name of the preset that the card selected, %3 the leading digits that matched.</extracomment>
+        <translation>SIM card %1: preset "%2", selected by its prefix %3</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PREFIX</source>
+        <extracomment>Line below the bar; %1 is the card's IMSI (digits), %2 the leading digits that matched.</extracomment>
+        <translation>SIM card %1: prefix %2 is known, but none of its presets is the proposed default</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NO_MATCH</source>
+        <extracomment>Line below the bar; %1 is the card's IMSI (digits).</extracomment>
+        <translation>SIM card %1: no preset matches it</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STORAGE_PROBLEM</source>
+        <extracomment>Warning line below the bar; %1 is a technical English line "file:line:column: reason".</extracomment>
+        <translation>Storage problem: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_PROBLEM</source>
+        <extracomment>Line at the bottom of the window; %1 is a plug-in's file name, %2 one of the next four reasons.</extracomment>
+        <translation>%1 can't be used: %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_LOAD_FAILED</source>
+        <extracomment>Reason why a plug-in can't be used; %1 is the system's English message.</extracomment>
+        <translation>it can't be loaded (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_FOREIGN</source>
+        <extracomment>Reason why a plug-in can't be used.</extracomment>
+        <translation>it is not a plug-in of this program</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_TAKEN</source>
+        <extracomment>Reason why a plug-in can't be used.</extracomment>
+        <translation>another plug-in has the same identifier</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_INIT_FAILED</source>
+        <extracomment>Reason why a plug-in can't be used.</extracomment>
+        <translation>it could not start</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PROBLEM</source>
+        <extracomment>Line at the bottom of the window; %1 is a technical English reason.</extracomment>
+        <translation>The modem can't be used: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NAME</source>
+        <extracomment>Name of the host's own settings page in the list on the left; up to 16 characters.</extracomment>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LANGUAGE</source>
+        <extracomment>Label before the box of languages. No mnemonic.</extracomment>
+        <translation>Language:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCK_DEFAULT</source>
+        <extracomment>Check box on the host's own page; hides the button of the profile page that makes a profile the default. Names that button as it is written there.</extracomment>
+        <translation>Keep the default profile: hide the "Set default" button</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
+        <extracomment>Message: the host's settings file can't be written.</extracomment>
+        <translation>The settings could not be stored.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_TITLE</source>
+        <extracomment>Title of the panel at the right; up to 24 characters.</extracomment>
+        <translation>Simulated modem</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_IMSI</source>
+        <extracomment>Label in the panel, before the subscriber number on the SIM card; up to 16 characters.</extracomment>
+        <translation>IMSI:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARD</source>
+        <extracomment>Grey hint in the IMSI field while it is empty; up to 16 characters.</extracomment>
+        <translation>no card</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_READY</source>
+        <extracomment>Check box in the panel: the modem is ready; up to 24 characters.</extracomment>
+        <translation>Ready</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_MULTI_MODE</source>
+        <extracomment>Check box in the panel: the card serves CDMA and WCDMA; up to 24 characters.</extracomment>
+        <translation>Multi-mode card</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE</source>
+        <extracomment>Label in the panel; up to 16 characters.</extracomment>
+        <translation>Card mode:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE_NONE</source>
+        <extracomment>Value of the card mode besides CDMA and WCDMA; up to 16 characters.</extracomment>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PRODUCT_TYPE</source>
+        <extracomment>Label in the panel, before CDMA or WCDMA; up to 16 characters.</extracomment>
+        <translation>Product type:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_MODE</source>
+        <extracomment>Label in the panel, before a number; up to 16 characters.</extracomment>
+        <translation>System mode:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_SUBMODE</source>
+        <extracomment>Label in the panel, before a number; up to 16 characters.</extracomment>
+        <translation>Sub-mode:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_OUTCOME</source>
+        <extracomment>Label in the panel, before what the next dialling ends with; up to 16 characters.</extracomment>
+        <translation>Dialling:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_ANSWERS</source>
+        <extracomment>Outcome of dialling: the connection is made; up to 24 characters.</extracomment>
+        <translation>Answers</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARRIER</source>
+        <extracomment>Outcome of dialling; up to 24 characters.</extracomment>
+        <translation>No carrier</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_AUTHENTICATION_FAILS</source>
+        <extracomment>Outcome of dialling; up to 24 characters.</extracomment>
+        <translation>Authentication fails</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_SIGNAL</source>
+        <extracomment>Outcome of dialling; up to 24 characters.</extracomment>
+        <translation>No signal</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_INITIALISE</source>
+        <extracomment>Button in the panel: the modem reports that it has finished initialising; up to 16 characters. No mnemonic.</extracomment>
+        <translation>Initialise</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CHANGE_CARD</source>
+        <extracomment>Button in the panel: the modem reports that its card was changed; up to 16 characters. No mnemonic.</extracomment>
+        <translation>Change card</translation>
+    </message>
+</context>
+</TS>

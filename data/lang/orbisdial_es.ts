@@ -1,0 +1,533 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>DialupPlugin</name>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TITLE</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TEXT</source>
+        <translation>Nombre de usuario y contraseña para «%1»:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USER</source>
+        <translation>Nombre de usuario:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PASSWORD</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CONNECT</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SETTINGS</source>
+        <translation>La configuración de la conexión no está cargada.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DEFAULT</source>
+        <translation>No hay ningún perfil por defecto. Elija uno en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_PROFILE</source>
+        <translation>No existe ningún perfil «%1».</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SIMULATED</source>
+        <translation>Solo el módem simulado puede marcar.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_READY</source>
+        <translation>El módem no está listo.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARRIER</source>
+        <translation>La red no responde (sin portadora).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
+        <translation>La red ha rechazado el nombre de usuario o la contraseña.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SIGNAL</source>
+        <translation>El módem no tiene señal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>Se ha cancelado la conexión.</translation>
+    </message>
+</context>
+<context>
+    <name>NetConnectPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>IDS_TABPAGE_NETCONNECTSETTINGDLG_DIALUP</source>
+        <translation>Acceso telefónico</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
+        <translation>Pe&amp;rfil de conexión</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_VALIDATE</source>
+        <translation>Autenticación</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_GROUP_Authentication_protocol</source>
+        <translation>Autenticación mediante</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_APN_NAME</source>
+        <translation>&amp;APN:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_NUMBER</source>
+        <translation>N.º de acce&amp;so:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_USENAME</source>
+        <translation>&amp;Usuario:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_PASSWORD</source>
+        <translation>C&amp;ontraseña:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_DYNAMIC</source>
+        <translation>Dinámico</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_STATIC</source>
+        <translation>Fijo</translation>
+    </message>
+    <message>
+        <source>IDS_USERNAME_AND_PASSWORD</source>
+        <translation>Pregun&amp;tar al conectar</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_CHAP</source>
+        <translation>C&amp;HAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_PAP</source>
+        <translation>&amp;PAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NEW</source>
+        <translation>&amp;Nuevo</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_DELETE</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_EDIT</source>
+        <translation>&amp;Modificar</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_SAVE</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NO_SAVE</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>Por de&amp;fecto</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_OUTPUT</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_HIGH</source>
+        <translation>A&amp;vanzado…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>(por defecto)</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>Configuración de la conexión</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_YES</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>IDS_NO</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME</source>
+        <translation>Escriba un nombre para el perfil.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME_SAME</source>
+        <translation>Ya existe un perfil con este nombre. Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_PROFILENAMEERR</source>
+        <translation>El nombre del perfil no puede contener ninguno de estos caracteres: </translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_NULLNUMBER</source>
+        <translation>Escriba el número de acceso, por ejemplo *99#.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_ERROR</source>
+        <translation>El APN no es válido. Puede contener letras, dígitos, puntos y guiones, y debe empezar y terminar con una letra o un dígito.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUI_DRAFT_DEL</source>
+        <translation>¿Desea eliminar este perfil?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_QUERY_USER_TO_SAVE</source>
+        <translation>El perfil tiene cambios sin guardar. ¿Desea guardarlos?</translation>
+    </message>
+    <message>
+        <source>IDS_NET_TIPS_PROFILEEXIST</source>
+        <translation>ya existe. ¿Desea reemplazar este perfil?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_IP</source>
+        <translation>La dirección IP no es válida. Escriba una como 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_DNS_IP</source>
+        <translation>La dirección del servidor DNS no es válida. Escriba una como 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_WINS_IP</source>
+        <translation>La dirección del servidor WINS no es válida. Escriba una como 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_IMPORTDLG</source>
+        <translation>Importar perfiles</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_EXPORTDLG</source>
+        <translation>Exportar perfiles</translation>
+    </message>
+    <message>
+        <source>IDS_TREENODE_PROFILEINPUTDLG_DIALUP</source>
+        <translation>Perfiles de acceso telefónico</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
+        <translation>E&amp;xaminar…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_DIALUPDLG_ADVANCE</source>
+        <translation>Configuración avanzada</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_APN_IP</source>
+        <translation>Dirección IP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_DNS</source>
+        <translation>Servidores DNS</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_WINS</source>
+        <translation>Servidores WINS</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_IP</source>
+        <translation>Dirección &amp;IP:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS</source>
+        <translation>P&amp;rimario:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS_SECOND</source>
+        <translation>&amp;Secundario:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS1</source>
+        <translation>Pri&amp;mario:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS_SECOND</source>
+        <translation>S&amp;ecundario:</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_NEW_PROFILE</source>
+        <translation>Perfil nuevo</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_READONLY</source>
+        <translation>Este perfil es de solo lectura. Para cambiarlo, pulse «Nuevo» e introduzca sus valores con otro nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
+        <translation>Este perfil está predefinido. Para cambiarlo, pulse «Nuevo» e introduzca sus valores con otro nombre.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
+        <translation>Este perfil está conectado. Desconéctese primero.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_DEFAULT_CONNECTED</source>
+        <translation>El perfil por defecto no se puede cambiar durante una conexión. Desconéctese primero.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_NO_PROFILE</source>
+        <translation>Todavía no hay ningún perfil. Pulse «Nuevo» para crear uno.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_EDIT_OPEN</source>
+        <translation>Se está modificando un perfil. Pulse primero «Guardar» o «Deshacer».</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
+        <translation>No se pudo guardar el perfil. No se ha perdido nada: corrija el problema y vuelva a pulsar «Guardar».</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_HINT_PASSWORD</source>
+        <translation>Hay caracteres no admitidos: use solo los de Europa occidental.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_LIST</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_NAME</source>
+        <translation>Nombre del perfil</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_TRANSFER_TREE</source>
+        <translation>Perfiles para elegir</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_WILDCARD</source>
+        <translation>Un nombre de archivo no puede contener «*». Escriba otro.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
+        <translation>ya existe. Sus perfiles se conservan y los del mismo nombre se reemplazan. ¿Desea exportar a este archivo?</translation>
+    </message>
+</context>
+<context>
+    <name>OrbisDial</name>
+    <message>
+        <source>IDS_HOST_TITLE</source>
+        <translation>OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TITLE_SIMULATED</source>
+        <translation>OrbisDial (módem simulado)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CANCEL</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PAGES</source>
+        <translation>Páginas de configuración</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DEFAULT_PROFILE</source>
+        <translation>Perfil por defecto: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
+        <translation>Sin perfil por defecto</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DISCONNECT</source>
+        <translation>Desconectar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTED</source>
+        <translation>Sin conexión</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING</source>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTED</source>
+        <translation>Conectado con %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTING</source>
+        <translation>Desconectando…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_FAILED</source>
+        <translation>Sin conexión: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER</source>
+        <translation>No hay ningún complemento de acceso telefónico cargado</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NONE</source>
+        <translation>No se ha encontrado ninguna tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM</source>
+        <translation>Tarjeta SIM %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PRESET</source>
+        <translation>Tarjeta SIM %1: perfil predefinido «%2», elegido por su prefijo %3</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PREFIX</source>
+        <translation>Tarjeta SIM %1: el prefijo %2 es conocido, pero ninguno de sus perfiles se propone por defecto</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NO_MATCH</source>
+        <translation>Tarjeta SIM %1: ningún perfil predefinido coincide</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STORAGE_PROBLEM</source>
+        <translation>Problema de almacenamiento: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_PROBLEM</source>
+        <translation>%1 no se puede usar: %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_LOAD_FAILED</source>
+        <translation>no se puede cargar (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_FOREIGN</source>
+        <translation>no es un complemento de este programa</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_TAKEN</source>
+        <translation>otro complemento tiene el mismo identificador</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_INIT_FAILED</source>
+        <translation>no se ha podido iniciar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PROBLEM</source>
+        <translation>El módem no se puede usar: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NAME</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LANGUAGE</source>
+        <translation>Idioma:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCK_DEFAULT</source>
+        <translation>Mantener el perfil por defecto: ocultar el botón «Por defecto»</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
+        <translation>No se pudo guardar la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_TITLE</source>
+        <translation>Módem simulado</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_IMSI</source>
+        <translation>IMSI:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARD</source>
+        <translation>sin tarjeta</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_READY</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_MULTI_MODE</source>
+        <translation>Tarjeta multimodo</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE</source>
+        <translation>Modo de tarjeta:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE_NONE</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PRODUCT_TYPE</source>
+        <translation>Tipo de módem:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_MODE</source>
+        <translation>Modo de sistema:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_SUBMODE</source>
+        <translation>Submodo:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_OUTCOME</source>
+        <translation>Llamada:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_ANSWERS</source>
+        <translation>Responde</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARRIER</source>
+        <translation>Sin portadora</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_AUTHENTICATION_FAILS</source>
+        <translation>Autenticación fallida</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_SIGNAL</source>
+        <translation>Sin señal</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_INITIALISE</source>
+        <translation>Inicializar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CHANGE_CARD</source>
+        <translation>Cambiar tarjeta</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,533 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>DialupPlugin</name>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TITLE</source>
+        <translation>Подключение</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PROMPT_TEXT</source>
+        <translation>Имя пользователя и пароль для «%1»:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USER</source>
+        <translation>Имя пользователя:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_PASSWORD</source>
+        <translation>Пароль:</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CONNECT</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SETTINGS</source>
+        <translation>Параметры подключения не загружены.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DEFAULT</source>
+        <translation>Основной профиль не задан. Выберите его в параметрах.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_PROFILE</source>
+        <translation>Профиля «%1» нет.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SIMULATED</source>
+        <translation>Дозвон возможен только через имитацию модема.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_READY</source>
+        <translation>Модем не готов.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARRIER</source>
+        <translation>Сеть не отвечает (нет несущей).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
+        <translation>Сеть отклонила имя пользователя или пароль.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_SIGNAL</source>
+        <translation>Нет сигнала сети.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>Подключение отменено.</translation>
+    </message>
+</context>
+<context>
+    <name>NetConnectPlugin</name>
+    <message>
+        <source>IDS_SETTING_NAME</source>
+        <translation>Подключение</translation>
+    </message>
+    <message>
+        <source>IDS_TABPAGE_NETCONNECTSETTINGDLG_DIALUP</source>
+        <translation>Дозвон</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
+        <translation>Про&amp;филь подключения</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_VALIDATE</source>
+        <translation>Аутентификация</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_GROUP_Authentication_protocol</source>
+        <translation>Протокол входа</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_APN_NAME</source>
+        <translation>&amp;Точка доступа:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_NUMBER</source>
+        <translation>&amp;Номер дозвона:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_USENAME</source>
+        <translation>По&amp;льзователь:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_PASSWORD</source>
+        <translation>Па&amp;роль:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_DYNAMIC</source>
+        <translation>Авто</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_RADIO_APN_IP_STATIC</source>
+        <translation>Вручную</translation>
+    </message>
+    <message>
+        <source>IDS_USERNAME_AND_PASSWORD</source>
+        <translation>&amp;Запрашивать при входе</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_CHAP</source>
+        <translation>CHAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_CHECK_PAP</source>
+        <translation>PAP</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NEW</source>
+        <translation>&amp;Создать</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_DELETE</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_EDIT</source>
+        <translation>&amp;Изменить</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_SAVE</source>
+        <translation>Со&amp;хранить</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_NO_SAVE</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>Осно&amp;вной</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
+        <translation>Им&amp;порт…</translation>
+    </message>
+    <message>
+        <source>IDS_BTN_NETCONNECTSETTINGDLG_OUTPUT</source>
+        <translation>&amp;Экспорт…</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BUTTON_HIGH</source>
+        <translation>&amp;Ещё…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_NETCONNECTSETTINGDLG_DEFAULT</source>
+        <translation>(основной)</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>Параметры подключения</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>IDS_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_YES</source>
+        <translation>&amp;Да</translation>
+    </message>
+    <message>
+        <source>IDS_NO</source>
+        <translation>&amp;Нет</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME</source>
+        <translation>Введите имя профиля.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_PROFILE_NAME_SAME</source>
+        <translation>Профиль с таким именем уже существует. Выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_PROFILENAMEERR</source>
+        <translation>Имя профиля не должно содержать следующих символов: </translation>
+    </message>
+    <message>
+        <source>IDS_MSG_CONNECTSETTINGDLG_NULLNUMBER</source>
+        <translation>Введите номер дозвона, например *99#.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_ERROR</source>
+        <translation>Недопустимое имя точки доступа. Оно может содержать буквы, цифры, точки и дефисы и должно начинаться и заканчиваться буквой или цифрой.</translation>
+    </message>
+    <message>
+        <source>IDS_SMSUI_DRAFT_DEL</source>
+        <translation>Удалить этот профиль?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_QUERY_USER_TO_SAVE</source>
+        <translation>В профиле есть несохранённые изменения. Сохранить их?</translation>
+    </message>
+    <message>
+        <source>IDS_NET_TIPS_PROFILEEXIST</source>
+        <translation>уже существует. Заменить этот профиль?</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_APN_IP</source>
+        <translation>Недопустимый IP-адрес. Введите адрес вида 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_DNS_IP</source>
+        <translation>Недопустимый адрес DNS-сервера. Введите адрес вида 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_PROMPT_WINS_IP</source>
+        <translation>Недопустимый адрес WINS-сервера. Введите адрес вида 192.0.2.1.</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_IMPORTDLG</source>
+        <translation>Импорт профилей</translation>
+    </message>
+    <message>
+        <source>IDS_TITLE_EXPORTDLG</source>
+        <translation>Экспорт профилей</translation>
+    </message>
+    <message>
+        <source>IDS_TREENODE_PROFILEINPUTDLG_DIALUP</source>
+        <translation>Профили подключения</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
+        <translation>О&amp;бзор…</translation>
+    </message>
+    <message>
+        <source>IDS_STC_DIALUPDLG_ADVANCE</source>
+        <translation>Дополнительные параметры</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_GROUP_APN_IP</source>
+        <translation>IP-адрес</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_DNS</source>
+        <translation>DNS-серверы</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_SET_WINS</source>
+        <translation>WINS-серверы</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_IP</source>
+        <translation>IP-&amp;адрес:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS</source>
+        <translation>&amp;Первый:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_DNS_SECOND</source>
+        <translation>&amp;Второй:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS1</source>
+        <translation>П&amp;ервый:</translation>
+    </message>
+    <message>
+        <source>IDS_SETTING_STATIC_WINS_SECOND</source>
+        <translation>Вт&amp;орой:</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_NEW_PROFILE</source>
+        <translation>Новый профиль</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_READONLY</source>
+        <translation>Этот профиль доступен только для чтения. Чтобы изменить его, нажмите «Создать» и введите его значения под другим именем.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
+        <translation>Это готовый профиль оператора. Чтобы изменить его, нажмите «Создать» и введите его значения под другим именем.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
+        <translation>Этот профиль подключён. Сначала отключитесь.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_DEFAULT_CONNECTED</source>
+        <translation>Основной профиль нельзя сменить во время подключения. Сначала отключитесь.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_NO_PROFILE</source>
+        <translation>Профилей пока нет. Нажмите «Создать», чтобы добавить профиль.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_EDIT_OPEN</source>
+        <translation>Профиль редактируется. Сначала нажмите «Сохранить» или «Отменить».</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
+        <translation>Не удалось сохранить профиль. Ничего не потеряно: устраните проблему и снова нажмите «Сохранить».</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_HINT_PASSWORD</source>
+        <translation>Есть недопустимые символы: используйте западноевропейские.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_LIST</source>
+        <translation>Профиль</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_PROFILE_NAME</source>
+        <translation>Имя профиля</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_ACC_TRANSFER_TREE</source>
+        <translation>Профили на выбор</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_WILDCARD</source>
+        <translation>Имя файла не может содержать «*». Введите другое имя.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
+        <translation>уже существует. Профили этого файла сохранятся, одноимённые будут заменены. Экспортировать в него?</translation>
+    </message>
+</context>
+<context>
+    <name>OrbisDial</name>
+    <message>
+        <source>IDS_HOST_TITLE</source>
+        <translation>OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TITLE_SIMULATED</source>
+        <translation>OrbisDial (имитация модема)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CANCEL</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PAGES</source>
+        <translation>Страницы параметров</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DEFAULT_PROFILE</source>
+        <translation>Основной профиль: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
+        <translation>Основной профиль не задан</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DISCONNECT</source>
+        <translation>Отключиться</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTED</source>
+        <translation>Нет подключения</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING</source>
+        <translation>Подключение…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTED</source>
+        <translation>Подключено: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_DISCONNECTING</source>
+        <translation>Отключение…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_FAILED</source>
+        <translation>Нет подключения: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER</source>
+        <translation>Модуль подключения не загружен</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NONE</source>
+        <translation>SIM-карта не найдена</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM</source>
+        <translation>SIM-карта %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PRESET</source>
+        <translation>SIM-карта %1: готовый профиль «%2», выбран по префиксу %3</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_PREFIX</source>
+        <translation>SIM-карта %1: префикс %2 известен, но ни один из его профилей не предложен как основной</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIM_NO_MATCH</source>
+        <translation>SIM-карта %1: подходящего готового профиля нет</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STORAGE_PROBLEM</source>
+        <translation>Проблема с сохранением: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_PROBLEM</source>
+        <translation>%1 не используется: %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_LOAD_FAILED</source>
+        <translation>не удалось загрузить (%1)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_FOREIGN</source>
+        <translation>это не модуль этой программы</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_TAKEN</source>
+        <translation>другой модуль имеет тот же идентификатор</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PLUGIN_INIT_FAILED</source>
+        <translation>не удалось запустить</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PROBLEM</source>
+        <translation>Модем недоступен: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NAME</source>
+        <translation>Программа</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LANGUAGE</source>
+        <translation>Язык:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCK_DEFAULT</source>
+        <translation>Не менять основной профиль: скрыть кнопку «Основной»</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
+        <translation>Не удалось сохранить параметры.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_TITLE</source>
+        <translation>Имитация модема</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_IMSI</source>
+        <translation>IMSI:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARD</source>
+        <translation>нет карты</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_READY</source>
+        <translation>Готов</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_MULTI_MODE</source>
+        <translation>Многорежимная карта</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE</source>
+        <translation>Режим карты:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CARD_MODE_NONE</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_PRODUCT_TYPE</source>
+        <translation>Тип устройства:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_MODE</source>
+        <translation>Режим системы:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_SYSTEM_SUBMODE</source>
+        <translation>Подрежим:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_OUTCOME</source>
+        <translation>Дозвон:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_ANSWERS</source>
+        <translation>Ответ получен</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_CARRIER</source>
+        <translation>Нет несущей</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_AUTHENTICATION_FAILS</source>
+        <translation>Ошибка аутентификации</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_NO_SIGNAL</source>
+        <translation>Нет сигнала</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_INITIALISE</source>
+        <translation>Инициализация</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_CHANGE_CARD</source>
+        <translation>Сменить карту</translation>
+    </message>
+</context>
+</TS>
