@@ -1,5 +1,5 @@
 # For authors of plug-ins: find_package(OrbisDial) gives OrbisDial::orbis_interfaces, the abstract plug-in
-# interfaces and the profile records.
+# interfaces and the profile records, and OrbisDial::hostcore, the host core library with the plug-in container.
 include(CMakeFindDependencyMacro)
 find_dependency(Qt5 5.15 COMPONENTS Core Widgets)
 include(${CMAKE_CURRENT_LIST_DIR}/OrbisDialTargets.cmake)

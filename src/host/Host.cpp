@@ -1,0 +1,51 @@
+#include "Host.h"
+
+#include "Change.h"
+#include "CommonUtils.h"
+#include "ModemPanel.h"
+#include "SettingsPages.h"
+#include "Startup.h"
+
+Host::Host() : m_Plugins(&m_NotifyService) {
+    CommonUtils::SetMainWindow(&m_Window);
+    Startup::GetPluginContainer()->AddPlugin(&m_NotifyService, ORBISDIAL_NOTIFYSERVICE_CLSID, NotifyServicePluginKind);
+    m_NotifyService.AddListener(ORBISDIAL_HOST_LISTENER_CLSID, this);
+
+    m_Refresh.setSingleShot(true);
+    connect(&m_Refresh, &QTimer::timeout, &m_Window, &MainWindow::refresh);
+    connect(&m_SettingsPage, &HostSettingsPage::languageChosen, this, &Host::changeLanguage);
+    connectModemPanel();
+
+    m_Plugins.start(CommonUtils::GetPluginLibraryPath() + QStringLiteral("/plugins"));
+    m_Window.pages()->setPages(m_Plugins.pages() + QVector<SettingsPage>{{&m_SettingsPage, &m_SettingsPage, "Host"}});
+    m_Window.setProblems(m_Plugins.problems());
+}
+
+Host::~Host() {
+    m_Window.pages()->clear();
+    m_Plugins.stop();
+    m_NotifyService.RemoveListener(this);
+    Startup::GetPluginContainer()->RemovePlugin(&m_NotifyService);
+    CommonUtils::SetMainWindow(nullptr);
+}
+
+bool Host::changeLanguage(const QString& code) {
+    if (!Change::SetLanguage(code)) return false;
+    m_Plugins.notifyAll(NotifyLanguageChanged);
+    m_SettingsPage.retranslate();
+    m_Window.retranslate();
+    return true;
+}
+
+int Host::Notify(unsigned int event, unsigned int param1, unsigned int param2) {
+    if (event == NotifyConnectionChanged) m_Plugins.notifyAll(event, param1, param2);
+    m_Refresh.start();
+    return 0;
+}
+
+void Host::connectModemPanel() {
+    ModemPanel* panel = m_Window.modemPanel();
+    if (!panel) return;
+    connect(panel, &ModemPanel::changed, &m_Window, &MainWindow::refresh);
+    connect(panel, &ModemPanel::systemModeChanged, this, [this] { m_Plugins.notifyAll(NotifySystemModeChanged); });
+}

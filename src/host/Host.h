@@ -1,0 +1,42 @@
+// The host: brings the plug-ins, the notification service and the window together.
+#ifndef ORBISDIAL_HOST_H
+#define ORBISDIAL_HOST_H
+
+#include <QTimer>
+
+#include "HostSettingsPage.h"
+#include "INotify.h"
+#include "MainWindow.h"
+#include "NotifyService.h"
+#include "PluginManager.h"
+
+class Host : public QObject, public INotify {
+    Q_OBJECT
+    Q_INTERFACES(INotify)
+
+public:
+    // Starts the plug-ins of the library path. The language must be set before, and the device chosen.
+    Host();
+
+    // Stops the plug-ins, then takes the window away.
+    ~Host() override;
+
+    MainWindow* window() { return &m_Window; }
+
+    // Makes a language current for the host and for every plug-in; false when it is not shipped.
+    bool changeLanguage(const QString& code);
+
+    // An event that a plug-in sent, whomever to. The window is brought up to date once the sender has finished.
+    int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
+
+private:
+    void connectModemPanel();
+
+    NotifyService m_NotifyService;
+    PluginManager m_Plugins;
+    HostSettingsPage m_SettingsPage;
+    MainWindow m_Window;
+    QTimer m_Refresh;
+};
+
+#endif

@@ -1,0 +1,12 @@
+#include "HostText.h"
+
+QString hostText(const char* id, const QStringList& values) {
+    const QStringList parts = hostText(id).split(QLatin1Char('%'));
+    QString text = parts.first();
+    for (int i = 1; i < parts.size(); ++i) {
+        const int number = parts[i].left(1).toInt();
+        const bool isPlace = number >= 1 && number <= values.size();
+        text += isPlace ? values[number - 1] + parts[i].mid(1) : QLatin1Char('%') + parts[i];
+    }
+    return text;
+}

@@ -1,0 +1,32 @@
+#include "Languages.h"
+
+#include <QLocale>
+
+#include "Change.h"
+#include "CommonUtils.h"
+
+namespace {
+
+const QString Group = QStringLiteral("Host");
+const QString Key = QStringLiteral("language");
+const QString English = QStringLiteral("en");
+
+}  // namespace
+
+QString Languages::title(const QString& code) {
+    // Qt names these after one country.
+    if (code == English) return QStringLiteral("English");
+    if (code == QLatin1String("es")) return QStringLiteral("español");
+    return QLocale(code).nativeLanguageName();
+}
+
+void Languages::useStored() {
+    QStringList candidates = QLocale::system().uiLanguages();
+    candidates.prepend(CommonUtils::GetSettings(Group, Key));
+    candidates.append(English);
+    for (const QString& code : qAsConst(candidates)) {
+        if (Change::SetLanguage(code)) return;
+    }
+}
+
+bool Languages::store(const QString& code) { return CommonUtils::SetSettings(Group, Key, code); }

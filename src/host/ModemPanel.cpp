@@ -1,0 +1,199 @@
+#include "ModemPanel.h"
+
+#include <vrks_simulated.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QSpinBox>
+#include <cstring>
+
+#include "HostText.h"
+#include "IDialupUIService.h"
+#include "Startup.h"
+
+namespace {
+
+constexpr int NotReady = 0;
+constexpr int GreatestMode = 99;  // the modes that mean something are well below
+
+// A choice of a box; a text without an ID is the same in every language.
+struct Choice {
+    const char* id;
+    const char* text;
+    QVariant value;
+};
+
+const QVector<Choice> CardModes = {
+    {"IDS_HOST_MODEM_CARD_MODE_NONE", nullptr, 0}, {nullptr, "WCDMA", 1}, {nullptr, "CDMA", 2}};
+
+const QVector<Choice> ProductTypes = {{nullptr, "WCDMA", 0}, {nullptr, "CDMA", VRKS_PRODUCT_TYPE_CDMA}};
+
+const QVector<Choice> Outcomes = {
+    {"IDS_HOST_MODEM_ANSWERS", nullptr, ORBISDIAL_OUTCOME_ANSWERS},
+    {"IDS_HOST_MODEM_NO_CARRIER", nullptr, ORBISDIAL_OUTCOME_NO_CARRIER},
+    {"IDS_HOST_MODEM_AUTHENTICATION_FAILS", nullptr, ORBISDIAL_OUTCOME_AUTHENTICATION_FAILS},
+    {"IDS_HOST_MODEM_NO_SIGNAL", nullptr, ORBISDIAL_OUTCOME_NO_SIGNAL},
+};
+
+QComboBox* makeBox(const char* name, const QVector<Choice>& choices) {
+    auto* box = new QComboBox;
+    box->setObjectName(QLatin1String(name));
+    for (const Choice& choice : choices) box->addItem(QLatin1String(choice.text), choice.value);
+    return box;
+}
+
+QCheckBox* makeCheckBox(const char* name) {
+    auto* box = new QCheckBox;
+    box->setObjectName(QLatin1String(name));
+    return box;
+}
+
+void retranslateBox(QComboBox* box, const QVector<Choice>& choices) {
+    for (int i = 0; i < choices.size(); ++i) {
+        if (choices[i].id) box->setItemText(i, hostText(choices[i].id));
+    }
+}
+
+void select(QComboBox* box, const QVariant& value) { box->setCurrentIndex(qMax(0, box->findData(value))); }
+
+QObject* dialer() { return Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_DIALUP_CLSID, DialupPluginKind); }
+
+int numberAt(const char* record, int offset) {
+    qint32 number = 0;
+    std::memcpy(&number, record + offset, sizeof number);
+    return number;
+}
+
+}  // namespace
+
+ModemPanel::ModemPanel(QWidget* parent)
+    : QGroupBox(parent),
+      m_Imsi(new QLineEdit),
+      m_Ready(makeCheckBox("ModemPanel_Ready")),
+      m_MultiMode(makeCheckBox("ModemPanel_MultiMode")),
+      m_CardMode(makeBox("ModemPanel_CardMode", CardModes)),
+      m_ProductType(makeBox("ModemPanel_ProductType", ProductTypes)),
+      m_SystemMode(makeNumber("ModemPanel_SystemMode")),
+      m_SystemSubMode(makeNumber("ModemPanel_SystemSubMode")),
+      m_Outcome(makeBox("ModemPanel_Outcome", Outcomes)) {
+    setObjectName(QStringLiteral("ModemPanel"));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    m_Imsi->setObjectName(QStringLiteral("ModemPanel_Imsi"));
+    m_Imsi->setMaxLength(VRKS_IMSI_SIZE - 1);
+    m_Imsi->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), m_Imsi));
+    m_Imsi->setMinimumWidth(fontMetrics().averageCharWidth() * (VRKS_IMSI_SIZE + 4));
+
+    auto* form = new QFormLayout(this);
+    buildCard(form);
+    buildNetwork(form);
+    makeEventButton(form, "ModemPanel_Initialise", "IDS_HOST_MODEM_INITIALISE", VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
+    makeEventButton(form, "ModemPanel_ChangeCard", "IDS_HOST_MODEM_CHANGE_CARD", VRKS_EVENT_DEV_CARD_CHANGED);
+    readModem();
+    connectControls();
+}
+
+void ModemPanel::refresh() {
+    if (QObject* object = dialer()) select(m_Outcome, object->property(ORBISDIAL_SIMULATED_OUTCOME));
+}
+
+void ModemPanel::retranslate() {
+    setTitle(hostText("IDS_HOST_MODEM_TITLE"));
+    for (const Text& text : qAsConst(m_Texts)) text.widget->setProperty("text", hostText(text.id));
+    m_Imsi->setPlaceholderText(hostText("IDS_HOST_MODEM_NO_CARD"));
+    retranslateBox(m_CardMode, CardModes);
+    retranslateBox(m_Outcome, Outcomes);
+}
+
+void ModemPanel::buildCard(QFormLayout* form) {
+    addRow(form, "IDS_HOST_MODEM_IMSI", m_Imsi);
+    form->addRow(m_Ready);
+    form->addRow(m_MultiMode);
+    m_Texts.append({m_Ready, "IDS_HOST_MODEM_READY"});
+    m_Texts.append({m_MultiMode, "IDS_HOST_MODEM_MULTI_MODE"});
+    addRow(form, "IDS_HOST_MODEM_CARD_MODE", m_CardMode);
+}
+
+void ModemPanel::buildNetwork(QFormLayout* form) {
+    addRow(form, "IDS_HOST_MODEM_PRODUCT_TYPE", m_ProductType);
+    addRow(form, "IDS_HOST_MODEM_SYSTEM_MODE", m_SystemMode);
+    addRow(form, "IDS_HOST_MODEM_SYSTEM_SUBMODE", m_SystemSubMode);
+    addRow(form, "IDS_HOST_MODEM_OUTCOME", m_Outcome);
+}
+
+void ModemPanel::addRow(QFormLayout* form, const char* id, QWidget* field) {
+    auto* label = new QLabel;
+    label->setBuddy(field);
+    form->addRow(label, field);
+    m_Texts.append({label, id});
+}
+
+QSpinBox* ModemPanel::makeNumber(const char* name) {
+    auto* number = new QSpinBox;
+    number->setObjectName(QLatin1String(name));
+    number->setMaximum(GreatestMode);
+    return number;
+}
+
+void ModemPanel::makeEventButton(QFormLayout* form, const char* name, const char* id, int event) {
+    auto* button = new QPushButton;
+    button->setObjectName(QLatin1String(name));
+    connect(button, &QPushButton::clicked, this, [event] { vrks_simulated_raise_event(event); });
+    form->addRow(button);
+    m_Texts.append({button, id});
+}
+
+void ModemPanel::readModem() {
+    char imsi[VRKS_IMSI_SIZE] = "";
+    int status = NotReady;
+    int productType = 0;
+    unsigned char isMultiMode = 0;
+    unsigned int cardMode = 0;
+    char systemInfo[VRKS_SYSINFO_SIZE] = "";
+    VRKS_DevSrv_GetImsiInfo(imsi);
+    VRKS_DevSrv_GetDevStatus(&status);
+    VRKS_DevSrv_GetProductType(&productType);
+    VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, nullptr, nullptr, &cardMode);
+    VRKS_NetSrv_GetSysInfoEx(systemInfo);
+
+    m_Imsi->setText(QString::fromLatin1(imsi));
+    m_Ready->setChecked(status == VRKS_DEV_STATUS_READY);
+    m_MultiMode->setChecked(isMultiMode != 0);
+    select(m_CardMode, cardMode);
+    select(m_ProductType, productType);
+    m_SystemMode->setValue(numberAt(systemInfo, 4));
+    m_SystemSubMode->setValue(numberAt(systemInfo, 20));
+}
+
+void ModemPanel::connectControls() {
+    const auto activated = QOverload<int>::of(&QComboBox::activated);
+    const auto valueChanged = QOverload<int>::of(&QSpinBox::valueChanged);
+    connect(m_Imsi, &QLineEdit::editingFinished, this, [this] { set("IMSI", m_Imsi->text()); });
+    connect(m_Ready, &QCheckBox::clicked, this,
+            [this](bool on) { set("STATUS", on ? VRKS_DEV_STATUS_READY : NotReady); });
+    connect(m_MultiMode, &QCheckBox::clicked, this, [this](bool on) { set("MULTI_MODE", int(on)); });
+    connect(m_CardMode, activated, this, [this] { set("CARD_MODE", m_CardMode->currentData()); });
+    connect(m_ProductType, activated, this, [this] { set("PRODUCT_TYPE", m_ProductType->currentData()); });
+    connect(m_SystemMode, valueChanged, this, [this](int mode) { setSystemMode("SYS_MODE", mode); });
+    connect(m_SystemSubMode, valueChanged, this, [this](int mode) { setSystemMode("SYS_SUBMODE", mode); });
+    connect(m_Outcome, activated, this, &ModemPanel::setOutcome);
+}
+
+void ModemPanel::set(const char* name, const QVariant& value) {
+    const QByteArray text = value.toString().toLatin1();
+    vrks_simulated_set(name, text.isEmpty() ? nullptr : text.constData());
+    emit changed();
+}
+
+void ModemPanel::setSystemMode(const char* name, int mode) {
+    set(name, mode);
+    emit systemModeChanged();
+}
+
+void ModemPanel::setOutcome() {
+    if (QObject* object = dialer()) object->setProperty(ORBISDIAL_SIMULATED_OUTCOME, m_Outcome->currentData());
+}

@@ -1,0 +1,20 @@
+// The host's command line.
+#ifndef ORBISDIAL_OPTIONS_H
+#define ORBISDIAL_OPTIONS_H
+
+#include <QString>
+
+class QCoreApplication;
+
+struct Options {
+    QString language;    // empty: the stored one, or the system's
+    QString device;      // empty: what the environment says
+    QString screenshot;  // the file to write; empty: none
+    QString page;        // empty: the first
+    bool trace = false;
+
+    // Reads the application's arguments. Ends the process for --help, --version and a wrong usage.
+    static Options fromArguments(const QCoreApplication& application);
+};
+
+#endif
