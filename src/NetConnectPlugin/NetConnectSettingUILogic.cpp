@@ -59,14 +59,20 @@ NetConnectSettingUILogic::~NetConnectSettingUILogic() {
     NetConnectXMLParse::Destroy();
 }
 
-// A default that the configuration proposed is not left in the user's file.
-void NetConnectSettingUILogic::clearAutomaticDefault() {
-    if (m_strDefaultProfile.isEmpty()) return;
+bool NetConnectSettingUILogic::isAutomaticDefault() {
+    if (m_strDefaultProfile.isEmpty()) return false;
     bool followsIMSI = false;
     GetFunctionConfigValue("IMSIAPN", &followsIMSI);
     const bool isIMSIListInForce = !m_IMSIProfileList.isEmpty() && followsIMSI;
-    const QString proposal = isIMSIListInForce ? imsiProposal() : m_strAPNDefaultProfile;
-    if (m_strDefaultProfile == proposal) SetDefaultDialUpProfileName(QLatin1String(""), false);
+    return m_strDefaultProfile == (isIMSIListInForce ? imsiProposal() : m_strAPNDefaultProfile);
+}
+
+// A default that the configuration proposed is not left in the user's file.
+void NetConnectSettingUILogic::clearAutomaticDefault() {
+    if (!isAutomaticDefault()) return;
+    NetConnectOperation operation(this);
+    // The user may have chosen one in another process meanwhile.
+    if (isAutomaticDefault()) SetDefaultDialUpProfileName(QLatin1String(""), false);
 }
 
 int NetConnectSettingUILogic::Init() {
@@ -206,8 +212,14 @@ int NetConnectSettingUILogic::readUserProfiles() {
         m_pXMLParse->GetAllProfileFromUserDataXML(&m_UserProfileList, &m_strDefaultProfile, QString(), &isUserSet);
     m_bIsUserSet = isUserSet;
     m_StoredDefault = NetConnectDefault(m_strDefaultProfile, m_bIsUserSet);
-    m_UserFileStamp = m_pXMLParse->userFileStamp();
+    rememberUserFile(status);
     return status;
+}
+
+// A file that could not be read is read again before anything is written over it, though it did not change.
+void NetConnectSettingUILogic::rememberUserFile(int status) {
+    m_UserFileStamp = m_pXMLParse->userFileStamp();
+    if (status == FileNotOpened) m_UserFileStamp.settled = false;
 }
 
 bool NetConnectSettingUILogic::lockUserFile(UserFileLock* lock) {
@@ -225,24 +237,27 @@ bool NetConnectSettingUILogic::lockUserFile(UserFileLock* lock) {
 }
 
 // Takes in what other processes wrote since the user's file was last read or written here. The default counts only
-// when they changed it: the one in memory may be newer.
-void NetConnectSettingUILogic::takeInChanges() {
+// when they changed it: the one in memory may be newer. False when the file can't be read at all.
+bool NetConnectSettingUILogic::takeInChanges() {
     const FileStamp stamp = FileStamp::of(m_pXMLParse->userProfilePath());
-    if (m_UserFileStamp.settled && stamp == m_UserFileStamp) return;
+    if (m_UserFileStamp.settled && stamp == m_UserFileStamp) return true;
     QList<DialupProfile> profiles;
     QString defaultName = m_StoredDefault.name;
     bool isUserSet = false;
     const int status = m_pXMLParse->GetAllProfileFromUserDataXML(&profiles, &defaultName, QString(), &isUserSet);
-    m_UserFileStamp = m_pXMLParse->userFileStamp();
-    if (status != Success && status != FileMissing) return;  // what was read before is better than a part
+    rememberUserFile(status);
+    if (status == FileNotOpened) publishStatus();
+    if (status != Success && status != FileMissing)
+        return status != FileNotOpened;  // what was read before is better than a part
 
     m_UserProfileList = profiles;
     userListChanged();
     const NetConnectDefault stored(defaultName, isUserSet);
-    if (stored == m_StoredDefault) return;
+    if (stored == m_StoredDefault) return true;
     m_StoredDefault = stored;
     m_strDefaultProfile = stored.name;
     m_bIsUserSet = stored.isUserSet;
+    return true;
 }
 
 int NetConnectSettingUILogic::writeUserProfiles(bool isUserSet) {

@@ -212,6 +212,7 @@ private:
     void readLibrary(QString* defaultName);
     int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);
     void forgetForeignDefault();
+    bool isAutomaticDefault();
     void clearAutomaticDefault();
     static QString translated(const QString& langid);
     static bool translateName(DialupProfile* profile);
@@ -219,7 +220,8 @@ private:
     // the user's file
     static NetConnectSettingUILogic* instance();
     bool lockUserFile(UserFileLock* lock);
-    void takeInChanges();
+    bool takeInChanges();
+    void rememberUserFile(int status);
     int writeUserProfiles(bool isUserSet);
     Snapshot snapshot() const;
     void restore(const Snapshot& snapshot);

@@ -17,7 +17,7 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
     userListChanged();
     if (!m_pXMLParse) return ObjectMissing;
     forgetForeignDefault();
-    readUserProfiles();
+    const bool isReadable = readUserProfiles() != FileNotOpened;
     if (translateUserProfiles()) {
         NetConnectOperation operation(this);
         translateUserProfiles();  // what another process changed meanwhile
@@ -38,8 +38,11 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
 
     const QString replacement = replacementDefault(listed);
     if (!replacement.isNull()) {
-        m_strDefaultProfile = replacement;
-        SetDefaultDialUpProfileName(m_strDefaultProfile, false);
+        const NetConnectDefault stored = m_StoredDefault;
+        NetConnectOperation operation(this);
+        // Not over what another process has set meanwhile; nor into a file that may hold another, for all we know.
+        if (m_StoredDefault == stored) m_strDefaultProfile = replacement;
+        if (m_StoredDefault == stored && isReadable) SetDefaultDialUpProfileName(replacement, false);
     }
     sortProfileNames(names);
     publishStatus();
@@ -176,7 +179,7 @@ int NetConnectSettingUILogic::AddDialUpProfile(const DialupProfile& profile) {
     }
     m_UserProfileList.append(stored);
     userListChanged();
-    return operation.store(m_bIsUserSet);
+    return operation.store(m_bIsUserSet);  // the list keeps the change whatever becomes of the write
 }
 
 int NetConnectSettingUILogic::DelDialUpProfile(QString name) {

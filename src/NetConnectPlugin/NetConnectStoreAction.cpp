@@ -21,9 +21,9 @@ struct NetConnectStoreAction::State {
     int operations;  // running operations of the logic
     Kind kind;       // of the outermost action
     UserFileLock lock;
-    bool lockFailed;
-    bool isPending;  // something is to be written when the outermost action commits
-    bool isUserSet;  // the default's flag to write
+    bool lockFailed;  // or what the file holds can't be taken in
+    bool isPending;   // something is to be written when the outermost action commits
+    bool isUserSet;   // the default's flag to write
     bool hasSnapshot;
     NetConnectSettingUILogic::Snapshot snapshot;
 };
@@ -58,7 +58,10 @@ int NetConnectStoreAction::commit() {
     const bool isOutermost = now.actions == 1;
     if (isOutermost && now.isPending && now.kind == Change && status == 0 && logic)
         status = logic->writeUserProfiles(now.isUserSet);
-    close();
+    if (isOutermost && status != 0)
+        drop();  // memory holds what the file holds, or a repeated change would find itself done
+    else
+        close();
     return status;
 }
 
@@ -92,8 +95,7 @@ NetConnectOperation::NetConnectOperation(NetConnectSettingUILogic* logic) : m_pL
     NetConnectStoreAction::State& now = NetConnectStoreAction::state();
     ++now.operations;
     if (!now.isBrowsing() && !now.lock.isHeld() && !now.lockFailed) {
-        now.lockFailed = !logic->lockUserFile(&now.lock);
-        if (!now.lockFailed) logic->takeInChanges();
+        now.lockFailed = !logic->lockUserFile(&now.lock) || !logic->takeInChanges();
     }
     if (now.actions > 0 && !now.hasSnapshot) {
         now.snapshot = logic->snapshot();

@@ -1,0 +1,185 @@
+#include "NetConnectUIService.h"
+
+#include <QApplication>
+
+#include "CallTrace.h"
+#include "Change.h"
+#include "CommonUtils.h"
+#include "NetConnectAdvancedSettingDlg.h"
+#include "NetConnectSettingUILogic.h"
+#include "Startup.h"
+#include "Trace.h"
+
+CNetConnectUIService* CNetConnectUIService::m_pInstance = 0;
+
+CNetConnectUIService* CNetConnectUIService::instance() {
+    try {
+        if (!m_pInstance) m_pInstance = new CNetConnectUIService;
+    } catch (...) {
+        // The host must live on without the page.
+    }
+    return m_pInstance;
+}
+
+CNetConnectUIService::CNetConnectUIService() { CallTrace trace(__FILE__, "CNetConnectUIService"); }
+
+CNetConnectUIService::~CNetConnectUIService() {}
+
+void CNetConnectUIService::Destroy() {
+    if (m_pInstance) m_pInstance->OnDestroy();
+    delete m_pInstance;
+    m_pInstance = 0;
+}
+
+void CNetConnectUIService::OnDestroy() {
+    NetConnectSettingUILogic::Destroy();
+    NetConnectAdvancedSettingDlg::Destroy();
+    m_pLogic = 0;
+    m_pAdvancedDlg = 0;
+    delete m_pImportExportDialog;
+    delete m_pNetConnectWidget;
+    forgetPage();
+    m_pPluginContainer = 0;
+    m_pNotifyServicePlugin = 0;
+    m_pNotifyService = 0;
+    m_bActive = m_bHiddenWhileOpen = m_bClosedByButton = false;
+    m_bImporting = m_bReloadPending = false;
+}
+
+void CNetConnectUIService::forgetPage() {
+    m_pNetConectLayout = m_pProfileNameLayout = 0;
+    m_pDialuptabLayout = m_pBtnOtherLayout = m_pGroupBoxLayout = 0;
+    m_pApngrpLayout = m_pSMSCgrpLayout = 0;
+    m_pNetConnectWidget = m_pDialupTabWidget = 0;
+    m_pTabWidget = 0;
+    m_Page = PageWidgets();
+    m_pImportExportDialog = 0;
+    m_pImportExportWidget = 0;
+    m_pImportExportTree = 0;
+    m_pProfileRootItem = m_pCurrentItem = 0;
+    m_pBtnImportExportOk = m_pBtnImportExportCancel = m_pBtnImportExportBrowse = 0;
+    m_nDefaultIndex = -1;
+    endEdit();
+}
+
+bool CNetConnectUIService::Init() {
+    CallTrace trace(__FILE__, "Init", "%s: %s: called", "%s: %s: exit");
+    if (m_pNetConnectWidget) return true;
+    m_pLogic = NetConnectSettingUILogic::GetInstance();
+    if (!m_pLogic) return false;
+    connect(m_pLogic, SIGNAL(DeviceInit()), this, SLOT(onDeviceInitailize()), Qt::UniqueConnection);
+    connect(this, SIGNAL(SysModeChangedSignal()), this, SLOT(onDeviceInitailize()), Qt::UniqueConnection);
+    m_pLogic->PublishStatus(this);
+    m_pLogic->RegisterDevice();
+    initailizeUI();
+    if (m_pAdvancedDlg) m_pAdvancedDlg->InitAdvanceUI(m_pNetConnectWidget);
+    enableDisableUiWidget(false);
+    rebuildList();
+    return true;
+}
+
+void CNetConnectUIService::unSDKRegisterEvent() {
+    CallTrace trace(__FILE__, "unSDKRegisterEvent", "%s: %s called", "%s: %s exit");
+    if (m_pLogic) m_pLogic->UnRegisterDevice();
+}
+
+bool CNetConnectUIService::isObjectMemoryAllocationFail() const {
+    return !m_pNetConectLayout || !m_pDialuptabLayout || !m_pBtnOtherLayout || !m_pGroupBoxLayout ||
+           !m_pProfileNameLayout || !m_pApngrpLayout || !m_pSMSCgrpLayout || !m_pNetConnectWidget || !m_pTabWidget ||
+           !m_pDialupTabWidget;
+}
+
+int CNetConnectUIService::Notify(unsigned int event, unsigned int, unsigned int) {
+    if (event == NotifyLanguageChanged) {
+        if (m_pNetConnectWidget) setLanguage();
+        if (m_pAdvancedDlg) m_pAdvancedDlg->SetLanguage();
+    }
+    if (event == NotifySystemModeChanged) {
+        if (m_pLogic) m_pLogic->ResetFlags();
+        emit SysModeChangedSignal();
+    }
+    return 0;
+}
+
+void CNetConnectUIService::onDeviceInitailize() {
+    if (!m_pLogic) return;
+    m_bReloadPending = m_bImporting;
+    if (m_bReloadPending) return;  // the import works on the lists that a reload would replace
+    m_pLogic->Init();
+    applySettingsFromConfigFile();
+    rebuildList();
+    if (!notifyService()) findNotifyService();
+    notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
+}
+
+NetConnectSettingUILogic* CNetConnectUIService::logic(bool initialise) {
+    if (m_pLogic) return m_pLogic;
+    m_pLogic = NetConnectSettingUILogic::GetInstance();
+    if (m_pLogic && initialise) m_pLogic->Init();
+    return m_pLogic;
+}
+
+QString CNetConnectUIService::tr(QString key) const { return Change::tr(key, QString::fromLatin1("NetConnectPlugin")); }
+
+QString CNetConnectUIService::text(const char* id) const { return tr(QString::fromLatin1(id)); }
+
+QString CNetConnectUIService::defaultMark() const {
+    const QString mark = text("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT");
+    if (mark.isEmpty()) return QString();  // a lone blank would be stripped out of every name
+    const bool mirrored = QApplication::layoutDirection() == Qt::RightToLeft;
+    return QLatin1Char(' ') + (mirrored ? CommonUtils::ParanthesisCorrection(mark) : mark);
+}
+
+QString CNetConnectUIService::withoutMark(const QString& text) const {
+    const QString mark = defaultMark();
+    if (mark.isEmpty() || text.indexOf(mark) <= 0) return text;
+    return QString(text).remove(mark);
+}
+
+void CNetConnectUIService::tell(const QString& message, QWidget* parent) const {
+    CommonUtils::ShowMessage(QMessageBox::Information, parent, text("IDS_PROMPT_CAPTION"), message,
+                             QString::fromLatin1("IDS_OK"));
+}
+
+bool CNetConnectUIService::ask(QMessageBox::Icon icon, const QString& question, QWidget* parent) const {
+    return CommonUtils::ShowMessage(icon, parent, text("IDS_PROMPT_CAPTION"), question, QString::fromLatin1("IDS_YES"),
+                                    QString::fromLatin1("IDS_NO")) == CommonUtils::FirstButton;
+}
+
+IDialupUIService* CNetConnectUIService::GetDialUpPlugin() {
+    IPluginContainer* container = Startup::GetPluginContainer();
+    if (!container) return 0;
+    QObject* plugin = container->FindPlugin(QString::fromLatin1(ORBISDIAL_DIALUP_CLSID), DialupPluginKind);
+    IDialupUIService* service = qobject_cast<IDialupUIService*>(plugin);
+    if (!service)
+        qDebug("Failed to get plugin IDialupUIService %s: %s: %s:", traceTime().constData(), __FILE__,
+               "GetDialUpPlugin");
+    return service;
+}
+
+bool CNetConnectUIService::isProfileConnected(QString name) {
+    IDialupUIService* dialup = GetDialUpPlugin();
+    QString connected;
+    return dialup && dialup->GetConnectedProfileName(&connected) && connected == withoutMark(name);
+}
+
+bool CNetConnectUIService::isConnectionUp() {
+    IDialupUIService* dialup = GetDialUpPlugin();
+    return dialup && dialup->IsConnected();
+}
+
+void CNetConnectUIService::findNotifyService() {
+    m_pPluginContainer = Startup::GetPluginContainer();
+    m_pNotifyServicePlugin = m_pPluginContainer
+                                 ? m_pPluginContainer->FindPlugin(QString::fromLatin1(ORBISDIAL_NOTIFYSERVICE_CLSID),
+                                                                  NotifyServicePluginKind)
+                                 : 0;
+    m_pNotifyService = qobject_cast<INotifyService*>(m_pNotifyServicePlugin.data());
+}
+
+INotifyService* CNetConnectUIService::notifyService() const { return m_pNotifyServicePlugin ? m_pNotifyService : 0; }
+
+void CNetConnectUIService::notifyProfilesChanged(const char* clsid) const {
+    if (INotifyService* service = notifyService())
+        service->SendNotify(QString::fromLatin1(clsid), NotifyProfilesChanged, 0, 0);
+}

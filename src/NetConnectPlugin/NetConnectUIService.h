@@ -1,0 +1,310 @@
+// The connection settings page, and what the plug-in offers to the host and to other plug-ins.
+//
+// Its source is spread over topics:
+//   NetConnectUIService.cpp             life, events, mark, peers
+//   NetConnectUIService_Host.cpp        the host's settings dialog
+//   NetConnectUIService_Profiles.cpp    profiles for other plug-ins
+//   NetConnectUIService_Page.cpp        building the page
+//   NetConnectUIService_Language.cpp    texts
+//   NetConnectUIService_Viewing.cpp     list, selection, what may be done with a profile
+//   NetConnectUIService_Editing.cpp     new, edit, save, undo, delete, default
+//   NetConnectUIService_Validation.cpp  what a profile must be to be saved
+//   NetConnectUIService_Transfer.cpp    the import/export dialog
+#ifndef ORBISDIAL_NETCONNECTUISERVICE_H
+#define ORBISDIAL_NETCONNECTUISERVICE_H
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStringList>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "ExtendDialog.h"
+#include "ExtendLineEdit.h"
+#include "IDialupUIService.h"
+#include "INetConnectSetting.h"
+#include "INotifyService.h"
+#include "IPluginContainer.h"
+#include "ISettingUIPlugin.h"
+#include "NetConnectPasswordHint.h"
+
+class NetConnectAdvancedSettingDlg;
+class NetConnectSettingUILogic;
+
+// One instance per process, made on first use. Everything is for the GUI thread.
+//
+// Any call may destroy the service while a message box or file dialog of it is up; whoever shows one looks
+// again afterwards. An open edit survives everything but Save, Undo and the host's Cancel: no event, language
+// change or other plug-in touches what was typed or moves the edit to another profile.
+class CNetConnectUIService : public QObject, public ISettingUIPlugin, public INetConnectSetting {
+    Q_OBJECT
+    Q_INTERFACES(ISettingUIPlugin INetConnectSetting)
+
+public:
+    // The instance; null only when memory is out.
+    static CNetConnectUIService* instance();
+
+    static void Destroy();
+
+    // Frees the page, its dialogs and the logic. The service can be initialised again.
+    void OnDestroy();
+
+    // Builds the page once; true also when it is there already. False when the logic can't be had.
+    bool Init();
+
+    void unSDKRegisterEvent();
+
+    // True when a layout, the page, its tab widget or its tab is missing.
+    bool isObjectMemoryAllocationFail() const;
+
+    // Puts the page into the parent (when there is one) at the rectangle, without showing it. Answers 1.
+    int ShowWindow(QWidget* parent, QRect& rect);
+
+    void Hide();
+    int Notify(unsigned int event, unsigned int param1, unsigned int param2);
+    void setLanguage();
+
+    virtual int OnClickSettingOkButton();
+    virtual int OnClickSettingCancelButton();
+    virtual int ShowSettingDialog(QWidget* parent, QRect& rect);
+    virtual QString GetModuleName();
+    virtual int HideSetting();
+    virtual bool IsActiveSetting();
+
+    virtual int IsIMSIROAMEnable();
+    virtual int GetAllDialUpProfile(QList<QString>* names);
+    virtual int GetDialUpProfile(QString name, DialupProfile* profile);
+    virtual int SaveDialUpProfile(DialupProfile profile);
+    virtual int GetDefaultDialUpProfileName(QString* name);
+    virtual int SetDefaultDialUpProfileName(QString name);
+    virtual UserPrompt GetUserPromptInfo();
+    virtual int GetFunctionConfigStringValues(QString key, QString* values);
+
+signals:
+    void SysModeChangedSignal();
+
+private slots:
+    void onClickNewProfileButton();
+    bool onClickSaveButton();
+    void onClickDeleteButton();
+    void onClickEditButton();
+    void onClickUndoButton();
+    void onClickDefaultButton();
+    void onClickDyanamicRadioButton();
+    void onClickStaticRadioButton();
+    void onClickAdvancedButton();
+    void onClickImportButton();
+    void onClickExportButton();
+    void onClickImportExportOkButton();
+    void onClickImportExportCancelButton();
+    void onClickImportExportBrowseButton();
+    void onSelectProfile(QString strProfile);
+    void onFileSelected(QString path);
+    void onClickDialupProfileItem(QTreeWidgetItem* pParent, int index);
+    void onDeviceInitailize();
+
+private:
+    friend class NetConnectPageWatch;
+    friend class NetConnectUIServiceTestAccess;  // gives m_pAdvancedDlg the dialog that the page never opens
+
+    enum Operation { Idle = -1, EnteringNew, EditingExisting, Saving, Deleting, Undoing };
+    enum { StatusNoLogic = 23 };
+
+    // The edit that is open, from New or Edit to Save or Undo.
+    struct OpenEdit {
+        bool open = false;
+        QString name;       // the bare name, as stored now, of the profile that is edited or was on show at New
+        QString shownName;  // what the name field was filled with
+        QString langid;     // of the edited profile: its name follows the language
+    };
+
+    CNetConnectUIService();
+    virtual ~CNetConnectUIService();
+
+    // --- life, texts, peers ---
+    void forgetPage();
+    QString tr(QString key) const;
+    QString text(const char* id) const;
+    NetConnectSettingUILogic* logic(bool initialise);
+    IDialupUIService* GetDialUpPlugin();
+    bool isProfileConnected(QString name);
+    bool isConnectionUp();
+    void findNotifyService();
+    INotifyService* notifyService() const;
+    void notifyProfilesChanged(const char* clsid) const;
+
+    // The default mark, with the blank before it; empty when the language has none.
+    QString defaultMark() const;
+    QString withoutMark(const QString& text) const;
+
+    // Message boxes. After either, the service or its page may be gone.
+    void tell(const QString& message, QWidget* parent) const;
+    bool ask(QMessageBox::Icon icon, const QString& question, QWidget* parent) const;
+
+    // --- the host's settings dialog ---
+    bool settleOpenEdit();
+    void detachPage();
+    void refreshDefaultItem();
+    void showDefaultButton();
+
+    // --- building the page ---
+    void initailizeUI();
+    void createLayouts();
+    void createProfileNameUI();
+    void createApnUI();
+    void createAuthenticationUI();
+    void createProtocolUI();
+    void createProfileSettingButtons();
+    void assemblePage();
+    void setTabOrders();
+    ExtendLineEdit* createEdit(const char* name, int maximumLength);
+
+    // --- texts ---
+    void setGroupBoxLanguage();
+    void setLabelLanguage();
+    void setButtonLanguage();
+    void setAccessibleNames();
+    void setElidedTexts();
+
+    // --- viewing ---
+    void showAllProfiles();
+    void selectDefaultProfile();
+    void rebuildList();
+    void markDefaultProfile(const QString& name);
+    void selectEditedProfile();
+    int findProfile(const QString& bareName) const;
+    QString currentProfileName() const;
+    void showAPNSetting();
+    void showAuthenticationSetting();
+    void setProtocolSettings(DialupProfile* profile);
+    void enableDisableUiWidget(bool editing);
+    void enableDisableNamePasswordEdits(bool editing);
+    void enableDisableUIButtons(bool editing);
+    void enableDisableDefaultButton(bool enable);
+    void applyProfileLocks();
+    const char* profileLock();
+    void lockButton(QPushButton* button, const char* reason);
+    void applySettingsFromConfigFile();
+    bool isAPNGroupWanted();
+    bool isFunctionOn(const char* key);
+
+    // --- editing ---
+    void beginEdit(Operation operation, const QString& shownName);
+    void endEdit();
+    void showTemplate(DialupProfile* profile);
+    QString enteredName() const;
+    void putProfileData(DialupProfile* profile);
+    int storeProfile(const DialupProfile& profile);
+    void refuseSave(int status);
+    void finishSave(const QString& name);
+    void deleteProfile(const QString& name);
+
+    // --- validation ---
+    bool isValidProfile();
+    bool isProfileExist(int markedIndex, int plainIndex);
+    bool refuse(const QString& message) const;  // tells why; always false
+
+    // --- import and export ---
+    void openTransferDialog(bool import);
+    void initImportExportDialog();
+    void createTransferWidgets();
+    void initImportExportTree();
+    void createTransferRoot();
+    void readProfileFromFile(QString path);
+    QStringList tickedProfiles();
+    void importSelectedProfiles(QStringList* names);
+    QString chooseImportFile();
+    QString chooseExportFile();
+
+    static CNetConnectUIService* m_pInstance;
+
+    QHBoxLayout* m_pNetConectLayout = 0;
+    QVBoxLayout* m_pDialuptabLayout = 0;
+    QVBoxLayout* m_pBtnOtherLayout = 0;
+    QVBoxLayout* m_pGroupBoxLayout = 0;
+    QHBoxLayout* m_pProfileNameLayout = 0;
+    QFormLayout* m_pApngrpLayout = 0;
+    QFormLayout* m_pSMSCgrpLayout = 0;
+    QWidget* m_pNetConnectWidget = 0;  // the page; owned, unless the host destroys its parent first
+    QTabWidget* m_pTabWidget = 0;
+    QWidget* m_pDialupTabWidget = 0;
+
+    // The page's widgets, owned by the page.
+    struct PageWidgets {
+        QGroupBox* profileGroup = 0;
+        QComboBox* profiles = 0;
+        ExtendLineEdit* name = 0;
+        QGroupBox* apnGroup = 0;
+        QRadioButton* apnDynamic = 0;
+        QRadioButton* apnStatic = 0;
+        QLabel* apnLabel = 0;
+        ExtendLineEdit* apn = 0;
+        QGroupBox* authGroup = 0;
+        QLabel* accessNumberLabel = 0;
+        QLabel* userLabel = 0;
+        QLabel* passwordLabel = 0;
+        ExtendLineEdit* accessNumber = 0;
+        ExtendLineEdit* user = 0;
+        ExtendLineEdit* password = 0;
+        NetConnectPasswordHint* passwordHint = 0;
+        QCheckBox* askUserName = 0;
+        QGroupBox* protocolGroup = 0;
+        QCheckBox* chap = 0;
+        QCheckBox* pap = 0;
+        QPushButton* newProfile = 0;
+        QPushButton* deleteProfile = 0;
+        QPushButton* edit = 0;
+        QPushButton* save = 0;
+        QPushButton* undo = 0;
+        QPushButton* setDefault = 0;
+        QPushButton* importProfiles = 0;
+        QPushButton* exportProfiles = 0;
+        QPushButton* advanced = 0;  // never made: the advanced dialog can't be opened from the page
+    };
+    PageWidgets m_Page;
+
+    bool m_bEditExisting = false;
+    QString m_strEditProfileName;                      // the edited profile's item text, mark included
+    NetConnectSettingUILogic* m_pLogic = 0;            // not owned
+    NetConnectAdvancedSettingDlg* m_pAdvancedDlg = 0;  // not owned; nothing sets it
+    IPluginContainer* m_pPluginContainer = 0;
+    QPointer<QObject> m_pNotifyServicePlugin;
+    INotifyService* m_pNotifyService = 0;  // of m_pNotifyServicePlugin; see notifyService()
+    DialupProfile m_CurrentProfile;        // on show, or what the edit began with
+    QString m_strProfileType;
+    int m_nDefaultIndex = -1;
+    bool m_bActive = false;
+    QString m_strReadOnly;
+    QString m_strDefaultRemember;
+    bool m_bHiddenWhileOpen = false;
+
+    ExtendDialog* m_pImportExportDialog = 0;
+    QWidget* m_pImportExportWidget = 0;
+    QTreeWidget* m_pImportExportTree = 0;
+    QTreeWidgetItem* m_pProfileRootItem = 0;
+    QTreeWidgetItem* m_pCurrentItem = 0;
+    QPushButton* m_pBtnImportExportOk = 0;
+    QPushButton* m_pBtnImportExportCancel = 0;
+    QPushButton* m_pBtnImportExportBrowse = 0;
+
+    bool m_bClosedByButton = false;
+    QStringList m_DefaultAPNProfileList;
+    QStringList m_ImportExportList;
+    bool m_bImport = false;
+    int m_nOperation = Idle;
+
+    OpenEdit m_Edit;
+    bool m_bImporting = false;      // a clash question may be on screen
+    bool m_bReloadPending = false;  // a reload that came meanwhile
+};
+
+#endif

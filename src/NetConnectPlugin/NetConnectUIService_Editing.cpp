@@ -1,0 +1,181 @@
+#include "NetConnectAdvancedSettingDlg.h"
+#include "NetConnectSettingUILogic.h"
+#include "NetConnectStoreAction.h"
+#include "NetConnectUIService.h"
+#include "TruthText.h"
+
+void CNetConnectUIService::beginEdit(Operation operation, const QString& shownName) {
+    m_Edit.open = true;
+    m_Edit.name = currentProfileName();
+    m_Edit.langid = operation == EditingExisting ? m_CurrentProfile.langid : QString();
+    m_bEditExisting = operation == EditingExisting;
+    m_Page.profiles->hide();
+    m_Page.name->setText(shownName);
+    m_Edit.shownName = m_Page.name->text();
+    m_Page.name->show();
+    m_Page.name->setFocus(Qt::OtherFocusReason);
+    m_Page.name->setCursorPosition(0);
+    m_nOperation = operation;
+}
+
+void CNetConnectUIService::endEdit() {
+    m_Edit = OpenEdit();
+    m_bEditExisting = false;
+    m_strEditProfileName = QString();
+    m_nOperation = Idle;
+}
+
+void CNetConnectUIService::onClickNewProfileButton() {
+    if (!m_Page.profiles || m_Edit.open) return;
+    DialupProfile profile;
+    if (m_pLogic) m_pLogic->NewDialUpProfileTemplate(&profile);
+    beginEdit(EnteringNew, profile.name);
+    m_CurrentProfile = profile;
+    m_strDefaultRemember = profile.Remember;
+    m_strProfileType = profile.type;
+    m_strReadOnly = profile.readonly;
+    showAPNSetting();
+    showAuthenticationSetting();
+    m_Page.askUserName->setChecked(isTrue(profile.popusername));
+    enableDisableUiWidget(true);
+    setProtocolSettings(&profile);
+}
+
+void CNetConnectUIService::onClickEditButton() {
+    if (!m_Page.profiles || !m_pLogic || m_Edit.open) return;
+    const QString name = currentProfileName();
+    rebuildList();  // another program may have changed the profile, or a connection have come up
+    const int index = findProfile(name);
+    if (index >= 0) m_Page.profiles->setCurrentIndex(index);
+    applyProfileLocks();
+    if (index < 0 || !m_Page.edit->isEnabled()) return;
+    m_strEditProfileName = m_Page.profiles->currentText();
+    beginEdit(EditingExisting, name);
+    enableDisableUiWidget(true);
+}
+
+// The stored name when what was shown is unchanged: the stored one may have followed the language meanwhile,
+// or be longer than what can be typed.
+QString CNetConnectUIService::enteredName() const {
+    const QString typed = m_Page.name->text();
+    return m_bEditExisting && typed == m_Edit.shownName ? m_Edit.name : typed;
+}
+
+bool CNetConnectUIService::onClickSaveButton() {
+    if (!m_Edit.open || !m_pLogic) return false;
+    m_nOperation = Saving;
+    const QPointer<CNetConnectUIService> self(this);
+    if (!isValidProfile()) {
+        if (self) m_nOperation = Idle;
+        return false;
+    }
+    DialupProfile profile = m_CurrentProfile;
+    putProfileData(&profile);
+    const int status = storeProfile(profile);
+    if (status == 0)
+        finishSave(profile.name);
+    else
+        refuseSave(status);
+    return status == 0;
+}
+
+int CNetConnectUIService::storeProfile(const DialupProfile& profile) {
+    if (!m_bEditExisting) return m_pLogic->AddDialUpProfile(profile);
+    m_strEditProfileName = withoutMark(m_strEditProfileName);
+    return m_pLogic->ReplaceDialUpProfile(m_strEditProfileName, profile);
+}
+
+// What was typed stays; the list is read again, since another program may have changed it.
+void CNetConnectUIService::refuseSave(int status) {
+    m_nOperation = Idle;
+    rebuildList();
+    if (status == NetConnectSettingUILogic::NameTaken)
+        return tell(text("IDS_SETTING_PROMPT_PROFILE_NAME_SAME"), m_pNetConnectWidget);
+    m_Page.save->setToolTip(text("IDS_NETCONNECT_TIP_SAVE_FAILED") + QLatin1Char('\n') +
+                            m_pLogic->LastStorageProblem().text());
+    notifyProfilesChanged(ORBISDIAL_HOST_LISTENER_CLSID);  // the host shows the storage problem
+}
+
+void CNetConnectUIService::finishSave(const QString& name) {
+    m_Edit = OpenEdit();
+    rebuildList();
+    m_Page.profiles->show();
+    m_Page.name->hide();
+    m_Page.profiles->setFocus();
+    const int saved = m_Page.profiles->findText(name);
+    if (saved >= 0) m_Page.profiles->setCurrentIndex(saved);
+    enableDisableUiWidget(false);
+    endEdit();
+    m_bHiddenWhileOpen = false;
+    m_bClosedByButton = true;
+    notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
+    notifyProfilesChanged(ORBISDIAL_HOST_LISTENER_CLSID);
+}
+
+void CNetConnectUIService::onClickUndoButton() {
+    if (!m_Page.profiles || !m_Page.deleteProfile || !m_Page.edit || !m_Page.apnDynamic || !m_Page.setDefault) return;
+    const bool dynamic = m_Page.apnDynamic->isChecked();
+    if (m_Edit.open && !m_bEditExisting) m_strDefaultRemember = QString();
+    m_Edit = OpenEdit();
+    m_nOperation = Undoing;
+    enableDisableUiWidget(false);
+    if (m_Page.profiles->currentIndex() < 0) m_Page.profiles->setCurrentIndex(qMax(m_nDefaultIndex, 0));
+    m_Page.profiles->show();
+    m_Page.profiles->setFocus();
+    onSelectProfile(m_Page.profiles->currentText());
+    const bool marked = m_Page.profiles->currentIndex() == m_nDefaultIndex;
+    if (!marked && dynamic && m_Page.apn->text().isEmpty()) m_Page.apnDynamic->setChecked(true);
+    m_Page.name->hide();
+    endEdit();
+}
+
+void CNetConnectUIService::onClickDeleteButton() {
+    if (!m_Page.profiles) return;
+    const QString name = currentProfileName();  // an event during the question may move the selection
+    const QPointer<CNetConnectUIService> self(this);
+    const bool confirmed = ask(QMessageBox::Question, text("IDS_SMSUI_DRAFT_DEL"), m_pNetConnectWidget);
+    if (!self || !confirmed || !m_Page.profiles || !m_pLogic || m_Edit.open) return;
+    if (findProfile(name) >= 0 && !isProfileConnected(name)) deleteProfile(name);
+}
+
+void CNetConnectUIService::deleteProfile(const QString& name) {
+    m_nOperation = Deleting;
+    {
+        NetConnectStoreAction action;
+        m_pLogic->DelDialUpProfile(name);  // first, since it takes in a default that another program has set
+        QString defaultName;
+        m_pLogic->GetDefaultDialUpProfileName(&defaultName);
+        if (defaultName == name) m_pLogic->SetDefaultDialUpProfileName(QString::fromLatin1(""), false);
+        action.commit();
+    }
+    rebuildList();
+    m_Page.profiles->setCurrentIndex(0);
+    m_Page.profiles->setFocus();
+    m_nOperation = Idle;
+    notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
+    notifyProfilesChanged(ORBISDIAL_HOST_LISTENER_CLSID);
+}
+
+void CNetConnectUIService::onClickDefaultButton() {
+    if (!m_Page.profiles || !notifyService()) return;
+    INetConnectSetting* const profiles = this;
+    if (profiles->SetDefaultDialUpProfileName(m_Page.profiles->currentText()) == 0)
+        notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
+}
+
+void CNetConnectUIService::onClickDyanamicRadioButton() {
+    if (!m_Page.apn) return;
+    m_Page.apn->setEnabled(false);
+    m_Page.apn->clear();
+}
+
+void CNetConnectUIService::onClickStaticRadioButton() {
+    if (!m_Page.apnStatic || !m_Page.apn) return;
+    m_Page.apn->setEnabled(true);
+    m_Page.apn->setFocus(Qt::OtherFocusReason);
+}
+
+void CNetConnectUIService::onClickAdvancedButton() {
+    QRect anywhere;
+    if (m_pAdvancedDlg) m_pAdvancedDlg->ShowWindow(m_pNetConnectWidget, anywhere);
+}

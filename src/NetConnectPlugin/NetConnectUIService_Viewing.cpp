@@ -1,0 +1,213 @@
+#include "CallTrace.h"
+#include "NetConnectSettingUILogic.h"
+#include "NetConnectUIService.h"
+#include "Trace.h"
+#include "TruthText.h"
+
+namespace {
+
+void setTextFromStart(QLineEdit* edit, const QString& text) {
+    edit->setText(text);
+    edit->setCursorPosition(0);
+}
+
+}  // namespace
+
+void CNetConnectUIService::rebuildList() {
+    showAllProfiles();
+    selectDefaultProfile();
+}
+
+void CNetConnectUIService::showAllProfiles() {
+    if (!m_Page.profiles || !m_pLogic || !m_Page.deleteProfile || !m_Page.edit || !m_Page.setDefault) return;
+    m_nDefaultIndex = -1;
+    m_Page.profiles->clear();
+    m_DefaultAPNProfileList.clear();
+    QList<QString> names;
+    if (m_pLogic->GetAllDialUpProfile(&names) == 0 && !names.isEmpty()) {
+        m_DefaultAPNProfileList = m_pLogic->GetDefaultAPNProfileList();
+        m_Page.profiles->addItems(QStringList(names));
+        m_Page.profiles->setCurrentIndex(0);
+    }
+    selectEditedProfile();
+    applyProfileLocks();
+}
+
+void CNetConnectUIService::selectDefaultProfile() {
+    QString name;
+    if (!m_pLogic || m_pLogic->GetDefaultDialUpProfileName(&name) != 0 || !m_Page.profiles) return;
+    m_nDefaultIndex = m_Page.profiles->findText(name);
+    if (m_nDefaultIndex >= 0) markDefaultProfile(name);
+    selectEditedProfile();
+}
+
+void CNetConnectUIService::markDefaultProfile(const QString& name) {
+    m_Page.profiles->setItemText(m_nDefaultIndex, name + defaultMark());
+    m_Page.profiles->setCurrentIndex(m_nDefaultIndex);
+    onSelectProfile(name);
+    qDebug("%s : %s : %s Default profile has been set", traceTime().constData(), __FILE__, "selectDefaultProfile");
+}
+
+void CNetConnectUIService::selectEditedProfile() {
+    if (!m_Edit.open) return;
+    const QString translation = m_Edit.langid.isEmpty() ? QString() : tr(m_Edit.langid);
+    if (findProfile(m_Edit.name) < 0 && findProfile(translation) >= 0) m_Edit.name = translation;
+    const int index = findProfile(m_Edit.name);
+    // Deleted by another program: without a current profile, every name in the list is another one's.
+    if (index >= 0 || m_bEditExisting) m_Page.profiles->setCurrentIndex(index);
+    if (m_bEditExisting) m_strEditProfileName = index < 0 ? m_Edit.name : m_Page.profiles->itemText(index);
+}
+
+int CNetConnectUIService::findProfile(const QString& bareName) const {
+    if (bareName.isEmpty()) return -1;
+    const int plain = m_Page.profiles->findText(bareName);
+    return plain >= 0 ? plain : m_Page.profiles->findText(bareName + defaultMark());
+}
+
+QString CNetConnectUIService::currentProfileName() const { return withoutMark(m_Page.profiles->currentText()); }
+
+void CNetConnectUIService::onSelectProfile(QString strProfile) {
+    if (!m_pLogic || m_Edit.open || m_nOperation == EnteringNew || m_nOperation == EditingExisting) return;
+    m_pLogic->GetDialUpProfile(withoutMark(strProfile), &m_CurrentProfile);
+    m_strProfileType = m_CurrentProfile.type;
+    m_strReadOnly = m_CurrentProfile.readonly;
+    showAPNSetting();
+    if (m_Page.askUserName) m_Page.askUserName->setChecked(isTrue(m_CurrentProfile.popusername));
+    applyProfileLocks();
+    showAuthenticationSetting();
+    setProtocolSettings(&m_CurrentProfile);
+}
+
+void CNetConnectUIService::showAPNSetting() {
+    if (!m_Page.apn || !m_Page.apnDynamic || !m_Page.apnStatic) return;
+    QRadioButton* const kind = isTrue(m_CurrentProfile.autoapn) ? m_Page.apnDynamic : m_Page.apnStatic;
+    kind->setChecked(true);
+    setTextFromStart(m_Page.apn, m_CurrentProfile.apn);
+}
+
+void CNetConnectUIService::showAuthenticationSetting() {
+    if (m_Page.accessNumber) setTextFromStart(m_Page.accessNumber, m_CurrentProfile.phonenumber);
+    if (m_Page.user) setTextFromStart(m_Page.user, m_CurrentProfile.user);
+    if (m_Page.password) m_Page.password->setText(m_CurrentProfile.password);
+}
+
+void CNetConnectUIService::setProtocolSettings(DialupProfile* profile) {
+    if (m_Page.chap) m_Page.chap->setChecked(isTrue(profile->chap));
+    if (m_Page.pap) m_Page.pap->setChecked(isTrue(profile->pap));
+}
+
+void CNetConnectUIService::putProfileData(DialupProfile* profile) {
+    profile->name = enteredName();
+    profile->type = m_strProfileType;
+    profile->readonly = m_strReadOnly;
+    profile->phonenumber = m_Page.accessNumber->text();
+    profile->user = m_Page.user->text();
+    profile->password = m_Page.password->text();
+    profile->apn = m_Page.apn->text();
+    profile->autoapn = boolText(m_Page.apnDynamic->isChecked() || m_Page.apn->text().isEmpty());
+    profile->popusername = boolText(m_Page.askUserName->isChecked());
+    if (profile->Remember.isEmpty()) profile->Remember = m_strDefaultRemember;
+    profile->chap = boolText(m_Page.chap->isChecked());
+    profile->pap = boolText(m_Page.pap->isChecked());
+}
+
+// --- what may be done now ---
+
+void CNetConnectUIService::enableDisableUiWidget(bool editing) {
+    if (!m_pNetConnectWidget) return;
+    enableDisableUIButtons(editing);
+    const bool dynamic = m_Page.apnDynamic->isChecked();
+    m_Page.apnDynamic->setEnabled(editing);
+    m_Page.apnStatic->setEnabled(editing);
+    m_Page.apn->setEnabled(editing && !dynamic);
+    if (dynamic) m_Page.apn->clear();
+    m_Page.apn->setCursorPosition(0);
+    m_Page.accessNumber->setEnabled(editing);
+    m_Page.accessNumber->setCursorPosition(0);
+    enableDisableNamePasswordEdits(editing);
+    m_Page.askUserName->setEnabled(editing);
+    m_Page.chap->setEnabled(editing);
+    m_Page.pap->setEnabled(editing);
+}
+
+void CNetConnectUIService::enableDisableNamePasswordEdits(bool editing) {
+    const UserPrompt prompt = m_pLogic ? m_pLogic->GetUserNamePasswdPromptInfo() : UserPrompt();
+    const bool asked = isTrue(prompt.promptPwd) && isTrue(prompt.userCheck) && isTrue(prompt.disableNamePwd);
+    QLineEdit* const edits[] = {m_Page.user, m_Page.password};
+    for (QLineEdit* edit : edits) {
+        edit->setEnabled(editing && !asked);
+        edit->setCursorPosition(0);
+    }
+    m_Page.passwordHint->refresh();
+}
+
+void CNetConnectUIService::enableDisableUIButtons(bool editing) {
+    QPushButton* const viewing[] = {m_Page.newProfile, m_Page.importProfiles, m_Page.exportProfiles};
+    for (QPushButton* button : viewing) button->setEnabled(!editing);
+    m_Page.save->setEnabled(editing);
+    m_Page.save->setToolTip(QString());
+    m_Page.undo->setEnabled(editing);
+    applyProfileLocks();
+}
+
+void CNetConnectUIService::enableDisableDefaultButton(bool enable) {
+    if (!m_Page.setDefault || !m_Page.profiles) return;
+    const char* reason = 0;
+    if (!enable)
+        reason = "IDS_NETCONNECT_TIP_EDIT_OPEN";
+    else if (m_Page.profiles->count() == 0)
+        reason = "IDS_NETCONNECT_TIP_NO_PROFILE";
+    else if (isConnectionUp())
+        reason = "IDS_NETCONNECT_TIP_DEFAULT_CONNECTED";
+    lockButton(m_Page.setDefault, reason);
+}
+
+void CNetConnectUIService::applyProfileLocks() {
+    if (!m_Page.edit || !m_Page.deleteProfile || !m_Page.profiles) return;
+    const char* const reason = profileLock();
+    lockButton(m_Page.edit, reason);
+    lockButton(m_Page.deleteProfile, reason);
+    enableDisableDefaultButton(!m_Edit.open);
+}
+
+const char* CNetConnectUIService::profileLock() {
+    if (m_Edit.open) return "IDS_NETCONNECT_TIP_EDIT_OPEN";
+    if (m_Page.profiles->count() == 0) return "IDS_NETCONNECT_TIP_NO_PROFILE";
+    const QString name = currentProfileName();
+    if (isProfileConnected(name)) return "IDS_NETCONNECT_TIP_PROFILE_CONNECTED";
+    if (m_DefaultAPNProfileList.contains(name)) return "IDS_NETCONNECT_TIP_PROFILE_PRESET";
+    return isTrue(m_CurrentProfile.readonly) ? "IDS_NETCONNECT_TIP_PROFILE_READONLY" : 0;
+}
+
+void CNetConnectUIService::lockButton(QPushButton* button, const char* reason) {
+    button->setEnabled(!reason);
+    button->setToolTip(reason ? text(reason) : QString());
+}
+
+void CNetConnectUIService::applySettingsFromConfigFile() {
+    if (!m_Page.apnGroup || !m_Page.importProfiles || !m_Page.exportProfiles || !m_pLogic || !m_Page.askUserName)
+        return;
+    m_Page.apnGroup->setVisible(isAPNGroupWanted());
+    m_Page.importProfiles->setVisible(isFunctionOn("IMPORT"));
+    m_Page.exportProfiles->setVisible(isFunctionOn("IMPORT"));
+    m_Page.passwordHint->setKeyedMethod(isFunctionOn("ENCRYPT"));
+    const UserPrompt prompt = m_pLogic->GetUserNamePasswdPromptInfo();
+    m_Page.askUserName->setVisible(isTrue(prompt.promptPwd) && isTrue(prompt.userCheck));
+    if (!m_Edit.open && isTrue(prompt.promptPwd) && isTrue(prompt.checkNamePwd)) m_Page.askUserName->setChecked(true);
+}
+
+bool CNetConnectUIService::isAPNGroupWanted() {
+    const bool configured = isFunctionOn("APN");
+    const bool wanted = configured || m_pLogic->IsEhrpdSubMode();
+    const char* const line = configured ? "%s: %s: wcdma show apn groupbox"
+                             : wanted   ? "%s: %s: eHrpd show apn groupbox"
+                                        : "%s: %s: cdma hide apn groupbox";
+    CallTrace trace(__FILE__, "applySettingsFromConfigFile", line);
+    return wanted;
+}
+
+bool CNetConnectUIService::isFunctionOn(const char* key) {
+    bool on = false;
+    m_pLogic->GetFunctionConfigValue(QString::fromLatin1(key), &on);
+    return on;
+}

@@ -1,0 +1,77 @@
+// Answers modal windows the way a person does: by clicking their real buttons.
+#ifndef ORBISDIAL_ANSWERS_H
+#define ORBISDIAL_ANSWERS_H
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+#include <functional>
+
+#include "CommonUtils.h"
+
+// Each expected window takes the next answer. A window that nobody expected is closed and fails the test.
+class Answers : public QObject {
+public:
+    using Step = std::function<void()>;
+
+    Answers() {
+        connect(&m_Timer, &QTimer::timeout, this, &Answers::look);
+        m_Timer.start(5);
+    }
+
+    // A message box, answered by its first or second button; meanwhile runs while it is up.
+    void box(CommonUtils::MessageAnswer button, Step meanwhile = Step()) {
+        m_Steps.append([this, button, meanwhile] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box && box->objectName() == "CommonUtils_MessageBox");
+            texts.append(box->text());
+            QCOMPARE(box->textFormat(), Qt::PlainText);
+            const QPointer<QMessageBox> guard(box);
+            if (meanwhile) meanwhile();
+            if (guard) QTest::mouseClick(guard->button(QMessageBox::StandardButton(button)), Qt::LeftButton);
+        });
+    }
+    void ok() { box(CommonUtils::FirstButton); }
+    void yes(Step meanwhile = Step()) { box(CommonUtils::FirstButton, meanwhile); }
+    void no(Step meanwhile = Step()) { box(CommonUtils::SecondButton, meanwhile); }
+
+    // A file dialog: types the path and accepts, or rejects when the path is empty.
+    void file(const QString& path) {
+        m_Steps.append([path] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            auto* buttons = dialog->findChild<QDialogButtonBox*>();
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+            const auto accept =
+                dialog->acceptMode() == QFileDialog::AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open;
+            QTest::mouseClick(buttons->button(path.isEmpty() ? QDialogButtonBox::Cancel : accept), Qt::LeftButton);
+        });
+    }
+
+    bool allGiven() const { return m_Steps.isEmpty(); }
+
+    QStringList texts;  // of the message boxes so far
+
+private:
+    void look() {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || !modal->isVisible() || modal == m_Answered) return;
+        if (!qobject_cast<QMessageBox*>(modal) && !qobject_cast<QFileDialog*>(modal)) return;
+        m_Answered = modal;
+        if (!m_Steps.isEmpty()) return m_Steps.takeFirst()();
+        modal->close();
+        QFAIL("an unexpected window came up");
+    }
+
+    QTimer m_Timer;
+    QList<Step> m_Steps;
+    QPointer<QWidget> m_Answered;
+};
+
+#endif

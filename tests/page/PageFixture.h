@@ -1,0 +1,194 @@
+// The plug-in, loaded as a host loads it, with its page shown in a window and its peers in the container.
+#ifndef ORBISDIAL_PAGEFIXTURE_H
+#define ORBISDIAL_PAGEFIXTURE_H
+
+#include <QComboBox>
+#include <QPluginLoader>
+#include <QProcess>
+#include <QPushButton>
+#include <QXmlStreamReader>
+#include <memory>
+
+#include "Answers.h"
+#include "Change.h"
+#include "FakePeers.h"
+#include "INetConnectSetting.h"
+#include "INotify.h"
+#include "ISettingUIPlugin.h"
+#include "IUIPlugin.h"
+#include "TestFolder.h"
+#include "vrks_simulated.h"
+
+class PageFixture {
+public:
+    // Switches and the like of the shipped configuration; change it before start().
+    QByteArray functions = "<item name='APN' value='true'/><item name='IMPORT' value='true'/>";
+    QByteArray presets;  // items of the configuration's profile list
+    QByteArray prompt;   // prompt items
+    QByteArray library;  // profiles of the library
+    QByteArray newProfile = "name='' phonenumber='*99#' autoapn='true' chap='true' pap='false' Remember='keep'";
+
+    TestFolder folder;
+    std::unique_ptr<FakeNotifyService> notify{new FakeNotifyService};
+    FakeDialup dialup;
+    Answers answers;
+    QObject* entry = nullptr;
+    ISettingUIPlugin* setting = nullptr;
+    INetConnectSetting* profiles = nullptr;
+    QPointer<QWidget> window{new QWidget};
+
+    PageFixture() { vrks_simulated_reset(); }
+    ~PageFixture() {
+        stop();
+        delete window;
+        Change::SetLanguage("en");
+    }
+
+    // --- the files ---
+
+    // A profile with its attributes as XML text.
+    static QByteArray profile(const QByteArray& name, const QByteArray& attributes = "phonenumber='*99#'") {
+        return "<Profile name='" + name + "' " + attributes + "/>";
+    }
+    static QByteArray document(const QByteArray& profiles, const QByteArray& defaultElement = QByteArray()) {
+        return "<vrksdoc type='Profile'><ProfileGroup type='Dailup'>" + profiles + "</ProfileGroup>" + defaultElement +
+               "</vrksdoc>";
+    }
+    static QStringList sorted(QStringList list) {
+        list.sort();
+        return list;
+    }
+    static QStringList names(const QString& file) { return attributes(file, "Profile", "name"); }
+    QStringList stored() const { return names(folder.userFile()); }
+    QString stored(const QString& name, const QString& attribute) const {
+        return attributes(folder.userFile(), "Profile", attribute).value(stored().indexOf(name));
+    }
+    // Several attributes of a stored profile, with bars between.
+    QString stored(const QString& name, const QStringList& wanted) const {
+        QStringList values;
+        for (const QString& attribute : wanted) values.append(stored(name, attribute));
+        return values.join('|');
+    }
+    // The stored default and its flag, as "name/1".
+    QString storedDefault() const {
+        return attributes(folder.userFile(), "Default", "name").join(',') + '/' +
+               attributes(folder.userFile(), "Default", "IsUserSet").join(',');
+    }
+    // Another process on the same files: "add NAME", "delete NAME" or "default NAME".
+    static void otherProcess(const QString& command, const QString& name) {
+        QCOMPARE(QProcess::execute(PAGE_WRITER, {command, name}), 0);
+    }
+
+    // --- the plug-in ---
+
+    // With a user file of these profiles and this default element; with no profiles, without a file.
+    void start(const QByteArray& user = QByteArray(), const QByteArray& defaultElement = QByteArray(),
+               const QByteArray& language = "en") {
+        if (!user.isEmpty()) TestFolder::write(folder.userFile(), document(user, defaultElement));
+        copyTexts();
+        QVERIFY(Change::SetLanguage(language));
+        folder.ship("NetConnectConfig.xml", "<c>" + prompt + "<group name='common'><module name='common'><Function>" +
+                                                functions + "</Function><ProfileList>" + presets +
+                                                "</ProfileList></module></group></c>");
+        folder.ship("ProfileLib.prof", document(library));
+        folder.ship("SysProfile.prof", "<vrksdoc><Template " + newProfile + "/></vrksdoc>");
+        entry = QPluginLoader(PLUGIN_FILE).instance();
+        QVERIFY(entry);
+        QCOMPARE(plugin()->Init(), 1);
+        QObject* service = nullptr;
+        QCOMPARE(plugin()->QueryInterface(4098, &service), 1);
+        setting = qobject_cast<ISettingUIPlugin*>(service);
+        profiles = qobject_cast<INetConnectSetting*>(service);
+        QVERIFY(setting && profiles);
+        show();
+    }
+    void show() {
+        QRect place(0, 0, 620, 480);
+        window->resize(place.size());
+        QCOMPARE(setting->ShowSettingDialog(window, place), 1);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window));
+    }
+    void stop() {
+        if (!entry) return;
+        plugin()->UnSDKRegisterEvent();
+        plugin()->OnDestroy();
+        delete entry;
+        entry = nullptr;
+    }
+    IUIPlugin* plugin() const { return qobject_cast<IUIPlugin*>(entry); }
+    int event(unsigned int number) const { return qobject_cast<INotify*>(entry)->Notify(number, 0, 0); }
+    void language(const QByteArray& code) const {
+        QVERIFY(Change::SetLanguage(code));
+        event(NotifyLanguageChanged);
+    }
+    // The modem's card changes: the page reloads when its queued signal has come through.
+    static void changeCard() {
+        vrks_simulated_raise_event(VRKS_EVENT_DEV_CARD_CHANGED);
+        vrks_simulated_wait_events();
+        QCoreApplication::processEvents();
+    }
+
+    // --- the page ---
+
+    template <class W = QWidget>
+    W* find(const char* role) const {
+        return window->findChild<W*>(QString("NetConnectSettingUIPlugin_") + role);
+    }
+    QComboBox* combo() const { return find<QComboBox>("ProfileCombobox"); }
+    QLineEdit* edit(const char* role) const { return find<QLineEdit>(role); }
+    void click(const char* role) const {
+        auto* button = find<QAbstractButton>(role);
+        QVERIFY2(button && button->isVisible() && button->isEnabled(), role);
+        // Near the edge at which the indicator of a radio button is: the middle may lie beside its text.
+        const int x = button->isRightToLeft() ? button->width() - 8 : 8;
+        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(x, button->height() / 2));
+    }
+    // Where the keyboard is once the window is active.
+    bool focused(const char* role) const { return window->focusWidget() == find(role) && find(role)->isVisible(); }
+    bool enabled(const char* role) const { return find(role)->isEnabled(); }
+    QStringList listed() const {
+        QStringList texts;
+        for (int i = 0; i < combo()->count(); ++i) texts.append(combo()->itemText(i));
+        return texts;
+    }
+    void select(const QString& text) const {
+        QVERIFY2(combo()->findText(text) >= 0, qPrintable(listed().join('|')));
+        combo()->setCurrentIndex(combo()->findText(text));
+    }
+    static void type(QLineEdit* edit, const QString& text) {
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Delete);
+        QTest::keyClicks(edit, text);
+    }
+    // What an open edit holds on screen and lets the user do.
+    QStringList editState() const {
+        QStringList state;
+        for (const char* role :
+             {"LineEditProfileName", "ApnlineEdit", "AccessNumberlineEdit", "UsernamelineEdit", "PasswordlineEdit"})
+            state.append(edit(role)->text() + (edit(role)->isVisible() ? "" : " hidden"));
+        for (const char* role : {"BtnStatic", "CheckBoxAskUserName"})
+            state.append(find<QAbstractButton>(role)->isChecked() ? "on" : "off");
+        for (const char* role : {"pBtnnewProfile", "BtnDeleteProfile", "BtnEditProfile", "BtnsaveProfile",
+                                 "BtnUndoProfile", "BtnSetDefaultProfile"})
+            state.append(enabled(role) ? "enabled" : "disabled");
+        return state;
+    }
+
+private:
+    void copyTexts() const {
+        const QDir built(QString(ORBISDIAL_BUILD_DIR) + "/lib/orbisdial/lang");
+        for (const QString& file : built.entryList({"*.qm"}))
+            QFile::copy(built.filePath(file), folder.path("library/lang/" + file));
+    }
+    static QStringList attributes(const QString& file, const QString& element, const QString& attribute) {
+        QStringList values;
+        QXmlStreamReader reader(TestFolder::read(file));
+        while (!reader.atEnd())
+            if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == element)
+                values.append(reader.attributes().value(attribute).toString());
+        return values;
+    }
+};
+
+#endif
