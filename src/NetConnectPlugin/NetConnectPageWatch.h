@@ -1,4 +1,5 @@
-// Tells the settings service that its page is being destroyed, whoever destroys it.
+// Watches the settings page for its service: that it is being destroyed, whoever destroys it, and that a person turns
+// to it, when a connection may have come up or gone down.
 #ifndef ORBISDIAL_NETCONNECTPAGEWATCH_H
 #define ORBISDIAL_NETCONNECTPAGEWATCH_H
 
@@ -9,12 +10,20 @@ class CNetConnectUIService;
 
 // The page's first child, so that it goes before the widgets that the service points to. GUI thread.
 class NetConnectPageWatch : public QObject {
+    Q_OBJECT
+
 public:
     NetConnectPageWatch(QWidget* page, CNetConnectUIService* service);
     virtual ~NetConnectPageWatch();
 
+    virtual bool eventFilter(QObject* watched, QEvent* event);
+
+private slots:
+    void onFocusChanged(QWidget* before, QWidget* now);
+
 private:
     CNetConnectUIService* m_pService;
+    QWidget* m_pPage;
 };
 
 #endif

@@ -1,3 +1,5 @@
+#include <QRegExp>
+
 #include "CommonUtils.h"
 #include "NetConnectUIService.h"
 
@@ -6,7 +8,10 @@ namespace {
 const int AskUserNameWidth = 230;
 const int ProtocolTitleWidth = 220;
 
-QString withoutMnemonic(const QString& text) { return QString(text).remove(QLatin1Char('&')); }
+// Languages without Latin letters put the mnemonic in parentheses behind the text.
+QString withoutMnemonic(const QString& text) {
+    return QString(text).remove(QRegExp(QString::fromLatin1("\\(&.\\)"))).remove(QLatin1Char('&'));
+}
 
 }  // namespace
 

@@ -63,6 +63,7 @@ void CNetConnectUIService::createTransferWidgets() {
     m_pBtnImportExportBrowse->setVisible(m_bImport);
     m_pBtnImportExportOk = createButton(main, "NetConnectSettingUIPlugin_ButtonImportOK");
     m_pBtnImportExportCancel = createButton(main, "NetConnectSettingUIPlugin_ButtonImportCancel");
+    m_pBtnImportExportOk->setDefault(true);  // or Return would press Browse, also where that is hidden
 
     QHBoxLayout* buttons = new QHBoxLayout;
     buttons->setContentsMargins(0, 10, 0, 0);

@@ -86,7 +86,7 @@ ModemPanel::ModemPanel(QWidget* parent)
     m_Imsi->setObjectName(QStringLiteral("ModemPanel_Imsi"));
     m_Imsi->setMaxLength(VRKS_IMSI_SIZE - 1);
     m_Imsi->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), m_Imsi));
-    m_Imsi->setMinimumWidth(fontMetrics().averageCharWidth() * (VRKS_IMSI_SIZE + 4));
+    m_Imsi->setMinimumWidth(fontMetrics().horizontalAdvance(QString(VRKS_IMSI_SIZE + 1, QLatin1Char('0'))));
 
     auto* form = new QFormLayout(this);
     buildCard(form);

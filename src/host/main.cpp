@@ -62,6 +62,7 @@ void useDesktopFontSize() {
 int run(const Options& options) {
     Host host;
     if (!usePage(host.window()->pages(), options.page)) return WrongUsage;
+    host.window()->resize(host.window()->sizeHint());  // left to itself, Qt makes it narrower on a small screen
     host.window()->show();
     if (!options.screenshot.isEmpty()) {
         QTimer::singleShot(SettleMs, [&] { takeScreenshot(host.window(), options.screenshot); });

@@ -83,7 +83,7 @@ public:
 
     // With a user file of these profiles and this default element; with no profiles, without a file.
     void start(const QByteArray& user = QByteArray(), const QByteArray& defaultElement = QByteArray(),
-               const QByteArray& language = "en") {
+               const QByteArray& language = TestFolder::language()) {
         if (!user.isEmpty()) TestFolder::write(folder.userFile(), document(user, defaultElement));
         copyTexts();
         QVERIFY(Change::SetLanguage(language));

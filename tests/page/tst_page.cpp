@@ -100,6 +100,19 @@ private slots:
         }
     }
 
+    // A connection that came up meanwhile counts as soon as a person turns to the page.
+    void locksFollowTheConnection() {
+        F f;
+        f.start(F::profile("Home"));
+        f.select("Home");
+        QVERIFY(f.enabled("BtnEditProfile"));
+        f.dialup.connected = "Home";
+        QEvent enter(QEvent::Enter);
+        QCoreApplication::sendEvent(f.find("netConnectwdg"), &enter);
+        for (const char* role : {"BtnEditProfile", "BtnDeleteProfile", "BtnSetDefaultProfile"})
+            QVERIFY2(!f.enabled(role), role);
+    }
+
     void emptyListFills() {
         F f;
         f.start();

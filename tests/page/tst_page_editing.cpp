@@ -11,6 +11,9 @@ const QByteArray Full =
 
 QString text(const char* id) { return Change::tr(id, "NetConnectPlugin"); }
 
+// A name of a list, with the default mark in the current language.
+QString shown(QString name) { return name.replace("(Default)", text("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT")); }
+
 }  // namespace
 
 class TestPageEditing : public QObject {
@@ -138,7 +141,7 @@ private slots:
         f.start(F::profile("Home") + F::profile("Work"), "<Default name='Home' IsUserSet='1'/>");
         for (const auto& row : rows) {
             if (f.enabled("pBtnnewProfile")) f.click("pBtnnewProfile");
-            f.edit("LineEditProfileName")->setText(row.name);
+            f.edit("LineEditProfileName")->setText(shown(row.name));
             f.edit("AccessNumberlineEdit")->setText(row.number);
             f.edit("ApnlineEdit")->setText(row.apn);
             const QStringList typed = f.editState();
@@ -166,7 +169,7 @@ private slots:
         for (const auto& row : rows) {
             F f;
             f.start(F::profile("Home") + F::profile("Work"), "<Default name='Work' IsUserSet='1'/>");
-            f.select(row.selected);
+            f.select(shown(row.selected));
             row.yes ? f.answers.yes() : f.answers.no();
             f.click("BtnDeleteProfile");
             QCOMPARE(f.stored(), row.stored);
@@ -182,7 +185,7 @@ private slots:
         f.select("Work");
         f.click("BtnSetDefaultProfile");
         QCOMPARE(f.storedDefault(), QString("Work/1"));
-        QCOMPARE(f.listed(), QStringList({"Home", "Work (Default)"}));
+        QCOMPARE(f.listed(), QStringList({"Home", shown("Work (Default)")}));
         QCOMPARE(f.notify->sent, QStringList("92804312-432E-401F-96BB-1C20D852815D 512 0 0"));
     }
 
@@ -237,7 +240,7 @@ private slots:
     void languageChangeMovesTheEditedName() {
         F f;
         f.start(F::profile("Old", "phonenumber='1' langid='IDS_CANCEL'") + F::profile("Work"));
-        QCOMPARE(f.listed().first(), text("IDS_CANCEL"));
+        f.select(text("IDS_CANCEL"));
         f.click("BtnEditProfile");
         F::type(f.edit("AccessNumberlineEdit"), "2");
         f.language("de");
@@ -358,7 +361,7 @@ private:
         profile.name = what == "save of another" ? "Other" : "Home";
         profile.phonenumber = "of another plug-in";
         if (what == "card") F::changeCard();
-        if (what == "language") f->language("ar");
+        if (what == "language") f->language(TestFolder::language() == "ar" ? "en" : "ar");
         if (what == "system mode") f->event(NotifySystemModeChanged);
         if (what.startsWith("save of")) f->profiles->SaveDialUpProfile(profile);
         if (what == "default") f->profiles->SetDefaultDialUpProfileName("Zulu");

@@ -25,6 +25,12 @@ public:
     QString pluginDir() const { return path("library/plugins/NetConnectPlugin"); }
     QString userFile() const { return path("data/UserProfile.prof"); }
 
+    // The language that the test runs in.
+    static QByteArray language() {
+        const QByteArray chosen = qgetenv("ORBISDIAL_TEST_LANGUAGE");
+        return chosen.isEmpty() ? "en" : chosen;
+    }
+
     // Writes a file, making its folder.
     static void write(const QString& file, const QByteArray& content) {
         QDir().mkpath(QFileInfo(file).path());
