@@ -143,11 +143,12 @@ bool replace(const QString& path, const QByteArray& content, Access access, QStr
 
 bool keepDamaged(const QString& path, QString* copy, QString* reason) {
     QFile damaged(path);
-    if (!damaged.open(QIODevice::ReadOnly)) {
+    QByteArray content;
+    if (damaged.open(QIODevice::ReadOnly)) content = damaged.readAll();
+    if (damaged.error() != QFile::NoError) {
         *reason = QString::fromLatin1("can't read the damaged file: ") + damaged.errorString();
         return false;
     }
-    const QByteArray content = damaged.readAll();
     const QString stem = target(path) + QLatin1String(".damaged-") +
                          QDateTime::currentDateTime().toUTC().toString(QLatin1String("yyyyMMddThhmmssZ"));
     *copy = stem;

@@ -1,5 +1,6 @@
 #include "FileStamp.h"
 
+#include <errno.h>
 #include <sys/stat.h>
 #include <time.h>
 
@@ -13,7 +14,12 @@ FileStamp FileStamp::of(const QString& path) {
     const qint64 restlessTime = 100000000;
     FileStamp stamp;
     struct stat info;
-    if (path.isEmpty() || ::stat(QFile::encodeName(path).constData(), &info) != 0) return stamp;
+    if (path.isEmpty()) return stamp;
+    if (::stat(QFile::encodeName(path).constData(), &info) != 0) {
+        // A file that can't be looked at may be there all the same.
+        if (errno != ENOENT && errno != ENOTDIR) stamp.size = 0;
+        return stamp;
+    }
     stamp.regular = S_ISREG(info.st_mode);
     stamp.device = info.st_dev;
     stamp.inode = info.st_ino;

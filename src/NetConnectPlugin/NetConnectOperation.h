@@ -13,6 +13,9 @@ public:
     explicit NetConnectOperation(NetConnectSettingUILogic* logic);
     ~NetConnectOperation();
 
+    // True when the user's file could not be locked or read: nothing will be stored.
+    bool hasFailed() const;
+
     // Writes the user's profiles and default, or leaves that to the open NetConnectStoreAction: 0 or 25.
     int store(bool isUserSet);
 

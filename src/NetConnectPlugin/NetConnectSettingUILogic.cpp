@@ -41,7 +41,9 @@ NetConnectSettingUILogic::NetConnectSettingUILogic()
       m_bIMSIDefaultForgotten(false),
       m_bForeignDefault(false),
       m_bUserIndexValid(false),
-      m_nLibraryRevision(-1) {
+      m_nUserSearches(0),
+      m_nLibraryRevision(-1),
+      m_nImportHolds(0) {
     Init();
 }
 
@@ -56,6 +58,7 @@ NetConnectSettingUILogic::~NetConnectSettingUILogic() {
     delete m_pFunctionHash;
     delete m_pProfileListHash;
     delete m_pIMSIHash;
+    while (m_nImportHolds > 0) releaseImportHold();
     NetConnectXMLParse::Destroy();
 }
 
@@ -166,25 +169,27 @@ QString NetConnectSettingUILogic::translated(const QString& langid) {
     return Change::tr(langid, QLatin1String("NetConnectPlugin"));
 }
 
-// Gives a profile the name that its langid stands for; false when there is none, and the stored name stays.
-bool NetConnectSettingUILogic::translateName(DialupProfile* profile) {
-    if (profile->langid.isEmpty()) return false;
-    const QString name = translated(profile->langid);
-    if (name.isEmpty() || name == profile->name) return false;
-    profile->name = name;
+// Gives a profile the name that its langid stands for; false when there is none, and the stored name stays. The list
+// goes on sharing its profiles with others until a name really changes.
+bool NetConnectSettingUILogic::translateName(QList<DialupProfile>* profiles, int index) {
+    const DialupProfile& profile = profiles->at(index);
+    if (profile.langid.isEmpty()) return false;
+    const QString name = translated(profile.langid);
+    if (name.isEmpty() || name == profile.name) return false;
+    (*profiles)[index].name = name;
     return true;
 }
 
 void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
+    const QList<DialupProfile> before = m_ProfileLibList;
     m_ProfileLibList.clear();
     readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(LibraryName));
+    for (int i = 0; i < m_ProfileLibList.size(); ++i) translateName(&m_ProfileLibList, i);
+    if (m_ProfileLibList.isSharedWith(before)) return;
+
     m_LibraryIndex.clear();
     m_LibraryIndex.reserve(m_ProfileLibList.size());
-    for (int i = 0; i < m_ProfileLibList.size(); ++i) {
-        if (!m_ProfileLibList.at(i).langid.isEmpty()) translateName(&m_ProfileLibList[i]);
-        const QString& name = m_ProfileLibList.at(i).name;
-        if (!m_LibraryIndex.contains(name)) m_LibraryIndex.insert(name, i);
-    }
+    for (int i = m_ProfileLibList.size() - 1; i >= 0; --i) m_LibraryIndex.insert(m_ProfileLibList.at(i).name, i);
 }
 
 // Reads a file that is not the user's: the defaults that it names for the card's modes are not the user's.
@@ -205,11 +210,12 @@ void NetConnectSettingUILogic::forgetForeignDefault() {
 }
 
 int NetConnectSettingUILogic::readUserProfiles() {
+    const QList<DialupProfile> before = m_UserProfileList;
     m_UserProfileList.clear();
-    userListChanged();
     bool isUserSet = false;
     const int status =
         m_pXMLParse->GetAllProfileFromUserDataXML(&m_UserProfileList, &m_strDefaultProfile, QString(), &isUserSet);
+    if (!m_UserProfileList.isSharedWith(before)) userListChanged();
     m_bIsUserSet = isUserSet;
     m_StoredDefault = NetConnectDefault(m_strDefaultProfile, m_bIsUserSet);
     rememberUserFile(status);
@@ -250,8 +256,8 @@ bool NetConnectSettingUILogic::takeInChanges() {
     if (status != Success && status != FileMissing)
         return status != FileNotOpened;  // what was read before is better than a part
 
+    if (!m_UserProfileList.isSharedWith(profiles)) userListChanged();
     m_UserProfileList = profiles;
-    userListChanged();
     const NetConnectDefault stored(defaultName, isUserSet);
     if (stored == m_StoredDefault) return true;
     m_StoredDefault = stored;
@@ -265,6 +271,8 @@ int NetConnectSettingUILogic::writeUserProfiles(bool isUserSet) {
     if (status == Success) {
         m_StoredDefault = NetConnectDefault(m_strDefaultProfile, isUserSet);
         m_UserFileStamp = m_pXMLParse->userFileStamp();
+    } else {
+        m_UserFileStamp.settled = false;  // the next change starts from what the file holds
     }
     publishStatus();
     return status;

@@ -215,7 +215,7 @@ private:
     bool isAutomaticDefault();
     void clearAutomaticDefault();
     static QString translated(const QString& langid);
-    static bool translateName(DialupProfile* profile);
+    static bool translateName(QList<DialupProfile>* profiles, int index);
 
     // the user's file
     static NetConnectSettingUILogic* instance();
@@ -225,7 +225,10 @@ private:
     int writeUserProfiles(bool isUserSet);
     Snapshot snapshot() const;
     void restore(const Snapshot& snapshot);
-    void userListChanged() { m_bUserIndexValid = false; }
+    void userListChanged() {
+        m_bUserIndexValid = false;
+        m_nUserSearches = 0;
+    }
     int findUserProfile(const QString& name) const;
     int findLibraryProfile(const QString& name);
     bool sealPassword(DialupProfile* profile);
@@ -236,13 +239,15 @@ private:
 
     // the default profile
     QString imsiProposal() const;
-    QString replacementDefault(const QSet<QString>& names) const;
+    QString replacementDefault(const QSet<QString>& otherNames) const;
 
     // presets
     void refreshLibraryNames();
     QString translatedLibraryName(const QString& name);
 
     // import and export
+    class ImportHold;
+    void releaseImportHold();
     int refuseExportTo(const QString& path);
     bool addCandidates(const QStringList& names, const QSet<QString>& replaced);
     bool exportProfile(QString name, QList<DialupProfile> target, QList<DialupProfile> source);
@@ -281,11 +286,15 @@ private:
 
     mutable QHash<QString, int> m_UserIndex;  // name to first place in m_UserProfileList
     mutable bool m_bUserIndexValid;
+    mutable int m_nUserSearches;     // without the index, since the list changed
+    QList<QString> m_UnsortedNames;  // what sortProfileNames was last given, and what it made of it
+    QList<QString> m_SortedNames;
     QHash<QString, int> m_LibraryIndex;        // shown name to first place in m_ProfileLibList
     int m_nLibraryRevision;                    // of m_LibraryLangids
     QHash<QString, QString> m_LibraryLangids;  // stored name to langid
     QHash<QString, QString> m_StoredNames;     // shown name to stored name, the inverse of m_ProfileMap
     QPointer<QObject> m_pStatusObject;
+    int m_nImportHolds;  // how often imports hold m_Mutex
 };
 
 #endif

@@ -29,18 +29,19 @@ int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isU
     return operation.store(m_bIsUserSet);
 }
 
-// The default that the configuration puts in the place of the stored one; null when that stays.
-QString NetConnectSettingUILogic::replacementDefault(const QSet<QString>& names) const {
+// The default that the configuration puts in the place of the stored one; null when that stays. The other names are
+// those that are listed beside the user's profiles.
+QString NetConnectSettingUILogic::replacementDefault(const QSet<QString>& otherNames) const {
     const QString fromIMSI = imsiProposal();
     const bool hasIMSIProposal = fromIMSI.size() > 1;
-    const bool isListed = names.contains(m_strDefaultProfile);
+    const bool isListed = otherNames.contains(m_strDefaultProfile) || HasUserProfile(m_strDefaultProfile);
     const bool isChosen = hasIMSIProposal ? (isListed && m_strDefaultProfile != m_strAPNDefaultProfile) ||
                                                 m_IMSIProfileList.contains(m_strDefaultProfile)
                                           : isListed;
     if (isChosen && m_bIsUserSet) return QString();
 
     const QString proposal = hasIMSIProposal ? fromIMSI : m_strAPNDefaultProfile;
-    if (proposal.isNull() || !names.contains(proposal)) return QString();
+    if (proposal.isNull() || (!otherNames.contains(proposal) && !HasUserProfile(proposal))) return QString();
     const NetConnectDefault wanted(proposal, false);
     const bool isStored = m_StoredDefault == wanted && NetConnectDefault(m_strDefaultProfile, m_bIsUserSet) == wanted;
     return isStored && m_pXMLParse->isModeDefault(wanted) ? QString() : proposal;

@@ -1,6 +1,8 @@
 // Listing, fetching, adding, deleting and replacing of profiles.
 
 #include <algorithm>
+#include <functional>
+#include <vector>
 
 #include "NetConnectOperation.h"
 #include "NetConnectSettingUILogic.h"
@@ -13,9 +15,11 @@ static const char Base64Method[] = "1";
 
 int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
     QMutexLocker locker(&m_Mutex);
-    m_UserProfileList.clear();
-    userListChanged();
-    if (!m_pXMLParse) return ObjectMissing;
+    if (!m_pXMLParse) {
+        m_UserProfileList.clear();
+        userListChanged();
+        return ObjectMissing;
+    }
     forgetForeignDefault();
     const bool isReadable = readUserProfiles() != FileNotOpened;
     if (translateUserProfiles()) {
@@ -23,20 +27,20 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
         translateUserProfiles();  // what another process changed meanwhile
         operation.store(m_bIsUserSet);
     }
+    QSet<QString> otherNames;
+    for (int i = 0; i < names->size(); ++i) otherNames.insert(names->at(i));
+    names->reserve(names->size() + m_UserProfileList.size());
     for (int i = 0; i < m_UserProfileList.size(); ++i) names->append(m_UserProfileList.at(i).name);
 
-    QSet<QString> listed;
-    listed.reserve(names->size());
-    for (int i = 0; i < names->size(); ++i) listed.insert(names->at(i));
     const QStringList presets = getDefaultOrIMSIProfileList();
     for (int i = 0; i < presets.size(); ++i) {
-        if (listed.contains(presets.at(i))) continue;
-        listed.insert(presets.at(i));
+        if (otherNames.contains(presets.at(i)) || HasUserProfile(presets.at(i))) continue;
+        otherNames.insert(presets.at(i));
         names->append(presets.at(i));
     }
     m_ProfileNameList = QStringList(*names);
 
-    const QString replacement = replacementDefault(listed);
+    const QString replacement = replacementDefault(otherNames);
     if (!replacement.isNull()) {
         const NetConnectDefault stored = m_StoredDefault;
         NetConnectOperation operation(this);
@@ -56,7 +60,7 @@ bool NetConnectSettingUILogic::translateUserProfiles() {
     for (int i = 0; i < m_UserProfileList.size(); ++i) {
         if (m_UserProfileList.at(i).langid.isEmpty()) continue;
         const QString storedName = m_UserProfileList.at(i).name;
-        if (!translateName(&m_UserProfileList[i])) continue;
+        if (!translateName(&m_UserProfileList, i)) continue;
         if (m_strDefaultProfile == storedName) m_strDefaultProfile = m_UserProfileList.at(i).name;
         changed = true;
     }
@@ -64,16 +68,64 @@ bool NetConnectSettingUILogic::translateUserProfiles() {
     return changed;
 }
 
-static bool isBeforeIgnoringCase(const QString& first, const QString& second) {
-    return QString::compare(first, second, Qt::CaseInsensitive) < 0;
-}
+namespace {
+
+// Orders places in a list of names as QString::compare orders the names without case, but folds each name only once.
+class CaselessOrder {
+public:
+    explicit CaselessOrder(const QList<QString>& names) : m_Starts(1, 0) {
+        m_Starts.reserve(size_t(names.size()) + 1);
+        for (int i = 0; i < names.size(); ++i) {
+            append(names.at(i));
+            m_Starts.push_back(m_Folded.size());
+        }
+    }
+    bool operator()(int first, int second) const {
+        return std::lexicographical_compare(start(first), start(first + 1), start(second), start(second + 1));
+    }
+
+private:
+    // The second half of a surrogate pair counts as the whole character.
+    void append(const QString& name) {
+        QChar last;
+        for (int i = 0; i < name.size(); ++i) {
+            const QChar unit = name.at(i);
+            const bool isPair = unit.isLowSurrogate() && last.isHighSurrogate();
+            m_Folded.push_back(QChar::toCaseFolded(isPair ? QChar::surrogateToUcs4(last, unit) : uint(unit.unicode())));
+            last = unit;
+        }
+    }
+    const uint* start(int place) const { return m_Folded.data() + m_Starts[size_t(place)]; }
+
+    std::vector<uint> m_Folded;    // all names, one after the other
+    std::vector<size_t> m_Starts;  // of the names in m_Folded, and the end
+};
+
+}  // namespace
 
 int NetConnectSettingUILogic::sortProfileNames(QList<QString>* names) {
-    std::stable_sort(names->begin(), names->end(), isBeforeIgnoringCase);
+    if (*names != m_UnsortedNames) {
+        std::vector<int> places(size_t(names->size()), 0);
+        for (int i = 0; i < names->size(); ++i) places[size_t(i)] = i;
+        const CaselessOrder order(*names);
+        std::stable_sort(places.begin(), places.end(), std::cref(order));
+
+        m_UnsortedNames = *names;
+        m_SortedNames.clear();
+        m_SortedNames.reserve(names->size());
+        for (size_t i = 0; i < places.size(); ++i) m_SortedNames.append(names->at(places[i]));
+    }
+    *names = m_SortedNames;
     return Success;
 }
 
 int NetConnectSettingUILogic::findUserProfile(const QString& name) const {
+    const int cheapSearches = 2;  // going through the list takes less than making the index
+    if (!m_bUserIndexValid && m_nUserSearches++ < cheapSearches) {
+        for (int i = 0; i < m_UserProfileList.size(); ++i)
+            if (m_UserProfileList.at(i).name == name) return i;
+        return -1;
+    }
     if (!m_bUserIndexValid) {
         m_UserIndex.clear();
         m_UserIndex.reserve(m_UserProfileList.size());
@@ -171,7 +223,8 @@ int NetConnectSettingUILogic::AddDialUpProfile(const DialupProfile& profile) {
     QMutexLocker locker(&m_Mutex);
     if (!m_pXMLParse) return ObjectMissing;
     NetConnectOperation operation(this);
-    if (HasUserProfile(profile.name)) return NameTaken;
+    // Without the lock the name may be one that an earlier call could not store.
+    if (HasUserProfile(profile.name)) return operation.hasFailed() ? FileNotOpened : NameTaken;
     DialupProfile stored = profile;
     if (!sealPassword(&stored)) {
         m_pXMLParse->reportProblem(m_pXMLParse->userProfilePath(), QLatin1String("a password can't be sealed"));

@@ -46,7 +46,7 @@ int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QS
     publishStatus();
     if (status != Success) return status;
     for (int i = 0; i < m_ImportList.size(); ++i) {
-        if (!m_ImportList.at(i).langid.isEmpty()) translateName(&m_ImportList[i]);
+        translateName(&m_ImportList, i);
         if (!m_ImportList.at(i).name.isEmpty()) names->append(m_ImportList.at(i).name);
     }
     return status;
@@ -61,15 +61,38 @@ int NetConnectSettingUILogic::ImportDialupProfiles(QStringList* names, QWidget* 
     return status == NothingImported || status == ObjectMissing ? status : int(Success);
 }
 
+// Holds the logic's mutex for an import, and knows when a question's event loop has ended the logic.
+class NetConnectSettingUILogic::ImportHold {
+public:
+    explicit ImportHold(NetConnectSettingUILogic* logic) : m_pLogic(logic) {
+        logic->m_Mutex.lock();
+        ++logic->m_nImportHolds;
+    }
+    ~ImportHold() {
+        if (m_pLogic) m_pLogic->releaseImportHold();
+    }
+    bool isLogicGone() const { return !m_pLogic; }
+
+private:
+    Q_DISABLE_COPY(ImportHold)
+
+    QPointer<NetConnectSettingUILogic> m_pLogic;
+};
+
+void NetConnectSettingUILogic::releaseImportHold() {
+    --m_nImportHolds;
+    m_Mutex.unlock();
+}
+
 int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, NetConnectClashPolicy* policy) {
-    QMutexLocker locker(&m_Mutex);
+    const ImportHold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
     if (names.isEmpty()) return NothingImported;
 
     // Every question comes before the first change: while one is on screen events run that look at the lists, and
     // other processes must not wait. A profile that one of them adds meanwhile raises a question of its own.
     const QList<DialupProfile> candidates = m_ImportList;
-    QSet<QString> clashing = QSet<QString>();
+    QSet<QString> clashing;
     for (int i = 0; i < m_ProfileNameList.size(); ++i) clashing.insert(m_ProfileNameList.at(i));
     QSet<QString> decided;
     QSet<QString> replaced;
@@ -78,6 +101,7 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
             if (!clashing.contains(names.at(i)) || decided.contains(names.at(i))) continue;
             decided.insert(names.at(i));
             if (policy->replace(names.at(i))) replaced.insert(names.at(i));
+            if (hold.isLogicGone()) return ObjectMissing;
         }
         NetConnectOperation operation(this);
         bool isSettled = true;
@@ -144,8 +168,7 @@ int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, con
 
     QList<DialupProfile> library;
     readForeignFile(&library, &ignoredDefault, QLatin1String("ProfileLib.prof"));
-    for (int i = 0; i < library.size(); ++i)
-        if (!library.at(i).langid.isEmpty()) translateName(&library[i]);
+    for (int i = 0; i < library.size(); ++i) translateName(&library, i);
     for (int i = 0; i < names.size(); ++i)
         if (!exportProfile(names.at(i), target, m_UserProfileList)) exportProfile(names.at(i), target, library);
 

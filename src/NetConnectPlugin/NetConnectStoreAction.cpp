@@ -108,9 +108,14 @@ NetConnectOperation::~NetConnectOperation() {
     NetConnectStoreAction::releaseLock();
 }
 
+bool NetConnectOperation::hasFailed() const { return NetConnectStoreAction::state().lockFailed; }
+
 int NetConnectOperation::store(bool isUserSet) {
     NetConnectStoreAction::State& now = NetConnectStoreAction::state();
-    if (now.lockFailed) return NetConnectSettingUILogic::FileNotOpened;
+    if (hasFailed()) {
+        m_pLogic->m_UserFileStamp.settled = false;  // the next change starts from what the file holds
+        return NetConnectSettingUILogic::FileNotOpened;
+    }
     if (now.actions == 0) return m_pLogic->writeUserProfiles(isUserSet);
     now.isPending = true;
     now.isUserSet = isUserSet;

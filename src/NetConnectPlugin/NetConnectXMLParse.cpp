@@ -81,16 +81,17 @@ void NetConnectXMLParse::clearProblem(const QString& file) {
 int NetConnectXMLParse::readFile(const QString& path, QByteArray* content) {
     const qint64 largest = 256 * 1024 * 1024;  // bytes; a larger file is no profile file
     QFile file(path);
-    if (path.isEmpty() || !file.exists()) {
+    const FileStamp stamp = FileStamp::of(path);
+    if (!stamp.exists()) {
         qDebug("File %s does not exist", qPrintable(path));
         return 23;
     }
     // A pipe or a device could be opened, but would never end.
     QString reason;
-    if (!FileStamp::of(path).isRegularFile())
-        reason = QLatin1String("is not a regular file");
+    if (!stamp.isRegularFile())
+        reason = QLatin1String("it is not a regular file, or can't be looked at");
     else if (file.size() > largest)
-        reason = QLatin1String("is too large");
+        reason = QLatin1String("it is too large");
     else if (!file.open(QIODevice::ReadOnly))
         reason = file.errorString();
     if (reason.isEmpty()) {

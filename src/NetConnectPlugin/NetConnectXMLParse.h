@@ -155,11 +155,16 @@ private:
         bool isCurrent(const QString& file, const FileStamp& now) const {
             return isComplete && path == file && stamp.settled && stamp == now;
         }
+        // Whether the document is that of these bytes, which were just read from the file.
+        bool isOf(const QString& file, const QByteArray& bytes) const {
+            return isComplete && path == file && !content.isEmpty() && content == bytes;
+        }
 
         QString path;
         FileStamp stamp;  // taken before the file was read, or after it was written
         bool isComplete;  // read or written to its end
         ProfileDocument document;
+        QByteArray content;  // the file's bytes as long as its stamp can't vouch for them; empty after that
         int revision;
     };
 
@@ -174,8 +179,10 @@ private:
     void applyDocument(const ProfileDocument& document, QList<DialupProfile>* profiles, QString* defaultName,
                        bool* isUserSet);
     void applyDefault(const DefaultEntry& entry, const NetConnectCardMode& card, QString* defaultName, bool* isUserSet);
-    QByteArray writeDocument(const QList<DialupProfile>& profiles, const NetConnectDefault* value,
-                             const NetConnectRememberedDefaults& remembered);
+    static QList<DefaultEntry> defaultEntries(const NetConnectDefault& value,
+                                              const NetConnectRememberedDefaults& remembered);
+    static void writeDefaults(QXmlStreamWriter& writer, const QList<DefaultEntry>& defaults);
+    static QByteArray writeDocument(const ProfileDocument& document);
     NetConnectRememberedDefaults withModeDefault(const NetConnectDefault& value) const;
     bool prepareTarget(const QString& path, const KeptFile& kept);
 

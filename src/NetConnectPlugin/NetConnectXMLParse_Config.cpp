@@ -85,11 +85,11 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
         reader.readNext();
         XmlText::refuseDeclarations(reader);
         if (reader.hasError()) break;
+        if (reader.isEndElement() && reader.name() == QLatin1String("module")) currentModule.clear();
+        if (!reader.isStartElement()) continue;
         if (prompt) getUserPasswdPromptInfo(reader, prompt);
 
         const QXmlStreamAttributes attributes = reader.attributes();
-        if (reader.isEndElement() && reader.name() == QLatin1String("module")) currentModule.clear();
-        if (!reader.isStartElement()) continue;
         if (reader.name() == QLatin1String("group")) currentGroup = attributes.value(QLatin1String("name")).toString();
         if (reader.name() == QLatin1String("module"))
             currentModule = attributes.value(QLatin1String("name")).toString();

@@ -7,27 +7,24 @@
 
 namespace {
 
-// Profile files repeat few values many times: a value equal to one of the last two of its field shares its text.
+// Profile files repeat few values many times: a value equal to its field's last one, or to one that was seen not long
+// ago in any field, shares its text. Names do not repeat and would only crowd others out.
 class ValuePool {
 public:
     QString shared(int field, const QStringRef& value) {
-        Recent& recent = m_Recent[field];
-        if (value == recent.last) return recent.last;
-        if (value == recent.earlier)
-            qSwap(recent.last, recent.earlier);
-        else {
-            recent.earlier = recent.last;
-            recent.last = value.toString();
-        }
-        return recent.last;
+        if (field == NameField) return value.toString();
+        QString& last = m_Last[field];
+        if (value == last) return last;
+        QString& seen = m_Seen[qHash(value) % SeenCount];
+        if (value != seen) seen = value.toString();
+        last = seen;
+        return last;
     }
 
 private:
-    struct Recent {
-        QString last;
-        QString earlier;
-    };
-    Recent m_Recent[DialupProfileFieldCount];
+    enum { NameField = 0, SeenCount = 1024 };
+    QString m_Last[DialupProfileFieldCount];
+    QString m_Seen[SeenCount];
 };
 
 // The field of an attribute; -1 for none. The writer's order is tried first.
@@ -39,16 +36,14 @@ int fieldOf(const QStringRef& attribute, int expected) {
     return -1;
 }
 
-DialupProfile readProfile(const QXmlStreamAttributes& attributes, ValuePool* pool) {
-    DialupProfile profile;
+void readProfile(const QXmlStreamAttributes& attributes, ValuePool* pool, DialupProfile* profile) {
     int expected = 0;
     for (int i = 0; i < attributes.size(); ++i) {
         const int field = fieldOf(attributes.at(i).qualifiedName(), expected);
         if (field < 0) continue;
-        profile.*DialupProfileFields[field].member = pool->shared(field, attributes.at(i).value());
+        profile->*DialupProfileFields[field].member = pool->shared(field, attributes.at(i).value());
         expected = field + 1;
     }
-    return profile;
 }
 
 NetConnectDefault readDefault(const QXmlStreamAttributes& attributes) {
@@ -59,32 +54,24 @@ NetConnectDefault readDefault(const QXmlStreamAttributes& attributes) {
 void writeProfile(QXmlStreamWriter& writer, const DialupProfile& profile) {
     writer.writeEmptyElement(QLatin1String("Profile"));
     for (int i = 0; i < DialupProfileFieldCount; ++i)
-        writer.writeAttribute(QLatin1String(DialupProfileFields[i].attribute),
-                              XmlText::clean(profile.*DialupProfileFields[i].member));
+        writer.writeAttribute(QLatin1String(DialupProfileFields[i].attribute), profile.*DialupProfileFields[i].member);
+}
+
+// The profiles with clean texts; the same list when they are clean already.
+QList<DialupProfile> cleaned(const QList<DialupProfile>& profiles) {
+    QList<DialupProfile> result = profiles;
+    for (int i = 0; i < profiles.size(); ++i) {
+        for (int field = 0; field < DialupProfileFieldCount; ++field) {
+            QString DialupProfile::*const member = DialupProfileFields[field].member;
+            const QString text = XmlText::clean(profiles.at(i).*member);
+            if (text.size() != (profiles.at(i).*member).size()) result[i].*member = text;
+        }
+    }
+    return result;
 }
 
 void writeUserSet(QXmlStreamWriter& writer, bool isUserSet) {
     if (isUserSet) writer.writeAttribute(QLatin1String("IsUserSet"), QLatin1String("1"));
-}
-
-void writeModeDefault(QXmlStreamWriter& writer, const NetConnectDefault& value, const char* mode, bool withUserSet) {
-    if (value.name.isEmpty()) return;
-    writer.writeEmptyElement(QLatin1String("item"));
-    writer.writeAttribute(QLatin1String("name"), XmlText::clean(value.name));
-    writer.writeAttribute(QLatin1String("value"), QLatin1String(mode));
-    writeUserSet(writer, withUserSet && value.isUserSet);
-}
-
-void writeDefaults(QXmlStreamWriter& writer, const NetConnectDefault& value,
-                   const NetConnectRememberedDefaults& remembered) {
-    writer.writeEmptyElement(QLatin1String("Default"));
-    writer.writeAttribute(QLatin1String("name"), XmlText::clean(value.name));
-    writeUserSet(writer, value.isUserSet);
-    if (remembered.wcdma.name.isEmpty() && remembered.cdma.name.isEmpty()) return;
-    writer.writeStartElement(QLatin1String("MultiModeDefaultProfile"));
-    writeModeDefault(writer, remembered.wcdma, "WCDMA", true);
-    writeModeDefault(writer, remembered.cdma, "CDMA", true);
-    writer.writeEndElement();
 }
 
 }  // namespace
@@ -119,6 +106,13 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     }
     QByteArray content;
     int status = readFile(path, &content);
+    if (status == 0 && kept && kept->isOf(path, content)) {
+        kept->stamp = stamp;
+        if (stamp.settled) kept->content.clear();
+        clearProblem(path);
+        *document = kept->document;
+        return 0;
+    }
     if (status == 0) {
         const QString refusal = XmlText::refusal(content);
         QXmlStreamReader reader(content);
@@ -132,6 +126,7 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     kept->stamp = stamp;
     kept->isComplete = status == 0;
     kept->document = status == 0 ? *document : ProfileDocument();
+    kept->content = status == 0 && !stamp.settled ? content : QByteArray();
     ++kept->revision;
     return status;
 }
@@ -156,7 +151,8 @@ int NetConnectXMLParse::parseDocument(QXmlStreamReader& reader, ProfileDocument*
         if (!reader.isStartElement()) continue;
 
         if (reader.name() == QLatin1String("Profile")) {
-            document->profiles.append(readProfile(reader.attributes(), &pool));
+            document->profiles.append(DialupProfile());
+            readProfile(reader.attributes(), &pool, &document->profiles.last());
         } else if (reader.name() == QLatin1String("Default")) {
             const DefaultEntry entry = {DefaultEntry::Plain, readDefault(reader.attributes())};
             document->defaults.append(entry);
@@ -220,18 +216,23 @@ int NetConnectXMLParse::SaveProfileToXML(QList<DialupProfile> profiles, QString 
     }
     if (!prepareTarget(path, isUserFile ? m_User : KeptFile())) return 25;
 
-    if (!isUserFile) return writeFile(path, writeDocument(profiles, 0, m_Remembered), false);
+    ProfileDocument document;
+    document.profiles = cleaned(profiles);
+    if (!isUserFile) return writeFile(path, writeDocument(document), false);
 
     const NetConnectDefault value(defaultName, isUserSet);
     const NetConnectRememberedDefaults remembered = withModeDefault(value);
-    const int status = writeFile(path, writeDocument(profiles, &value, remembered), false);
+    document.defaults = defaultEntries(value, remembered);
+    const QByteArray content = writeDocument(document);
+    const int status = writeFile(path, content, false);
     if (status != 0) return status;
     m_Remembered = remembered;
     m_User.path = path;
     m_User.stamp = FileStamp::of(path);
+    m_User.stamp.settled = false;  // another program may write before this stamp could tell: the bytes must
     m_User.isComplete = true;
-    m_User.document = ProfileDocument();
-    m_User.stamp.settled = false;  // what was written is read back once, cleaned as the writer cleaned it
+    m_User.document = document;
+    m_User.content = content;
     return 0;
 }
 
@@ -252,8 +253,35 @@ bool NetConnectXMLParse::isModeDefault(const NetConnectDefault& value) const {
     return !card.isWCDMA() || m_Remembered.wcdma == value;
 }
 
-QByteArray NetConnectXMLParse::writeDocument(const QList<DialupProfile>& profiles, const NetConnectDefault* value,
-                                             const NetConnectRememberedDefaults& remembered) {
+QList<NetConnectXMLParse::DefaultEntry> NetConnectXMLParse::defaultEntries(
+    const NetConnectDefault& value, const NetConnectRememberedDefaults& remembered) {
+    const DefaultEntry all[] = {
+        {DefaultEntry::Plain, value}, {DefaultEntry::WCDMA, remembered.wcdma}, {DefaultEntry::CDMA, remembered.cdma}};
+    QList<DefaultEntry> entries;
+    for (size_t i = 0; i < sizeof(all) / sizeof(all[0]); ++i) {
+        if (all[i].kind != DefaultEntry::Plain && all[i].value.name.isEmpty()) continue;
+        entries.append(all[i]);
+        entries.last().value.name = XmlText::clean(all[i].value.name);
+    }
+    return entries;
+}
+
+// Writes the plain default, which comes first, and the card's modes' defaults, if there are any.
+void NetConnectXMLParse::writeDefaults(QXmlStreamWriter& writer, const QList<DefaultEntry>& defaults) {
+    for (int i = 0; i < defaults.size(); ++i) {
+        const DefaultEntry& entry = defaults.at(i);
+        if (i == 1) writer.writeStartElement(QLatin1String("MultiModeDefaultProfile"));
+        writer.writeEmptyElement(QLatin1String(entry.kind == DefaultEntry::Plain ? "Default" : "item"));
+        writer.writeAttribute(QLatin1String("name"), entry.value.name);
+        if (entry.kind != DefaultEntry::Plain)
+            writer.writeAttribute(QLatin1String("value"),
+                                  QLatin1String(entry.kind == DefaultEntry::CDMA ? "CDMA" : "WCDMA"));
+        writeUserSet(writer, entry.value.isUserSet);
+    }
+    if (defaults.size() > 1) writer.writeEndElement();
+}
+
+QByteArray NetConnectXMLParse::writeDocument(const ProfileDocument& document) {
     QByteArray content;
     QXmlStreamWriter writer(&content);
     writer.setAutoFormatting(true);
@@ -262,9 +290,9 @@ QByteArray NetConnectXMLParse::writeDocument(const QList<DialupProfile>& profile
     writer.writeAttribute(QLatin1String("type"), QLatin1String("Profile"));
     writer.writeStartElement(QLatin1String("ProfileGroup"));
     writer.writeAttribute(QLatin1String("type"), QLatin1String("Dailup"));
-    for (int i = 0; i < profiles.size(); ++i) writeProfile(writer, profiles.at(i));
+    for (int i = 0; i < document.profiles.size(); ++i) writeProfile(writer, document.profiles.at(i));
     writer.writeEndElement();
-    if (value) writeDefaults(writer, *value, remembered);
+    writeDefaults(writer, document.defaults);
     writer.writeEndDocument();
     return writer.hasError() ? QByteArray() : content;
 }

@@ -16,7 +16,16 @@ static int allowedLength(const QString& text, int at) {
     return !c.isLowSurrogate() && isAllowed(c.unicode()) ? 1 : 0;
 }
 
+// Most texts hold neither control characters nor surrogates nor the last code points.
+static bool isPlain(const QString& text) {
+    const QChar* const end = text.constData() + text.size();
+    for (const QChar* c = text.constData(); c != end; ++c)
+        if (c->unicode() < 0x20 || c->unicode() >= 0xd800) return false;
+    return true;
+}
+
 QString clean(const QString& text) {
+    if (isPlain(text)) return text;
     int at = 0;
     for (int length = 1; at < text.size() && length > 0; at += length) {
         length = allowedLength(text, at);

@@ -114,12 +114,12 @@ void TestOrbisctlChanging::refusal_data() {
     row("deletion of a read-only one", {"delete", "Fixed"}, 1, "read-only");
     row("deletion of nothing", {"delete", "Nope"}, 1, "\"Nope\"");
     row("unknown default", {"default", "Nope"}, 1, "\"Nope\"");
-    row("import of no file", {"import", "/proc/nowhere/x.prof"}, 1, "/proc/nowhere/x.prof: does not exist");
+    row("import of no file", {"import", "/dev/null/nowhere/x.prof"}, 1, "/dev/null/nowhere/x.prof: does not exist");
     row("import of nothing", {"import", ""}, 2, "empty");
     row("import by a bare name", {"import", "ProfileLib.prof"}, 1, "does not exist");
     row("export to nothing", {"export", "", "Own"}, 2, "empty");
-    row("export of unknown ones", {"export", "/proc/nowhere/x", "Own", "Nope", "Never"}, 1, "\"Nope\", \"Never\"");
-    row("export to no folder", {"export", "/proc/nowhere/x", "Own"}, 1, "/proc/nowhere/x");
+    row("export of unknown ones", {"export", "/dev/null/nowhere/x", "Own", "Nope", "Never"}, 1, "\"Nope\", \"Never\"");
+    row("export to no folder", {"export", "/dev/null/nowhere/x", "Own"}, 1, "/dev/null/nowhere/x");
 }
 
 void TestOrbisctlChanging::refusal() {

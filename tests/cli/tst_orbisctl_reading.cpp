@@ -252,7 +252,9 @@ void TestOrbisctlReading::completion_data() {
     QTest::newRow("command") << QStringList{"ex"} << QByteArray("export explain");
     QTest::newRow("name with a blank") << QStringList{"show", "My\\ o"} << QByteArray("My\\ own");
     QTest::newRow("name in quotes") << QStringList{"show", "\"My o"} << QByteArray("My own");
-    QTest::newRow("name after a folder") << QStringList{"--data-dir", "/proc/nowhere", "--device", "none", "show", ""}
+    QTest::newRow("name after a folder") << QStringList{"--data-dir", "/dev/null/nowhere",
+                                                        "--device",   "none",
+                                                        "show",       ""}
                                          << QByteArray("");
     QTest::newRow("field") << QStringList{"set", "X", "dn"} << QByteArray("dns= dnsalt=");
     QTest::newRow("flag") << QStringList{"set", "X", "chap", "=", "f"} << QByteArray("false");
@@ -264,6 +266,7 @@ void TestOrbisctlReading::completion_data() {
 void TestOrbisctlReading::completion() {
     QFETCH(QStringList, words);
     QFETCH(QByteArray, expected);
+    if (!QFileInfo::exists("/dev/fd/0")) QSKIP("bash redirects from a command through /dev/fd, which is not there");
     const OrbisctlFixture fixture;
     fixture.writeUser("<Profile name='My own'/>");
     QProcess bash;

@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QtTest>
 
+#include "FileReplacement.h"
 #include "LogicFixture.h"
 #include "NetConnectStoreAction.h"
 
@@ -128,6 +129,14 @@ private slots:
         QCOMPARE(m_pFixture->logic()->SaveDialUpProfile(LogicFixture::named("B")), 0);
         QVERIFY(QFileInfo(m_pFixture->folder.userFile()).isSymLink());
         QVERIFY(TestFolder::read(real).contains("name=\"B\""));
+    }
+
+    // A 32-bit program that does not ask for it can't even see one.
+    void aLargeFileIsSeen() {
+        QFile large(m_pFixture->folder.path("large"));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(qint64(5) << 30));  // takes no space
+        QVERIFY(FileStamp::of(large.fileName()).isRegularFile());
+        QVERIFY(FileReplacement::isSameFile(large.fileName(), large.fileName()));
     }
 
     void damagedFilesAreKept_data() {

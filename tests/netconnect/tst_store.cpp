@@ -1,6 +1,8 @@
 // Listing, adding, deleting, replacing and the default profile.
 
+#include <QRandomGenerator>
 #include <QtTest>
+#include <algorithm>
 
 #include "Change.h"
 #include "LogicFixture.h"
@@ -20,6 +22,36 @@ private slots:
         QList<QString> names = {"b", "A", "a", "C", "B"};
         QCOMPARE(m_pFixture->logic()->sortProfileNames(&names), 0);
         QCOMPARE(QStringList(names), QStringList({"A", "a", "b", "B", "C"}));
+    }
+
+    // Halves of surrogate pairs and letters with unusual case folding included.
+    void sortingAsQtCompares() {
+        const QVector<ushort> units = {'a',    'A',    'z',    '_',    0xdf,   0x130,  0x131,  0x3a3,  0x3c2,
+                                       0x1e9e, 0xfb03, 0xd801, 0xdc00, 0xdc28, 0xd835, 0xdc41, 0xe000, 0xfffd};
+        QRandomGenerator random(1);
+        QList<QString> names;
+        for (int i = 0; i < 3000; ++i) {
+            names.append(QString());
+            for (int length = random.bounded(6); length > 0; --length)
+                names.last().append(QChar(units.at(random.bounded(units.size()))));
+        }
+        QList<QString> expected = names;
+        std::stable_sort(expected.begin(), expected.end(), [](const QString& first, const QString& second) {
+            return QString::compare(first, second, Qt::CaseInsensitive) < 0;
+        });
+        QCOMPARE(m_pFixture->logic()->sortProfileNames(&names), 0);
+        QCOMPARE(names, expected);
+    }
+
+    // What was just written is kept, but only as long as the file holds it.
+    void listingRightAfterWriting() {
+        m_pFixture->logic()->SaveDialUpProfile(LogicFixture::named(QString("mi\x01ne") + QChar(0xd800)));
+        QCOMPARE(m_pFixture->names(), QStringList("mine"));
+        const QString file = m_pFixture->folder.userFile();
+        TestFolder::write(file, TestFolder::read(file).replace("mine", "your"));
+        QCOMPARE(m_pFixture->names(), QStringList("your"));
+        m_pFixture->logic()->SaveDialUpProfile(LogicFixture::named("third"));
+        QCOMPARE(m_pFixture->names(), QStringList({"third", "your"}));
     }
 
     void listing() {

@@ -95,6 +95,14 @@ private slots:
         QCOMPARE(apns(), QString("A:x,B:b"));
     }
 
+    void theLogicMayEndDuringAQuestion() {
+        setUp();
+        FixedPolicy policy(true);
+        policy.meanwhile = [] { NetConnectSettingUILogic::Destroy(); };
+        QCOMPARE(m_pFixture->logic()->ImportChosenProfiles({"A", "B"}, &policy), 13);
+        QCOMPARE(apns(), QString("A:a,B:b"));
+    }
+
     void questionsAreRealMessageBoxes_data() {
         QTest::addColumn<int>("button");
         QTest::addColumn<int>("status");

@@ -199,7 +199,7 @@ private slots:
             for (bool refused : {false, true})
                 for (const char* what : {"card", "language", "system mode", "save of another", "save of this one",
                                          "default", "show", "other process"})
-                    QTest::addRow("%s%s, %s", button, refused ? " after a refusal" : "", what)
+                    QTest::newRow(QByteArray(button) + (refused ? " after a refusal, " : ", ") + what)
                         << QString(button) << refused << QString(what);
     }
     void interruptions() {

@@ -1,0 +1,106 @@
+#include "Measure.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QThread>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+double seconds(const std::function<void()>& action) {
+    const auto start = std::chrono::steady_clock::now();
+    action();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void dropTrace(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+// Without QProcess, whose own work would count as much as so short a run.
+int runProgram(const std::vector<QByteArray>& command) {
+    std::vector<char*> arguments;
+    for (const QByteArray& argument : command) arguments.push_back(const_cast<char*>(argument.constData()));
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t output;
+    ::posix_spawn_file_actions_init(&output);
+    ::posix_spawn_file_actions_addopen(&output, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    ::posix_spawn_file_actions_addopen(&output, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    pid_t child = 0;
+    int status = -1;
+    if (::posix_spawn(&child, arguments.front(), &output, nullptr, arguments.data(), environ) == 0)
+        ::waitpid(child, &status, 0);
+    ::posix_spawn_file_actions_destroy(&output);
+    return status;
+}
+
+Measure::Side program(const QStringList& command) {
+    std::vector<QByteArray> arguments;
+    for (const QString& argument : command) arguments.push_back(QFile::encodeName(argument));
+    return {[arguments] { Measure::require(runProgram(arguments) == 0, arguments.front().constData()); }};
+}
+
+}  // namespace
+
+namespace Measure {
+
+double median(std::vector<double> values) {
+    const auto middle = values.begin() + long(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+void compare(benchmark::State& state, const Side& ours, const Side& reference) {
+    const Side* const sides[] = {&ours, &reference};
+    std::vector<double> times[2];
+    for (const Side* side : sides) {  // warms caches and the allocator
+        side->prepare();
+        side->run();
+    }
+    size_t first = 0;
+    for (auto _ : state) {
+        for (const size_t i : {first, 1 - first}) {
+            sides[i]->prepare();
+            times[i].push_back(seconds(sides[i]->run));
+        }
+        first = 1 - first;
+        state.SetIterationTime(times[0].back());
+    }
+    const double milliseconds = 1e3;
+    state.counters["ratio"] = median(times[0]) / median(times[1]);
+    state.counters["ours_ms"] = median(times[0]) * milliseconds;
+    state.counters["reference_ms"] = median(times[1]) * milliseconds;
+}
+
+void comparePrograms(benchmark::State& state, const QStringList& ours, const QStringList& reference) {
+    compare(state, program(ours), program(reference));
+}
+
+void settle() { QThread::msleep(110); }
+
+void require(bool done, const char* what) {
+    if (done) return;
+    std::fprintf(stderr, "failed: %s\n", what);
+    std::exit(EXIT_FAILURE);
+}
+
+}  // namespace Measure
+
+// The applications drop traces too, unless they are asked for.
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("ORBISDIAL_DEVICE", "simulated");
+    qInstallMessageHandler(dropTrace);
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
+    benchmark::RunSpecifiedBenchmarks();
+    return EXIT_SUCCESS;
+}

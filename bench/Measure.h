@@ -1,0 +1,39 @@
+// Times two sides in turn and reports their ratio.
+#ifndef ORBISDIAL_MEASURE_H
+#define ORBISDIAL_MEASURE_H
+
+#include <benchmark/benchmark.h>
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+namespace Measure {
+
+// What is timed, and what must be done before it, untimed. Where one side must wait for a file to settle the other
+// waits as well, since a processor's caches cool down meanwhile.
+struct Side {
+    std::function<void()> run;
+    std::function<void()> prepare = [] {};
+};
+
+// Runs both sides once in each iteration, in changing order, so that a busy machine slows them alike. Counters:
+// "ratio" of the medians, "ours_ms" and "reference_ms".
+void compare(benchmark::State& state, const Side& ours, const Side& reference);
+
+// The same, each side being a program that runs to its end.
+void comparePrograms(benchmark::State& state, const QStringList& ours, const QStringList& reference);
+
+double median(std::vector<double> values);
+
+// Waits until a file that has just been written counts as settled: only then does an unchanged stamp tell that it is
+// unchanged.
+void settle();
+
+// Makes a failed step end the benchmark run: a figure of something that failed would be worse than none.
+void require(bool done, const char* what);
+
+}  // namespace Measure
+
+#endif

@@ -1,0 +1,18 @@
+// The command line as a process, with the shipped presets.
+
+#include "BenchFolder.h"
+#include "Measure.h"
+
+namespace {
+
+void orbisctlList(benchmark::State& state) {
+    const BenchFolder folder;
+    for (const char* name : {"NetConnectConfig.xml", "ProfileLib.prof", "SysProfile.prof"})
+        folder.ship(name, TestFolder::read(QString(SHIPPED_DIR "/") + name));
+    folder.writeUser(BenchFolder::profiles(int(state.range(0))));
+    Measure::settle();
+    Measure::comparePrograms(state, {ORBISCTL, "list"}, {EMPTY_APPLICATION});
+}
+BENCHMARK(orbisctlList)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(50)->Iterations(61);
+
+}  // namespace

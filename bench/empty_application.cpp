@@ -1,0 +1,8 @@
+// The least that a program with windows costs.
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    return 0;
+}

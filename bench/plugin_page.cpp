@@ -1,0 +1,25 @@
+// The settings page as a host shows it: loads the plug-in, shows the page, and ends when it has been painted.
+
+#include <QPluginLoader>
+
+#include "FirstPaint.h"
+#include "ISettingUIPlugin.h"
+#include "IUIPlugin.h"
+
+static void dropTrace(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+int main(int argc, char** argv) {
+    qInstallMessageHandler(dropTrace);
+    QApplication application(argc, argv);
+    QObject* const entry = QPluginLoader(application.arguments().value(1)).instance();
+    IUIPlugin* const plugin = qobject_cast<IUIPlugin*>(entry);
+    QObject* service = nullptr;
+    const unsigned int settingService = 4098;
+    if (!plugin || plugin->Init() != 1 || plugin->QueryInterface(settingService, &service) != 1) return 1;
+
+    QWidget window;
+    QRect place(0, 0, 620, 480);
+    ISettingUIPlugin* const setting = qobject_cast<ISettingUIPlugin*>(service);
+    if (!setting || setting->ShowSettingDialog(&window, place) != 1) return 1;
+    return FirstPaint::of(&window);
+}

@@ -1,0 +1,178 @@
+// A disk that fails at any step of a save: the old file stays, the caller gets 25, and the person gets one line.
+
+#include <errno.h>
+#include <string.h>
+
+#include "FaultsFixture.h"
+
+namespace {
+
+const int SettlingTime = 150;  // milliseconds; a file that changed just now is read again in any case
+
+struct Fault {
+    QByteArray call;
+    int error;
+    bool sparesExports;  // which need no lock
+
+    QString reason() const { return QString::fromLocal8Bit(strerror(error)); }
+};
+
+// While one lives, calls fail.
+class Failing {
+public:
+    explicit Failing(const Fault& fault) { FaultySystem::fail(fault.call.constData(), fault.error); }
+    ~Failing() { FaultySystem::fail(nullptr, 0); }
+};
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Fault)
+
+class tst_disk : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aFailedSaveKeepsTheOldFile_data() {
+        QTest::addColumn<Fault>("fault");
+        QTest::newRow("full disk at the write") << Fault{"write", ENOSPC, false};
+        QTest::newRow("full disk at the flush") << Fault{"fsync", ENOSPC, false};
+        QTest::newRow("quota") << Fault{"write", EDQUOT, false};
+        QTest::newRow("read-only file system") << Fault{"mkostemp", EROFS, false};
+        QTest::newRow("read-only file system, no lock") << Fault{"open", EROFS, true};
+        QTest::newRow("no locks") << Fault{"flock", ENOLCK, true};
+        QTest::newRow("mode refused") << Fault{"fchmod", EPERM, false};
+        QTest::newRow("failing flush") << Fault{"fsync", EIO, false};
+        QTest::newRow("failing close") << Fault{"close", EIO, false};
+        QTest::newRow("failing rename") << Fault{"rename", EIO, false};
+    }
+    void aFailedSaveKeepsTheOldFile() {
+        QFETCH(Fault, fault);
+        FaultsFixture fixture;
+        NetConnectSettingUILogic* const logic = fixture.logic();
+        QObject host;
+        logic->PublishStatus(&host);
+        const QString exported = fixture.path("export.prof");
+        const QString system = NetConnectXMLParse::shippedPath("SysProfile.prof");
+        const auto save = [&] { return logic->SaveDialUpProfile(LogicFixture::named("New", "secret")); };
+        const auto contents = [&] {
+            return QList<QByteArray>{fixture.read(fixture.userFile()), fixture.read(exported), fixture.read(system)};
+        };
+        QCOMPARE(logic->SaveDialUpProfile(LogicFixture::named("Old", "secret")), 0);
+        QCOMPARE(logic->ExportChosenProfiles({"Alpha"}, exported), 0);
+        FaultsFixture::userNames();  // stores the proposed default
+        QTest::qSleep(SettlingTime);
+        QCOMPARE(FaultsFixture::userNames(), QStringList{"Old"});
+        const QList<QByteArray> before = contents();
+
+        const auto refuses = [&](int status, const QString& file) {
+            const NetConnectStorageProblem problem = logic->LastStorageProblem();
+            QCOMPARE(status, 25);
+            QVERIFY2(problem.file == file || problem.file == file + ".lock", qPrintable(problem.file));
+            QVERIFY2(problem.reason.contains(fault.reason()), qPrintable(problem.reason));
+            QVERIFY(contents() == before);
+        };
+        const auto orbisctlRefuses = [&](const QStringList& arguments, const QString& file) {
+            qputenv("ORBISDIAL_TEST_FAULT", fault.call + "=" + QByteArray::number(fault.error));
+            const Outcome outcome = fixture.run(arguments);
+            qunsetenv("ORBISDIAL_TEST_FAULT");
+            COMPARE_REFUSED(outcome, 1, file.toUtf8());
+            COMPARE_REFUSED(outcome, 1, fault.reason().toUtf8());
+            QVERIFY(contents() == before);
+        };
+        {
+            const Failing failing(fault);
+            if (!fault.sparesExports) {
+                refuses(logic->ExportChosenProfiles({"Beta"}, exported), exported);
+                orbisctlRefuses({"export", exported, "Beta"}, exported);
+                refuses(logic->updateProfileTemplate(), system);
+            }
+            refuses(save(), fixture.userFile());
+            QCOMPARE(host.property("lastStorageProblem").toString(), logic->LastStorageProblem().text());
+            refuses(logic->ReplaceDialUpProfile("Old", LogicFixture::named("Renamed")), fixture.userFile());
+            refuses(logic->DelDialUpProfile("Old"), fixture.userFile());
+            refuses(logic->SetDefaultDialUpProfileName("Old", true), fixture.userFile());
+            refuses(save(), fixture.userFile());
+            orbisctlRefuses({"add", "Theirs", "phonenumber=*99#", "autoapn=true"}, fixture.userFile());
+            QCOMPARE(fixture.temporaryFiles(), QStringList());
+        }
+        if (QTest::currentTestFailed()) return;
+
+        // As soon as the disk works again, what the caller repeats is stored, and nothing else.
+        QCOMPARE(save(), 0);
+        QCOMPARE(host.property("lastStorageProblem").toString(), QString());
+        FaultsFixture::restart();
+        QCOMPARE(FaultsFixture::userNames(), QStringList({"New", "Old"}));
+    }
+
+    void aFolderThatCannotBeFlushedIsSaid() {
+        FaultsFixture fixture;
+        const Failing failing({"fsync folder", EIO, false});
+        QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("New")), 0);
+        QVERIFY(fixture.logic()->LastStorageProblem().reason.contains(strerror(EIO)));
+        QVERIFY(FaultsFixture::read(fixture.userFile()).contains("New"));
+    }
+
+    void exportsIntoNoFolder_data() {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("error");
+        QTest::newRow("missing folder") << "missing/export.prof" << ENOENT;
+        QTest::newRow("a file where the folder should be") << "file/export.prof" << ENOTDIR;
+    }
+    void exportsIntoNoFolder() {
+        QFETCH(QString, file);
+        QFETCH(int, error);
+        FaultsFixture fixture;
+        FaultsFixture::write(fixture.path("file"), "a file");
+        const QString exported = fixture.path(file);
+        QCOMPARE(fixture.logic()->ExportChosenProfiles({"Alpha"}, exported), 25);
+        QCOMPARE(fixture.logic()->LastStorageProblem().file, exported);
+        QVERIFY(fixture.logic()->LastStorageProblem().reason.contains(strerror(error)));
+        COMPARE_REFUSED(fixture.run({"export", exported, "Alpha"}), 1, exported.toUtf8());
+        QCOMPARE(FaultsFixture::read(fixture.path("file")), QByteArray("a file"));
+    }
+
+    // The user's folder goes while the program runs: it is made again, but not in the place of something else.
+    void theUsersFolderGoes() {
+        FaultsFixture fixture;
+        for (const bool isFile : {false, true}) {
+            QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("Old")), 0);
+            QVERIFY(QDir(fixture.path("data")).removeRecursively());
+            if (isFile) FaultsFixture::write(fixture.path("data"), "a file");
+            QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("New")), isFile ? 25 : 0);
+            QCOMPARE(fixture.logic()->LastStorageProblem().isNull(), !isFile);
+        }
+        COMPARE_REFUSED(fixture.run({"add", "New"}), 1, fixture.path("data").toUtf8());
+    }
+
+    // A file that could not be read for a moment (too many open files) is not taken for an empty one.
+    void aFileThatCouldNotBeReadForAMomentIsNotLost_data() {
+        QTest::addColumn<bool>("fromTheStart");
+        QTest::newRow("at the start") << true;
+        QTest::newRow("when another process has written") << false;
+    }
+    void aFileThatCouldNotBeReadForAMomentIsNotLost() {
+        QFETCH(bool, fromTheStart);
+        FaultsFixture fixture;
+        COMPARE_DONE(fixture.run({"add", "First"}));
+        if (!fromTheStart) FaultsFixture::restart();
+        COMPARE_DONE(fixture.run({"add", "Second"}));
+        COMPARE_DONE(fixture.run({"default", "First"}));
+        QTest::qSleep(SettlingTime);
+        {
+            const Failing failing({"open to read", EMFILE, false});
+            if (fromTheStart) FaultsFixture::restart();
+            FaultsFixture::userNames();
+            QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("New")), 25);
+        }
+        QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("New")), 0);
+        FaultsFixture::restart();
+        QCOMPARE(FaultsFixture::userNames(), QStringList({"First", "New", "Second"}));
+        QString defaultName;
+        fixture.logic()->GetDefaultDialUpProfileName(&defaultName);
+        QCOMPARE(defaultName, QString("First"));
+        QVERIFY(fixture.logic()->IsDefaultUserSet());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_disk)
+#include "tst_disk.moc"

@@ -1,0 +1,92 @@
+// The logic in this process and orbisctl in others change the same file at the same time.
+
+#include "FaultsFixture.h"
+
+// A process takes far longer to start under a sanitizer.
+static const int AddedByEach = ORBISDIAL_SANITIZED ? 40 : 200;
+static const int Races = 20;
+
+class tst_processes : public QObject {
+    Q_OBJECT
+
+private slots:
+    void bothAdd() {
+        FaultsFixture fixture;
+        QProcess others;
+        others.setProcessChannelMode(QProcess::MergedChannels);
+        others.start("sh", {"-c", "for i in $(seq $2); do \"$1\" add theirs$i password=secret || exit; done", "sh",
+                            ORBISCTL, QString::number(AddedByEach)});
+        QStringList expected;
+        int added = 0;
+        const auto add = [&] {
+            expected.append("ours" + QString::number(++added));
+            return fixture.logic()->AddDialUpProfile(LogicFixture::named(expected.last(), "secret"));
+        };
+        while (others.state() != QProcess::NotRunning) {
+            if (added < AddedByEach) QCOMPARE(add(), 0);
+            others.waitForFinished(10);  // in step with the others, so that the two meet all the time
+        }
+        QVERIFY2(others.exitCode() == 0, others.readAll());
+        while (added < AddedByEach) QCOMPARE(add(), 0);
+
+        for (int i = 1; i <= AddedByEach; ++i) expected.append("theirs" + QString::number(i));
+        expected.sort();
+        FaultsFixture::restart();
+        QStringList names = FaultsFixture::userNames();
+        names.sort();
+        QCOMPARE(names, expected);
+        for (const QString& name : {expected.first(), expected.last()})
+            QCOMPARE(fixture.show(name)["password"].toString(), QString("secret"));
+    }
+
+    // A program that ends clears a default that the configuration proposed, but not the one that the user chose
+    // elsewhere while it ran.
+    void aDefaultChosenElsewhereOutlivesTheProposal() {
+        FaultsFixture fixture;
+        FaultsFixture::userNames();
+        COMPARE_DONE(fixture.run({"default", "Beta"}));
+        NetConnectSettingUILogic::Destroy();
+        const QJsonObject chosen = fixture.run({"--json", "default"}).json();
+        QCOMPARE(chosen["name"].toString(), QString("Beta"));
+        QVERIFY(chosen["userSet"].toBool());
+    }
+
+    void oneRenamesWhatTheOtherDeletes_data() {
+        QTest::addColumn<bool>("weRename");
+        QTest::newRow("we rename, orbisctl deletes") << true;
+        QTest::newRow("we delete, orbisctl renames") << false;
+    }
+    void oneRenamesWhatTheOtherDeletes() {
+        QFETCH(bool, weRename);
+        FaultsFixture fixture;
+        QSet<bool> outcomes;
+        unsigned long delay = 1;
+        for (int i = 0; i < Races; ++i) {
+            fixture.writeUser("<Profile name='A' phonenumber='*99#' autoapn='true'/><Profile name='Kept'/>",
+                              "<Default name='A' IsUserSet='1'/>");
+            FaultsFixture::restart();
+            QProcess other;
+            other.start(ORBISCTL, weRename ? QStringList{"delete", "A"} : QStringList{"set", "A", "name=B"});
+            QVERIFY(other.waitForStarted());
+            QThread::msleep(delay);
+            QCOMPARE(weRename ? fixture.logic()->ReplaceDialUpProfile("A", LogicFixture::named("B"))
+                              : fixture.logic()->DelDialUpProfile("A"),
+                     0);
+            QVERIFY(other.waitForFinished());
+            const bool otherFoundA = other.exitCode() == 0;
+            outcomes.insert(otherFoundA);
+            delay = otherFoundA ? delay / 2 + delay / 4 : 2 * delay + 1;  // towards the moment when both want the lock
+            if (!otherFoundA) COMPARE_REFUSED((Outcome{1, {}, other.readAllStandardError()}), 1, "no profile \"A\"");
+
+            // An edit that comes after the deletion stores the profile that was edited; a deletion that comes after
+            // the renaming finds nothing to delete.
+            FaultsFixture::restart();
+            QCOMPARE(FaultsFixture::userNames(),
+                     weRename || otherFoundA ? QStringList({"B", "Kept"}) : QStringList{"Kept"});
+        }
+        QCOMPARE(outcomes.size(), 2);  // or the two did not really meet
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_processes)
+#include "tst_processes.moc"
