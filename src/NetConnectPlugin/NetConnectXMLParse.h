@@ -153,7 +153,7 @@ private:
     struct KeptFile {
         KeptFile() : isComplete(false), revision(0) {}
         bool isCurrent(const QString& file, const FileStamp& now) const {
-            return isComplete && path == file && stamp.settled && stamp == now;
+            return (isComplete || !damage.isNull()) && path == file && stamp.settled && stamp == now;
         }
         // Whether the document is that of these bytes, which were just read from the file.
         bool isOf(const QString& file, const QByteArray& bytes) const {
@@ -164,6 +164,7 @@ private:
         FileStamp stamp;  // taken before the file was read, or after it was written
         bool isComplete;  // read or written to its end
         ProfileDocument document;
+        NetConnectStorageProblem damage;  // why it could not be read to its end; the document is then a part
         QByteArray content;  // the file's bytes as long as its stamp can't vouch for them; empty after that
         int revision;
     };

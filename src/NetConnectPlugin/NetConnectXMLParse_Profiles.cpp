@@ -102,7 +102,10 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     const FileStamp stamp = FileStamp::of(path);
     if (kept && kept->isCurrent(path, stamp)) {
         *document = kept->document;
-        return 0;
+        if (kept->isComplete) return 0;
+        qDebug("%s: %s: Read Error: n", __FILE__, "readXML");
+        reportProblem(path, kept->damage.reason, kept->damage.line, kept->damage.column);
+        return 6;
     }
     QByteArray content;
     int status = readFile(path, &content);
@@ -125,7 +128,8 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     kept->path = path;
     kept->stamp = stamp;
     kept->isComplete = status == 0;
-    kept->document = status == 0 ? *document : ProfileDocument();
+    kept->document = *document;
+    kept->damage = status == 6 ? m_Problem : NetConnectStorageProblem();
     kept->content = status == 0 && !stamp.settled ? content : QByteArray();
     ++kept->revision;
     return status;
@@ -231,6 +235,7 @@ int NetConnectXMLParse::SaveProfileToXML(QList<DialupProfile> profiles, QString 
     m_User.stamp = FileStamp::of(path);
     m_User.stamp.settled = false;  // another program may write before this stamp could tell: the bytes must
     m_User.isComplete = true;
+    m_User.damage = NetConnectStorageProblem();
     m_User.document = document;
     m_User.content = content;
     return 0;

@@ -142,6 +142,14 @@ private slots:
         QCOMPARE(!xml()->lastProblem().isNull(), status != 0);
         if (status != 0) QCOMPARE(xml()->lastProblem().file, m_pFixture->folder.userFile());
         QCOMPARE(TestFolder::read(m_pFixture->folder.userFile()), content);
+
+        settle();  // from now on the file is not parsed again, and still says the same
+        for (int pass = 0; pass < 2; ++pass) {
+            QList<DialupProfile> again;
+            QCOMPARE(xml()->GetAllProfileFromUserDataXML(&again, &name, QString(), nullptr), status);
+            QCOMPARE(again.size(), profiles.size());
+            QCOMPARE(!xml()->lastProblem().isNull(), status != 0);
+        }
     }
 
     void placesThatAreNoFile_data() {
