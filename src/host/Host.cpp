@@ -1,7 +1,10 @@
 #include "Host.h"
 
+#include <QEvent>
+
 #include "Change.h"
 #include "CommonUtils.h"
+#include "INetConnectSetting.h"
 #include "ModemPanel.h"
 #include "SettingsPages.h"
 #include "Startup.h"
@@ -19,6 +22,7 @@ Host::Host() : m_Plugins(&m_NotifyService) {
     m_Plugins.start(CommonUtils::GetPluginLibraryPath() + QStringLiteral("/plugins"));
     m_Window.pages()->setPages(m_Plugins.pages() + QVector<SettingsPage>{{&m_SettingsPage, &m_SettingsPage, "Host"}});
     m_Window.setProblems(m_Plugins.problems());
+    watchSettings();
 }
 
 Host::~Host() {
@@ -41,6 +45,16 @@ int Host::Notify(unsigned int event, unsigned int param1, unsigned int param2) {
     if (event == NotifyConnectionChanged) m_Plugins.notifyAll(event, param1, param2);
     m_Refresh.start();
     return 0;
+}
+
+bool Host::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::DynamicPropertyChange) m_Refresh.start();
+    return QObject::eventFilter(watched, event);
+}
+
+void Host::watchSettings() {
+    QObject* settings = Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
+    if (settings) settings->installEventFilter(this);
 }
 
 void Host::connectModemPanel() {

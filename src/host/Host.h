@@ -29,8 +29,12 @@ public:
     // An event that a plug-in sent, whomever to. The window is brought up to date once the sender has finished.
     int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
 
+    // Watches the properties by which the settings plug-in tells of the SIM card and of storage problems.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void connectModemPanel();
+    void watchSettings();
 
     NotifyService m_NotifyService;
     PluginManager m_Plugins;

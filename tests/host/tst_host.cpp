@@ -408,12 +408,10 @@ void tst_host::showsStorageProblems() {
     auto* label = child<QLabel>("Host_StorageProblem");
     QVERIFY(!label->isVisible());
     profiles()->setProperty(ORBISDIAL_LAST_STORAGE_PROBLEM, "UserProfile.prof:3:1: broken");
-    click("Host_CancelButton");
-    QVERIFY(label->isVisible());
+    QTRY_VERIFY(label->isVisible());
     QVERIFY(label->text().endsWith("UserProfile.prof:3:1: broken"));
     profiles()->setProperty(ORBISDIAL_LAST_STORAGE_PROBLEM, "");
-    click("Host_OkButton");
-    QVERIFY(!label->isVisible());
+    QTRY_VERIFY(!label->isVisible());
 }
 
 void tst_host::connects_data() {
