@@ -280,6 +280,7 @@ private:
     QPointer<QObject> m_pNotifyServicePlugin;
     INotifyService* m_pNotifyService = 0;  // of m_pNotifyServicePlugin; see notifyService()
     DialupProfile m_CurrentProfile;        // on show, or what the edit began with
+    AdvanceSetting m_AdvanceSetting;       // for the advanced dialog, which nothing opens from the page
     QString m_strProfileType;
     int m_nDefaultIndex = -1;
     bool m_bActive = false;

@@ -289,12 +289,8 @@ void NetConnectXMLParse::writeDefaults(QXmlStreamWriter& writer, const QList<Def
 QByteArray NetConnectXMLParse::writeDocument(const ProfileDocument& document) {
     QByteArray content;
     QXmlStreamWriter writer(&content);
-    writer.setAutoFormatting(true);
-    writer.writeStartDocument();
-    writer.writeStartElement(QLatin1String("vrksdoc"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("Profile"));
-    writer.writeStartElement(QLatin1String("ProfileGroup"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("Dailup"));
+    XmlText::startProfileDocument(writer);
+    XmlText::startProfileGroup(writer);
     for (int i = 0; i < document.profiles.size(); ++i) writeProfile(writer, document.profiles.at(i));
     writer.writeEndElement();
     writeDefaults(writer, document.defaults);

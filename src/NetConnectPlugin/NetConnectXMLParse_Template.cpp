@@ -26,15 +26,11 @@ void fillFromTemplate(const QXmlStreamAttributes& attributes, DialupProfile* pro
 QByteArray templateDocument(const QHash<QString, NetConnectXML>& templates) {
     QByteArray content;
     QXmlStreamWriter writer(&content);
-    writer.setAutoFormatting(true);
-    writer.writeStartDocument();
-    writer.writeStartElement(QLatin1String("vrksdoc"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("Profile"));
+    XmlText::startProfileDocument(writer);
     writer.writeEmptyElement(QLatin1String("Default"));
     writer.writeAttribute(QLatin1String("Default"), QLatin1String("kestra"));
     writer.writeAttribute(QLatin1String("type"), QLatin1String("DialUp"));
-    writer.writeStartElement(QLatin1String("ProfileGroup"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("Dailup"));
+    XmlText::startProfileGroup(writer);
     writer.writeEmptyElement(QLatin1String("Template"));
     for (int i = 0; i < DialupProfileFieldCount; ++i) {
         const QLatin1String attribute(DialupProfileFields[i].attribute);

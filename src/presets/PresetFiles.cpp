@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "../NetConnectPlugin/XmlText.h"
 #include "XmlInput.h"
 
 namespace {
@@ -88,12 +89,8 @@ QList<DialupProfile> PresetFiles::readProfiles(const QString& path) {
 QByteArray PresetFiles::profileFile(const QList<DialupProfile>& profiles) {
     QByteArray result;
     QXmlStreamWriter out(&result);
-    out.setAutoFormatting(true);
-    out.writeStartDocument();
-    out.writeStartElement("vrksdoc");
-    out.writeAttribute("type", "Profile");
-    out.writeStartElement("ProfileGroup");
-    out.writeAttribute("type", "Dailup");
+    XmlText::startProfileDocument(out);
+    XmlText::startProfileGroup(out);
     for (const DialupProfile& profile : profiles) {
         out.writeEmptyElement("Profile");
         for (const DialupProfileField& field : DialupProfileFields)

@@ -80,4 +80,19 @@ public:
     TestFolder folder;
 };
 
+// A test object whose every function starts with a fixture of its own.
+class LogicTest : public QObject {
+    Q_OBJECT
+
+protected slots:
+    void init() { m_pFixture = new LogicFixture; }
+    void cleanup() {
+        delete m_pFixture;
+        m_pFixture = nullptr;
+    }
+
+protected:
+    LogicFixture* m_pFixture = nullptr;
+};
+
 #endif

@@ -4,16 +4,10 @@
 
 #include "LogicFixture.h"
 
-class tst_configfile : public QObject {
+class tst_configfile : public LogicTest {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = new LogicFixture; }
-    void cleanup() {
-        delete m_pFixture;
-        m_pFixture = nullptr;
-    }
-
     void onlyThePairAskedForIsFiled() {
         m_pFixture->shipConfig(
             "<x><item name='stray' value='1'/>"
@@ -115,7 +109,6 @@ private:
                                          &m_Prompt);
     }
 
-    LogicFixture* m_pFixture = nullptr;
     QHash<QString, NetConnectXML> m_Templates;
     QHash<QString, NetConnectXML> m_Functions;
     QHash<QString, NetConnectXML> m_ProfileList;

@@ -49,16 +49,10 @@ static int runOther(const QStringList& arguments) {
     return status;
 }
 
-class tst_guarantees : public QObject {
+class tst_guarantees : public LogicTest {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = new LogicFixture; }
-    void cleanup() {
-        delete m_pFixture;
-        m_pFixture = nullptr;
-    }
-
     void aDyingOrFailingWriterLeavesTheOldFile_data() {
         QTest::addColumn<QString>("how");
         QTest::addColumn<int>("exitStatus");
@@ -216,8 +210,6 @@ private:
         const timespec longAgo[2] = {{1000000000, 0}, {1000000000, 0}};
         ::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), longAgo, 0);
     }
-
-    LogicFixture* m_pFixture = nullptr;
 };
 
 int main(int argc, char** argv) {

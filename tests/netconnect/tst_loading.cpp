@@ -5,16 +5,10 @@
 #include "Change.h"
 #include "LogicFixture.h"
 
-class tst_loading : public QObject {
+class tst_loading : public LogicTest {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = new LogicFixture; }
-    void cleanup() {
-        delete m_pFixture;
-        m_pFixture = nullptr;
-    }
-
     void configuredPairs_data() {
         QTest::addColumn<QByteArray>("customizeName");
         QTest::addColumn<QByteArray>("productType");
@@ -261,8 +255,6 @@ private:
         const QString from = QString(ORBISDIAL_BUILD_DIR) + "/lib/orbisdial/lang/orbisdial_en.qm";
         QVERIFY2(QFile::copy(from, m_pFixture->folder.path("library/lang/orbisdial_en.qm")), qPrintable(from));
     }
-
-    LogicFixture* m_pFixture = nullptr;
 };
 
 QTEST_MAIN(tst_loading)

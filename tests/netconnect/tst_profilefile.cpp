@@ -23,16 +23,10 @@ static const char Golden[] =
     "    </MultiModeDefaultProfile>\n"
     "</vrksdoc>\n";
 
-class tst_profilefile : public QObject {
+class tst_profilefile : public LogicTest {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = new LogicFixture; }
-    void cleanup() {
-        delete m_pFixture;
-        m_pFixture = nullptr;
-    }
-
     void readsAndWritesTheGoldenFile() {
         m_pFixture->setUserFile(Golden);
         useCard("1", "2");
@@ -294,8 +288,6 @@ private:
         for (int i = 0; i < 1000000; ++i) content += " a" + QByteArray::number(i) + "='='";
         return content + "/></v>";
     }
-
-    LogicFixture* m_pFixture = nullptr;
 };
 
 QTEST_MAIN(tst_profilefile)

@@ -8,16 +8,10 @@
 #include "LogicFixture.h"
 #include "NetConnectStoreAction.h"
 
-class tst_store : public QObject {
+class tst_store : public LogicTest {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = new LogicFixture; }
-    void cleanup() {
-        delete m_pFixture;
-        m_pFixture = nullptr;
-    }
-
     void sorting() {
         QList<QString> names = {"b", "A", "a", "C", "B"};
         QCOMPARE(m_pFixture->logic()->sortProfileNames(&names), 0);
@@ -393,8 +387,6 @@ private:
         NetConnectXMLParse::GetInstance()->GetAllProfileFromUserDataXML(&profiles, &name, QString(), nullptr);
         return name;
     }
-
-    LogicFixture* m_pFixture = nullptr;
 };
 
 QTEST_MAIN(tst_store)
