@@ -14,7 +14,6 @@
 #include <QMultiHash>
 #include <QString>
 #include <QXmlStreamReader>
-#include <QXmlStreamWriter>
 
 #include "FileStamp.h"
 #include "NetConnectRecords.h"
@@ -182,7 +181,7 @@ private:
     void applyDefault(const DefaultEntry& entry, const NetConnectCardMode& card, QString* defaultName, bool* isUserSet);
     static QList<DefaultEntry> defaultEntries(const NetConnectDefault& value,
                                               const NetConnectRememberedDefaults& remembered);
-    static void writeDefaults(QXmlStreamWriter& writer, const QList<DefaultEntry>& defaults);
+    static void writeDefaults(QXmlStreamWriter& xml, const QList<DefaultEntry>& defaults);
     static QByteArray writeDocument(const ProfileDocument& document);
     NetConnectRememberedDefaults withModeDefault(const NetConnectDefault& value) const;
     bool prepareTarget(const QString& path, const KeptFile& kept);

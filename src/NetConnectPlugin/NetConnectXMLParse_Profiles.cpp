@@ -2,6 +2,7 @@
 
 #include "FileReplacement.h"
 #include "NetConnectXMLParse.h"
+#include "ProfileDocumentWriter.h"
 #include "Trace.h"
 #include "XmlText.h"
 
@@ -51,12 +52,6 @@ NetConnectDefault readDefault(const QXmlStreamAttributes& attributes) {
                              attributes.value(QLatin1String("IsUserSet")) == QLatin1String("1"));
 }
 
-void writeProfile(QXmlStreamWriter& writer, const DialupProfile& profile) {
-    writer.writeEmptyElement(QLatin1String("Profile"));
-    for (int i = 0; i < DialupProfileFieldCount; ++i)
-        writer.writeAttribute(QLatin1String(DialupProfileFields[i].attribute), profile.*DialupProfileFields[i].member);
-}
-
 // The profiles with clean texts; the same list when they are clean already.
 QList<DialupProfile> cleaned(const QList<DialupProfile>& profiles) {
     QList<DialupProfile> result = profiles;
@@ -70,8 +65,8 @@ QList<DialupProfile> cleaned(const QList<DialupProfile>& profiles) {
     return result;
 }
 
-void writeUserSet(QXmlStreamWriter& writer, bool isUserSet) {
-    if (isUserSet) writer.writeAttribute(QLatin1String("IsUserSet"), QLatin1String("1"));
+void writeUserSet(QXmlStreamWriter& xml, bool isUserSet) {
+    if (isUserSet) xml.writeAttribute(QLatin1String("IsUserSet"), QLatin1String("1"));
 }
 
 }  // namespace
@@ -272,30 +267,27 @@ QList<NetConnectXMLParse::DefaultEntry> NetConnectXMLParse::defaultEntries(
 }
 
 // Writes the plain default, which comes first, and the card's modes' defaults, if there are any.
-void NetConnectXMLParse::writeDefaults(QXmlStreamWriter& writer, const QList<DefaultEntry>& defaults) {
+void NetConnectXMLParse::writeDefaults(QXmlStreamWriter& xml, const QList<DefaultEntry>& defaults) {
     for (int i = 0; i < defaults.size(); ++i) {
         const DefaultEntry& entry = defaults.at(i);
-        if (i == 1) writer.writeStartElement(QLatin1String("MultiModeDefaultProfile"));
-        writer.writeEmptyElement(QLatin1String(entry.kind == DefaultEntry::Plain ? "Default" : "item"));
-        writer.writeAttribute(QLatin1String("name"), entry.value.name);
+        if (i == 1) xml.writeStartElement(QLatin1String("MultiModeDefaultProfile"));
+        xml.writeEmptyElement(QLatin1String(entry.kind == DefaultEntry::Plain ? "Default" : "item"));
+        xml.writeAttribute(QLatin1String("name"), entry.value.name);
         if (entry.kind != DefaultEntry::Plain)
-            writer.writeAttribute(QLatin1String("value"),
-                                  QLatin1String(entry.kind == DefaultEntry::CDMA ? "CDMA" : "WCDMA"));
-        writeUserSet(writer, entry.value.isUserSet);
+            xml.writeAttribute(QLatin1String("value"),
+                               QLatin1String(entry.kind == DefaultEntry::CDMA ? "CDMA" : "WCDMA"));
+        writeUserSet(xml, entry.value.isUserSet);
     }
-    if (defaults.size() > 1) writer.writeEndElement();
+    if (defaults.size() > 1) xml.writeEndElement();
 }
 
 QByteArray NetConnectXMLParse::writeDocument(const ProfileDocument& document) {
-    QByteArray content;
-    QXmlStreamWriter writer(&content);
-    XmlText::startProfileDocument(writer);
-    XmlText::startProfileGroup(writer);
-    for (int i = 0; i < document.profiles.size(); ++i) writeProfile(writer, document.profiles.at(i));
-    writer.writeEndElement();
-    writeDefaults(writer, document.defaults);
-    writer.writeEndDocument();
-    return writer.hasError() ? QByteArray() : content;
+    ProfileDocumentWriter writer;
+    writer.startGroup();
+    for (int i = 0; i < document.profiles.size(); ++i) writer.writeProfile(document.profiles.at(i));
+    writer.xml().writeEndElement();
+    writeDefaults(writer.xml(), document.defaults);
+    return writer.finish();
 }
 
 // Makes sure that replacing a file loses nothing: one that can't be read stays, a damaged one is copied first.

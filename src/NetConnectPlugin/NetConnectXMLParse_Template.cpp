@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "NetConnectXMLParse.h"
+#include "ProfileDocumentWriter.h"
 #include "Trace.h"
 #include "XmlText.h"
 
@@ -24,21 +25,19 @@ void fillFromTemplate(const QXmlStreamAttributes& attributes, DialupProfile* pro
 }
 
 QByteArray templateDocument(const QHash<QString, NetConnectXML>& templates) {
-    QByteArray content;
-    QXmlStreamWriter writer(&content);
-    XmlText::startProfileDocument(writer);
-    writer.writeEmptyElement(QLatin1String("Default"));
-    writer.writeAttribute(QLatin1String("Default"), QLatin1String("kestra"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("DialUp"));
-    XmlText::startProfileGroup(writer);
-    writer.writeEmptyElement(QLatin1String("Template"));
+    ProfileDocumentWriter writer;
+    QXmlStreamWriter& xml = writer.xml();
+    xml.writeEmptyElement(QLatin1String("Default"));
+    xml.writeAttribute(QLatin1String("Default"), QLatin1String("kestra"));
+    xml.writeAttribute(QLatin1String("type"), QLatin1String("DialUp"));
+    writer.startGroup();
+    xml.writeEmptyElement(QLatin1String("Template"));
     for (int i = 0; i < DialupProfileFieldCount; ++i) {
         const QLatin1String attribute(DialupProfileFields[i].attribute);
         if (isInTemplate(DialupProfileFields[i].attribute, true))
-            writer.writeAttribute(attribute, XmlText::clean(templates.value(attribute).value));
+            xml.writeAttribute(attribute, XmlText::clean(templates.value(attribute).value));
     }
-    writer.writeEndDocument();
-    return writer.hasError() ? QByteArray() : content;
+    return writer.finish();
 }
 
 }  // namespace

@@ -4,18 +4,6 @@
 
 namespace XmlText {
 
-void startProfileDocument(QXmlStreamWriter& writer) {
-    writer.setAutoFormatting(true);
-    writer.writeStartDocument();
-    writer.writeStartElement(QLatin1String("vrksdoc"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("Profile"));
-}
-
-void startProfileGroup(QXmlStreamWriter& writer) {
-    writer.writeStartElement(QLatin1String("ProfileGroup"));
-    writer.writeAttribute(QLatin1String("type"), QLatin1String("Dailup"));  // the format's own spelling
-}
-
 static bool isAllowed(ushort c) {
     if (c < 0x20) return c == '\t' || c == '\n' || c == '\r';
     return c < 0xfffe;

@@ -5,15 +5,8 @@
 #include <QByteArray>
 #include <QString>
 #include <QXmlStreamReader>
-#include <QXmlStreamWriter>
 
 namespace XmlText {
-
-// Starts a profile document: formatting, declaration and root. The writer stands in the root then.
-void startProfileDocument(QXmlStreamWriter& writer);
-
-// Starts the group in which profiles and the template stand.
-void startProfileGroup(QXmlStreamWriter& writer);
 
 // The text without the characters that XML 1.0 forbids and without halves of surrogate pairs. The writer would
 // otherwise make a file that no reader takes.

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "../NetConnectPlugin/XmlText.h"
+#include "../NetConnectPlugin/ProfileDocumentWriter.h"
 #include "XmlInput.h"
 
 namespace {
@@ -87,17 +87,10 @@ QList<DialupProfile> PresetFiles::readProfiles(const QString& path) {
 }
 
 QByteArray PresetFiles::profileFile(const QList<DialupProfile>& profiles) {
-    QByteArray result;
-    QXmlStreamWriter out(&result);
-    XmlText::startProfileDocument(out);
-    XmlText::startProfileGroup(out);
-    for (const DialupProfile& profile : profiles) {
-        out.writeEmptyElement("Profile");
-        for (const DialupProfileField& field : DialupProfileFields)
-            out.writeAttribute(field.attribute, profile.*field.member);
-    }
-    out.writeEndDocument();
-    return result;
+    ProfileDocumentWriter out;
+    out.startGroup();
+    for (const DialupProfile& profile : profiles) out.writeProfile(profile);
+    return out.finish();
 }
 
 QByteArray PresetFiles::configFile(const QString& templatePath, const QMap<QString, QList<IMSIINFO>>& imsiLists) {
