@@ -1,20 +1,24 @@
 #include "FileReplacement.h"
 
+#include <dirent.h>
 #include <errno.h>
 #include <fcntl.h>
 #include <stdlib.h>
 #include <string.h>
 #include <sys/stat.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 namespace {
 
 const char TemporaryMark[] = ".tmp-";
+const char TemporaryPattern[] = "XXXXXX";  // mkostemp's
+const int UniqueLength = sizeof(TemporaryPattern) - 1;
 const int LeftoverAge = 60;  // seconds after which a temporary file is a dead writer's
 
 // An open file descriptor that closes itself.
@@ -75,14 +79,34 @@ bool flushFolder(const QString& folder) {
     return ::fsync(descriptor.get()) == 0 || errno == EINVAL || errno == EROFS;
 }
 
+// Whether it is time to look for leftovers beside this file: often enough to find what was too young the last time.
+bool isSearchDue(const QByteArray& name) {
+    static QHash<QByteArray, time_t> lastSearches;
+    const time_t now = ::time(0);
+    time_t& last = lastSearches[name];
+    if (last != 0 && now >= last && now - last <= LeftoverAge) return false;
+    last = now;
+    return true;
+}
+
 // Removes what a writer that died left beside the file: it may hold passwords.
-void removeLeftovers(const QFileInfo& file) {
-    const QStringList pattern(file.fileName() + QLatin1String(TemporaryMark) + QLatin1String("??????"));
-    const QFileInfoList leftovers =
-        file.absoluteDir().entryInfoList(pattern, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    const QDateTime limit = QDateTime::currentDateTime().addSecs(-LeftoverAge);
-    for (int i = 0; i < leftovers.size(); ++i)
-        if (leftovers.at(i).lastModified() < limit) QFile::remove(leftovers.at(i).filePath());
+void removeLeftovers(const QByteArray& name) {
+    if (!isSearchDue(name)) return;
+    const int slash = name.lastIndexOf('/') + 1;
+    const QByteArray folder = name.left(slash);
+    const QByteArray stem = name.mid(slash) + TemporaryMark;
+    DIR* const entries = ::opendir(folder.constData());
+    if (!entries) return;
+    const time_t limit = ::time(0) - LeftoverAge;
+    while (const dirent* entry = ::readdir(entries)) {
+        const QByteArray candidate(entry->d_name);
+        if (!candidate.startsWith(stem) || candidate.size() != stem.size() + UniqueLength) continue;
+        struct stat info;
+        const QByteArray path = folder + candidate;
+        if (::lstat(path.constData(), &info) == 0 && S_ISREG(info.st_mode) && info.st_mtime < limit)
+            ::unlink(path.constData());
+    }
+    ::closedir(entries);
 }
 
 // Gives the new file the mode and, when root writes another user's file, the owner that it should have.
@@ -122,10 +146,10 @@ bool isSameFile(const QString& one, const QString& other) {
 bool replace(const QString& path, const QByteArray& content, Access access, QString* reason) {
     const QString file = target(path);
     const QFileInfo info(file);
-    removeLeftovers(info);
-
     const QByteArray name = QFile::encodeName(info.absoluteFilePath());
-    QByteArray temporary = name + TemporaryMark + "XXXXXX";
+    removeLeftovers(name);
+
+    QByteArray temporary = name + TemporaryMark + TemporaryPattern;
     Descriptor descriptor(::mkostemp(temporary.data(), O_CLOEXEC));
     if (descriptor.get() < 0) return failed("can't create a file in the folder", reason);
     TemporaryName leftover(temporary);

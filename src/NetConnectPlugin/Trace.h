@@ -6,8 +6,12 @@
 #include <QTime>
 #include <QtGlobal>
 
-// The current time as traces show it.
-inline QByteArray traceTime() { return QTime::currentTime().toString("hh:mm:ss:zzz").toLatin1(); }
+#include "QtCompat.h"
+
+// The current time as traces show it; empty when nobody wants traces, since it takes a look at the time zone's file.
+inline QByteArray traceTime() {
+    return isTraceWanted() ? QTime::currentTime().toString("hh:mm:ss:zzz").toLatin1() : QByteArray();
+}
 
 // Writes "<format>" filled with time, file and function when made, and the exit line when it goes.
 class TraceScope {
@@ -26,7 +30,9 @@ public:
 private:
     Q_DISABLE_COPY(TraceScope)
 
-    void write(const char* format) { qDebug(format, traceTime().constData(), m_File, m_Function); }
+    void write(const char* format) {
+        if (isTraceWanted()) qDebug(format, traceTime().constData(), m_File, m_Function);
+    }
 
     const char* m_File;
     const char* m_Function;

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QTextCodec>
 #include <cstdio>
@@ -62,6 +63,7 @@ void checkDataFolder() {
 
 void Platform::prepare(int argc, char** argv) {
     qInstallMessageHandler(dropTrace);
+    QLoggingCategory::setFilterRules("default.debug=false");
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     for (int i = 1; i < argc; ++i)
         if (QString::fromUtf8(argv[i]).toUtf8() != argv[i])
@@ -69,7 +71,10 @@ void Platform::prepare(int argc, char** argv) {
 }
 
 void Platform::applyOptions(const Invocation& invocation) {
-    if (invocation.isSet("trace")) qInstallMessageHandler(writeTrace);
+    if (invocation.isSet("trace")) {
+        qInstallMessageHandler(writeTrace);
+        QLoggingCategory::setFilterRules(QString());
+    }
     if (invocation.isSet("data-dir")) setVariable(DataFolderVariable, invocation.value("data-dir"));
     if (invocation.isSet("device")) chooseDevice(invocation.value("device"));
     checkDevice();

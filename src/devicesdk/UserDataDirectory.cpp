@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <mutex>
 
 namespace fs = std::filesystem;
 
@@ -35,6 +36,7 @@ bool makeFolder(const fs::path& path) {
 }
 
 bool haveFolders(const fs::path& path) {
+    if (isFolder(path)) return true;
     fs::path part;
     for (const fs::path& name : path) {
         part /= name;
@@ -46,12 +48,22 @@ bool haveFolders(const fs::path& path) {
 }  // namespace
 
 std::optional<std::u16string> userDataDirectory() {
+    // Callers ask before every look at a file, and working the name out takes longer than the look.
+    static std::mutex mutex;
+    static fs::path lastConfigured;
+    static std::u16string lastName;
     const std::optional<fs::path> configured = configuredFolder();
     if (!configured) return std::nullopt;
+    const std::lock_guard<std::mutex> lock(mutex);
+    if (configured->native() == lastConfigured.native() && isFolder(*configured)) return lastName;
 
     const fs::path folder = fs::absolute(*configured) / "";
     std::u16string name = folder.u16string();           // throws when it is not UTF-8, but for encoded surrogates
     if (fs::path(name) != folder) return std::nullopt;  // which don't come back
     if (!haveFolders(folder)) return std::nullopt;
+    if (configured->is_absolute()) {
+        lastConfigured = *configured;
+        lastName = name;
+    }
     return name;
 }
