@@ -39,6 +39,20 @@ std::vector<DialupProfile> read(const QByteArray& content) {
     return profiles;
 }
 
+std::vector<IMSIINFO> readItems(const QByteArray& content) {
+    std::vector<IMSIINFO> items;
+    QXmlStreamReader reader(content);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != QLatin1String("item")) continue;
+        const QXmlStreamAttributes attributes = reader.attributes();
+        items.push_back({attributes.value(QLatin1String("name")).toString(),
+                         attributes.value(QLatin1String("value")).toString(),
+                         attributes.value(QLatin1String("type")).toString()});
+    }
+    Measure::require(!reader.hasError(), "reading");
+    return items;
+}
+
 QByteArray write(const QList<DialupProfile>& profiles) {
     QByteArray content;
     QXmlStreamWriter writer(&content);

@@ -14,6 +14,9 @@ namespace Reference {
 // One pass over the bytes; a value that equals the one of the profile before shares its text.
 std::vector<DialupProfile> read(const QByteArray& content);
 
+// One pass over a configuration's bytes: its items.
+std::vector<IMSIINFO> readItems(const QByteArray& content);
+
 // A profile file's bytes.
 QByteArray write(const QList<DialupProfile>& profiles);
 

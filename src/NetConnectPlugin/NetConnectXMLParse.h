@@ -16,6 +16,7 @@
 #include <QXmlStreamReader>
 
 #include "FileStamp.h"
+#include "NetConnectConfigDocument.h"
 #include "NetConnectRecords.h"
 #include "NetConnectStorageProblem.h"
 
@@ -168,6 +169,21 @@ private:
         int revision;
     };
 
+    // The configuration as last read whole.
+    struct KeptConfig {
+        QString path;
+        FileStamp stamp;  // taken before the file was read
+        NetConnectConfigDocument document;
+    };
+
+    // Where the configuration's elements go.
+    struct ConfigTargets {
+        QHash<QString, NetConnectXML>* templates;
+        QHash<QString, NetConnectXML>* functions;
+        QHash<QString, NetConnectXML>* profileList;
+        QMultiHash<QString, IMSIINFO>* imsiProfiles;
+    };
+
     NetConnectXMLParse() : m_bKeepProblem(false) {}
     ~NetConnectXMLParse() {}
     Q_DISABLE_COPY(NetConnectXMLParse)
@@ -186,6 +202,11 @@ private:
     NetConnectRememberedDefaults withModeDefault(const NetConnectDefault& value) const;
     bool prepareTarget(const QString& path, const KeptFile& kept);
 
+    int loadConfig(NetConnectConfigDocument* document);
+    void fileElement(const NetConnectConfigElement& element, const ConfigTargets& targets);
+    void fileModeElement(const NetConnectConfigElement& element, const ConfigTargets& targets,
+                         const NetConnectCardMode& card, QString* modeDefault);
+
     // Opens and reads a file whole: 0, 23 or 25, traced and reported.
     int readFile(const QString& path, QByteArray* content);
 
@@ -197,6 +218,7 @@ private:
 
     KeptFile m_User;
     KeptFile m_Library;
+    KeptConfig m_Config;
     NetConnectRememberedDefaults m_Remembered;
     QString m_strSection;
     QString m_strSpare;

@@ -8,29 +8,28 @@
 
 namespace {
 
-const char ModeDefaultSection[] = "MultiModeDefaultProfile";
-const char IMSISection[] = "IMSIProfileList";
 const char DefaultValue[] = "default";
+const char* const ModeDefaultSection = "MultiModeDefaultProfile";
+const char* const IMSISection = "IMSIProfileList";
 
-NetConnectXML readItem(const QXmlStreamAttributes& attributes) {
+NetConnectXML readItem(const NetConnectConfigElement& element) {
     NetConnectXML item;
-    item.value = attributes.value(QLatin1String("value")).toString();
-    item.type = attributes.value(QLatin1String("type")).toString();
+    item.value = element.value;
+    item.type = element.type;
     return item;
 }
 
-IMSIINFO readIMSIRow(const QXmlStreamAttributes& attributes) {
+IMSIINFO readIMSIRow(const NetConnectConfigElement& element) {
     IMSIINFO row;
-    row.name = attributes.value(QLatin1String("name")).toString();
-    row.value = attributes.value(QLatin1String("value")).toString();
-    row.type = attributes.value(QLatin1String("type")).toString();
+    row.name = element.name;
+    row.value = element.value;
+    row.type = element.type;
     return row;
 }
 
 // Whether an item of the mode default section is meant for the card's mode.
-bool isForCard(const QXmlStreamAttributes& attributes, const NetConnectCardMode& card) {
-    const bool isCDMA = attributes.value(QLatin1String("value")) == QLatin1String("CDMA");
-    return isCDMA ? card.isCDMA() : card.isWCDMA();
+bool isForCard(const NetConnectConfigElement& element, const NetConnectCardMode& card) {
+    return element.value == QLatin1String("CDMA") ? card.isCDMA() : card.isWCDMA();
 }
 
 // Makes the chosen profile the only configured default, unless the file gave it a value of its own.
@@ -65,9 +64,9 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
         qDebug("Error in xml parsing");
         return 23;
     }
-    const QString path = shippedPath("NetConnectConfig.xml");
-    QByteArray content;
-    if (readFile(path, &content) != 0) return 23;
+    NetConnectConfigDocument document;
+    const int status = loadConfig(&document);
+    if (status == 23) return status;
 
     bool answered = false;
     const NetConnectCardMode card = NetConnectCardMode::current(&answered);
@@ -75,91 +74,99 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
         qDebug("%s : %s: %s: Get MultiMode Status Success! dwCardMode: %d", traceTime().constData(), __FILE__,
                "GetSettingsFromXML", int(card.mode));
 
+    for (int i = 0; prompt && i < document.promptItems.size(); ++i)
+        prompt->*document.promptItems.at(i).first = document.promptItems.at(i).second;
+    const ConfigTargets targets = {templates, functions, profileList, imsiProfiles};
+    QString modeDefault;
+    for (int i = 0; i < document.stretches.size(); ++i) {
+        const NetConnectConfigDocument::Stretch& stretch = document.stretches.at(i);
+        if (stretch.group != *group || stretch.module != *module) continue;
+        for (int j = 0; j < stretch.elements.size(); ++j)
+            fileModeElement(stretch.elements.at(j), targets, card, &modeDefault);
+    }
+    if (card.isMultiMode) markModeDefault(modeDefault, profileList);
+    return status;
+}
+
+// Parses the file, or takes what is kept of it when it has not changed: 0, 6 or 23.
+int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
+    const QString path = shippedPath("NetConnectConfig.xml");
+    const FileStamp stamp = FileStamp::of(path);
+    if (m_Config.path == path && m_Config.stamp.settled && m_Config.stamp == stamp) {
+        *document = m_Config.document;
+        return 0;
+    }
+    m_Config = KeptConfig();
+    QByteArray content;
+    if (readFile(path, &content) != 0) return 23;
+
     QXmlStreamReader reader(content);
     const QString refusal = XmlText::refusal(content);
     if (!refusal.isEmpty()) reader.raiseError(refusal);
-    QString currentGroup;
-    QString currentModule;
-    QString modeDefault;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        XmlText::refuseDeclarations(reader);
-        if (reader.hasError()) break;
-        if (reader.isEndElement() && reader.name() == QLatin1String("module")) currentModule.clear();
-        if (!reader.isStartElement()) continue;
-        if (prompt) getUserPasswdPromptInfo(reader, prompt);
+    document->read(reader);
+    if (reader.hasError()) return readError(reader, path, "GetSettingsFromXML");
+    clearProblem(path);
+    m_Config.path = path;
+    m_Config.stamp = stamp;
+    m_Config.document = *document;
+    return 0;
+}
 
-        const QXmlStreamAttributes attributes = reader.attributes();
-        if (reader.name() == QLatin1String("group")) currentGroup = attributes.value(QLatin1String("name")).toString();
-        if (reader.name() == QLatin1String("module"))
-            currentModule = attributes.value(QLatin1String("name")).toString();
-        if (currentGroup != *group || currentModule != *module) continue;
-
-        if (reader.name() == QLatin1String(ModeDefaultSection)) {
-            m_strSection = QLatin1String(ModeDefaultSection);
-            qDebug("%s : %s: %s: Found MultiModeDefaultProfile label in NetConnectConfig.xml.", traceTime().constData(),
-                   __FILE__, "GetSettingsFromXML");
-        }
-        getConfigData(reader, templates, functions, profileList, imsiProfiles);
-        if (m_strSection == QLatin1String(ModeDefaultSection) && reader.name() == QLatin1String("item") &&
-            isForCard(attributes, card)) {
-            modeDefault = attributes.value(QLatin1String("name")).toString();
-            qDebug("%s : %s: %s: Current CardMode is %d. Read MultiModeDefaultProfile: %s.", traceTime().constData(),
-                   __FILE__, "GetSettingsFromXML", int(card.mode), qPrintable(modeDefault));
-        }
+// Files an element, and takes an item of the mode default section when it is meant for the card.
+void NetConnectXMLParse::fileModeElement(const NetConnectConfigElement& element, const ConfigTargets& targets,
+                                         const NetConnectCardMode& card, QString* modeDefault) {
+    if (element.kind == NetConnectConfigElement::ModeDefaultSection) {
+        m_strSection = QLatin1String(ModeDefaultSection);
+        qDebug("%s : %s: %s: Found MultiModeDefaultProfile label in NetConnectConfig.xml.", traceTime().constData(),
+               __FILE__, "GetSettingsFromXML");
     }
-    const int status = reader.hasError() ? readError(reader, path, "GetSettingsFromXML") : 0;
-    if (status == 0) clearProblem(path);
-    if (card.isMultiMode) markModeDefault(modeDefault, profileList);
-    return status;
+    fileElement(element, targets);
+    if (element.kind != NetConnectConfigElement::Item || m_strSection != QLatin1String(ModeDefaultSection) ||
+        !isForCard(element, card))
+        return;
+    *modeDefault = element.name;
+    qDebug("%s : %s: %s: Current CardMode is %d. Read MultiModeDefaultProfile: %s.", traceTime().constData(), __FILE__,
+           "GetSettingsFromXML", int(card.mode), qPrintable(*modeDefault));
 }
 
 int NetConnectXMLParse::getConfigData(QXmlStreamReader& reader, QHash<QString, NetConnectXML>* templates,
                                       QHash<QString, NetConnectXML>* functions,
                                       QHash<QString, NetConnectXML>* profileList,
                                       QMultiHash<QString, IMSIINFO>* imsiProfiles) {
-    const struct {
-        QLatin1String section;
-        QHash<QString, NetConnectXML>* items;
-    } targets[] = {
-        {QLatin1String("ProfileTemplate"), templates},
-        {QLatin1String("Function"), functions},
-        {QLatin1String("ProfileList"), profileList},
-    };
-
+    const ConfigTargets targets = {templates, functions, profileList, imsiProfiles};
     if (reader.isEndElement() && reader.name() == QLatin1String(IMSISection)) m_strSpare.clear();
-    if (!reader.isStartElement()) return 0;
-    const QXmlStreamAttributes attributes = reader.attributes();
-    const QString name = attributes.value(QLatin1String("name")).toString();
-    const bool isItem = reader.name() == QLatin1String("item");
-    for (size_t i = 0; i < sizeof(targets) / sizeof(targets[0]); ++i) {
-        if (reader.name() == targets[i].section) m_strSection = targets[i].section;
-        if (isItem && m_strSection == targets[i].section) targets[i].items->insert(name, readItem(attributes));
-    }
-    if (reader.name() == QLatin1String(IMSISection)) {
-        m_strSection = QLatin1String(IMSISection);
-        m_strCurrentIMSI = attributes.value(QLatin1String("imsi")).toString();
-    }
-    if (isItem && m_strSection == QLatin1String(IMSISection))
-        imsiProfiles->insert(m_strCurrentIMSI, readIMSIRow(attributes));
+    if (reader.isStartElement()) fileElement(NetConnectConfigElement::of(reader), targets);
     return 0;
 }
 
-int NetConnectXMLParse::getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt) {
+void NetConnectXMLParse::fileElement(const NetConnectConfigElement& element, const ConfigTargets& targets) {
     const struct {
-        const char* name;
-        QString UserPrompt::*member;
-    } items[] = {
-        {"PromptPwd", &UserPrompt::promptPwd},
-        {"UserCheck", &UserPrompt::userCheck},
-        {"CheckNamePwd", &UserPrompt::checkNamePwd},
-        {"DisableNamePwd", &UserPrompt::disableNamePwd},
+        NetConnectConfigElement::Kind kind;
+        QLatin1String section;
+        QHash<QString, NetConnectXML>* items;
+    } sections[] = {
+        {NetConnectConfigElement::TemplateSection, QLatin1String("ProfileTemplate"), targets.templates},
+        {NetConnectConfigElement::FunctionSection, QLatin1String("Function"), targets.functions},
+        {NetConnectConfigElement::ProfileListSection, QLatin1String("ProfileList"), targets.profileList},
     };
+    const bool isItem = element.kind == NetConnectConfigElement::Item;
+    for (size_t i = 0; i < sizeof(sections) / sizeof(sections[0]); ++i) {
+        if (element.kind == sections[i].kind) m_strSection = sections[i].section;
+        if (isItem && m_strSection == sections[i].section) sections[i].items->insert(element.name, readItem(element));
+    }
+    if (element.kind == NetConnectConfigElement::IMSISection) {
+        m_strSection = QLatin1String(IMSISection);
+        m_strCurrentIMSI = element.name;
+    }
+    if (isItem && m_strSection == QLatin1String(IMSISection))
+        targets.imsiProfiles->insert(m_strCurrentIMSI, readIMSIRow(element));
+}
+
+int NetConnectXMLParse::getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt) {
     if (!reader.isStartElement()) return 0;
     const QXmlStreamAttributes attributes = reader.attributes();
-    const QStringRef name = attributes.value(QLatin1String("name"));
-    for (size_t i = 0; i < sizeof(items) / sizeof(items[0]); ++i)
-        if (name == QLatin1String(items[i].name))
-            prompt->*items[i].member = attributes.value(QLatin1String("value")).toString();
+    if (QString UserPrompt::*const field =
+            NetConnectConfigDocument::promptField(attributes.value(QLatin1String("name"))))
+        prompt->*field = attributes.value(QLatin1String("value")).toString();
     return 0;
 }

@@ -1,0 +1,49 @@
+// What NetConnectConfig.xml says, element by element: the file is parsed once, however many of its parts are asked for.
+#ifndef ORBISDIAL_NETCONNECTCONFIGDOCUMENT_H
+#define ORBISDIAL_NETCONNECTCONFIGDOCUMENT_H
+
+#include <QList>
+#include <QPair>
+#include <QString>
+#include <QVector>
+#include <QXmlStreamReader>
+
+#include "NetConnectRecords.h"
+
+struct NetConnectConfigElement {
+    enum Kind { Other, TemplateSection, FunctionSection, ProfileListSection, IMSISection, ModeDefaultSection, Item };
+
+    NetConnectConfigElement() : kind(Other) {}
+
+    // The start element that the reader stands on.
+    static NetConnectConfigElement of(const QXmlStreamReader& reader);
+
+    Kind kind;
+    QString name;  // an item's; of an IMSI section the IMSI's first digits
+    QString value;
+    QString type;
+};
+
+struct NetConnectConfigDocument {
+    // Elements that follow one another in the same module of the same group.
+    struct Stretch {
+        QString group;
+        QString module;
+        QVector<NetConnectConfigElement> elements;
+    };
+    typedef QPair<QString UserPrompt::*, QString> PromptItem;
+
+    // Reads on to the end, or to the first error; what was read before it stays.
+    void read(QXmlStreamReader& reader);
+
+    // The prompt's field that an item of this name fills; null for other names.
+    static QString UserPrompt::*promptField(const QStringRef& name);
+
+    QList<Stretch> stretches;
+    QList<PromptItem> promptItems;  // of the whole file
+
+private:
+    void append(const QString& group, const QString& module, const NetConnectConfigElement& element);
+};
+
+#endif
