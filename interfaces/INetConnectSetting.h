@@ -21,6 +21,10 @@ enum { NetConnectSettingKind = 28689 };
 #define ORBISDIAL_MATCHED_IMSI_PREFIX "matchedIMSIPrefix"
 #define ORBISDIAL_PROPOSED_DEFAULT "proposedDefault"
 
+// A truth value: true while the user's profiles are still to be read. Many are read right after the page's first paint,
+// or soon after the start when another page is shown. To ask for one, or for the default, has them read at once.
+#define ORBISDIAL_PROFILES_AWAITED "profilesAwaited"
+
 // All operations are called on the GUI thread. Status: 0 success, 13 a needed object is missing, 23 an
 // output argument is null or the profiles can't be had, 25 a file can't be written. Their order is part
 // of the binary interface.

@@ -1,5 +1,6 @@
-// Watches the settings page for its service: that it is being destroyed, whoever destroys it, and that a person turns
-// to it, when a connection may have come up or gone down.
+// Watches the settings page for its service: that it is being destroyed, whoever destroys it; that it has been painted,
+// or has not been for a while, when a list that takes long to read is filled; and that a person turns to it, when a
+// connection may have come up or gone down.
 #ifndef ORBISDIAL_NETCONNECTPAGEWATCH_H
 #define ORBISDIAL_NETCONNECTPAGEWATCH_H
 
@@ -20,6 +21,7 @@ public:
 
 private slots:
     void onFocusChanged(QWidget* before, QWidget* now);
+    void fillAwaitedList();
 
 private:
     CNetConnectUIService* m_pService;

@@ -1,9 +1,11 @@
 #include "NetConnectSettingUILogic.h"
 
+#include <QFileInfo>
 #include <QVariant>
 
 #include "Change.h"
 #include "FileReplacement.h"
+#include "INetConnectSetting.h"
 #include "NetConnectOperation.h"
 #include "Trace.h"
 #include "UserFileLock.h"
@@ -14,8 +16,8 @@ static std::atomic<NetConnectSettingUILogic*> m_pNetConnectSettingUILogic(0);
 
 static const char LibraryName[] = "ProfileLib.prof";
 
-NetConnectSettingUILogic* NetConnectSettingUILogic::GetInstance() {
-    if (!m_pNetConnectSettingUILogic) m_pNetConnectSettingUILogic = new NetConnectSettingUILogic;
+NetConnectSettingUILogic* NetConnectSettingUILogic::GetInstance(LoadMoment moment) {
+    if (!m_pNetConnectSettingUILogic) m_pNetConnectSettingUILogic = new NetConnectSettingUILogic(moment);
     return m_pNetConnectSettingUILogic;
 }
 
@@ -30,7 +32,7 @@ void NetConnectSettingUILogic::Destroy() {
     m_pNetConnectSettingUILogic = 0;
 }
 
-NetConnectSettingUILogic::NetConnectSettingUILogic()
+NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
     : m_pXMLParse(0),
       m_pProfileTemplateHash(0),
       m_pFunctionHash(0),
@@ -40,6 +42,7 @@ NetConnectSettingUILogic::NetConnectSettingUILogic()
       m_Mutex(QMutex::Recursive),
       m_bIMSIDefaultForgotten(false),
       m_bForeignDefault(false),
+      m_bProfilesAwaited(moment == WhenNeeded && isUserFileLarge()),
       m_bUserIndexValid(false),
       m_nUserSearches(0),
       m_nLibraryRevision(-1),
@@ -63,6 +66,7 @@ NetConnectSettingUILogic::~NetConnectSettingUILogic() {
 }
 
 bool NetConnectSettingUILogic::isAutomaticDefault() {
+    readAwaitedProfiles();
     if (m_strDefaultProfile.isEmpty()) return false;
     bool followsIMSI = false;
     GetFunctionConfigValue("IMSIAPN", &followsIMSI);
@@ -94,7 +98,7 @@ int NetConnectSettingUILogic::Init() {
 
     forgetForeignDefault();
     readLibrary(&m_strDefaultProfile);
-    readUserProfiles();
+    if (!m_bProfilesAwaited) readUserProfiles();
     m_APNProfileList = getAPNListFromHash();
 
     m_IMSIProfileList.clear();
@@ -209,7 +213,20 @@ void NetConnectSettingUILogic::forgetForeignDefault() {
     m_bForeignDefault = false;
 }
 
+// A file of a hundred profiles is read within a millisecond.
+bool NetConnectSettingUILogic::isUserFileLarge() {
+    const qint64 soonRead = 48 * 1024;  // bytes
+    return QFileInfo(NetConnectXMLParse::GetInstance()->userProfilePath()).size() > soonRead;
+}
+
+void NetConnectSettingUILogic::readAwaitedProfiles() {
+    if (!m_bProfilesAwaited) return;
+    readUserProfiles();
+    publishStatus();
+}
+
 int NetConnectSettingUILogic::readUserProfiles() {
+    m_bProfilesAwaited = false;
     const QList<DialupProfile> before = m_UserProfileList;
     m_UserProfileList.clear();
     bool isUserSet = false;
@@ -345,7 +362,8 @@ void NetConnectSettingUILogic::PublishStatus(QObject* object) {
 void NetConnectSettingUILogic::publishStatus() {
     if (!m_pStatusObject) return;
     const NetConnectStorageProblem problem = LastStorageProblem();
-    m_pStatusObject->setProperty("lastStorageProblem", problem.isNull() ? QString() : problem.text());
-    m_pStatusObject->setProperty("matchedIMSIPrefix", m_strMatchedPrefix);
-    m_pStatusObject->setProperty("proposedDefault", ProposedDefault());
+    m_pStatusObject->setProperty(ORBISDIAL_LAST_STORAGE_PROBLEM, problem.isNull() ? QString() : problem.text());
+    m_pStatusObject->setProperty(ORBISDIAL_MATCHED_IMSI_PREFIX, m_strMatchedPrefix);
+    m_pStatusObject->setProperty(ORBISDIAL_PROPOSED_DEFAULT, ProposedDefault());
+    m_pStatusObject->setProperty(ORBISDIAL_PROFILES_AWAITED, m_bProfilesAwaited);
 }

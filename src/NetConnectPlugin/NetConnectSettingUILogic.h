@@ -64,7 +64,11 @@ public:
         NameTaken = 114  // AddDialUpProfile and ReplaceDialUpProfile: another profile has the name
     };
 
-    static NetConnectSettingUILogic* GetInstance();
+    // When a new instance reads the user's profiles. WhenNeeded postpones that for a file so large that reading it
+    // would hold up a window that is about to be painted; the first operation that needs them then reads it.
+    enum LoadMoment { AtOnce, WhenNeeded };
+
+    static NetConnectSettingUILogic* GetInstance(LoadMoment moment = AtOnce);
 
     // Clears an automatically chosen default from the user's file, stops the device's events and deletes the
     // instance and the XML singleton.
@@ -111,7 +115,10 @@ public:
     int updateProfileTemplate();
 
     // True when the user's file holds a profile of that name, as last read.
-    bool HasUserProfile(const QString& name) const;
+    bool HasUserProfile(const QString& name);
+
+    // True while the user's profiles are still to be read.
+    bool AreProfilesAwaited() const { return m_bProfilesAwaited; }
 
     // --- the default profile ---
 
@@ -119,7 +126,7 @@ public:
     int SetDefaultDialUpProfileName(QString name, bool isUserSet);
 
     // Whether the user chose the default.
-    bool IsDefaultUserSet() const;
+    bool IsDefaultUserSet();
 
     // --- presets ---
 
@@ -183,8 +190,8 @@ public:
     // The last file that could not be read or written, until it can again; null when all is well.
     NetConnectStorageProblem LastStorageProblem() const;
 
-    // Keeps the dynamic properties "lastStorageProblem", "matchedIMSIPrefix" and "proposedDefault" (texts) of an
-    // object up to date, so that a host which knows only that object can show them. The object stays the caller's.
+    // Keeps the dynamic properties that INetConnectSetting.h names up to date on an object, so that a host which knows
+    // only that object can show them. The object stays the caller's.
     void PublishStatus(QObject* object);
 
 signals:
@@ -201,14 +208,16 @@ private:
         NetConnectDefault defaultProfile;
     };
 
-    NetConnectSettingUILogic();
+    explicit NetConnectSettingUILogic(LoadMoment moment);
     virtual ~NetConnectSettingUILogic();
 
     // loading
     int readConfigPair(QString group, QString module, UserPrompt* prompt);
     static QString customizeName();
     static bool isCDMAProduct();
+    bool isUserFileLarge();
     int readUserProfiles();
+    void readAwaitedProfiles();
     void readLibrary(QString* defaultName);
     int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);
     void forgetForeignDefault();
@@ -229,7 +238,7 @@ private:
         m_bUserIndexValid = false;
         m_nUserSearches = 0;
     }
-    int findUserProfile(const QString& name) const;
+    int findUserProfile(const QString& name);
     int findLibraryProfile(const QString& name);
     bool sealPassword(DialupProfile* profile);
     bool translateUserProfiles();
@@ -239,7 +248,7 @@ private:
 
     // the default profile
     QString imsiProposal() const;
-    QString replacementDefault(const QSet<QString>& otherNames) const;
+    QString replacementDefault(const QSet<QString>& otherNames);
 
     // presets
     void refreshLibraryNames();
@@ -284,9 +293,11 @@ private:
     bool m_bForeignDefault;             // m_strDefaultProfile came from a file that was browsed
     NetConnectDefault m_OwnDefault;     // what it was before
 
-    mutable QHash<QString, int> m_UserIndex;  // name to first place in m_UserProfileList
-    mutable bool m_bUserIndexValid;
-    mutable int m_nUserSearches;     // without the index, since the list changed
+    bool m_bProfilesAwaited;  // reading the user's file was postponed
+
+    QHash<QString, int> m_UserIndex;  // name to first place in m_UserProfileList
+    bool m_bUserIndexValid;
+    int m_nUserSearches;             // without the index, since the list changed
     QList<QString> m_UnsortedNames;  // what sortProfileNames was last given, and what it made of it
     QList<QString> m_SortedNames;
     QHash<QString, int> m_LibraryIndex;        // shown name to first place in m_ProfileLibList

@@ -6,11 +6,15 @@
 
 int NetConnectSettingUILogic::GetDefaultDialUpProfileName(QString* name) {
     const TraceScope trace(__FILE__, "GetDefaultDialUpProfileName", "%s : %s: %s: enter", "%s : %s: %s: exit");
+    readAwaitedProfiles();
     *name = m_strDefaultProfile;
     return Success;
 }
 
-bool NetConnectSettingUILogic::IsDefaultUserSet() const { return m_bIsUserSet; }
+bool NetConnectSettingUILogic::IsDefaultUserSet() {
+    readAwaitedProfiles();
+    return m_bIsUserSet;
+}
 
 int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isUserSet) {
     QMutexLocker locker(&m_Mutex);
@@ -31,7 +35,7 @@ int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isU
 
 // The default that the configuration puts in the place of the stored one; null when that stays. The other names are
 // those that are listed beside the user's profiles.
-QString NetConnectSettingUILogic::replacementDefault(const QSet<QString>& otherNames) const {
+QString NetConnectSettingUILogic::replacementDefault(const QSet<QString>& otherNames) {
     const QString fromIMSI = imsiProposal();
     const bool hasIMSIProposal = fromIMSI.size() > 1;
     const bool isListed = otherNames.contains(m_strDefaultProfile) || HasUserProfile(m_strDefaultProfile);

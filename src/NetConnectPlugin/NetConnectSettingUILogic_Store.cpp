@@ -119,8 +119,9 @@ int NetConnectSettingUILogic::sortProfileNames(QList<QString>* names) {
     return Success;
 }
 
-int NetConnectSettingUILogic::findUserProfile(const QString& name) const {
+int NetConnectSettingUILogic::findUserProfile(const QString& name) {
     const int cheapSearches = 2;  // going through the list takes less than making the index
+    readAwaitedProfiles();
     if (!m_bUserIndexValid && m_nUserSearches++ < cheapSearches) {
         for (int i = 0; i < m_UserProfileList.size(); ++i)
             if (m_UserProfileList.at(i).name == name) return i;
@@ -135,7 +136,7 @@ int NetConnectSettingUILogic::findUserProfile(const QString& name) const {
     return m_UserIndex.value(name, -1);
 }
 
-bool NetConnectSettingUILogic::HasUserProfile(const QString& name) const { return findUserProfile(name) >= 0; }
+bool NetConnectSettingUILogic::HasUserProfile(const QString& name) { return findUserProfile(name) >= 0; }
 
 int NetConnectSettingUILogic::findLibraryProfile(const QString& name) {
     if (m_ProfileLibList.isEmpty() && m_pXMLParse) {

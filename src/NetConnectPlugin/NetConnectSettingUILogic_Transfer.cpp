@@ -36,6 +36,7 @@ private:
 int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QString path) {
     m_ImportList.clear();
     if (!m_pXMLParse) return ObjectMissing;
+    readAwaitedProfiles();
     const QString file = path.isEmpty() ? QString(QLatin1String("ProfileLib.prof")) : path;
     const NetConnectDefault own(m_strDefaultProfile, m_bIsUserSet);
     const int status = readForeignFile(&m_ImportList, &m_strDefaultProfile, file);

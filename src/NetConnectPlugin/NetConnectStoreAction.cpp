@@ -94,6 +94,7 @@ void NetConnectStoreAction::releaseLock() {
 NetConnectOperation::NetConnectOperation(NetConnectSettingUILogic* logic) : m_pLogic(logic) {
     NetConnectStoreAction::State& now = NetConnectStoreAction::state();
     ++now.operations;
+    logic->readAwaitedProfiles();
     if (!now.isBrowsing() && !now.lock.isHeld() && !now.lockFailed) {
         now.lockFailed = !logic->lockUserFile(&now.lock) || !logic->takeInChanges();
     }

@@ -43,7 +43,7 @@ void CNetConnectUIService::OnDestroy() {
     m_pNotifyServicePlugin = 0;
     m_pNotifyService = 0;
     m_bActive = m_bHiddenWhileOpen = m_bClosedByButton = false;
-    m_bImporting = m_bReloadPending = false;
+    m_bImporting = m_bReloadPending = m_bListAwaited = false;
 }
 
 void CNetConnectUIService::forgetPage() {
@@ -65,7 +65,7 @@ void CNetConnectUIService::forgetPage() {
 bool CNetConnectUIService::Init() {
     CallTrace trace(__FILE__, "Init", "%s: %s: called", "%s: %s: exit");
     if (m_pNetConnectWidget) return true;
-    m_pLogic = NetConnectSettingUILogic::GetInstance();
+    m_pLogic = NetConnectSettingUILogic::GetInstance(NetConnectSettingUILogic::WhenNeeded);
     if (!m_pLogic) return false;
     connect(m_pLogic, SIGNAL(DeviceInit()), this, SLOT(onDeviceInitailize()), Qt::UniqueConnection);
     connect(this, SIGNAL(SysModeChangedSignal()), this, SLOT(onDeviceInitailize()), Qt::UniqueConnection);
@@ -74,7 +74,8 @@ bool CNetConnectUIService::Init() {
     initailizeUI();
     if (m_pAdvancedDlg) m_pAdvancedDlg->InitAdvanceUI(m_pNetConnectWidget);
     enableDisableUiWidget(false);
-    rebuildList();
+    m_bListAwaited = m_pLogic->AreProfilesAwaited();
+    if (!m_bListAwaited) rebuildList();
     return true;
 }
 

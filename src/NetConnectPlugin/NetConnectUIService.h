@@ -306,6 +306,7 @@ private:
     OpenEdit m_Edit;
     bool m_bImporting = false;      // a clash question may be on screen
     bool m_bReloadPending = false;  // a reload that came meanwhile
+    bool m_bListAwaited = false;    // the list is filled after the page's first paint
 };
 
 #endif

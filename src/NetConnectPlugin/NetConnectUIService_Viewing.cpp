@@ -20,6 +20,7 @@ void CNetConnectUIService::rebuildList() {
 
 void CNetConnectUIService::showAllProfiles() {
     if (!m_Page.profiles || !m_pLogic || !m_Page.deleteProfile || !m_Page.edit || !m_Page.setDefault) return;
+    m_bListAwaited = false;
     m_nDefaultIndex = -1;
     m_Page.profiles->clear();
     m_DefaultAPNProfileList.clear();

@@ -29,6 +29,8 @@ QString cardImsi() {
 }
 
 QString profileText(QObject* profiles) {
+    // The answer would take long just now; the property's change brings the bar back here.
+    if (profiles && profiles->property(ORBISDIAL_PROFILES_AWAITED).toBool()) return QString(QChar::Nbsp);
     QString name;
     if (auto* settings = qobject_cast<INetConnectSetting*>(profiles)) settings->GetDefaultDialUpProfileName(&name);
     return name.isEmpty() ? hostText("IDS_HOST_NO_DEFAULT_PROFILE") : hostText("IDS_HOST_DEFAULT_PROFILE", {name});
