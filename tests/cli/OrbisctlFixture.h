@@ -2,19 +2,8 @@
 #ifndef ORBISDIAL_TESTS_ORBISCTLFIXTURE_H
 #define ORBISDIAL_TESTS_ORBISCTLFIXTURE_H
 
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-
+#include "Program.h"
 #include "TestFolder.h"
-
-struct Outcome {
-    int status;  // -1 when it crashed or did not end
-    QByteArray out;
-    QByteArray err;
-
-    QJsonObject json() const { return QJsonDocument::fromJson(out).object(); }
-};
 
 class OrbisctlFixture : public TestFolder {
 public:
@@ -28,13 +17,8 @@ public:
         qunsetenv("ORBISDIAL_SIM_CUSTOMIZE_NAME");
     }
 
-    Outcome run(const QStringList& arguments, const QByteArray& input = QByteArray()) const {
-        QProcess process;
-        process.start(ORBISCTL, arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-        return {ended ? process.exitCode() : -1, process.readAllStandardOutput(), process.readAllStandardError()};
+    static Outcome run(const QStringList& arguments, const QByteArray& input = QByteArray()) {
+        return runProgram(ORBISCTL, arguments, input);
     }
 
     QJsonObject show(const QString& name) const { return run({"--json", "show", "--secrets", "--", name}).json(); }

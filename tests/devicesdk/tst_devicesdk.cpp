@@ -1,18 +1,20 @@
 // The device SDK: what each environment makes of it, its events, and the user data directory.
 #include <sys/stat.h>
 
-#include <QProcess>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QtEndian>
-#include <QtTest>
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <thread>
 #include <vector>
 
+#include "Program.h"
+#include "Rows.h"
 #include "vrks.h"
 #include "vrks_simulated.h"
 
@@ -20,63 +22,58 @@ using Answers = QMap<QString, QString>;
 
 namespace {
 
-// What the callbacks saw: which one, the event, the thread.
-struct Delivery {
-    char callback;
-    int event;
-    std::thread::id thread;
-};
-
 std::mutex deliveriesMutex;
-std::vector<Delivery> deliveries;
+QStringList deliveries;  // which callback, the event
+std::set<std::thread::id> deliveryThreads;
 
 void record(char callback, int event) {
     const std::lock_guard lock(deliveriesMutex);
-    deliveries.push_back({callback, event, std::this_thread::get_id()});
+    deliveries.append(callback + QString::number(event));
+    deliveryThreads.insert(std::this_thread::get_id());
 }
 
 QString recorded() {
     const std::lock_guard lock(deliveriesMutex);
-    QStringList texts;
-    for (const Delivery& delivery : deliveries) texts << delivery.callback + QString::number(delivery.event);
-    return texts.join(' ');
+    return deliveries.join(' ');
 }
 
-int first(int event, void*) {
-    record('a', event);
+template <char Name>
+int noting(int event, void*) {
+    record(Name, event);
     return 0;
 }
 
-int second(int event, void*) {
-    record('b', event);
+const VRKS_DevInitEventCallback first = noting<'a'>;
+const VRKS_DevInitEventCallback second = noting<'b'>;
+
+std::function<void(int event)> action;
+
+int acting(int event, void*) {
+    record('x', event);
+    action(event);
     return 0;
 }
 
 QSemaphore entered;
 QSemaphore mayLeave;
 
-int blocking(int, void*) {
+void block() {
     entered.release();
     mayLeave.acquire();
-    return 0;
 }
 
-std::atomic<long> resultWithin{-2};
-
-int removingItself(int event, void*) {
-    record('r', event);
-    resultWithin = VRKS_DevSrv_UnRegisterDevInitEventCallback(removingItself);
-    VRKS_DevSrv_UnRegisterDevInitEventCallback(second);
-    entered.release();
-    mayLeave.acquire();
-    return 0;
-}
-
-int waitingWithin(int event, void*) {
-    record('w', event);
-    resultWithin = vrks_simulated_wait_events();
-    if (event < 3) vrks_simulated_raise_event(event + 1);
-    return 0;
+// True when unregistering takes until the blocked callback is let go.
+bool unregisteringWaits() {
+    if (!entered.tryAcquire(1, 10000)) return false;
+    QSemaphore removed;
+    std::thread remover([&] {
+        VRKS_DevSrv_UnRegisterDevInitEventCallback(acting);
+        removed.release();
+    });
+    const bool tooEarly = removed.tryAcquire(1, 100);
+    mayLeave.release();
+    remover.join();
+    return !tooEarly;
 }
 
 std::optional<QString> dataDirectory() {
@@ -86,81 +83,63 @@ std::optional<QString> dataDirectory() {
     return QString::fromUtf16(text);
 }
 
-mode_t modeOf(const QString& path) {
-    struct stat info {};
-    return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 07777 : 0;
-}
-
 QStringList namesIn(const QString& folder) {
     return QDir(folder).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System);
 }
 
-// True when unregistering takes until the running callback is let go.
-bool unregisteringWaits(VRKS_DevInitEventCallback callback) {
-    if (!entered.tryAcquire(1, 10000)) return false;
-    QSemaphore removed;
-    std::thread remover([&] {
-        VRKS_DevSrv_UnRegisterDevInitEventCallback(callback);
-        removed.release();
-    });
-    const bool tooEarly = removed.tryAcquire(1, 100);
-    mayLeave.release();
-    remover.join();
-    return !tooEarly;
-}
-
 // Runs the probe with the device asked for, none when it is null.
-int runProbe(const QString& device, const QStringList& arguments, QString* output = nullptr) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    device.isNull() ? environment.remove("ORBISDIAL_DEVICE") : environment.insert("ORBISDIAL_DEVICE", device);
-    QProcess probe;
-    probe.setProcessEnvironment(environment);
-    probe.start(VRKS_PROBE, arguments);
-    if (!probe.waitForFinished() || probe.exitStatus() != QProcess::NormalExit) return -1;
-    if (output) *output = QString::fromUtf8(probe.readAllStandardOutput());
-    return probe.exitCode();
+Outcome runProbe(const QByteArray& device, const QStringList& arguments) {
+    device.isNull() ? qunsetenv("ORBISDIAL_DEVICE") : qputenv("ORBISDIAL_DEVICE", device);
+    const Outcome outcome = runProgram(VRKS_PROBE, arguments);
+    qputenv("ORBISDIAL_DEVICE", "simulated");
+    return outcome;
 }
 
-// A buffer with a guard behind it: text up to a size, or nothing when the guard was touched.
-template <std::size_t Size>
-struct Guarded {
-    char place[Size + 1];
-    Guarded() { std::fill(std::begin(place), std::end(place), 'G'); }
-    QString text(std::size_t offset, std::size_t size) const {
-        return place[Size] == 'G' ? QString::fromUtf8(place + offset, int(qstrnlen(place + offset, uint(size))))
-                                  : QString();
-    }
-    QString number(std::size_t offset) const {
-        return place[Size] == 'G' ? QString::number(qFromUnaligned<qint32>(place + offset)) : QString();
-    }
-};
+const QString Fails = "-";
 
-// What the simulated modem answers, by setting; a query that fails has no answers.
-Answers askEverything() {
-    Answers answers;
+QString numberOf(long (*query)(int*)) {
     int number = 0;
+    return query(&number) == 0 ? QString::number(number) : Fails;
+}
+
+// What a query writes; null when it fails, or writes more than it may.
+template <class Place>
+QByteArray recordOf(long (*query)(Place*), int size) {
+    QByteArray record(size + 1, 'G');
+    return query(record.data()) == 0 && record.endsWith('G') ? record.left(size) : QByteArray();
+}
+
+QString textIn(const QByteArray& record) {
+    return record.isNull() ? Fails : QString::fromUtf8(record.split('\0').first());
+}
+
+QString numberIn(const QByteArray& record, int offset) {
+    return record.isNull() ? Fails : QString::number(qFromUnaligned<qint32>(record.constData() + offset));
+}
+
+const Answers Defaults = {{"STATUS", "3"},       {"PRODUCT_TYPE", "0"}, {"CUSTOMIZE_NAME", ""},
+                          {"CARD_MODE", "0"},    {"MULTI_MODE", "0"},   {"IMSI", "310260123456789"},
+                          {"SYS_MODE", "0"},     {"SYS_SUBMODE", "0"},  {"DS_USER", Fails},
+                          {"DS_PASSWORD", Fails}};
+
+// What the simulated modem answers, by setting.
+Answers askEverything() {
     unsigned char isMultiMode = 0;
     unsigned int cardMode = 0;
-    Guarded<VRKS_CUSTOMIZE_NAME_SIZE> name;
-    Guarded<VRKS_IMSI_SIZE> imsi;
-    Guarded<VRKS_SYSINFO_SIZE> system;
-    Guarded<VRKS_DSPROFILE_SIZE> profile;
-    if (VRKS_DevSrv_GetDevStatus(&number) == 0) answers["STATUS"] = QString::number(number);
-    if (VRKS_DevSrv_GetProductType(&number) == 0) answers["PRODUCT_TYPE"] = QString::number(number);
-    if (VRKS_DevSrv_GetCustomizeName(name.place) == 0) answers["CUSTOMIZE_NAME"] = name.text(0, sizeof name.place);
-    if (VRKS_DevSrv_GetImsiInfo(imsi.place) == 0) answers["IMSI"] = imsi.text(0, sizeof imsi.place);
-    if (VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, nullptr, nullptr, &cardMode) == 0)
-        answers.insert({{"MULTI_MODE", QString::number(isMultiMode)}, {"CARD_MODE", QString::number(cardMode)}});
-    if (VRKS_NetSrv_GetSysInfoEx(system.place) == 0)
-        answers.insert({{"SYS_MODE", system.number(4)}, {"SYS_SUBMODE", system.number(20)}});
-    if (VRKS_NetConnectSrv_DSGetProfile(profile.place) == 0)
-        answers.insert({{"DS_USER", profile.text(0, 256)}, {"DS_PASSWORD", profile.text(256, 256)}});
-    return answers;
+    const bool hasMode = VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, nullptr, nullptr, &cardMode) == 0;
+    const QByteArray system = recordOf(VRKS_NetSrv_GetSysInfoEx, VRKS_SYSINFO_SIZE);
+    const QByteArray profile = recordOf(VRKS_NetConnectSrv_DSGetProfile, VRKS_DSPROFILE_SIZE);
+    return {{"STATUS", numberOf(VRKS_DevSrv_GetDevStatus)},
+            {"PRODUCT_TYPE", numberOf(VRKS_DevSrv_GetProductType)},
+            {"CUSTOMIZE_NAME", textIn(recordOf(VRKS_DevSrv_GetCustomizeName, VRKS_CUSTOMIZE_NAME_SIZE))},
+            {"IMSI", textIn(recordOf(VRKS_DevSrv_GetImsiInfo, VRKS_IMSI_SIZE))},
+            {"MULTI_MODE", hasMode ? QString::number(isMultiMode) : Fails},
+            {"CARD_MODE", hasMode ? QString::number(cardMode) : Fails},
+            {"SYS_MODE", numberIn(system, 4)},
+            {"SYS_SUBMODE", numberIn(system, 20)},
+            {"DS_USER", textIn(profile.left(256))},
+            {"DS_PASSWORD", textIn(profile.mid(256))}};
 }
-
-const Answers Defaults = {{"STATUS", "3"},    {"PRODUCT_TYPE", "0"}, {"CUSTOMIZE_NAME", ""},
-                          {"CARD_MODE", "0"}, {"MULTI_MODE", "0"},   {"IMSI", "310260123456789"},
-                          {"SYS_MODE", "0"},  {"SYS_SUBMODE", "0"}};
 
 }  // namespace
 
@@ -171,35 +150,29 @@ private slots:
     void initTestCase() { QVERIFY(vrks_simulated_active()); }
 
     void cleanup() {
-        for (VRKS_DevInitEventCallback callback : {first, second, blocking, removingItself, waitingWithin})
+        for (VRKS_DevInitEventCallback callback : {first, second, VRKS_DevInitEventCallback(acting)})
             VRKS_DevSrv_UnRegisterDevInitEventCallback(callback);
         QCOMPARE(vrks_simulated_wait_events(), 0L);
         QCOMPARE(vrks_simulated_reset(), 0L);
         const std::lock_guard lock(deliveriesMutex);
         deliveries.clear();
-        resultWithin = -2;
+        deliveryThreads.clear();
     }
 
     void environment_data() {
-        QTest::addColumn<Answers>("variables");
-        QTest::addColumn<Answers>("changed");  // against the defaults; null: the query fails
-        const QString longest(256, 'u');
-        const QString cut(62, 'n');
-        const QString none;
-        const auto row = [](const char* name, const Answers& variables, const Answers& changed) {
-            QTest::newRow(name) << variables << changed;
-        };
+        const Rows<Answers, Answers> row("variables", "changed");  // against the defaults
+        const QString longest(256, 'u'), cut(62, 'n');
         const Answers all = {{"IMSI", "262011234567890"}, {"STATUS", "-1"},      {"CUSTOMIZE_NAME", "Größe"},
                              {"PRODUCT_TYPE", "1"},       {"MULTI_MODE", "255"}, {"CARD_MODE", "2"},
                              {"SYS_MODE", "2"},           {"SYS_SUBMODE", "31"}, {"DS_USER", "u"},
                              {"DS_PASSWORD", "p"}};
         row("nothing set", {}, {});
         row("everything set", all, all);
-        row("no card", {{"IMSI", ""}}, {{"IMSI", none}});
-        row("IMSI too long", {{"IMSI", "3102601234567890"}}, {{"IMSI", none}});
-        row("no number", {{"STATUS", "3x"}, {"PRODUCT_TYPE", ""}}, {{"STATUS", none}, {"PRODUCT_TYPE", none}});
-        row("not a byte", {{"MULTI_MODE", "256"}}, {{"MULTI_MODE", none}, {"CARD_MODE", none}});
-        row("beyond 32 bits", {{"SYS_MODE", "4294967298"}}, {{"SYS_MODE", none}, {"SYS_SUBMODE", none}});
+        row("no card", {{"IMSI", ""}}, {{"IMSI", Fails}});
+        row("IMSI too long", {{"IMSI", "3102601234567890"}}, {{"IMSI", Fails}});
+        row("no number", {{"STATUS", "3x"}, {"PRODUCT_TYPE", ""}}, {{"STATUS", Fails}, {"PRODUCT_TYPE", Fails}});
+        row("not a byte", {{"MULTI_MODE", "256"}}, {{"MULTI_MODE", Fails}, {"CARD_MODE", Fails}});
+        row("beyond 32 bits", {{"SYS_MODE", "4294967298"}}, {{"SYS_MODE", Fails}, {"SYS_SUBMODE", Fails}});
         row("name fills its place", {{"CUSTOMIZE_NAME", cut + "n"}}, {{"CUSTOMIZE_NAME", cut + "n"}});
         row("name cut before a character", {{"CUSTOMIZE_NAME", cut + "é"}}, {{"CUSTOMIZE_NAME", cut}});
         row("user alone", {{"DS_USER", "u"}}, {{"DS_USER", "u"}, {"DS_PASSWORD", ""}});
@@ -211,45 +184,36 @@ private slots:
         QFETCH(Answers, variables);
         QFETCH(Answers, changed);
         Answers expected = Defaults;
-        for (auto it = changed.cbegin(); it != changed.cend(); ++it) {
-            expected.remove(it.key());
-            if (!it->isNull()) expected[it.key()] = *it;
-        }
+        for (const QString& name : changed.keys()) expected[name] = changed[name];
         const auto variable = [](const QString& name) { return "ORBISDIAL_SIM_" + name.toLatin1(); };
-        for (auto it = variables.cbegin(); it != variables.cend(); ++it) qputenv(variable(it.key()), it->toUtf8());
+        for (const QString& name : variables.keys()) qputenv(variable(name), variables[name].toUtf8());
         QCOMPARE(vrks_simulated_reset(), 0L);
         for (const QString& name : variables.keys()) qunsetenv(variable(name));
         QCOMPARE(askEverything(), expected);
     }
 
     void withoutModem_data() {
-        QTest::addColumn<QString>("device");
-        QTest::addColumn<QString>("backend");
-        QTest::newRow("not asked for") << QString() << "none";
-        QTest::newRow("empty") << ""
-                               << "none";
-        QTest::newRow("none") << "none"
-                              << "none";
-        QTest::newRow("auto") << "auto"
-                              << "none";
-        QTest::newRow("not there yet") << "modemmanager"
-                                       << "failed";
-        QTest::newRow("unknown") << "Simulated"
-                                 << "failed";
+        const Rows<QByteArray, QByteArray> row("device", "backend");
+        row("not asked for", {}, "none");
+        row("empty", "", "none");
+        row("none", "none", "none");
+        row("auto", "auto", "none");
+        row("not there yet", "modemmanager", "failed");
+        row("unknown", "Simulated", "failed");
     }
 
     void withoutModem() {
-        QFETCH(QString, device);
-        QFETCH(QString, backend);
-        QString output;
-        QCOMPARE(runProbe(device, {}, &output), 0);
-        QCOMPARE(output.section('|', 0, 0), backend);
-        QCOMPARE(output.section('|', 1).isEmpty(), backend == "none");
+        QFETCH(QByteArray, device);
+        QFETCH(QByteArray, backend);
+        const Outcome outcome = runProbe(device, {});
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.out.split('|').first(), backend);
+        QCOMPARE(outcome.out.endsWith('|'), backend == "none");
     }
 
     void endsWithEventsOnTheirWay() {
-        QCOMPARE(runProbe("simulated", {"from main"}), 0);
-        QCOMPARE(runProbe("simulated", {"within"}), 7);
+        QCOMPARE(runProbe("simulated", {"from main"}).status, 0);
+        QCOMPARE(runProbe("simulated", {"within"}).status, 7);
     }
 
     void nullOutputsFail() {
@@ -266,78 +230,78 @@ private slots:
 
     void changesWhileRunning() {
         char imsi[VRKS_IMSI_SIZE] = "kept";
-        int status = 9;
         QCOMPARE(vrks_simulated_set("IMSI", nullptr), 0L);
         QVERIFY(VRKS_DevSrv_GetImsiInfo(imsi) != 0);
         QCOMPARE(imsi, "kept");
         QCOMPARE(vrks_simulated_set("IMSI", "20201"), 0L);
-        QCOMPARE(VRKS_DevSrv_GetImsiInfo(imsi), 0L);
-        QCOMPARE(imsi, "20201");
-
-        QVERIFY(vrks_simulated_set("STATUS", "none") != 0);
-        QVERIFY(vrks_simulated_set("CARD_MODE", "-1") != 0);
-        QVERIFY(vrks_simulated_set("NO_SUCH", "1") != 0);
-        QVERIFY(vrks_simulated_set(nullptr, "1") != 0);
-        QCOMPARE(VRKS_DevSrv_GetDevStatus(&status), 0L);
-        QCOMPARE(status, VRKS_DEV_STATUS_READY);
-        QCOMPARE(vrks_simulated_set("STATUS", nullptr), 0L);
-        QVERIFY(VRKS_DevSrv_GetDevStatus(&status) != 0);
+        for (const char* name : {"CARD_MODE", "NO_SUCH", static_cast<const char*>(nullptr)})
+            QVERIFY(vrks_simulated_set(name, "-1") != 0);
+        QVERIFY(vrks_simulated_set("STATUS", "3x") != 0);
+        QCOMPARE(vrks_simulated_set("PRODUCT_TYPE", nullptr), 0L);
+        Answers expected = Defaults;
+        expected["IMSI"] = "20201";
+        expected["PRODUCT_TYPE"] = Fails;
+        QCOMPARE(askEverything(), expected);
     }
 
+    // To each callback once, however often it was registered.
     void eventsArriveInOrderOnOneThread() {
-        QCOMPARE(VRKS_DevSrv_RegisterDevInitEventCallback(first), 0L);
-        QCOMPARE(VRKS_DevSrv_RegisterDevInitEventCallback(second), 0L);
-        for (int event : {6014, 6016, 6014}) QCOMPARE(vrks_simulated_raise_event(event), 0L);
-        QCOMPARE(vrks_simulated_wait_events(), 0L);
-        QCOMPARE(recorded(), QString("a6014 b6014 a6016 b6016 a6014 b6014"));
-        for (const Delivery& delivery : deliveries) {
-            QVERIFY(delivery.thread != std::this_thread::get_id());
-            QVERIFY(delivery.thread == deliveries.front().thread);
-        }
-    }
-
-    void registersOnce() {
         QVERIFY(VRKS_DevSrv_RegisterDevInitEventCallback(nullptr) != 0);
         QVERIFY(VRKS_DevSrv_UnRegisterDevInitEventCallback(nullptr) != 0);
         QVERIFY(VRKS_DevSrv_UnRegisterDevInitEventCallback(first) != 0);
-        QCOMPARE(VRKS_DevSrv_RegisterDevInitEventCallback(first), 0L);
+        for (VRKS_DevInitEventCallback callback : {first, second})
+            QCOMPARE(VRKS_DevSrv_RegisterDevInitEventCallback(callback), 0L);
         QVERIFY(VRKS_DevSrv_RegisterDevInitEventCallback(first) != 0);
-        vrks_simulated_raise_event(1);
-        vrks_simulated_wait_events();
-        QCOMPARE(recorded(), QString("a1"));
+        for (int event : {6014, 6016, 6014}) QCOMPARE(vrks_simulated_raise_event(event), 0L);
+        QCOMPARE(vrks_simulated_wait_events(), 0L);
         QCOMPARE(VRKS_DevSrv_UnRegisterDevInitEventCallback(first), 0L);
-        vrks_simulated_raise_event(2);
-        vrks_simulated_wait_events();
-        QCOMPARE(recorded(), QString("a1"));
+        QCOMPARE(vrks_simulated_raise_event(1), 0L);
+        QCOMPARE(vrks_simulated_wait_events(), 0L);
+        QCOMPARE(recorded(), QString("a6014 b6014 a6016 b6016 a6014 b6014 b1"));
+        QVERIFY(deliveryThreads.size() == 1 && deliveryThreads.count(std::this_thread::get_id()) == 0);
     }
 
     void unregisteringWaitsForARunningCallback() {
-        VRKS_DevSrv_RegisterDevInitEventCallback(blocking);
+        action = [](int) { block(); };
+        VRKS_DevSrv_RegisterDevInitEventCallback(acting);
         vrks_simulated_raise_event(1);
         vrks_simulated_raise_event(2);  // waits behind it, and must not be delivered any more
-        QVERIFY(unregisteringWaits(blocking));
+        QVERIFY(unregisteringWaits());
         QCOMPARE(vrks_simulated_wait_events(), 0L);
-        QVERIFY(!entered.tryAcquire());
+        QCOMPARE(recorded(), QString("x1"));
     }
 
     // The callback is still running after it removed itself, so another thread must still wait for it; the
     // callback after it, which it removed as well, gets not even this event.
     void callbackRemovesItself() {
-        VRKS_DevSrv_RegisterDevInitEventCallback(removingItself);
+        std::atomic<long> removed{-2};
+        action = [&removed](int) {
+            removed = VRKS_DevSrv_UnRegisterDevInitEventCallback(acting);
+            VRKS_DevSrv_UnRegisterDevInitEventCallback(second);
+            block();
+        };
+        VRKS_DevSrv_RegisterDevInitEventCallback(acting);
         VRKS_DevSrv_RegisterDevInitEventCallback(second);
         vrks_simulated_raise_event(1);
         vrks_simulated_raise_event(2);
-        QVERIFY(unregisteringWaits(removingItself));
-        QCOMPARE(resultWithin.load(), 0L);
+        QVERIFY(unregisteringWaits());
+        QCOMPARE(removed.load(), 0L);
         QCOMPARE(vrks_simulated_wait_events(), 0L);
-        QCOMPARE(recorded(), QString("r1"));
+        QCOMPARE(recorded(), QString("x1"));
     }
 
+    // Who waits within a callback would wait for ever.
     void callbackRaisesEvents() {
-        VRKS_DevSrv_RegisterDevInitEventCallback(waitingWithin);
+        std::atomic<bool> waited{false};
+        action = [&waited](int event) {
+            if (vrks_simulated_wait_events() == 0) waited = true;
+            if (event < 3) vrks_simulated_raise_event(event + 1);
+        };
+        VRKS_DevSrv_RegisterDevInitEventCallback(acting);
         vrks_simulated_raise_event(1);
-        QTRY_COMPARE(recorded(), QString("w1 w2 w3"));
-        QVERIFY(resultWithin != 0 && resultWithin != -2);
+        QTRY_COMPARE(recorded(), QString("x1 x2 x3"));
+        QCOMPARE(vrks_simulated_wait_events(), 0L);
+        QVERIFY(!waited);
     }
 
     void manyThreadsAtOnce() {
@@ -364,26 +328,21 @@ private slots:
     }
 
     void dataDirectory_data() {
-        QTest::addColumn<QByteArray>("dataDir");  // null: not set; '@' stands for the test's folder
-        QTest::addColumn<QByteArray>("dataHome");
-        QTest::addColumn<QByteArray>("home");
-        QTest::addColumn<QString>("expected");  // null: the call fails
-        const QByteArray unset;
-        QTest::newRow("own variable") << QByteArray("@/a/b") << QByteArray("@/x") << QByteArray("@/h") << "@/a/b/";
-        QTest::newRow("ends with a slash") << QByteArray("@/a/") << unset << unset << "@/a/";
-        QTest::newRow("blanks, beyond ASCII") << QByteArray("@/my data/\u00e9\u4e2d\U0001f4f6") << unset << unset
-                                              << QString::fromUtf8("@/my data/\u00e9\u4e2d\U0001f4f6/");
-        QTest::newRow("relative") << QByteArray("rel") << unset << unset << "@/rel/";
-        QTest::newRow("XDG data home") << QByteArray("") << QByteArray("@/x") << QByteArray("@/h") << "@/x/orbisdial/";
-        QTest::newRow("home") << unset << QByteArray("") << QByteArray("@/h") << "@/h/.local/share/orbisdial/";
-        QTest::newRow("no home") << unset << unset << unset << QString();
-        QTest::newRow("file in the way") << QByteArray("@/file") << unset << unset << QString();
-        QTest::newRow("file on the way") << QByteArray("@/file/sub") << unset << unset << QString();
-        QTest::newRow("dangling link") << QByteArray("@/dangling") << unset << unset << QString();
-        QTest::newRow("name too long") << "@/" + QByteArray(256, 'n') << unset << unset << QString();
+        // Null: not set, or the call fails; '@' stands for the test's folder.
+        const Rows<QByteArray, QByteArray, QByteArray, QString> row("dataDir", "dataHome", "home", "expected");
+        row("own variable", "@/a/b", "@/x", "@/h", "@/a/b/");
+        row("ends with a slash", "@/a/", {}, {}, "@/a/");
+        row("blanks, beyond ASCII", "@/my data/\u00e9\u4e2d\U0001f4f6", {}, {}, "@/my data/\u00e9\u4e2d\U0001f4f6/");
+        row("relative", "rel", {}, {}, "@/rel/");
+        row("XDG data home", "", "@/x", "@/h", "@/x/orbisdial/");
+        row("home", {}, "", "@/h", "@/h/.local/share/orbisdial/");
+        row("no home", {}, {}, {}, {});
+        row("file in the way", "@/file", {}, {}, {});
+        row("file on the way", "@/file/sub", {}, {}, {});
+        row("dangling link", "@/dangling", {}, {}, {});
+        row("name too long", "@/" + QByteArray(256, 'n'), {}, {}, {});
         for (const char* bad : {"@/\xff", "@/\xc3", "@/\xed\xa0\x80", "@/\xed\xa0\x80\xed\xb0\x80", "@/\xc0\xaf"})
-            QTest::addRow("not UTF-8: %s", QByteArray(bad).toHex().constData())
-                << QByteArray(bad) << unset << unset << QString();
+            row("not UTF-8: " + QByteArray(bad).toHex(), bad, {}, {}, {});
     }
 
     void dataDirectory() {
@@ -398,13 +357,12 @@ private slots:
         setVariable("HOME", "home", base);
         const QString oldFolder = QDir::currentPath();
         QDir::setCurrent(base);
-        QCOMPARE(::chmod(QFile::encodeName(base).constData(), 0755), 0);
+        QVERIFY(QFile::setPermissions(base, QFile::Permissions(0x7755)));
         const mode_t oldMask = ::umask(0777);
         const std::optional<QString> folder = ::dataDirectory();
         ::umask(oldMask);
         QDir::setCurrent(oldFolder);
-        QCOMPARE(modeOf(base), mode_t(0755));
-
+        QCOMPARE(QFile::permissions(base), QFile::Permissions(0x7755));
         if (expected.isNull()) {
             QVERIFY(!folder);
             QCOMPARE(namesIn(base), before);
@@ -413,7 +371,7 @@ private slots:
         QVERIFY(folder);
         QCOMPARE(*folder, expected.replace('@', base));
         for (QString made = QFileInfo(*folder).path(); made != base; made = QFileInfo(made).path())
-            QCOMPARE(modeOf(made), mode_t(0700));
+            QCOMPARE(QFile::permissions(made), QFile::Permissions(0x7700));
     }
 
 private:

@@ -8,36 +8,31 @@
 #include "LogicFixture.h"
 #include "OrbisctlFixture.h"
 
+// What unfinished saves left in a folder and below.
+inline QStringList temporaryFiles(const QString& folder) {
+    QStringList found;
+    QDirIterator files(folder, {"*.tmp-*"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) found.append(files.next());
+    return found;
+}
+
 class FaultsFixture : public OrbisctlFixture {
 public:
     FaultsFixture() {
         vrks_simulated_reset();
         restart();
     }
-    ~FaultsFixture() { NetConnectSettingUILogic::Destroy(); }
+    ~FaultsFixture() { LogicFixture::end(); }
 
-    static NetConnectSettingUILogic* logic() { return NetConnectSettingUILogic::GetInstance(); }
-
-    static NetConnectSettingUILogic* restart() {
-        NetConnectSettingUILogic::Destroy();
-        return logic();
-    }
+    static NetConnectSettingUILogic* logic() { return LogicFixture::logic(); }
+    static NetConnectSettingUILogic* restart() { return LogicFixture::restart(); }
 
     // Without the presets.
     static QStringList userNames() {
-        QList<QString> names;
-        logic()->GetAllDialUpProfile(&names);
         QStringList result;
-        for (const QString& name : names)
+        for (const QString& name : LogicFixture::names())
             if (logic()->HasUserProfile(name)) result.append(name);
         return result;
-    }
-
-    QStringList temporaryFiles() const {
-        QStringList found;
-        QDirIterator files(path(""), {"*.tmp-*"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-        while (files.hasNext()) found.append(files.next());
-        return found;
     }
 };
 

@@ -8,7 +8,8 @@ namespace FaultySystem {
 void killAt(int n);
 
 // Lets every call of a name fail with this errno; null none. The names are the functions', but "fsync folder" for the
-// flush of a folder and "open to read" for an open that writes nothing. $ORBISDIAL_TEST_FAULT ("name=errno") does the
+// flush of a folder, "open to read" for an open that writes nothing and "write in full" for a write that then takes
+// only half of its data. $ORBISDIAL_TEST_FAULT ("name=errno") does the
 // same from the program's start.
 void fail(const char* call, int error);
 

@@ -3,10 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QtTest>
-
-#include "FaultySystem.h"
-#include "LogicFixture.h"
+#include "FaultsFixture.h"
 
 namespace {
 
@@ -46,25 +43,22 @@ class tst_death : public QObject {
 
 private slots:
     void leavesTheOldFileOrTheNew_data() {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<Save>("save");
-        QTest::newRow("user file") << "data/UserProfile.prof" << Save(saveUser);
-        QTest::newRow("export") << "export.prof" << Save(saveExport);
-        QTest::newRow("template") << "library/plugins/NetConnectPlugin/SysProfile.prof" << Save(saveTemplate);
-        QTest::newRow("rename") << "data/UserProfile.prof" << Save(saveRenamed);
+        const Rows<QString, Save> row("file", "save");
+        row("user file", "data/UserProfile.prof", Save(saveUser));
+        row("export", "export.prof", Save(saveExport));
+        row("template", "library/plugins/NetConnectPlugin/SysProfile.prof", Save(saveTemplate));
+        row("rename", "data/UserProfile.prof", Save(saveRenamed));
     }
     void leavesTheOldFileOrTheNew() {
-        QFETCH(QString, file);
         QFETCH(Save, save);
         LogicFixture fixture;
-        fixture.shipConfig(
-            LogicFixture::config("<ProfileTemplate>" + LogicFixture::item("name", "Fresh") + "</ProfileTemplate>"));
-        const QByteArray user =
-            LogicFixture::profiles(LogicFixture::profile("name='Old'") + LogicFixture::profile("name='Other'"));
-        const QString path = fixture.folder.path(file);
-        const QByteArray before = path == fixture.folder.userFile() ? user : LogicFixture::profiles("");
+        fixture.shipConfig(LogicFixture::section("ProfileTemplate", {"name=Fresh"}));
+        const QByteArray user = LogicFixture::document(LogicFixture::profile("Old") + LogicFixture::profile("Other"));
+        const QString path = fixture.path(cell("file"));
+        const bool isUserFile = path == fixture.userFile();
+        const QByteArray before = isUserFile ? user : LogicFixture::document("");
         const auto start = [&] {
-            fixture.setUserFile(user);
+            TestFolder::write(fixture.userFile(), user);
             TestFolder::write(path, before);
         };
 
@@ -75,8 +69,7 @@ private slots:
 
         int n = 0;
         int status = Killed;
-        bool sawOld = false;
-        bool sawNew = false;
+        bool sawOld = false, sawNew = false, sawLeftover = false;
         while (status == Killed) {
             start();
             status = saveAndDie(save, path, ++n);
@@ -84,25 +77,33 @@ private slots:
             QVERIFY2(content == before || content == after, qPrintable(QString("torn at call %1").arg(n)));
             sawOld |= status == Killed && content == before;
             sawNew |= status == Killed && content == after;
+            sawLeftover |= !temporaryFiles(fixture.path("data")).isEmpty();
             nextStartWorks(&fixture);
             if (QTest::currentTestFailed()) return;
         }
         QCOMPARE(status, int(Survived));
-        QVERIFY(sawOld && sawNew);
+        QVERIFY(sawOld && sawNew && sawLeftover == isUserFile);
         QVERIFY2(n > 7, "a save opens, writes, sets the mode, flushes, closes, renames and flushes the folder");
     }
 
 private:
+    // It clears away what a dead writer left beside the file, too, once it is sure that it is dead.
     static void nextStartWorks(LogicFixture* fixture) {
         fixture->restart();
         const QStringList names = fixture->names();
-        QVERIFY2(fixture->logic()->LastStorageProblem().isNull(),
-                 qPrintable(fixture->logic()->LastStorageProblem().text()));
+        const NetConnectStorageProblem problem = logic()->LastStorageProblem();
+        QVERIFY2(problem.isNull(), qPrintable(problem.text()));
         QVERIFY(names.contains("Other"));
         QCOMPARE(names.count("Old") + names.count("Renamed"), 1);
         DialupProfile fresh;
-        QCOMPARE(fixture->logic()->NewDialUpProfileTemplate(&fresh), 0);
-        QCOMPARE(fixture->logic()->AddDialUpProfile(LogicFixture::named("Next")), 0);
+        QCOMPARE(logic()->NewDialUpProfileTemplate(&fresh), 0);
+        for (const QString& name : temporaryFiles(fixture->path("data"))) {
+            QFile leftover(name);
+            QVERIFY(leftover.open(QIODevice::ReadWrite));
+            QVERIFY(leftover.setFileTime(QDateTime::fromSecsSinceEpoch(0), QFile::FileModificationTime));
+        }
+        QCOMPARE(logic()->AddDialUpProfile(LogicFixture::named("Next")), 0);
+        QCOMPARE(temporaryFiles(fixture->path("data")), QStringList());
         NetConnectSettingUILogic::Destroy();
     }
 };

@@ -33,17 +33,15 @@ class tst_disk : public QObject {
 
 private slots:
     void aFailedSaveKeepsTheOldFile_data() {
-        QTest::addColumn<Fault>("fault");
-        QTest::newRow("full disk at the write") << Fault{"write", ENOSPC, false};
-        QTest::newRow("full disk at the flush") << Fault{"fsync", ENOSPC, false};
-        QTest::newRow("quota") << Fault{"write", EDQUOT, false};
-        QTest::newRow("read-only file system") << Fault{"mkostemp", EROFS, false};
-        QTest::newRow("read-only file system, no lock") << Fault{"open", EROFS, true};
-        QTest::newRow("no locks") << Fault{"flock", ENOLCK, true};
-        QTest::newRow("mode refused") << Fault{"fchmod", EPERM, false};
-        QTest::newRow("failing flush") << Fault{"fsync", EIO, false};
-        QTest::newRow("failing close") << Fault{"close", EIO, false};
-        QTest::newRow("failing rename") << Fault{"rename", EIO, false};
+        const Rows<Fault> row("fault");
+        row("full disk", Fault{"write", ENOSPC, false});
+        row("read-only file system", Fault{"mkostemp", EROFS, false});
+        row("read-only file system, no lock", Fault{"open", EROFS, true});
+        row("no locks", Fault{"flock", ENOLCK, true});
+        row("mode refused", Fault{"fchmod", EPERM, false});
+        row("failing flush", Fault{"fsync", EIO, false});
+        row("failing close", Fault{"close", EIO, false});
+        row("failing rename", Fault{"rename", EIO, false});
     }
     void aFailedSaveKeepsTheOldFile() {
         QFETCH(Fault, fault);
@@ -93,7 +91,7 @@ private slots:
             refuses(logic->SetDefaultDialUpProfileName("Old", true), fixture.userFile());
             refuses(save(), fixture.userFile());
             orbisctlRefuses({"add", "Theirs", "phonenumber=*99#", "autoapn=true"}, fixture.userFile());
-            QCOMPARE(fixture.temporaryFiles(), QStringList());
+            QCOMPARE(temporaryFiles(fixture.path("")), QStringList());
         }
         if (QTest::currentTestFailed()) return;
 
@@ -112,23 +110,13 @@ private slots:
         QVERIFY(FaultsFixture::read(fixture.userFile()).contains("New"));
     }
 
-    void exportsIntoNoFolder_data() {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("error");
-        QTest::newRow("missing folder") << "missing/export.prof" << ENOENT;
-        QTest::newRow("a file where the folder should be") << "file/export.prof" << ENOTDIR;
-    }
-    void exportsIntoNoFolder() {
-        QFETCH(QString, file);
-        QFETCH(int, error);
+    void aWriteThatTakesOnlyAPartGoesOn() {
         FaultsFixture fixture;
-        FaultsFixture::write(fixture.path("file"), "a file");
-        const QString exported = fixture.path(file);
-        QCOMPARE(fixture.logic()->ExportChosenProfiles({"Alpha"}, exported), 25);
-        QCOMPARE(fixture.logic()->LastStorageProblem().file, exported);
-        QVERIFY(fixture.logic()->LastStorageProblem().reason.contains(strerror(error)));
-        COMPARE_REFUSED(fixture.run({"export", exported, "Alpha"}), 1, exported.toUtf8());
-        QCOMPARE(FaultsFixture::read(fixture.path("file")), QByteArray("a file"));
+        const DialupProfile large = LogicFixture::named(QString(10000, 'x'));
+        const Failing failing({"write in full", 0, false});
+        QCOMPARE(fixture.logic()->SaveDialUpProfile(large), 0);
+        QVERIFY(FaultsFixture::read(fixture.userFile()).contains(large.name.toUtf8() + "\""));
+        QVERIFY(FaultsFixture::read(fixture.userFile()).endsWith("</vrksdoc>\n"));
     }
 
     // The user's folder goes while the program runs: it is made again, but not in the place of something else.
@@ -146,9 +134,9 @@ private slots:
 
     // A file that could not be read for a moment (too many open files) is not taken for an empty one.
     void aFileThatCouldNotBeReadForAMomentIsNotLost_data() {
-        QTest::addColumn<bool>("fromTheStart");
-        QTest::newRow("at the start") << true;
-        QTest::newRow("when another process has written") << false;
+        const Rows<bool> row("fromTheStart");
+        row("at the start", true);
+        row("when another process has written", false);
     }
     void aFileThatCouldNotBeReadForAMomentIsNotLost() {
         QFETCH(bool, fromTheStart);
@@ -167,9 +155,7 @@ private slots:
         QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("New")), 0);
         FaultsFixture::restart();
         QCOMPARE(FaultsFixture::userNames(), QStringList({"First", "New", "Second"}));
-        QString defaultName;
-        fixture.logic()->GetDefaultDialUpProfileName(&defaultName);
-        QCOMPARE(defaultName, QString("First"));
+        QCOMPARE(LogicFixture::defaultName(), QString("First"));
         QVERIFY(fixture.logic()->IsDefaultUserSet());
     }
 };

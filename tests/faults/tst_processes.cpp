@@ -52,9 +52,9 @@ private slots:
     }
 
     void oneRenamesWhatTheOtherDeletes_data() {
-        QTest::addColumn<bool>("weRename");
-        QTest::newRow("we rename, orbisctl deletes") << true;
-        QTest::newRow("we delete, orbisctl renames") << false;
+        const Rows<bool> row("weRename");
+        row("we rename, orbisctl deletes", true);
+        row("we delete, orbisctl renames", false);
     }
     void oneRenamesWhatTheOtherDeletes() {
         QFETCH(bool, weRename);

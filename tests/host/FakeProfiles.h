@@ -25,7 +25,18 @@ namespace Fake {
 inline QVariant get(const char* name) { return qApp->property(name); }
 inline void set(const char* name, const QVariant& value) { qApp->setProperty(name, value); }
 inline QStringList calls() { return get("fake.calls").toStringList(); }
-inline void record(const QString& call) { set("fake.calls", calls() << call); }
+inline int record(const QString& call) {
+    set("fake.calls", calls() << call);
+    return 1;
+}
+
+// One profile, which is the default; nothing is refused, asked or written down yet.
+inline void reset() {
+    for (const char* flag : {"fake.refuse", "fake.ask", "fake.initFails", "fake.neverAsk"}) set(flag, false);
+    set("fake.calls", QStringList());
+    set("fake.profiles", QStringList("Home"));
+    set("fake.default", "Home");
+}
 
 }  // namespace Fake
 
@@ -37,18 +48,14 @@ public:
     ~FakeProfiles() override { delete m_Page; }
 
     int OnClickSettingOkButton() override { return answer("OK"); }
-    int OnClickSettingCancelButton() override {
-        Fake::record("Cancel");
-        return 1;
-    }
+    int OnClickSettingCancelButton() override { return Fake::record("Cancel"); }
     int ShowSettingDialog(QWidget* parent, QRect& rect) override {
-        Fake::record("Show");
         if (!m_Page) m_Page = new QLineEdit;
         m_Page->setObjectName("Fake_Edit");
         m_Page->setParent(parent);
         m_Page->setGeometry(rect);
         m_Page->show();
-        return 1;
+        return Fake::record("Show");
     }
     QString GetModuleName() override { return "Fake page"; }
     int HideSetting() override {
@@ -77,10 +84,7 @@ public:
         *name = Fake::get("fake.default").toString();
         return 0;
     }
-    int SetDefaultDialUpProfileName(QString name) override {
-        Fake::set("fake.default", name);
-        return 0;
-    }
+    int SetDefaultDialUpProfileName(QString) override { return 0; }
     UserPrompt GetUserPromptInfo() override {
         const QString isAsked = Fake::get("fake.neverAsk").toBool() ? "false" : "true";
         return {isAsked, isAsked, "false", "false"};

@@ -16,20 +16,16 @@ public:
         delete m_Profiles;
     }
     void UnSDKRegisterEvent() override { Fake::record("UnSDKRegisterEvent"); }
-    int Init() override {
-        Fake::record("Init");
-        return Fake::get("fake.initFails").toBool() ? 0 : 1;
-    }
+    int Init() override { return Fake::record("Init") && !Fake::get("fake.initFails").toBool(); }
     int GetPluginType() override { return 0; }
     QString GetCLSID() override { return QString(); }
     int GetVersion() override { return 0; }
     QString GetPluginName() override { return "FakeSettingsPlugin"; }
     bool IsAllowRelease() override { return false; }
     int QueryInterface(int id, QObject** out) override {
-        Fake::record("QueryInterface " + QString::number(id));
         if (!m_Profiles) m_Profiles = new FakeProfiles;
         *out = m_Profiles;
-        return 1;
+        return Fake::record("QueryInterface " + QString::number(id));
     }
     int ShowWindow(QWidget*, QRect&) override { return 0; }
     int DoModal() override { return 0; }
@@ -38,8 +34,7 @@ public:
     bool IsReady() override { return false; }
     bool ChangeLang(const QString&) override { return false; }
     int Notify(unsigned int event, unsigned int, unsigned int) override {
-        Fake::record("Notify " + QString::number(event));
-        return 0;
+        return Fake::record("Notify " + QString::number(event));
     }
 
 private:

@@ -2,69 +2,79 @@
 #ifndef ORBISDIAL_LOGICFIXTURE_H
 #define ORBISDIAL_LOGICFIXTURE_H
 
-#include <QtTest>
-
 #include "NetConnectSettingUILogic.h"
+#include "Rows.h"
 #include "TestFolder.h"
 #include "vrks_simulated.h"
 
-class LogicFixture {
+class LogicFixture : public TestFolder {
 public:
     LogicFixture() { vrks_simulated_reset(); }
-    ~LogicFixture() {
-        NetConnectSettingUILogic::Destroy();
-        NetConnectXMLParse::Destroy();
+    ~LogicFixture() { end(); }
+
+    // An element of items, each "name" or "name=value".
+    static QByteArray section(const QByteArray& element, const QList<QByteArray>& items) {
+        QByteArray result = "<" + element + ">\n";
+        for (const QByteArray& item : items)
+            result += "<item name='" + item.split('=')[0] + "' value='" + item.split('=').value(1) + "' type=''/>\n";
+        return result + "</" + element.split(' ')[0] + ">\n";
     }
 
-    static QByteArray item(const QByteArray& name, const QByteArray& value) {
-        return "<item name=\"" + name + "\" value=\"" + value + "\" type=\"\"/>\n";
+    static QByteArray profile(const QByteArray& name, const QByteArray& attributes = QByteArray()) {
+        return "<Profile name='" + name + "' " + attributes + "/>\n";
+    }
+    static QByteArray document(const QByteArray& profiles, const QByteArray& after = QByteArray()) {
+        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><vrksdoc type=\"Profile\"><ProfileGroup type=\"Dailup\">\n" +
+               profiles + "</ProfileGroup>" + after + "</vrksdoc>";
     }
 
     // A configuration whose one module is (common, common).
-    static QByteArray config(const QByteArray& sections, const QByteArray& elsewhere = QByteArray()) {
-        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><NetConnect><group name=\"common\"><module "
-               "name=\"common\">\n" +
-               sections + "</module></group>" + elsewhere + "</NetConnect>";
+    void shipConfig(const QByteArray& sections, const QByteArray& elsewhere = QByteArray()) {
+        ship("NetConnectConfig.xml",
+             "<?xml version=\"1.0\" encoding=\"UTF-8\"?><NetConnect><group name=\"common\"><module name=\"common\">\n" +
+                 sections + "</module></group>" + elsewhere + "</NetConnect>");
+    }
+    void shipLibrary(const QByteArray& profiles, const QByteArray& after = QByteArray()) {
+        ship("ProfileLib.prof", document(profiles, after));
+    }
+    void shipTexts() {
+        const QString from = ORBISDIAL_BUILD_DIR "/lib/orbisdial/lang/orbisdial_en.qm";
+        QVERIFY2(QFile::copy(from, path("library/lang/orbisdial_en.qm")), qPrintable(from));
+    }
+    void setUser(const QByteArray& profiles, const QByteArray& after = QByteArray()) {
+        write(userFile(), document(profiles, after));
+    }
+    QByteArray user() const { return read(userFile()); }
+
+    // A null value makes the query fail.
+    static void setDevice(const char* key, const QString& value) {
+        QCOMPARE(vrks_simulated_set(key, value.isNull() ? nullptr : qPrintable(value)), 0L);
     }
 
-    static QByteArray functions(const QList<QByteArray>& switches) {
-        QByteArray result = "<Function>\n";
-        for (const QByteArray& name : switches) result += item(name, "true");
-        return result + "</Function>\n";
-    }
-
-    static QByteArray profile(const QByteArray& attributes) { return "<Profile " + attributes + "/>\n"; }
-
-    static QByteArray profiles(const QByteArray& content, const QByteArray& after = QByteArray()) {
-        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><vrksdoc type=\"Profile\"><ProfileGroup type=\"Dailup\">\n" +
-               content + "</ProfileGroup>" + after + "</vrksdoc>";
-    }
-
-    void shipConfig(const QByteArray& content) { folder.ship("NetConnectConfig.xml", content); }
-    void shipLibrary(const QByteArray& content) { folder.ship("ProfileLib.prof", content); }
-    void setUserFile(const QByteArray& content) { TestFolder::write(folder.userFile(), content); }
-
-    // The logic, as a process that starts now would have it.
-    NetConnectSettingUILogic* restart() {
+    static void end() {
         NetConnectSettingUILogic::Destroy();
         NetConnectXMLParse::Destroy();
-        return NetConnectSettingUILogic::GetInstance();
     }
-    NetConnectSettingUILogic* logic() { return NetConnectSettingUILogic::GetInstance(); }
+    // The logic, as a process that starts now would have it.
+    static NetConnectSettingUILogic* restart() {
+        end();
+        return logic();
+    }
+    static NetConnectSettingUILogic* logic() { return NetConnectSettingUILogic::GetInstance(); }
 
-    QStringList names() {
+    static QStringList names() {
         QList<QString> result;
         logic()->GetAllDialUpProfile(&result);
         return result;
     }
 
-    QString defaultName() {
+    static QString defaultName() {
         QString name;
         logic()->GetDefaultDialUpProfileName(&name);
         return name;
     }
 
-    DialupProfile fetch(const QString& name) {
+    static DialupProfile fetch(const QString& name) {
         DialupProfile result;
         logic()->GetDialUpProfile(name, &result);
         return result;
@@ -76,23 +86,19 @@ public:
         result.password = password;
         return result;
     }
-
-    TestFolder folder;
 };
 
-// A test object whose every function starts with a fixture of its own.
-class LogicTest : public QObject {
+// A test object whose every function and row starts with empty folders and without a logic.
+class LogicTest : public QObject, protected LogicFixture {
     Q_OBJECT
 
 protected slots:
-    void init() { m_pFixture = new LogicFixture; }
-    void cleanup() {
-        delete m_pFixture;
-        m_pFixture = nullptr;
+    void init() {
+        end();
+        vrks_simulated_reset();
+        QDir(path("")).removeRecursively();
+        for (const QString& name : {pluginDir(), path("library/lang")}) QVERIFY(QDir().mkpath(name));
     }
-
-protected:
-    LogicFixture* m_pFixture = nullptr;
 };
 
 #endif

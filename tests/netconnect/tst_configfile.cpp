@@ -1,7 +1,5 @@
 // NetConnectConfig.xml: groups, modules, sections, prompt items, and the mode default.
 
-#include <QtTest>
-
 #include "LogicFixture.h"
 
 class tst_configfile : public LogicTest {
@@ -9,7 +7,8 @@ class tst_configfile : public LogicTest {
 
 private slots:
     void onlyThePairAskedForIsFiled() {
-        m_pFixture->shipConfig(
+        ship(
+            "NetConnectConfig.xml",
             "<x><item name='stray' value='1'/>"
             "<group name='common'><item name='no module' value='1'/>"
             "<module name='common'><item name='no section' value='1'/>"
@@ -22,55 +21,42 @@ private slots:
             "<group name='customize'><module name='common'><Function><item name='G' value='1'/></Function></module>"
             "<deep><item name='DisableNamePwd' value='yes'/></deep></group>"
             "<prompt name='PromptPwd' value='true'/></x>");
-        QCOMPARE(read("common", "common"), 0);
+        QCOMPARE(readPair("common", "common"), 0);
         QCOMPARE(m_Functions.keys(), QStringList({"F"}));
-        QCOMPARE(m_Functions.value("F").value, QString("2"));
-        QCOMPARE(m_Functions.value("F").type, QString(""));
+        QCOMPARE(m_Functions.value("F").value + m_Functions.value("F").type, QString("2"));
         QCOMPARE(m_Templates.keys(), QStringList({"T"}));
         QCOMPARE(m_ProfileList.size(), 2);
         QVERIFY(m_ProfileList.contains(""));
         QCOMPARE(m_IMSI.size(), 2);
         QCOMPARE(m_IMSI.values("26201").first().name, QString("I2"));
-        QCOMPARE(m_Prompt.promptPwd, QString("true"));
-        QCOMPARE(m_Prompt.disableNamePwd, QString("yes"));
-        QVERIFY(m_Prompt.userCheck.isEmpty());
+        QCOMPARE(m_Prompt.promptPwd + m_Prompt.disableNamePwd + m_Prompt.userCheck, QString("trueyes"));
     }
 
     void aSectionCarriesOverToTheNextCall() {
-        m_pFixture->shipConfig(
-            "<x><group name='common'><module name='common'><Function/></module>"
-            "<module name='CDMA'><item name='late' value='1'/></module></group></x>");
-        QCOMPARE(read("common", "CDMA"), 0);
+        ship("NetConnectConfig.xml",
+             "<x><group name='common'><module name='common'><Function/></module>"
+             "<module name='CDMA'><item name='late' value='1'/></module></group></x>");
+        QCOMPARE(readPair("common", "CDMA"), 0);
         QVERIFY(m_Functions.isEmpty());
-        read("common", "common");
-        QCOMPARE(read("common", "CDMA"), 0);
+        readPair("common", "common");
+        QCOMPARE(readPair("common", "CDMA"), 0);
         QCOMPARE(m_Functions.keys(), QStringList({"late"}));
     }
 
     void modeDefault_data() {
-        QTest::addColumn<QByteArray>("multiMode");
-        QTest::addColumn<QByteArray>("mode");
-        QTest::addColumn<QByteArray>("office");
-        QTest::addColumn<QString>("defaults");
-        QTest::newRow("CDMA") << QByteArray("1") << QByteArray("2") << QByteArray("") << "Office";
-        QTest::newRow("WCDMA, any other value") << QByteArray("1") << QByteArray("1") << QByteArray("") << "Home";
-        QTest::newRow("no mode") << QByteArray("1") << QByteArray("0") << QByteArray("") << "Start";
-        QTest::newRow("single mode") << QByteArray("0") << QByteArray("2") << QByteArray("") << "Start";
-        QTest::newRow("own value stays") << QByteArray("1") << QByteArray("2") << QByteArray("own") << "";
+        const Rows<QString, QString, QString, QString> row("multiMode", "mode", "office", "defaults");
+        row("CDMA", "1", "2", "", "Office");
+        row("WCDMA, any other value", "1", "1", "", "Home");
+        row("no mode", "1", "0", "", "Start");
+        row("single mode", "0", "2", "", "Start");
+        row("own value stays", "1", "2", "own", "");
     }
     void modeDefault() {
-        QFETCH(QByteArray, multiMode);
-        QFETCH(QByteArray, mode);
-        QFETCH(QByteArray, office);
-        vrks_simulated_set("MULTI_MODE", multiMode.constData());
-        vrks_simulated_set("CARD_MODE", mode.constData());
-        m_pFixture->shipConfig(LogicFixture::config("<ProfileList>" + LogicFixture::item("Start", "default") +
-                                                    LogicFixture::item("Home", "") +
-                                                    LogicFixture::item("Office", office) +
-                                                    "</ProfileList><MultiModeDefaultProfile><item name='Nobody' "
-                                                    "value='CDMA'/><item name='Office' value='CDMA'/>"
-                                                    "<item name='Home' value='GSM'/></MultiModeDefaultProfile>"));
-        QCOMPARE(read("common", "common"), 0);
+        setDevice("MULTI_MODE", cell("multiMode"));
+        setDevice("CARD_MODE", cell("mode"));
+        shipConfig(section("ProfileList", {"Start=default", "Home", "Office=" + cell("office").toUtf8()}) +
+                   section("MultiModeDefaultProfile", {"Nobody=CDMA", "Office=CDMA", "Home=GSM"}));
+        QCOMPARE(readPair("common", "common"), 0);
         QStringList defaults;
         for (auto it = m_ProfileList.cbegin(); it != m_ProfileList.cend(); ++it)
             if (it->value == "default") defaults << it.key();
@@ -78,40 +64,34 @@ private slots:
     }
 
     void statuses() {
-        QString name = "common";
-        QCOMPARE(read("common", "common"), 23);  // there is no file yet
-        m_pFixture->shipConfig("<x/>");
-        QCOMPARE(
-            xml()->GetSettingsFromXML(nullptr, &name, &m_Templates, &m_Functions, &m_ProfileList, &m_IMSI, nullptr),
-            23);
-        QCOMPARE(
-            xml()->GetSettingsFromXML(&name, nullptr, &m_Templates, &m_Functions, &m_ProfileList, &m_IMSI, nullptr),
-            23);
-        m_pFixture->shipConfig(LogicFixture::config("<Function><item name='kept' value='1'/></Function><broken>"));
-        QCOMPARE(read("common", "common"), 6);
+        const QString file = pluginDir() + "/NetConnectConfig.xml";
+        QCOMPARE(readPair("common", "common"), 23);  // there is no file yet
+        write(file, "<x/>");
+        QCOMPARE(readPair(nullptr, "common"), 23);
+        QCOMPARE(readPair("common", nullptr), 23);
+        shipConfig(section("Function", {"kept=1"}) + "<broken>");
+        QCOMPARE(readPair("common", "common"), 6);
         QVERIFY(m_Functions.contains("kept"));
-        QVERIFY(xml()->lastProblem().line > 0);
-        QFile::remove(m_pFixture->folder.pluginDir() + "/NetConnectConfig.xml");
-        QDir().mkpath(m_pFixture->folder.pluginDir() + "/NetConnectConfig.xml");
-        QCOMPARE(read("common", "common"), 23);
+        QVERIFY(NetConnectXMLParse::GetInstance()->lastProblem().line > 0);
+        QFile::remove(file);
+        QDir().mkpath(file);
+        QCOMPARE(readPair("common", "common"), 23);
     }
 
 private:
-    static NetConnectXMLParse* xml() { return NetConnectXMLParse::GetInstance(); }
-
-    int read(QString group, QString module) {
+    int readPair(const char* group, const char* module) {
         m_Templates.clear();
         m_Functions.clear();
         m_ProfileList.clear();
         m_IMSI.clear();
         m_Prompt = UserPrompt();
-        return xml()->GetSettingsFromXML(&group, &module, &m_Templates, &m_Functions, &m_ProfileList, &m_IMSI,
-                                         &m_Prompt);
+        QString groupName = group, moduleName = module;
+        return NetConnectXMLParse::GetInstance()->GetSettingsFromXML(group ? &groupName : nullptr,
+                                                                     module ? &moduleName : nullptr, &m_Templates,
+                                                                     &m_Functions, &m_ProfileList, &m_IMSI, &m_Prompt);
     }
 
-    QHash<QString, NetConnectXML> m_Templates;
-    QHash<QString, NetConnectXML> m_Functions;
-    QHash<QString, NetConnectXML> m_ProfileList;
+    QHash<QString, NetConnectXML> m_Templates, m_Functions, m_ProfileList;
     QMultiHash<QString, IMSIINFO> m_IMSI;
     UserPrompt m_Prompt;
 };

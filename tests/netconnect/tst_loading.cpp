@@ -1,180 +1,141 @@
 // The logic's loading, presets, function queries, device events and passwords.
 
-#include <QtTest>
-
 #include "Change.h"
 #include "LogicFixture.h"
+
+static const char* const Failing = nullptr;  // a query of the device
 
 class tst_loading : public LogicTest {
     Q_OBJECT
 
 private slots:
     void configuredPairs_data() {
-        QTest::addColumn<QByteArray>("customizeName");
-        QTest::addColumn<QByteArray>("productType");
-        QTest::addColumn<QString>("where");
-        QTest::addColumn<int>("imsiRows");
-        QTest::newRow("plain") << QByteArray("") << QByteArray("0") << "common" << 1;
-        QTest::newRow("named common") << QByteArray("common") << QByteArray("0") << "common" << 1;
-        QTest::newRow("customised") << QByteArray("operator") << QByteArray("0") << "customised" << 0;
-        QTest::newRow("unknown name empties the presets") << QByteArray("other") << QByteArray("0") << "common" << 0;
-        QTest::newRow("CDMA product") << QByteArray("") << QByteArray("1") << "cdma" << 1;
-        QTest::newRow("failing queries") << QByteArray() << QByteArray() << "common" << 1;
-        QTest::newRow("both") << QByteArray("operator") << QByteArray("1") << "cdma" << 0;
+        const Rows<QString, QString, QString, int> row("customizeName", "productType", "where", "imsiRows");
+        row("plain", "", "0", "common", 1);
+        row("named common", "common", "0", "common", 1);
+        row("customised", "operator", "0", "customised", 0);
+        row("unknown name empties the presets", "other", "0", "common", 0);
+        row("CDMA product", "", "1", "cdma", 1);
+        row("failing queries", Failing, Failing, "common", 1);
+        row("both", "operator", "1", "cdma", 0);
     }
     void configuredPairs() {
-        QFETCH(QByteArray, customizeName);
-        QFETCH(QByteArray, productType);
-        QFETCH(QString, where);
         QFETCH(int, imsiRows);
-        vrks_simulated_set("CUSTOMIZE_NAME", customizeName.isNull() ? nullptr : customizeName.constData());
-        vrks_simulated_set("PRODUCT_TYPE", productType.isNull() ? nullptr : productType.constData());
-        m_pFixture->shipConfig(LogicFixture::config(
-            "<Function>" + LogicFixture::item("where", "common") + LogicFixture::item("IMSIAPN", "true") +
-                "</Function><IMSIProfileList imsi='31026'>" + LogicFixture::item("Preset", "") + "</IMSIProfileList>",
-            "<group name='customize'><module name='operator'><Function>" + LogicFixture::item("where", "customised") +
-                "</Function></module></group><group name='common'><module name='CDMA'><Function>" +
-                LogicFixture::item("where", "cdma") + "</Function></module></group>"));
-        NetConnectSettingUILogic* logic = m_pFixture->restart();
+        setDevice("CUSTOMIZE_NAME", cell("customizeName"));
+        setDevice("PRODUCT_TYPE", cell("productType"));
+        shipConfig(
+            section("Function", {"where=common", "IMSIAPN=true"}) + section("IMSIProfileList imsi='31026'", {"Preset"}),
+            "<group name='customize'><module name='operator'>" + section("Function", {"where=customised"}) +
+                "</module></group><group name='common'><module name='CDMA'>" + section("Function", {"where=cdma"}) +
+                "</module></group>");
+        restart();
         QString value;
-        QCOMPARE(logic->GetFunctionConfigStringValues("where", &value), 0);
-        QCOMPARE(value, where);
-        QCOMPARE(logic->GetDefaultAPNProfileList().size(), imsiRows);
-        QCOMPARE(logic->HasIMSIPresets(), imsiRows > 0);
-        logic->getConfigData();  // once more, for the leak checker
+        QCOMPARE(logic()->GetFunctionConfigStringValues("where", &value), 0);
+        QTEST(value, "where");
+        QCOMPARE(logic()->GetDefaultAPNProfileList().size(), imsiRows);
+        QCOMPARE(logic()->HasIMSIPresets(), imsiRows > 0);
+        logic()->getConfigData();  // once more, for the leak checker
     }
 
     void imsi_data() {
-        QTest::addColumn<QByteArray>("imsi");
-        QTest::addColumn<QString>("prefix");
-        QTest::addColumn<QString>("names");
-        QTest::addColumn<QString>("proposed");
-        QTest::newRow("longest key") << QByteArray("262011234567890") << "26201"
-                                     << "Second,First"
-                                     << "First";
-        QTest::newRow("shorter key") << QByteArray("262991234567890") << "262"
-                                     << "Country"
-                                     << "";
-        QTest::newRow("three-digit network") << QByteArray("310260123456789") << "310260"
-                                             << "US"
-                                             << "US";
-        QTest::newRow("no key") << QByteArray("901280000000000") << ""
-                                << ""
-                                << "";
-        QTest::newRow("five characters") << QByteArray("26201") << "26201"
-                                         << "Second,First"
-                                         << "First";
-        QTest::newRow("four characters") << QByteArray("2620") << ""
-                                         << ""
-                                         << "";
-        QTest::newRow("failing query") << QByteArray() << ""
-                                       << ""
-                                       << "";
+        const Rows<QString, QString, QString, QString> row("imsi", "prefix", "names", "proposed");
+        row("longest key", "262011234567890", "26201", "Second,First", "First");
+        row("shorter key", "262991234567890", "262", "Country", "");
+        row("three-digit network", "310260123456789", "310260", "US", "US");
+        row("no key", "901280000000000", "", "", "");
+        row("five characters", "26201", "26201", "Second,First", "First");
+        row("four characters", "2620", "", "", "");
+        row("failing query", Failing, "", "", "");
     }
     void imsi() {
-        QFETCH(QByteArray, imsi);
-        vrks_simulated_set("IMSI", imsi.isNull() ? nullptr : imsi.constData());
-        m_pFixture->shipConfig(LogicFixture::config(
-            LogicFixture::functions({"IMSIAPN"}) + "<IMSIProfileList>" + LogicFixture::item("Any", "default") +
-            "</IMSIProfileList><IMSIProfileList imsi='262'>" + LogicFixture::item("Country", "") +
-            "</IMSIProfileList><IMSIProfileList imsi='26201'>" + LogicFixture::item("First", "default") +
-            LogicFixture::item("Second", "default") + "</IMSIProfileList><IMSIProfileList imsi='310260'>" +
-            LogicFixture::item("US", "default") + "</IMSIProfileList>"));
-        NetConnectSettingUILogic* logic = m_pFixture->restart();
-        QTEST(logic->GetDefaultAPNProfileList().join(","), "names");
-        QTEST(logic->MatchedIMSIPrefix(), "prefix");
-        QTEST(logic->ProposedDefault(), "proposed");
-        QTEST(logic->SelectByIMSI(imsi).prefix, "prefix");
+        QFETCH(QString, imsi);
+        setDevice("IMSI", imsi);
+        shipConfig(section("Function", {"IMSIAPN=true"}) + section("IMSIProfileList", {"Any=default"}) +
+                   section("IMSIProfileList imsi='262'", {"Country"}) +
+                   section("IMSIProfileList imsi='26201'", {"First=default", "Second=default"}) +
+                   section("IMSIProfileList imsi='310260'", {"US=default"}));
+        restart();
+        QTEST(logic()->GetDefaultAPNProfileList().join(","), "names");
+        QTEST(logic()->MatchedIMSIPrefix(), "prefix");
+        QTEST(logic()->ProposedDefault(), "proposed");
+        QTEST(logic()->SelectByIMSI(imsi).prefix, "prefix");
     }
 
     void aDeviceThatIsNotReadySelectsNothing() {
-        vrks_simulated_set("STATUS", "2");
-        m_pFixture->shipConfig(LogicFixture::config(LogicFixture::functions({"IMSIAPN"}) +
-                                                    "<IMSIProfileList imsi='31026'>" +
-                                                    LogicFixture::item("US", "default") + "</IMSIProfileList>"));
-        QVERIFY(m_pFixture->restart()->GetDefaultAPNProfileList().isEmpty());
-        vrks_simulated_set("STATUS", "3");
-        QCOMPARE(m_pFixture->logic()->Init(), 0);
-        QCOMPARE(m_pFixture->logic()->GetDefaultAPNProfileList(), QStringList({"US"}));
-        m_pFixture->logic()->ResetFlags();
-        QCOMPARE(m_pFixture->logic()->ProposedDefault(), QString());
-        m_pFixture->logic()->Init();
-        QCOMPARE(m_pFixture->logic()->ProposedDefault(), QString("US"));
+        setDevice("STATUS", "2");
+        shipConfig(section("Function", {"IMSIAPN=true"}) + section("IMSIProfileList imsi='31026'", {"US=default"}));
+        QVERIFY(restart()->GetDefaultAPNProfileList().isEmpty());
+        setDevice("STATUS", "3");
+        QCOMPARE(logic()->Init(), 0);
+        QCOMPARE(logic()->GetDefaultAPNProfileList(), QStringList({"US"}));
+        logic()->ResetFlags();
+        QCOMPARE(logic()->ProposedDefault(), QString());
+        logic()->Init();
+        QCOMPARE(logic()->ProposedDefault(), QString("US"));
         // A card that can no longer be asked must not bring the forgotten proposal back.
-        m_pFixture->logic()->ResetFlags();
-        vrks_simulated_set("IMSI", nullptr);
-        QCOMPARE(m_pFixture->logic()->Init(), 23);
-        QCOMPARE(m_pFixture->logic()->ProposedDefault(), QString());
+        logic()->ResetFlags();
+        setDevice("IMSI", QString());
+        QCOMPARE(logic()->Init(), 23);
+        QCOMPARE(logic()->ProposedDefault(), QString());
     }
 
     void functionValues_data() {
-        QTest::addColumn<QByteArray>("configured");
-        QTest::addColumn<bool>("on");
-        QTest::addColumn<int>("number");
-        QTest::newRow("true") << QByteArray("true") << true << 48;
-        QTest::newRow("capital") << QByteArray("True") << false << 48;
-        QTest::newRow("one") << QByteArray("1") << false << 1;
-        QTest::newRow("zero stands for the default") << QByteArray("0") << false << 48;
-        QTest::newRow("negative") << QByteArray("-5") << false << -5;
-        QTest::newRow("twenty") << QByteArray("20") << false << 20;
-        QTest::newRow("hexadecimal") << QByteArray("0x10") << false << 48;
-        QTest::newRow("none") << QByteArray() << false << 48;
+        const Rows<QString, bool, int> row("configured", "on", "number");
+        row("true", "true", true, 48);
+        row("capital", "True", false, 48);
+        row("one", "1", false, 1);
+        row("zero stands for the default", "0", false, 48);
+        row("negative", "-5", false, -5);
+        row("hexadecimal", "0x10", false, 48);
+        row("none", Failing, false, 48);
     }
     void functionValues() {
-        QFETCH(QByteArray, configured);
-        const QByteArray item = configured.isNull() ? QByteArray() : LogicFixture::item("Key", configured);
-        m_pFixture->shipConfig(LogicFixture::config("<Function>" + item + "</Function>"));
-        NetConnectSettingUILogic* logic = m_pFixture->restart();
+        QFETCH(QString, configured);
+        shipConfig(configured.isNull() ? QByteArray() : section("Function", {"Key=" + configured.toUtf8()}));
+        restart();
         bool on = true;
         int number = 0;
         QString text = "before";
-        QCOMPARE(logic->GetFunctionConfigValue("Key", &on), 0);
-        QCOMPARE(logic->GetFunctionConfigValue("Key", number, 48), 0);
-        QCOMPARE(logic->GetFunctionConfigStringValues("Key", &text), 0);
+        QCOMPARE(logic()->GetFunctionConfigValue("Key", &on), 0);
+        QCOMPARE(logic()->GetFunctionConfigValue("Key", number, 48), 0);
+        QCOMPARE(logic()->GetFunctionConfigStringValues("Key", &text), 0);
         QTEST(on, "on");
         QTEST(number, "number");
-        QCOMPARE(text, QString(configured));
-        QCOMPARE(logic->GetFunctionConfigValue("Key", static_cast<bool*>(nullptr)), 23);
-        QCOMPARE(logic->GetFunctionConfigStringValues("Key", nullptr), 23);
+        QCOMPARE(text, configured);
+        QCOMPARE(logic()->GetFunctionConfigValue("Key", static_cast<bool*>(nullptr)), 23);
+        QCOMPARE(logic()->GetFunctionConfigStringValues("Key", nullptr), 23);
     }
 
     void ehrpd_data() {
-        QTest::addColumn<QByteArray>("mode");
-        QTest::addColumn<QByteArray>("subMode");
-        QTest::addColumn<bool>("isEhrpd");
-        QTest::newRow("30") << QByteArray("2") << QByteArray("30") << false;
-        QTest::newRow("31") << QByteArray("2") << QByteArray("31") << true;
-        QTest::newRow("36") << QByteArray("2") << QByteArray("36") << true;
-        QTest::newRow("37") << QByteArray("2") << QByteArray("37") << false;
-        QTest::newRow("other mode") << QByteArray("5") << QByteArray("31") << false;
-        QTest::newRow("failing query") << QByteArray() << QByteArray("31") << false;
+        const Rows<QString, QString, bool> row("mode", "subMode", "isEhrpd");
+        row("30", "2", "30", false);
+        row("31", "2", "31", true);
+        row("36", "2", "36", true);
+        row("37", "2", "37", false);
+        row("other mode", "5", "31", false);
+        row("failing query", Failing, "31", false);
     }
     void ehrpd() {
-        QFETCH(QByteArray, mode);
-        QFETCH(QByteArray, subMode);
-        vrks_simulated_set("SYS_MODE", mode.isNull() ? nullptr : mode.constData());
-        vrks_simulated_set("SYS_SUBMODE", subMode.constData());
-        QTEST(m_pFixture->restart()->IsEhrpdSubMode(), "isEhrpd");
+        setDevice("SYS_MODE", cell("mode"));
+        setDevice("SYS_SUBMODE", cell("subMode"));
+        QTEST(logic()->IsEhrpdSubMode(), "isEhrpd");
     }
 
     void deviceEvents_data() {
-        QTest::addColumn<int>("event");
-        QTest::addColumn<QByteArray>("status");
-        QTest::addColumn<int>("result");
-        QTest::addColumn<int>("signalCount");
-        QTest::newRow("initialised and ready") << 6014 << QByteArray("3") << 1 << 1;
-        QTest::newRow("initialised, not ready") << 6014 << QByteArray("2") << 1 << 0;
-        QTest::newRow("initialised, no status") << 6014 << QByteArray() << 1 << 0;
-        QTest::newRow("card changed") << 6016 << QByteArray() << 1 << 1;
-        QTest::newRow("other") << 6015 << QByteArray("3") << 0 << 0;
+        const Rows<int, QString, int, int> row("event", "status", "result", "signalCount");
+        row("initialised and ready", 6014, "3", 1, 1);
+        row("initialised, not ready", 6014, "2", 1, 0);
+        row("initialised, no status", 6014, Failing, 1, 0);
+        row("card changed", 6016, Failing, 1, 1);
+        row("other", 6015, "3", 0, 0);
     }
     void deviceEvents() {
         QFETCH(int, event);
-        QFETCH(QByteArray, status);
         QFETCH(int, signalCount);
-        NetConnectSettingUILogic* logic = m_pFixture->restart();
-        vrks_simulated_set("STATUS", status.isNull() ? nullptr : status.constData());
-        QSignalSpy spy(logic, SIGNAL(DeviceInit()));
+        QCOMPARE(NetConnectSettingUILogic::OnDevInitEvent(event, nullptr), 0);  // there is no logic yet
+        restart();
+        setDevice("STATUS", cell("status"));
+        QSignalSpy spy(logic(), SIGNAL(DeviceInit()));
         QTEST(NetConnectSettingUILogic::OnDevInitEvent(event, nullptr), "result");
         QCOMPARE(spy.count(), signalCount);
 
@@ -188,72 +149,37 @@ private slots:
         QCOMPARE(spy.count(), 2 * signalCount);
     }
 
-    void eventsWhileTheLogicEnds() {
-        QCOMPARE(NetConnectSettingUILogic::OnDevInitEvent(6016, nullptr), 0);
-        for (int i = 0; i < 50; ++i) {
-            m_pFixture->restart();
-            NetConnectSettingUILogic::RegisterDevice();
-            for (int j = 0; j < 20; ++j) vrks_simulated_raise_event(6016);
-            m_pFixture->logic()->ProposedDefault();
-            NetConnectSettingUILogic::Destroy();
-        }
-    }
-
     void libraryNames() {
-        useShippedTexts();
-        m_pFixture->shipLibrary(
-            LogicFixture::profiles(LogicFixture::profile("name='Stored' langid='IDS_OK' user='u'") +
-                                   LogicFixture::profile("name='Kept' langid='IDS_NO_SUCH_TEXT' user='k'") +
-                                   LogicFixture::profile("name='Plain' user='p'")));
-        m_pFixture->shipConfig(LogicFixture::config(LogicFixture::functions({"IMSIAPN"}) + "<ProfileList>" +
-                                                    LogicFixture::item("Stored", "default") +
-                                                    LogicFixture::item("Kept", "") + "</ProfileList>"));
-        NetConnectSettingUILogic* logic = m_pFixture->restart();
+        shipTexts();
+        shipLibrary(profile("Stored", "langid='IDS_OK' user='u'") +
+                    profile("Kept", "langid='IDS_NO_SUCH_TEXT' user='k'") + profile("Plain", "user='p'"));
+        shipConfig(section("ProfileList", {"Stored=default", "Kept"}));
+        restart();
         const QString shown = Change::tr("IDS_OK", "NetConnectPlugin");
         QVERIFY(!shown.isEmpty());
-        QCOMPARE(logic->isLangidDefine("Stored"), shown);
-        QCOMPARE(logic->isLangidDefine("Plain"), QString());
-        QCOMPARE(logic->GetDefaultAPNProfileList(), QStringList({"Kept", shown}));
-        QCOMPARE(logic->ProposedDefault(), shown);
-        QCOMPARE(m_pFixture->fetch(shown).user, QString("u"));
-        QCOMPARE(m_pFixture->fetch("Kept").user, QString("k"));
-        QCOMPARE(m_pFixture->fetch("Plain").user, QString("p"));
-        QCOMPARE(logic->DelDialUpProfile(shown), 0);
-        QCOMPARE(m_pFixture->names(), QStringList({"Kept"}));
+        QCOMPARE(logic()->isLangidDefine("Stored"), shown);
+        QCOMPARE(logic()->isLangidDefine("Plain"), QString());
+        QCOMPARE(logic()->GetDefaultAPNProfileList(), QStringList({"Kept", shown}));
+        QCOMPARE(logic()->ProposedDefault(), shown);
+        QCOMPARE(fetch(shown).user + fetch("Kept").user + fetch("Plain").user, QString("ukp"));
+        QCOMPARE(logic()->DelDialUpProfile(shown), 0);
+        QCOMPARE(names(), QStringList({"Kept"}));
     }
 
     void passwords_data() {
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<QString>("method");
-        const QString cyrillic = QString::fromUtf8("\xd0\xbf\xd0\xb0\xd1\x80");
-        QTest::newRow("base64") << "secret"
-                                << "1";
-        QTest::newRow("base64, any character") << cyrillic << "1";
-        QTest::newRow("base64, empty") << ""
-                                       << "1";
-        QTest::newRow("keyed") << "secret"
-                               << "2";
-        QTest::newRow("keyed, Latin-1") << QString::fromUtf8("caf\xc3\xa9") << "2";
-        QTest::newRow("keyed, empty") << ""
-                                      << "2";
-        QTest::newRow("keyed, no selector") << "secret"
-                                            << "";
+        const Rows<QString, QString> row("password", "method");
+        row("base64", "\xd0\xbf\xd0\xb0\xd1\x80", "1");
+        row("keyed", "caf\xc3\xa9", "2");
+        row("keyed, empty", "", "2");
+        row("keyed, no selector", "secret", "");
     }
     void passwords() {
         QFETCH(QString, password);
         QFETCH(QString, method);
-        NetConnectSettingUILogic* logic = m_pFixture->restart();
-        const QString stored = logic->XorEncrypt(password, method);
-        QCOMPARE(logic->XorDecrypt(stored, method), password);
-        if (!password.isEmpty()) QVERIFY(!stored.contains(password));
-        if (method != "1") QVERIFY(logic->XorEncrypt(password, method) != stored);
-    }
-
-private:
-    void useShippedTexts() {
-        qputenv("ORBISDIAL_LIBRARY_PATH", QFile::encodeName(m_pFixture->folder.path("library")));
-        const QString from = QString(ORBISDIAL_BUILD_DIR) + "/lib/orbisdial/lang/orbisdial_en.qm";
-        QVERIFY2(QFile::copy(from, m_pFixture->folder.path("library/lang/orbisdial_en.qm")), qPrintable(from));
+        const QString stored = logic()->XorEncrypt(password, method);
+        QCOMPARE(logic()->XorDecrypt(stored, method), password);
+        QVERIFY(password.isEmpty() || !stored.contains(password));
+        QVERIFY(method == "1" || logic()->XorEncrypt(password, method) != stored);
     }
 };
 

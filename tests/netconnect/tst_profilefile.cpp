@@ -2,9 +2,6 @@
 
 #include <sys/stat.h>
 
-#include <QXmlStreamReader>
-#include <QtTest>
-
 #include "LogicFixture.h"
 
 // Written by hand, so that a wrong table of fields can't agree with itself.
@@ -28,214 +25,161 @@ class tst_profilefile : public LogicTest {
 
 private slots:
     void readsAndWritesTheGoldenFile() {
-        m_pFixture->setUserFile(Golden);
+        write(userFile(), Golden);
         useCard("1", "2");
-        QList<DialupProfile> profiles;
-        QString defaultName;
-        bool isUserSet = false;
-        QCOMPARE(xml()->GetAllProfileFromUserDataXML(&profiles, &defaultName, QString(), &isUserSet), 0);
-        QCOMPARE(profiles.size(), 1);
-        QCOMPARE(profiles[0].name, QString("a"));
-        QCOMPARE(profiles[0].apn, QString("i"));
-        QCOMPARE(profiles[0].chap, QString("j"));
-        QCOMPARE(profiles[0].pap, QString("k"));
-        QCOMPARE(profiles[0].Remember, QString("r"));
-        QCOMPARE(profiles[0].encrypttype, QString("t"));
-
-        QCOMPARE(xml()->SaveProfileToXML(profiles, defaultName, QString(), isUserSet), 0);
-        QCOMPARE(TestFolder::read(m_pFixture->folder.userFile()), QByteArray(Golden));
+        QCOMPARE(load(), 0);
+        QCOMPARE(m_Profiles.size(), 1);
+        const DialupProfile& only = m_Profiles[0];
+        QCOMPARE(only.name + only.apn + only.chap + only.pap + only.Remember + only.encrypttype, QString("aijkrt"));
+        QCOMPARE(save(m_Profiles, m_Default, QString(), m_IsUserSet), 0);
+        QCOMPARE(user(), QByteArray(Golden));
     }
 
     void defaults_data() {
-        QTest::addColumn<QByteArray>("after");
-        QTest::addColumn<QByteArray>("multiMode");
-        QTest::addColumn<QByteArray>("mode");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("isUserSet");
-
-        const QByteArray modes =
-            "<MultiModeDefaultProfile><item name='W' value='LTE' IsUserSet='1'/><item name='C' value='CDMA'/>"
-            "</MultiModeDefaultProfile><item name='stray' value='CDMA'/>";
-        const QByteArray plain = "<Default name='P' IsUserSet='1'/>";
-        QTest::newRow("user set") << plain << QByteArray("0") << QByteArray("0") << "P" << true;
-        QTest::newRow("only 1 counts") << QByteArray("<Default name='P' IsUserSet='true'/>") << QByteArray("0")
-                                       << QByteArray("0") << "P" << false;
-        QTest::newRow("no flag") << QByteArray("<Default name='P'/>") << QByteArray("0") << QByteArray("0") << "P"
-                                 << false;
-        QTest::newRow("CDMA mode") << plain + modes << QByteArray("1") << QByteArray("2") << "C" << false;
-        QTest::newRow("WCDMA mode") << plain + modes << QByteArray("1") << QByteArray("1") << "W" << true;
-        QTest::newRow("no mode keeps the flag") << plain + modes << QByteArray("1") << QByteArray("0") << "P" << false;
-        QTest::newRow("single mode") << plain + modes << QByteArray("0") << QByteArray("2") << "P" << true;
-        QTest::newRow("failing query") << plain + modes << QByteArray() << QByteArray("2") << "P" << true;
-        QTest::newRow("none") << QByteArray() << QByteArray("0") << QByteArray("0") << "before" << false;
+        const Rows<QString, QString, QString, QString, bool> row("after", "multiMode", "mode", "name", "isUserSet");
+        const char* const failing = nullptr;
+        const QString plain = "<Default name='P' IsUserSet='1'/>";
+        const QString all = plain +
+                            "<MultiModeDefaultProfile><item name='W' value='LTE' IsUserSet='1'/><item name='C' "
+                            "value='CDMA'/></MultiModeDefaultProfile><item name='stray' value='CDMA'/>";
+        row("user set", plain, "0", "0", "P", true);
+        row("only 1 counts", "<Default name='P' IsUserSet='true'/>", "0", "0", "P", false);
+        row("no flag", "<Default name='P'/>", "0", "0", "P", false);
+        row("CDMA mode", all, "1", "2", "C", false);
+        row("WCDMA mode", all, "1", "1", "W", true);
+        row("no mode keeps the flag", all, "1", "0", "P", false);
+        row("single mode", all, "0", "2", "P", true);
+        row("failing query", all, failing, "2", "P", true);
+        row("none", "", "0", "0", "before", false);
     }
     void defaults() {
-        QFETCH(QByteArray, after);
-        QFETCH(QByteArray, multiMode);
-        QFETCH(QByteArray, mode);
-        m_pFixture->setUserFile(LogicFixture::profiles("", after));
+        QFETCH(QString, after);
+        setUser("", after.toUtf8());
         settle();
-        useCard(multiMode, mode);
+        useCard(cell("multiMode"), cell("mode"));
         for (int pass = 0; pass < 2; ++pass) {  // the second time nothing is parsed, and all is as if it were
             xml()->setRememberedDefaults(NetConnectRememberedDefaults());
-            QList<DialupProfile> profiles;
-            QString name = "before";
-            bool isUserSet = true;
-            QCOMPARE(xml()->GetAllProfileFromUserDataXML(&profiles, &name, QString(), &isUserSet), 0);
-            QTEST(name, "name");
-            QTEST(isUserSet, "isUserSet");
+            m_Default = "before";
+            m_IsUserSet = true;
+            QCOMPARE(load(), 0);
+            QTEST(m_Default, "name");
+            QTEST(m_IsUserSet, "isUserSet");
             QCOMPARE(xml()->rememberedDefaults().cdma.name, after.contains("CDMA") ? QString("C") : QString());
         }
     }
 
     void anotherCardModeChangesWhatAnUnchangedFileSays() {
-        m_pFixture->setUserFile(Golden);
+        write(userFile(), Golden);
         settle();
-        QString name;
         for (const char* mode : {"2", "1", "2"}) {
             useCard("1", mode);
-            QList<DialupProfile> profiles;
-            xml()->GetAllProfileFromUserDataXML(&profiles, &name, QString(), nullptr);
-            QCOMPARE(name, QString(qstrcmp(mode, "2") == 0 ? "a" : "w"));
+            load();
+            QCOMPARE(m_Default, QString(*mode == '2' ? "a" : "w"));
         }
     }
 
     void brokenFiles_data() {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<int>("count");
-
-        const QByteArray whole =
-            LogicFixture::profiles(LogicFixture::profile("name='A'") + LogicFixture::profile("name='B'"));
-        QTest::newRow("whole") << whole << 0 << 2;
-        QTest::newRow("other group type") << QByteArray(whole).replace("Dailup", "DialUp") << 0 << 2;
-        QTest::newRow("other root and unknown elements")
-            << QByteArray("<x><y z='1'/><Profile name='A' future='1'/></x>") << 0 << 1;
-        QTest::newRow("empty") << QByteArray() << 6 << 0;
-        QTest::newRow("cut in the second") << whole.left(whole.indexOf("'B'")) << 6 << 1;
-        QTest::newRow("no XML") << QByteArray("name = A\n") << 6 << 0;
-        QTest::newRow("binary") << QByteArray("\x00\x01\x02\xff\xfe", 5) << 6 << 0;
-        QTest::newRow("wrongly encoded") << QByteArray(whole).replace("'B'", "'\xff\xc3'") << 6 << -1;
-        QTest::newRow("control character") << QByteArray(whole).replace("'B'", "'\x01'") << 6 << 1;
-        QTest::newRow("UTF-16") << utf16(whole) << 0 << 2;
-        QTest::newRow("entity bomb") << bomb() << 6 << 0;
-        QTest::newRow("million attributes") << manyAttributes() << 6 << 0;
-        QTest::newRow("50 MB attribute") << LogicFixture::profiles("<Profile name='" + QByteArray(50 << 20, 'x') +
-                                                                   "'/>")
-                                         << 0 << 1;
+        const Rows<QByteArray, int, int> row("content", "status", "count");
+        const QByteArray whole = document(profile("A") + profile("B"));
+        row("whole", whole, 0, 2);
+        row("other group type", QByteArray(whole).replace("Dailup", "DialUp"), 0, 2);
+        row("other root and elements", QByteArray("<x><y z='1'/><Profile name='A' future='1'/></x>"), 0, 1);
+        row("empty", QByteArray(), 6, 0);
+        row("cut in the second", whole.left(whole.indexOf("'B'")), 6, 1);
+        row("no XML", QByteArray("name = A\n"), 6, 0);
+        row("binary", QByteArray("\x00\x01\x02\xff\xfe", 5), 6, 0);
+        row("wrongly encoded", QByteArray(whole).replace("'B'", "'\xff\xc3'"), 6, -1);
+        row("control character", QByteArray(whole).replace("'B'", "'\x01'"), 6, 1);
+        row("UTF-16", utf16(whole), 0, 2);
+        row("entity bomb", bomb(), 6, 0);
+        row("million attributes", manyAttributes(), 6, 0);
+        row("50 MB attribute", document(profile(QByteArray(50 << 20, 'x'))), 0, 1);
     }
     void brokenFiles() {
         QFETCH(QByteArray, content);
         QFETCH(int, status);
         QFETCH(int, count);
-        m_pFixture->setUserFile(content);
-        QList<DialupProfile> profiles;
-        QString name;
-        QCOMPARE(xml()->GetAllProfileFromUserDataXML(&profiles, &name, QString(), nullptr), status);
-        if (count >= 0) QCOMPARE(profiles.size(), count);
-        QCOMPARE(!xml()->lastProblem().isNull(), status != 0);
-        if (status != 0) QCOMPARE(xml()->lastProblem().file, m_pFixture->folder.userFile());
-        QCOMPARE(TestFolder::read(m_pFixture->folder.userFile()), content);
+        write(userFile(), content);
+        QCOMPARE(load(), status);
+        if (count >= 0) QCOMPARE(m_Profiles.size(), count);
+        QCOMPARE(xml()->lastProblem().file, status != 0 ? userFile() : QString());
+        QCOMPARE(user(), content);
 
         settle();  // from now on the file is not parsed again, and still says the same
+        const int found = m_Profiles.size();
         for (int pass = 0; pass < 2; ++pass) {
-            QList<DialupProfile> again;
-            QCOMPARE(xml()->GetAllProfileFromUserDataXML(&again, &name, QString(), nullptr), status);
-            QCOMPARE(again.size(), profiles.size());
+            QCOMPARE(load(), status);
+            QCOMPARE(m_Profiles.size(), found);
             QCOMPARE(!xml()->lastProblem().isNull(), status != 0);
         }
     }
 
     void placesThatAreNoFile_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("readStatus");
-        QTest::addColumn<int>("writeStatus");
-        QTest::newRow("missing") << "new.prof" << 23 << 0;
-        QTest::newRow("missing folder") << "nowhere/new.prof" << 23 << 25;
-        QTest::newRow("folder") << "folder" << 25 << 25;
-        QTest::newRow("pipe") << "pipe" << 25 << 25;
-        QTest::newRow("below a file") << "file/x.prof" << 23 << 25;
+        const Rows<QString, int, int> row("name", "readStatus", "writeStatus");
+        row("missing", "new.prof", 23, 0);
+        row("missing folder", "nowhere/new.prof", 23, 25);
+        row("folder", "folder", 25, 25);
+        row("pipe", "pipe", 25, 25);
+        row("below a file", "file/x.prof", 23, 25);
     }
     void placesThatAreNoFile() {
         QFETCH(QString, name);
-        QDir().mkpath(m_pFixture->folder.path("folder"));
-        TestFolder::write(m_pFixture->folder.path("file"), "x");
-        QCOMPARE(::mkfifo(QFile::encodeName(m_pFixture->folder.path("pipe")).constData(), 0600), 0);
-        const QString path = m_pFixture->folder.path(name);
-        QList<DialupProfile> profiles;
-        QString defaultName;
-        QTEST(xml()->GetAllProfileFromUserDataXML(&profiles, &defaultName, path, nullptr), "readStatus");
-        QTEST(xml()->SaveProfileToXML(profiles, defaultName, path, false), "writeStatus");
+        QDir().mkpath(path("folder"));
+        write(path("file"), "x");
+        QCOMPARE(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+        QTEST(load(path(name)), "readStatus");
+        QTEST(save({}, QString(), path(name), false), "writeStatus");
     }
 
     void noUserDataDirectory() {
-        TestFolder::write(m_pFixture->folder.path("data"), "a file in the way");
-        QList<DialupProfile> profiles;
-        QString name;
-        QCOMPARE(xml()->GetAllProfileFromUserDataXML(&profiles, &name, QString(), nullptr), 23);
-        QCOMPARE(xml()->SaveProfileToXML(profiles, name, QString(), false), 25);
+        useCard("1", "2");
+        write(path("data"), "a file in the way");
+        QCOMPARE(load(), 23);
+        QCOMPARE(save({}, "A", QString(), true), 25);
         QVERIFY(!QFile::exists("UserProfile.prof"));
+        QVERIFY(xml()->rememberedDefaults().cdma.name.isEmpty());
     }
 
     void exportsHoldProfilesAlone() {
         useCard("1", "2");
-        const QString path = m_pFixture->folder.path("export.prof");
-        QCOMPARE(xml()->SaveProfileToXML({LogicFixture::named("A")}, "A", path, true), 0);
-        QVERIFY(!TestFolder::read(path).contains("Default"));
-        QVERIFY(xml()->rememberedDefaults().cdma.name.isEmpty());
-    }
-
-    void aFailedSaveRemembersNothing() {
-        useCard("1", "2");
-        TestFolder::write(m_pFixture->folder.path("data"), "a file in the way");
-        QCOMPARE(xml()->SaveProfileToXML({}, "A", QString(), true), 25);
+        QCOMPARE(save({named("A")}, "A", path("export.prof"), true), 0);
+        QVERIFY(!read(path("export.prof")).contains("Default"));
         QVERIFY(xml()->rememberedDefaults().cdma.name.isEmpty());
     }
 
     void writtenTextIsCleaned_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("kept");
+        const Rows<QString, QString> row("name", "kept");
         const QString emoji = QString::fromUtf8("\xf0\x9f\x98\x80");
-        QTest::newRow("plain") << "a\"<&>'b"
-                               << "a\"<&>'b";
-        QTest::newRow("control") << QString("a\x01\x1f\u000b") + "b"
-                                 << "ab";
-        QTest::newRow("null") << QString("a") + QChar(0) + "b"
-                              << "ab";
-        QTest::newRow("white space") << "a\tb\nc\rd"
-                                     << "a\tb\nc\rd";
-        QTest::newRow("pair") << emoji << emoji;
-        QTest::newRow("first half") << emoji.left(1) + "x"
-                                    << "x";
-        QTest::newRow("second half") << "x" + emoji.mid(1) << "x";
-        QTest::newRow("half before a pair") << emoji.left(1) + emoji << emoji;
-        QTest::newRow("not a character") << QString(QChar(0xffff)) + QChar(0xfffe) + "x"
-                                         << "x";
+        row("plain", "a\"<&>'b", "a\"<&>'b");
+        row("control", "a\x01\x1f\u000bb", "ab");
+        row("null", QString("a") + QChar(0) + "b", "ab");
+        row("white space", "a\tb\nc\rd", "a\tb\nc\rd");
+        row("pair", emoji, emoji);
+        row("first half", emoji.left(1) + "x", "x");
+        row("second half", "x" + emoji.mid(1), "x");
+        row("half before a pair", emoji.left(1) + emoji, emoji);
+        row("not a character", QString(QChar(0xffff)) + QChar(0xfffe) + "x", "x");
     }
     void writtenTextIsCleaned() {
         QFETCH(QString, name);
-        QCOMPARE(xml()->SaveProfileToXML({LogicFixture::named(name)}, name, QString(), false), 0);
-        QList<DialupProfile> profiles;
-        QString defaultName;
-        QCOMPARE(xml()->GetAllProfileFromUserDataXML(&profiles, &defaultName, QString(), nullptr), 0);
-        QTEST(profiles.value(0).name, "kept");
-        QTEST(defaultName, "kept");
+        QCOMPARE(save({named(name)}, name, QString(), false), 0);
+        QCOMPARE(load(), 0);
+        QTEST(m_Profiles.value(0).name, "kept");
+        QTEST(m_Default, "kept");
     }
 
     void templates_data() {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("apn");
-        QTest::newRow("first of two") << QByteArray("<v><Template apn='1' device='d'/><Template apn='2'/></v>") << 0
-                                      << "1";
-        QTest::newRow("none") << QByteArray("<v/>") << 0 << "before";
-        QTest::newRow("broken before") << QByteArray("<v><x></v>") << 6 << "before";
-        QTest::newRow("empty") << QByteArray() << 6 << "before";
-        QTest::newRow("missing") << QByteArray("-") << 23 << "before";
+        const Rows<QString, int, QString> row("content", "status", "apn");
+        const char* const missing = nullptr;
+        row("first of two", "<v><Template apn='1' device='d'/><Template apn='2'/></v>", 0, "1");
+        row("none", "<v/>", 0, "before");
+        row("broken before", "<v><x></v>", 6, "before");
+        row("empty", "", 6, "before");
+        row("missing", missing, 23, "before");
     }
     void templates() {
-        QFETCH(QByteArray, content);
-        if (content != "-") m_pFixture->folder.ship("SysProfile.prof", content);
+        QFETCH(QString, content);
+        if (!content.isNull()) ship("SysProfile.prof", content.toUtf8());
         DialupProfile profile;
         profile.apn = profile.langid = "before";
         QTEST(xml()->GetProfileTemplateFromSysXML(&profile), "status");
@@ -251,9 +195,9 @@ private slots:
         items["device"].value = "never written";
         items["unknown"].value = "never written";
         QCOMPARE(xml()->ModifyProfileTemplateToSysXML(&items), 0);
-        const QString path = m_pFixture->folder.pluginDir() + "/SysProfile.prof";
+        const QString path = pluginDir() + "/SysProfile.prof";
         QCOMPARE(
-            TestFolder::read(path),
+            read(path),
             QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<vrksdoc type=\"Profile\">\n"
                        "    <Default Default=\"kestra\" type=\"DialUp\"/>\n    <ProfileGroup type=\"Dailup\">\n"
                        "        <Template name=\"\" type=\"\" readonly=\"\" user=\"\" password=\"\" phonenumber=\"\""
@@ -264,9 +208,16 @@ private slots:
 
 private:
     static NetConnectXMLParse* xml() { return NetConnectXMLParse::GetInstance(); }
-    static void useCard(const QByteArray& multiMode, const QByteArray& mode) {
-        QCOMPARE(vrks_simulated_set("MULTI_MODE", multiMode.isNull() ? nullptr : multiMode.constData()), 0L);
-        QCOMPARE(vrks_simulated_set("CARD_MODE", mode.constData()), 0L);
+    int load(const QString& path = QString()) {
+        m_Profiles.clear();
+        return xml()->GetAllProfileFromUserDataXML(&m_Profiles, &m_Default, path, &m_IsUserSet);
+    }
+    static int save(const QList<DialupProfile>& profiles, const QString& name, const QString& path, bool isUserSet) {
+        return xml()->SaveProfileToXML(profiles, name, path, isUserSet);
+    }
+    static void useCard(const QString& multiMode, const QString& mode) {
+        setDevice("MULTI_MODE", multiMode);
+        setDevice("CARD_MODE", mode);
     }
     // A file that has just changed is read again whatever its times say.
     static void settle() { QTest::qWait(130); }
@@ -288,6 +239,10 @@ private:
         for (int i = 0; i < 1000000; ++i) content += " a" + QByteArray::number(i) + "='='";
         return content + "/></v>";
     }
+
+    QList<DialupProfile> m_Profiles;
+    QString m_Default;
+    bool m_IsUserSet = false;
 };
 
 QTEST_MAIN(tst_profilefile)

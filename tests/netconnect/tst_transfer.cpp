@@ -1,9 +1,4 @@
-// Import and export.
-
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTimer>
-#include <QtTest>
+// Import and export. The page's tests answer its real questions.
 
 #include "LogicFixture.h"
 
@@ -24,221 +19,144 @@ private:
     bool m_bAnswer;
 };
 
-class tst_transfer : public QObject {
+class tst_transfer : public LogicTest {
     Q_OBJECT
 
 private slots:
-    void init() {
-        m_pFixture = new LogicFixture;
-        m_Path = m_pFixture->folder.path("other.prof");
-    }
-    void cleanup() {
-        delete m_pFixture;
-        m_pFixture = nullptr;
-    }
-
     void importing_data() {
-        QTest::addColumn<QString>("chosen");
-        QTest::addColumn<bool>("answer");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("apns");
-        QTest::addColumn<QString>("asked");
-        QTest::newRow("new") << "C" << false << 0 << "A:a,B:b,C:c"
-                             << "";
-        QTest::newRow("clash, no") << "A" << false << 113 << "A:a,B:b"
-                                   << "A";
-        QTest::newRow("clash, yes") << "A" << true << 0 << "A:x,B:b"
-                                    << "A";
-        QTest::newRow("both of one name") << "D" << false << 0 << "A:a,B:b,D:1,D:2"
-                                          << "";
-        QTest::newRow("mixed") << "A,C" << false << 0 << "A:a,B:b,C:c"
-                               << "A";
-        QTest::newRow("unknown") << "nobody" << true << 113 << "A:a,B:b"
-                                 << "";
-        QTest::newRow("a clash whose candidate is missing removes nothing") << "B" << true << 113 << "A:a,B:b"
-                                                                            << "B";
-        QTest::newRow("nothing") << "" << true << 113 << "A:a,B:b"
-                                 << "";
+        const Rows<QString, bool, int, QString, QString> row("chosen", "answer", "status", "apns", "asked");
+        row("new", "C", false, 0, "A:a,B:b,C:c", "");
+        row("clash, no", "A", false, 113, "A:a,B:b", "A");
+        row("clash, yes", "A", true, 0, "A:x,B:b", "A");
+        row("both of one name", "D", false, 0, "A:a,B:b,D:1,D:2", "");
+        row("mixed", "A,C", false, 0, "A:a,B:b,C:c", "A");
+        row("unknown", "nobody", true, 113, "A:a,B:b", "");
+        row("a clash whose candidate is missing removes nothing", "B", true, 113, "A:a,B:b", "B");
+        row("nothing", "", true, 113, "A:a,B:b", "");
     }
     void importing() {
-        QFETCH(QString, chosen);
-        QFETCH(bool, answer);
-        setUp();
-        const QByteArray before = TestFolder::read(m_pFixture->folder.userFile());
-        FixedPolicy policy(answer);
-        const QStringList names = chosen.isEmpty() ? QStringList() : chosen.split(',');
-        QTEST(m_pFixture->logic()->ImportChosenProfiles(names, &policy), "status");
+        QFETCH(int, status);
+        start();
+        const QByteArray before = user();
+        FixedPolicy policy(cell<bool>("answer"));
+        QStringList names = cell("chosen").split(',', Qt::SkipEmptyParts);
+        QCOMPARE(logic()->ImportDialupProfiles(&names, nullptr), 13);
+        QCOMPARE(logic()->ImportChosenProfiles(names, &policy), status);
         QTEST(policy.asked.join(","), "asked");
         QTEST(apns(), "apns");
-        QFETCH(int, status);
-        if (status == 113) QCOMPARE(TestFolder::read(m_pFixture->folder.userFile()), before);
+        if (status == 113) QCOMPARE(user(), before);
     }
 
     void aProfileThatAppearsDuringAQuestionRaisesAnother() {
-        setUp();
+        start();
         FixedPolicy policy(false);
-        const QString file = m_pFixture->folder.userFile();
-        policy.meanwhile = [file] {
-            TestFolder::write(file, LogicFixture::profiles(LogicFixture::profile("name='A' apn='a'") +
-                                                           LogicFixture::profile("name='C' apn='theirs'")));
-        };
-        QCOMPARE(m_pFixture->logic()->ImportChosenProfiles({"A", "C", "D"}, &policy), 0);
+        policy.meanwhile = [this] { setUser(profile("A", "apn='a'") + profile("C", "apn='theirs'")); };
+        QCOMPARE(logic()->ImportChosenProfiles({"A", "C", "D"}, &policy), 0);
         QCOMPARE(policy.asked, QStringList({"A", "C"}));
         QCOMPARE(apns(), QString("A:a,C:theirs,D:1,D:2"));
     }
 
     void aReloadDuringAQuestionChangesNothing() {
-        setUp();
+        start();
         FixedPolicy policy(true);
-        policy.meanwhile = [this] { m_pFixture->logic()->Init(); };
-        QCOMPARE(m_pFixture->logic()->ImportChosenProfiles({"A"}, &policy), 0);
+        policy.meanwhile = [] { logic()->Init(); };
+        QCOMPARE(logic()->ImportChosenProfiles({"A"}, &policy), 0);
         QCOMPARE(apns(), QString("A:x,B:b"));
     }
 
     void theLogicMayEndDuringAQuestion() {
-        setUp();
+        start();
         FixedPolicy policy(true);
         policy.meanwhile = [] { NetConnectSettingUILogic::Destroy(); };
-        QCOMPARE(m_pFixture->logic()->ImportChosenProfiles({"A", "B"}, &policy), 13);
+        QCOMPARE(logic()->ImportChosenProfiles({"A", "B"}, &policy), 13);
         QCOMPARE(apns(), QString("A:a,B:b"));
     }
 
-    void questionsAreRealMessageBoxes_data() {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<int>("status");
-        QTest::newRow("yes") << int(QMessageBox::Ok) << 0;
-        QTest::newRow("no") << int(QMessageBox::Cancel) << 113;
-    }
-    void questionsAreRealMessageBoxes() {
-        QFETCH(int, button);
-        setUp();
-        QWidget parent;
-        QString text;
-        QTimer::singleShot(0, [&] {
-            QMessageBox* box = nullptr;
-            for (QWidget* widget : QApplication::topLevelWidgets())
-                if (QMessageBox* found = qobject_cast<QMessageBox*>(widget)) box = found;
-            QVERIFY(box);
-            text = box->text();
-            QTest::mouseClick(box->button(QMessageBox::StandardButton(button)), Qt::LeftButton);
-        });
-        QStringList names("A");
-        QTEST(m_pFixture->logic()->ImportDialupProfiles(&names, &parent), "status");
-        QVERIFY(text.startsWith("A "));
-        QCOMPARE(m_pFixture->logic()->ImportDialupProfiles(&names, nullptr), 13);
-    }
-
     void longNamesAreCut_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("length");
-        QTest::newRow("60") << QString(60, 'n') << 48;
-        QTest::newRow("48") << QString(48, 'n') << 48;
-        QTest::newRow("emoji at the end") << QString(47, 'n') + QString::fromUtf8("\xf0\x9f\x98\x80") << 47;
+        const Rows<QString, int> row("name", "length");
+        row("60", QString(60, 'n'), 48);
+        row("48", QString(48, 'n'), 48);
+        row("emoji at the end", QString(47, 'n') + QString::fromUtf8("\xf0\x9f\x98\x80"), 47);
     }
     void longNamesAreCut() {
         QFETCH(QString, name);
-        QFETCH(int, length);
-        TestFolder::write(m_Path, LogicFixture::profiles(LogicFixture::profile("name='" + name.toUtf8() + "'")));
-        m_pFixture->restart();
-        QList<QString> offered;
-        QCOMPARE(m_pFixture->logic()->GetDialUpProfileFromFile(&offered, m_Path), 0);
+        const QStringList offered = offer(document(profile(name.toUtf8())));
         FixedPolicy policy(true);
-        QCOMPARE(m_pFixture->logic()->ImportChosenProfiles(offered, &policy), 0);
-        QCOMPARE(m_pFixture->names(), QStringList(name.left(length)));
+        QCOMPARE(logic()->ImportChosenProfiles(offered, &policy), 0);
+        QCOMPARE(names(), QStringList(name.left(cell<int>("length"))));
     }
 
     void browsing() {
-        setUp();
-        m_pFixture->logic()->SetDefaultDialUpProfileName("B", true);
-        TestFolder::write(m_Path,
-                          LogicFixture::profiles(LogicFixture::profile("name=''") + LogicFixture::profile("name='X'"),
-                                                 "<Default name='X'/>"));
-        QList<QString> offered;
-        QCOMPARE(m_pFixture->logic()->GetDialUpProfileFromFile(&offered, m_Path), 0);
-        QCOMPARE(QStringList(offered), QStringList({"X"}));
-        QCOMPARE(m_pFixture->defaultName(), QString("X"));
-        m_pFixture->logic()->Init();
-        QCOMPARE(m_pFixture->defaultName(), QString("B"));
-        QVERIFY(m_pFixture->logic()->IsDefaultUserSet());
+        start();
+        logic()->SetDefaultDialUpProfileName("B", true);
+        QCOMPARE(offer(document(profile("") + profile("X"), "<Default name='X'/>")), QStringList("X"));
+        QCOMPARE(defaultName(), QString("X"));
+        logic()->Init();
+        QCOMPARE(defaultName(), QString("B"));
+        QVERIFY(logic()->IsDefaultUserSet());
 
-        m_pFixture->shipLibrary(LogicFixture::profiles(LogicFixture::profile("name='Lib'")));
-        QList<QString> library;
-        QCOMPARE(m_pFixture->logic()->GetDialUpProfileFromFile(&library, QString()), 0);
-        QCOMPARE(QStringList(library), QStringList({"Lib"}));
-        TestFolder::write(m_Path, "<broken");
-        QList<QString> none;
-        QCOMPARE(m_pFixture->logic()->GetDialUpProfileFromFile(&none, m_Path), 6);
-        QVERIFY(none.isEmpty());
-        QCOMPARE(m_pFixture->logic()->GetDialUpProfileFromFile(&none, m_Path + "-"), 23);
+        shipLibrary(profile("Lib"));
+        QList<QString> library, none;
+        QCOMPARE(logic()->GetDialUpProfileFromFile(&library, QString()), 0);
+        QCOMPARE(QStringList(library), QStringList("Lib"));
+        QCOMPARE(offer("<broken", 6), QStringList());
+        QCOMPARE(logic()->GetDialUpProfileFromFile(&none, other() + "-"), 23);
     }
 
     void exporting_data() {
-        QTest::addColumn<QByteArray>("present");
-        QTest::addColumn<QString>("chosen");
-        QTest::addColumn<QString>("exported");
-        const QByteArray two = LogicFixture::profiles(LogicFixture::profile("name='A' apn='old'") +
-                                                      LogicFixture::profile("name='B' apn='old'"));
-        QTest::newRow("new file") << QByteArray() << "B,A"
-                                  << "B:b,A:a";
-        QTest::newRow("merged in place") << two << "B,Lib"
-                                         << "A:old,B:b,Lib:l";
-        QTest::newRow("user before library") << QByteArray() << "Both,Lib"
-                                             << "Both:mine,Lib:l";
-        QTest::newRow("unknown names") << QByteArray() << "nobody,A"
-                                       << "A:a";
-        QTest::newRow("nothing found") << QByteArray() << "nobody"
-                                       << "";
+        const Rows<QByteArray, QString, QString> row("present", "chosen", "exported");
+        const QByteArray none, two = document(profile("A", "apn='old'") + profile("B", "apn='old'"));
+        row("new file", none, "B,A", "B:b,A:a");
+        row("merged in place", two, "B,Lib", "A:old,B:b,Lib:l");
+        row("user before library", none, "Both,Lib", "Both:mine,Lib:l");
+        row("unknown names", none, "nobody,A", "A:a");
+        row("nothing found", none, "nobody", "");
     }
     void exporting() {
         QFETCH(QByteArray, present);
-        QFETCH(QString, chosen);
-        m_pFixture->setUserFile(LogicFixture::profiles(LogicFixture::profile("name='A' apn='a'") +
-                                                       LogicFixture::profile("name='B' apn='b'") +
-                                                       LogicFixture::profile("name='Both' apn='mine'")));
-        m_pFixture->shipLibrary(LogicFixture::profiles(
-            LogicFixture::profile("name='Lib' apn='l'") + LogicFixture::profile("name='Both' apn='theirs'"),
-            "<MultiModeDefaultProfile><item name='L' value='CDMA'/></MultiModeDefaultProfile>"));
-        if (!present.isEmpty()) TestFolder::write(m_Path, present);
-        m_pFixture->restart();
-        QStringList names = chosen.split(',');
-        QCOMPARE(m_pFixture->logic()->ExportSelectedProfilesToFile(&names, m_Path), 0);
-        QTEST(describe(m_Path), "exported");
+        setUser(profile("A", "apn='a'") + profile("B", "apn='b'") + profile("Both", "apn='mine'"));
+        shipLibrary(profile("Lib", "apn='l'") + profile("Both", "apn='theirs'"),
+                    section("MultiModeDefaultProfile", {"L=CDMA"}));
+        if (!present.isEmpty()) write(other(), present);
+        restart();
+        QStringList names = cell("chosen").split(',');
+        QCOMPARE(logic()->ExportSelectedProfilesToFile(&names, other()), 0);
+        QTEST(describe(other()), "exported");
         QVERIFY(NetConnectXMLParse::GetInstance()->rememberedDefaults().cdma.name.isEmpty());
     }
 
     void exportsThatAreRefused_data() {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("empty") << "";
-        QTest::newRow("the user's own file") << "data/UserProfile.prof";
-        QTest::newRow("by a link") << "link.prof";
-        QTest::newRow("a folder") << "data";
-        QTest::newRow("missing folder") << "nowhere/x.prof";
+        nameRows("name", {"", "data/UserProfile.prof", "link to the user's file", "data", "missing folder/x.prof"});
     }
     void exportsThatAreRefused() {
-        QFETCH(QString, path);
-        setUp();
-        QFile::link(m_pFixture->folder.userFile(), m_pFixture->folder.path("link.prof"));
-        const QByteArray before = TestFolder::read(m_pFixture->folder.userFile());
-        const QString file = path.isEmpty() ? path : m_pFixture->folder.path(path);
-        QCOMPARE(m_pFixture->logic()->ExportChosenProfiles({"A"}, file), 25);
-        QVERIFY(!m_pFixture->logic()->LastStorageProblem().isNull());
-        QCOMPARE(TestFolder::read(m_pFixture->folder.userFile()), before);
+        QFETCH(QString, name);
+        start();
+        QFile::link(userFile(), path("link to the user's file"));
+        const QByteArray before = user();
+        QCOMPARE(logic()->ExportChosenProfiles({"A"}, name.isEmpty() ? name : path(name)), 25);
+        QVERIFY(!logic()->LastStorageProblem().isNull());
+        QCOMPARE(user(), before);
     }
 
 private:
-    // The user has A and B; the other file offers A, C and two D, and is read.
-    void setUp() {
-        m_pFixture->setUserFile(LogicFixture::profiles(LogicFixture::profile("name='A' apn='a'") +
-                                                       LogicFixture::profile("name='B' apn='b'")));
-        TestFolder::write(m_Path, LogicFixture::profiles(LogicFixture::profile("name='A' apn='x'") +
-                                                         LogicFixture::profile("name='C' apn='c'") +
-                                                         LogicFixture::profile("name='D' apn='1'") +
-                                                         LogicFixture::profile("name='D' apn='2'")));
-        m_pFixture->restart();
-        m_pFixture->names();
+    QString other() const { return path("other.prof"); }
+
+    // What the other file offers when it has this content.
+    QStringList offer(const QByteArray& content, int status = 0) {
+        write(other(), content);
         QList<QString> offered;
-        QCOMPARE(m_pFixture->logic()->GetDialUpProfileFromFile(&offered, m_Path), 0);
-        QCOMPARE(offered.size(), 4);
+        if (logic()->GetDialUpProfileFromFile(&offered, other()) != status) QTest::qFail("status", __FILE__, __LINE__);
+        return offered;
+    }
+
+    // The user has A and B; the other file offers A, C and two D, and is read.
+    void start() {
+        setUser(profile("A", "apn='a'") + profile("B", "apn='b'"));
+        restart();
+        names();
+        QCOMPARE(offer(document(profile("A", "apn='x'") + profile("C", "apn='c'") + profile("D", "apn='1'") +
+                                profile("D", "apn='2'"))),
+                 QStringList({"A", "C", "D", "D"}));
     }
 
     // "name:apn" of a file's profiles, in its order.
@@ -251,14 +169,11 @@ private:
         return result.join(",");
     }
 
-    QString apns() {
-        QStringList sorted = describe(m_pFixture->folder.userFile()).split(',');
+    QString apns() const {
+        QStringList sorted = describe(userFile()).split(',');
         sorted.sort();
         return sorted.join(",");
     }
-
-    LogicFixture* m_pFixture = nullptr;
-    QString m_Path;
 };
 
 QTEST_MAIN(tst_transfer)

@@ -16,10 +16,11 @@
 #include "INotify.h"
 #include "ISettingUIPlugin.h"
 #include "IUIPlugin.h"
+#include "Rows.h"
 #include "TestFolder.h"
 #include "vrks_simulated.h"
 
-class PageFixture {
+class PageFixture : public TestFolder {
 public:
     // Switches and the like of the shipped configuration; change it before start().
     QByteArray functions = "<item name='APN' value='true'/><item name='IMPORT' value='true'/>";
@@ -28,7 +29,6 @@ public:
     QByteArray library;  // profiles of the library
     QByteArray newProfile = "name='' phonenumber='*99#' autoapn='true' chap='true' pap='false' Remember='keep'";
 
-    TestFolder folder;
     std::unique_ptr<FakeNotifyService> notify{new FakeNotifyService};
     FakeDialup dialup;
     Answers answers;
@@ -54,27 +54,24 @@ public:
         return "<vrksdoc type='Profile'><ProfileGroup type='Dailup'>" + profiles + "</ProfileGroup>" + defaultElement +
                "</vrksdoc>";
     }
-    static QStringList sorted(QStringList list) {
-        list.sort();
-        return list;
-    }
     static QStringList names(const QString& file) { return attributes(file, "Profile", "name"); }
-    QStringList stored() const { return names(folder.userFile()); }
-    QString stored(const QString& name, const QString& attribute) const {
-        return attributes(folder.userFile(), "Profile", attribute).value(stored().indexOf(name));
+    QStringList stored() const {
+        QStringList sorted = names(userFile());
+        sorted.sort();
+        return sorted;
     }
-    // Several attributes of a stored profile, with bars between.
-    QString stored(const QString& name, const QStringList& wanted) const {
+    // Attributes of a stored profile, with bars between.
+    QString stored(const QString& name, const QString& wanted) const {
         QStringList values;
-        for (const QString& attribute : wanted) values.append(stored(name, attribute));
+        for (const QString& attribute : wanted.split(' '))
+            values.append(attributes(userFile(), "Profile", attribute).value(names(userFile()).indexOf(name)));
         return values.join('|');
     }
     // The stored default and its flag, as "name/1".
     QString storedDefault() const {
-        return attributes(folder.userFile(), "Default", "name").join(',') + '/' +
-               attributes(folder.userFile(), "Default", "IsUserSet").join(',');
+        return (attributes(userFile(), "Default", "name") + attributes(userFile(), "Default", "IsUserSet")).join('/');
     }
-    // Another process on the same files: "add NAME", "delete NAME" or "default NAME".
+    // Another process on the same files: "add NAME" or "delete NAME".
     static void otherProcess(const QString& command, const QString& name) {
         QCOMPARE(QProcess::execute(PAGE_WRITER, {command, name}), 0);
     }
@@ -84,19 +81,23 @@ public:
     // With a user file of these profiles and this default element; with no profiles, without a file.
     void start(const QByteArray& user = QByteArray(), const QByteArray& defaultElement = QByteArray(),
                const QByteArray& language = TestFolder::language()) {
-        if (!user.isEmpty()) TestFolder::write(folder.userFile(), document(user, defaultElement));
+        if (!user.isEmpty()) TestFolder::write(userFile(), document(user, defaultElement));
         copyTexts();
         QVERIFY(Change::SetLanguage(language));
-        folder.ship("NetConnectConfig.xml", "<c>" + prompt + "<group name='common'><module name='common'><Function>" +
-                                                functions + "</Function><ProfileList>" + presets +
-                                                "</ProfileList></module></group></c>");
-        folder.ship("ProfileLib.prof", document(library));
-        folder.ship("SysProfile.prof", "<vrksdoc><Template " + newProfile + "/></vrksdoc>");
+        ship("NetConnectConfig.xml", "<c>" + prompt + "<group name='common'><module name='common'><Function>" +
+                                         functions + "</Function><ProfileList>" + presets +
+                                         "</ProfileList></module></group></c>");
+        ship("ProfileLib.prof", document(library));
+        ship("SysProfile.prof", "<vrksdoc><Template " + newProfile + "/></vrksdoc>");
         entry = QPluginLoader(PLUGIN_FILE).instance();
         QVERIFY(entry);
-        QCOMPARE(plugin()->Init(), 1);
+        init();
+    }
+    // Asks the loaded plug-in for its service, and shows the page.
+    void init() {
         QObject* service = nullptr;
         QCOMPARE(plugin()->QueryInterface(4098, &service), 1);
+        QCOMPARE(plugin()->Init(), 1);
         setting = qobject_cast<ISettingUIPlugin*>(service);
         profiles = qobject_cast<INetConnectSetting*>(service);
         QVERIFY(setting && profiles);
@@ -115,6 +116,13 @@ public:
         plugin()->OnDestroy();
         delete entry;
         entry = nullptr;
+    }
+    // As another plug-in does.
+    int save(const QString& name, const QString& number = QString()) const {
+        DialupProfile profile;
+        profile.name = name;
+        profile.phonenumber = number;
+        return profiles->SaveDialUpProfile(profile);
     }
     IUIPlugin* plugin() const { return qobject_cast<IUIPlugin*>(entry); }
     int event(unsigned int number) const { return qobject_cast<INotify*>(entry)->Notify(number, 0, 0); }
@@ -147,6 +155,12 @@ public:
     // Where the keyboard is once the window is active.
     bool focused(const char* role) const { return window->focusWidget() == find(role) && find(role)->isVisible(); }
     bool enabled(const char* role) const { return find(role)->isEnabled(); }
+    QStringList enabledOf(const QStringList& roles) const {
+        QStringList result;
+        for (const QString& role : roles)
+            if (enabled(qPrintable(role))) result.append(role);
+        return result;
+    }
     QStringList listed() const {
         QStringList texts;
         for (int i = 0; i < combo()->count(); ++i) texts.append(combo()->itemText(i));
@@ -169,17 +183,15 @@ public:
             state.append(edit(role)->text() + (edit(role)->isVisible() ? "" : " hidden"));
         for (const char* role : {"BtnStatic", "CheckBoxAskUserName"})
             state.append(find<QAbstractButton>(role)->isChecked() ? "on" : "off");
-        for (const char* role : {"pBtnnewProfile", "BtnDeleteProfile", "BtnEditProfile", "BtnsaveProfile",
-                                 "BtnUndoProfile", "BtnSetDefaultProfile"})
-            state.append(enabled(role) ? "enabled" : "disabled");
-        return state;
+        return state + enabledOf({"pBtnnewProfile", "BtnDeleteProfile", "BtnEditProfile", "BtnsaveProfile",
+                                  "BtnUndoProfile", "BtnSetDefaultProfile"});
     }
 
 private:
     void copyTexts() const {
         const QDir built(QString(ORBISDIAL_BUILD_DIR) + "/lib/orbisdial/lang");
         for (const QString& file : built.entryList({"*.qm"}))
-            QFile::copy(built.filePath(file), folder.path("library/lang/" + file));
+            QFile::copy(built.filePath(file), path("library/lang/" + file));
     }
     static QStringList attributes(const QString& file, const QString& element, const QString& attribute) {
         QStringList values;
@@ -189,6 +201,21 @@ private:
                 values.append(reader.attributes().value(attribute).toString());
         return values;
     }
+};
+
+// A test object whose every function and row starts with a fixture of its own, which is made when the last has ended.
+class PageTest : public QObject {
+    Q_OBJECT
+
+protected slots:
+    void init() {
+        f.reset();
+        f.reset(new PageFixture);
+    }
+    void cleanup() { f.reset(); }
+
+protected:
+    std::unique_ptr<PageFixture> f;
 };
 
 #endif

@@ -5,15 +5,12 @@
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
-    const QString command = application.arguments().value(1);
     NetConnectSettingUILogic* logic = NetConnectSettingUILogic::GetInstance();
     DialupProfile profile;
     profile.name = application.arguments().value(2);
     profile.phonenumber = "other";
-    int status = 1;
-    if (command == "add") status = logic->AddDialUpProfile(profile);
-    if (command == "delete") status = logic->DelDialUpProfile(profile.name);
-    if (command == "default") status = logic->SetDefaultDialUpProfileName(profile.name, true);
+    const bool adds = application.arguments().value(1) == "add";
+    const int status = adds ? logic->AddDialUpProfile(profile) : logic->DelDialUpProfile(profile.name);
     NetConnectSettingUILogic::Destroy();
     return status;
 }

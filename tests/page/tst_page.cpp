@@ -1,128 +1,92 @@
 // The page's widgets, texts and locks, and what the host's settings dialog asks of it.
 #include <QElapsedTimer>
 #include <QLabel>
-#include <QTabWidget>
 
 #include "CommonUtils.h"
 #include "PageFixture.h"
 
 using F = PageFixture;
 
-class TestPage : public QObject {
+class TestPage : public PageTest {
     Q_OBJECT
 
 private slots:
     void edits() {
-        F f;
-        f.newProfile = "autoapn='false'";
-        f.start();
-        f.click("pBtnnewProfile");
-        const struct {
-            const char *role, *typed;
-            QString kept;
-        } rows[] = {{"LineEditProfileName", "a :b", "a :b"},
-                    {"ApnlineEdit", "in _ter.n-ET@", "inter.n-ET"},
-                    {"AccessNumberlineEdit", "*99***1#*99***1#*99***1#*99", "*99***1#*99***1#*99***1#"}};
-        for (const auto& row : rows) {
-            F::type(f.edit(row.role), row.typed);
-            QCOMPARE(f.edit(row.role)->text(), row.kept);
-        }
-        QCOMPARE(f.edit("LineEditProfileName")->maxLength(), 48);  // when it is not configured
-        QCOMPARE(f.edit("PasswordlineEdit")->echoMode(), QLineEdit::Password);
+        f->newProfile = "autoapn='false'";
+        f->start();
+        f->click("pBtnnewProfile");
+        const auto kept = [this](const char* role, const QString& text) {
+            F::type(f->edit(role), text);
+            return f->edit(role)->text();
+        };
+        QCOMPARE(kept("ApnlineEdit", "in _ter.n-ET@"), QString("inter.n-ET"));
+        QCOMPARE(kept("AccessNumberlineEdit", "*99***1#*99***1#*99***1#*99"), QString("*99***1#*99***1#*99***1#"));
+        QCOMPARE(f->edit("LineEditProfileName")->maxLength(), 48);  // when it is not configured
+        QCOMPARE(f->edit("PasswordlineEdit")->echoMode(), QLineEdit::Password);
     }
 
-    void labelsAndLayouts() {
-        F f;
-        f.functions += "<item name='ProfileNameLength' value='20'/>";
-        f.start();
-        QCOMPARE(f.edit("LineEditProfileName")->maxLength(), 20);
+    void labelsAndTabOrder() {
+        f->functions += "<item name='ProfileNameLength' value='20'/>";
+        f->start();
+        QCOMPARE(f->edit("LineEditProfileName")->maxLength(), 20);
         for (const char* label : {"Apnlabel", "AccessNumberlabel", "Usernamelabel", "Passwordlabel"})
-            QVERIFY2(f.find<QLabel>(label)->buddy(), label);
-        QCOMPARE(f.find<QTabWidget>("tabWidget")->widget(0), f.find("DialuptabWdg"));
+            QVERIFY2(f->find<QLabel>(label)->buddy(), label);
         // By the tab key from top to bottom, then down the buttons.
         QStringList order;
-        for (QWidget* w = f.combo(); !order.contains(w->objectName()); w = w->nextInFocusChain())
-            if (w->focusPolicy() != Qt::NoFocus || w == f.combo()) order.append(w->objectName());
+        for (QWidget* w = f->combo(); !order.contains(w->objectName()); w = w->nextInFocusChain())
+            if (w->focusPolicy() != Qt::NoFocus || w == f->combo()) order.append(w->objectName());
         const QString chain = order.join(' ').remove("NetConnectSettingUIPlugin_");
         QCOMPARE(chain, QString("ProfileCombobox LineEditProfileName BtnDynamic BtnStatic ApnlineEdit "
                                 "AccessNumberlineEdit UsernamelineEdit PasswordlineEdit CheckBoxAskUserName "));
     }
 
     void opensAtOnceWithManyNames() {
-        F f;
         QByteArray many;
         for (int i = 0; i < 10000; ++i)
             many += F::profile("A profile with a long name, number " + QByteArray::number(i));
-        f.start(many);
+        f->start(many);
         QElapsedTimer timer;
         timer.start();
-        f.combo()->updateGeometry();
-        QVERIFY(f.combo()->sizeHint().width() < 400);
-        f.show();
+        f->combo()->updateGeometry();
+        QVERIFY(f->combo()->sizeHint().width() < 400);
+        f->show();
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     }
 
-    // The first show of a page whose modem is ready already has its list, with the default marked and selected.
-    void firstShow() {
-        F f;
-        f.start(F::profile("b", "phonenumber='1' user='u' password='p' apn='net' chap='true' pap='false'") +
-                    F::profile("A", "autoapn='true'"),
-                "<Default name='b' IsUserSet='1'/>");
-        QCOMPARE(f.listed(), QStringList({"A", "b (Default)"}));
-        QCOMPARE(f.combo()->currentText(), QString("b (Default)"));
-        QCOMPARE(f.edit("ApnlineEdit")->text(), QString("net"));
-        QVERIFY(f.find<QAbstractButton>("BtnStatic")->isChecked());
-        f.select("A");
-        QVERIFY(f.find<QAbstractButton>("BtnDynamic")->isChecked());
-        QVERIFY(f.setting->IsActiveSetting());
+    // The tip of Edit and Delete is empty where they are enabled.
+    void locks_data() {
+        const Rows<QString, QString, QString> row("selected", "connected", "tip");
+        const char* const none = nullptr;
+        row("own", "Home", none, "");
+        row("read-only", "Locked", none, "IDS_NETCONNECT_TIP_PROFILE_READONLY");
+        row("preset", "Preset", none, "IDS_NETCONNECT_TIP_PROFILE_PRESET");
+        row("connected", "Home", "Home", "IDS_NETCONNECT_TIP_PROFILE_CONNECTED");
+        row("another is connected", "Home", "Locked", "");
     }
-
     void locks() {
-        const struct {
-            const char *selected, *connected, *tip;  // the tip of Edit and Delete, null where they are enabled
-        } rows[] = {{"Home", nullptr, nullptr},
-                    {"Locked", nullptr, "IDS_NETCONNECT_TIP_PROFILE_READONLY"},
-                    {"Preset", nullptr, "IDS_NETCONNECT_TIP_PROFILE_PRESET"},
-                    {"Home", "Home", "IDS_NETCONNECT_TIP_PROFILE_CONNECTED"},
-                    {"Home", "Locked", nullptr}};
-        for (const auto& row : rows) {
-            F f;
-            f.presets = "<item name='Preset' value=''/>";
-            f.library = F::profile("Preset");
-            f.dialup.connected = row.connected;
-            f.start(F::profile("Home") + F::profile("Locked", "readonly='true'"));
-            f.select(row.selected);
-            for (const char* role : {"BtnEditProfile", "BtnDeleteProfile"}) {
-                QCOMPARE(f.enabled(role), !row.tip);
-                QCOMPARE(f.find(role)->toolTip(), row.tip ? Change::tr(row.tip, "NetConnectPlugin") : QString());
-            }
-            QCOMPARE(f.enabled("BtnSetDefaultProfile"), !row.connected);
-        }
-    }
-
-    // A connection that came up meanwhile counts as soon as a person turns to the page.
-    void locksFollowTheConnection() {
-        F f;
-        f.start(F::profile("Home"));
-        f.select("Home");
-        QVERIFY(f.enabled("BtnEditProfile"));
-        f.dialup.connected = "Home";
+        QFETCH(QString, connected);
+        QFETCH(QString, tip);
+        f->presets = "<item name='Preset' value=''/>";
+        f->library = F::profile("Preset");
+        f->start(F::profile("Home") + F::profile("Locked", "readonly='true'"));
+        f->select(cell("selected"));
+        // A connection that came up meanwhile counts as soon as a person turns to the page.
+        f->dialup.connected = connected;
         QEvent enter(QEvent::Enter);
-        QCoreApplication::sendEvent(f.find("netConnectwdg"), &enter);
-        for (const char* role : {"BtnEditProfile", "BtnDeleteProfile", "BtnSetDefaultProfile"})
-            QVERIFY2(!f.enabled(role), role);
+        QCoreApplication::sendEvent(f->find("netConnectwdg"), &enter);
+        for (const char* role : {"BtnEditProfile", "BtnDeleteProfile"}) {
+            QCOMPARE(f->enabled(role), tip.isEmpty());
+            QCOMPARE(f->find(role)->toolTip(), tip.isEmpty() ? QString() : Change::tr(tip, "NetConnectPlugin"));
+        }
+        QCOMPARE(f->enabled("BtnSetDefaultProfile"), connected.isNull());
     }
 
     void emptyListFills() {
-        F f;
-        f.start();
-        for (const char* role : {"BtnEditProfile", "BtnDeleteProfile", "BtnSetDefaultProfile"})
-            QVERIFY2(!f.enabled(role), role);
-        DialupProfile profile;
-        profile.name = "Home";
-        QCOMPARE(f.profiles->SaveDialUpProfile(profile), 0);
-        for (const char* role : {"BtnEditProfile", "BtnDeleteProfile", "BtnSetDefaultProfile"})
-            QVERIFY2(f.enabled(role), role);
+        const QStringList roles = {"BtnEditProfile", "BtnDeleteProfile", "BtnSetDefaultProfile"};
+        f->start();
+        QCOMPARE(f->enabledOf(roles), QStringList());
+        QCOMPARE(f->save("Home"), 0);
+        QCOMPARE(f->enabledOf(roles), roles);
     }
 
     void configuration() {
@@ -138,163 +102,150 @@ private slots:
                     {"", "<item name='PromptPwd" + on, "", true},
                     {"", ask + "<item name='DisableNamePwd" + on, "CheckBoxAskUserName", false}};
         for (const auto& row : rows) {
-            F f;
-            f.functions = row.functions;
-            f.prompt = row.prompt;
-            f.start(F::profile("Home"));
+            init();
+            f->functions = row.functions;
+            f->prompt = row.prompt;
+            f->start(F::profile("Home"));
             QStringList shown;
             for (const char* role :
                  {"ApngroupBox", "ButtonImportProfile", "ButtonExportProfile", "CheckBoxAskUserName"})
-                if (f.find(role)->isVisible()) shown.append(role);
+                if (f->find(role)->isVisible()) shown.append(role);
             QCOMPARE(shown.join(' '), QString(row.shown));
-            f.click("BtnEditProfile");
-            QCOMPARE(f.enabled("PasswordlineEdit"), row.passwordEditable);
+            f->click("BtnEditProfile");
+            QCOMPARE(f->enabled("PasswordlineEdit"), row.passwordEditable);
         }
     }
 
     void eHrpdShowsTheAPN() {
-        F f;
-        f.functions.clear();
-        f.start();
-        QVERIFY(!f.find("ApngroupBox")->isVisible());
+        f->functions.clear();
+        f->start();
+        QVERIFY(!f->find("ApngroupBox")->isVisible());
         vrks_simulated_set("SYS_MODE", "2");
         vrks_simulated_set("SYS_SUBMODE", "31");
-        f.event(NotifySystemModeChanged);
-        QVERIFY(f.find("ApngroupBox")->isVisible());
-        QCOMPARE(f.notify->sent, QStringList("92804312-432E-401F-96BB-1C20D852815D 512 0 0"));
-    }
-
-    void languages() {
-        F f;
-        f.start(F::profile("Home") + F::profile("Work"), "<Default name='Work' IsUserSet='1'/>");
-        for (const char* code : {"de", "fr", "es", "ru", "zh_CN", "ar"}) {
-            f.language(code);
-            for (QAbstractButton* button : f.window->findChildren<QAbstractButton*>())
-                QVERIFY2(!button->text().contains("IDS_"), qPrintable(button->text()));
-            const QString mark = Change::tr("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT", "NetConnectPlugin");
-            QCOMPARE(f.listed(), QStringList({"Home", "Work " + mark}));
-        }
+        f->event(NotifySystemModeChanged);
+        QVERIFY(f->find("ApngroupBox")->isVisible());
+        QCOMPARE(f->notify->sent, QStringList("92804312-432E-401F-96BB-1C20D852815D 512 0 0"));
     }
 
     void passwordHint() {
         const QString keepable = QString::fromUtf8("s\xc3\xa4"), lost = QString::fromUtf8("\xd0\xbf");
         for (bool encrypts : {false, true}) {
-            F f;
-            if (encrypts) f.functions += "<item name='ENCRYPT' value='true'/>";
-            f.start();
-            f.click("pBtnnewProfile");
-            f.edit("PasswordlineEdit")->insert(keepable);
-            QVERIFY(!f.find("PasswordHint")->isVisible());
-            f.edit("PasswordlineEdit")->insert(lost);
-            QCOMPARE(f.find("PasswordHint")->isVisible(), encrypts);
-            f.click("BtnUndoProfile");
-            QVERIFY(!f.find("PasswordHint")->isVisible());
+            init();
+            if (encrypts) f->functions += "<item name='ENCRYPT' value='true'/>";
+            f->start();
+            f->click("pBtnnewProfile");
+            f->edit("PasswordlineEdit")->insert(keepable);
+            QVERIFY(!f->find("PasswordHint")->isVisible());
+            f->edit("PasswordlineEdit")->insert(lost);
+            QCOMPARE(f->find("PasswordHint")->isVisible(), encrypts);
+            f->click("BtnUndoProfile");
+            QVERIFY(!f->find("PasswordHint")->isVisible());
         }
     }
 
     // --- the host's settings dialog ---
 
     void setDefaultIsHiddenWhenTheHostSaysSo() {
-        F f;
         QVERIFY(CommonUtils::SetSettings("ConnectionSetting", "load", "true"));
-        f.start();
-        QVERIFY(!f.find("BtnSetDefaultProfile")->isVisible());
+        f->start();
+        QVERIFY(!f->find("BtnSetDefaultProfile")->isVisible());
     }
 
+    void okAsksAboutAnOpenEdit_data() {
+        const Rows<bool, QString, bool, QString> row("yes", "number", "goes", "stored");
+        row("yes", true, "*99#", true, "Mine");
+        row("no", false, "*99#", true, "");
+        row("yes, but it can't be saved", true, "", false, "");
+    }
     void okAsksAboutAnOpenEdit() {
-        const struct {
-            bool yes;
-            const char* number;
-            bool goes;
-            QStringList stored;
-        } rows[] = {{true, "*99#", true, {"Mine"}}, {false, "*99#", true, {}}, {true, "", false, {}}};
-        for (const auto& row : rows) {
-            F f;
-            f.start();
-            f.click("pBtnnewProfile");
-            F::type(f.edit("LineEditProfileName"), "Mine");
-            F::type(f.edit("AccessNumberlineEdit"), row.number);
-            row.yes ? f.answers.yes() : f.answers.no();
-            if (!row.goes) f.answers.ok();
-            QCOMPARE(f.setting->HideSetting(), int(row.goes));
-            QVERIFY(f.answers.allGiven());
-            QCOMPARE(f.stored(), row.stored);
-            QCOMPARE(f.setting->IsActiveSetting(), !row.goes);
-            f.show();
-            QCOMPARE(f.edit("LineEditProfileName")->isVisible(), !row.goes);
-        }
+        QFETCH(bool, goes);
+        f->start();
+        f->click("pBtnnewProfile");
+        F::type(f->edit("LineEditProfileName"), "Mine");
+        F::type(f->edit("AccessNumberlineEdit"), cell("number"));
+        f->answers.box(cell<bool>("yes") ? CommonUtils::FirstButton : CommonUtils::SecondButton);
+        if (!goes) f->answers.ok();
+        QCOMPARE(f->setting->HideSetting(), int(goes));
+        QVERIFY(f->answers.allGiven());
+        QTEST(f->stored().join(','), "stored");
+        QCOMPARE(f->setting->IsActiveSetting(), !goes);
+        f->show();
+        QCOMPARE(f->edit("LineEditProfileName")->isVisible(), !goes);
     }
 
     void cancelUndoesWithoutAsking() {
-        F f;
-        f.start();
-        f.click("pBtnnewProfile");
-        QCOMPARE(f.setting->OnClickSettingCancelButton(), 1);
-        QVERIFY(!f.setting->IsActiveSetting());
-        QVERIFY(!f.combo());  // the page has left the host's window
-        f.show();
-        QVERIFY(f.combo()->isVisible() && f.enabled("pBtnnewProfile"));
+        f->start();
+        f->click("pBtnnewProfile");
+        QCOMPARE(f->setting->OnClickSettingCancelButton(), 1);
+        QVERIFY(!f->setting->IsActiveSetting());
+        QVERIFY(!f->combo());  // the page has left the host's window
+        f->show();
+        QVERIFY(f->combo()->isVisible() && f->enabled("pBtnnewProfile"));
     }
 
-    // A switch between pages keeps the selection; a closed dialog comes back at the default.
-    void selectionAcrossShows() {
-        F f;
-        f.start(F::profile("A") + F::profile("B"), "<Default name='B' IsUserSet='1'/>");
-        f.select("A");
-        QCOMPARE(f.setting->HideSetting(), 1);
-        f.show();
-        QCOMPARE(f.combo()->currentText(), QString("A"));
-        QCOMPARE(f.setting->OnClickSettingOkButton(), 1);
-        f.show();
-        QCOMPARE(f.combo()->currentText(), QString("B (Default)"));
-        QCOMPARE(f.listed(), QStringList({"A", "B (Default)"}));
+    // The first show has its list already, with the default marked and selected. A switch between pages keeps the
+    // selection; a closed dialog comes back at the default.
+    void shows() {
+        f->start(F::profile("b", "apn='net'") + F::profile("A", "autoapn='true'"), "<Default name='b' IsUserSet='1'/>");
+        QCOMPARE(f->listed(), QStringList({"A", "b (Default)"}));
+        QCOMPARE(f->combo()->currentText(), QString("b (Default)"));
+        QCOMPARE(f->edit("ApnlineEdit")->text(), QString("net"));
+        QVERIFY(f->find<QAbstractButton>("BtnStatic")->isChecked());
+        f->select("A");
+        QVERIFY(f->find<QAbstractButton>("BtnDynamic")->isChecked());
+        QVERIFY(f->setting->IsActiveSetting());
+        QCOMPARE(f->setting->HideSetting(), 1);
+        f->show();
+        QCOMPARE(f->combo()->currentText(), QString("A"));
+        QCOMPARE(f->setting->OnClickSettingOkButton(), 1);
+        f->show();
+        QCOMPARE(f->combo()->currentText(), QString("b (Default)"));
+        f->language("de");
+        QCOMPARE(f->listed(),
+                 QStringList({"A", "b " + Change::tr("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT", "NetConnectPlugin")}));
     }
 
     void hostDestroysItsWindowFirst() {
-        F f;
-        f.start(F::profile("Home"));
-        f.click("BtnEditProfile");
-        delete f.window;
+        f->start(F::profile("Home"));
+        f->click("BtnEditProfile");
+        delete f->window;
         QRect place(0, 0, 100, 100);
-        QCOMPARE(f.setting->ShowSettingDialog(nullptr, place), 1);
-        QCOMPARE(f.setting->OnClickSettingOkButton(), 0);
-        f.event(NotifyLanguageChanged);
+        QCOMPARE(f->setting->ShowSettingDialog(nullptr, place), 1);
+        QCOMPARE(f->setting->OnClickSettingOkButton(), 0);
+        f->event(NotifyLanguageChanged);
         F::changeCard();
-        DialupProfile profile;
-        profile.name = "Work";
-        QCOMPARE(f.profiles->SaveDialUpProfile(profile), 0);
-        QCOMPARE(f.stored(), QStringList({"Home", "Work"}));
+        QCOMPARE(f->save("Work"), 0);
+        QCOMPARE(f->stored(), QStringList({"Home", "Work"}));
     }
 
     void notifyServiceMayGo() {
-        F f;
-        f.start(F::profile("Home"));
-        f.notify.reset();
-        f.click("BtnSetDefaultProfile");
-        QCOMPARE(f.storedDefault(), QString("/"));  // without the service the button does nothing
+        f->start(F::profile("Home"));
+        f->notify.reset();
+        f->click("BtnSetDefaultProfile");
+        QCOMPARE(f->storedDefault(), QString());  // without the service the button does nothing
         F::changeCard();
     }
 
     void profilesForOthers() {
-        F f;
-        f.start(F::profile("Home") + F::profile("Work"), "<Default name='Gone' IsUserSet='1'/>");
+        f->start(F::profile("Home") + F::profile("Work"), "<Default name='Gone' IsUserSet='1'/>");
         QString name = "x";
-        QCOMPARE(f.profiles->GetDefaultDialUpProfileName(&name), 0);
+        QCOMPARE(f->profiles->GetDefaultDialUpProfileName(&name), 0);
         QCOMPARE(name, QString(""));
-        QCOMPARE(f.profiles->SetDefaultDialUpProfileName(""), 0);
-        QCOMPARE(f.profiles->SetDefaultDialUpProfileName("Home (Default)"), 0);
-        QCOMPARE(f.listed(), QStringList({"Home", "Work"}));
-        QCOMPARE(f.profiles->SetDefaultDialUpProfileName("Work"), 0);
-        QCOMPARE(f.profiles->SetDefaultDialUpProfileName("Home"), 0);
-        QCOMPARE(f.listed(), QStringList({"Home (Default)", "Work"}));
-        DialupProfile profile;
-        profile.name = "Alpha";
-        QCOMPARE(f.profiles->SaveDialUpProfile(profile), 0);
-        QCOMPARE(f.listed(), QStringList({"Alpha", "Home (Default)", "Work"}));
-        QCOMPARE(f.combo()->currentText(), QString("Alpha"));
-        QCOMPARE(f.profiles->SetDefaultDialUpProfileName("Work"), 0);
-        QCOMPARE(f.listed(), QStringList({"Alpha", "Home", "Work (Default)"}));
-        QCOMPARE(f.storedDefault(), QString("Work/1"));
+        const struct {
+            const char* chosen;
+            QStringList listed;
+        } rows[] = {{"", {"Home", "Work"}},
+                    {"Home (Default)", {"Home", "Work"}},
+                    {"Work", {"Home", "Work (Default)"}},
+                    {"Home", {"Home (Default)", "Work"}}};
+        for (const auto& row : rows) {
+            QCOMPARE(f->profiles->SetDefaultDialUpProfileName(row.chosen), 0);
+            QCOMPARE(f->listed(), row.listed);
+        }
+        QCOMPARE(f->save("Alpha"), 0);
+        QCOMPARE(f->listed(), QStringList({"Alpha", "Home (Default)", "Work"}));
+        QCOMPARE(f->combo()->currentText(), QString("Alpha"));
+        QCOMPARE(f->storedDefault(), QString("Home/1"));
     }
 };
 

@@ -16,103 +16,71 @@ QString shown(QString name) { return name.replace("(Default)", text("IDS_STC_NET
 
 }  // namespace
 
-class TestPageEditing : public QObject {
+class TestPageEditing : public PageTest {
     Q_OBJECT
 
 private slots:
     void newProfile() {
-        F f;
-        f.newProfile =
+        f->newProfile =
             "name='' type='t' device='d' phonenumber='*99#' autoapn='false' apn='start' chap='true' "
             "pap='true' ip='1.2.3.4' Remember='keep' readonly='true'";
-        f.start();
-        f.click("pBtnnewProfile");
-        QCOMPARE(f.edit("LineEditProfileName")->text(), QString("New Profile1"));
-        QVERIFY(f.focused("LineEditProfileName") && !f.combo()->isVisible());
-        QCOMPARE(f.edit("ApnlineEdit")->text(), QString("start"));
-        F::type(f.edit("LineEditProfileName"), "Mine & <b>yours");
-        f.answers.ok();  // "<" is refused
-        f.click("BtnsaveProfile");
-        F::type(f.edit("LineEditProfileName"), "Mine & yours");
-        F::type(f.edit("UsernamelineEdit"), "me");
-        f.click("BtnsaveProfile");
-        QCOMPARE(f.stored(), QStringList("Mine & yours"));
-        QCOMPARE(f.stored("Mine & yours", {"type", "device", "user", "apn", "autoapn", "pap", "ip", "Remember"}),
+        f->start();
+        f->click("pBtnnewProfile");
+        QCOMPARE(f->edit("LineEditProfileName")->text(), QString("New Profile1"));
+        QVERIFY(f->focused("LineEditProfileName") && !f->combo()->isVisible());
+        QCOMPARE(f->edit("ApnlineEdit")->text(), QString("start"));
+        F::type(f->edit("LineEditProfileName"), "Mine & <b>yours");
+        f->answers.ok();  // "<" is refused
+        f->click("BtnsaveProfile");
+        F::type(f->edit("LineEditProfileName"), "Mine & yours");
+        F::type(f->edit("UsernamelineEdit"), "me");
+        f->click("BtnsaveProfile");
+        QCOMPARE(f->stored(), QStringList("Mine & yours"));
+        QCOMPARE(f->stored("Mine & yours", "type device user apn autoapn pap ip Remember"),
                  QString("t|d|me|start|false|true|1.2.3.4|keep"));
-        QVERIFY(f.focused("ProfileCombobox") && !f.enabled("BtnEditProfile"));  // read-only, as the template said
-        QCOMPARE(f.notify->sent, QStringList({"92804312-432E-401F-96BB-1C20D852815D 512 0 0",
-                                              "DF986A92-844C-42b6-A03C-26B837BF1C53 512 0 0"}));
+        QVERIFY(f->focused("ProfileCombobox") && !f->enabled("BtnEditProfile"));  // read-only, as the template said
+        QCOMPARE(f->notify->sent, QStringList({"92804312-432E-401F-96BB-1C20D852815D 512 0 0",
+                                               "DF986A92-844C-42b6-A03C-26B837BF1C53 512 0 0"}));
     }
 
     void editKeepsWhatThePageDoesNotShow() {
-        F f;
-        f.start(F::profile("Home", Full));
-        f.click("BtnEditProfile");
-        F::type(f.edit("ApnlineEdit"), "other");
-        f.click("BtnsaveProfile");
-        QCOMPARE(
-            f.stored("Home", {"type", "device", "user", "password", "apn", "chap", "ip", "popusername", "Remember"}),
-            QString("t|modem|u|p|other|true|10.0.0.1|true|r"));
-        QVERIFY(f.enabled("BtnEditProfile"));
+        f->start(F::profile("Home", Full), "<Default name='Home'/>");
+        f->click("BtnEditProfile");
+        QCOMPARE(f->edit("LineEditProfileName")->text(), QString("Home"));
+        F::type(f->edit("ApnlineEdit"), "other");
+        f->click("BtnsaveProfile");
+        QCOMPARE(f->stored("Home", "type device user password apn chap ip popusername Remember"),
+                 QString("t|modem|u|p|other|true|10.0.0.1|true|r"));
+        QCOMPARE(f->storedDefault(), QString("Home/"));
+        QVERIFY(f->enabled("BtnEditProfile"));
     }
 
     void dynamicAndStaticAPN() {
-        F f;
-        f.start(F::profile("Home", Full));
-        f.click("BtnEditProfile");
-        f.click("BtnDynamic");
-        QVERIFY(!f.enabled("ApnlineEdit") && f.edit("ApnlineEdit")->text().isEmpty());
-        f.click("BtnStatic");
-        QVERIFY(f.enabled("ApnlineEdit") && f.focused("ApnlineEdit"));
-        f.click("BtnsaveProfile");  // static, but nothing was entered
-        QCOMPARE(f.stored("Home", "autoapn"), QString("true"));
+        f->start(F::profile("Home", Full));
+        f->click("BtnEditProfile");
+        f->click("BtnDynamic");
+        QVERIFY(!f->enabled("ApnlineEdit") && f->edit("ApnlineEdit")->text().isEmpty());
+        f->click("BtnStatic");
+        QVERIFY(f->enabled("ApnlineEdit") && f->focused("ApnlineEdit"));
+        f->click("BtnsaveProfile");  // static, but nothing was entered
+        QCOMPARE(f->stored("Home", "autoapn"), QString("true"));
     }
 
-    void renaming_data() {
-        QTest::addColumn<QByteArray>("language");
-        QTest::addColumn<QByteArray>("flag");
-        QTest::addColumn<QString>("name");
-        for (const char* language : {"en", "ar"})
-            for (const char* flag : {"IsUserSet='1'", ""})
-                for (const char* name : {"Home", "Renamed"})
-                    QTest::addRow("%s, flag %s, to %s", language, flag, name)
-                        << QByteArray(language) << QByteArray(flag) << QString(name);
-    }
-    void renaming() {
-        QFETCH(QByteArray, language);
-        QFETCH(QByteArray, flag);
-        QFETCH(QString, name);
-        F f;
-        f.start(F::profile("Home", Full) + F::profile("Work"), "<Default name='Home' " + flag + "/>", language);
-        f.click("BtnEditProfile");
-        QCOMPARE(f.edit("LineEditProfileName")->text(), QString("Home"));
-        f.edit("LineEditProfileName")->setText(name);
-        f.click("BtnsaveProfile");
-        QCOMPARE(f.storedDefault(), name + (flag.isEmpty() ? "/" : "/1"));
-        QCOMPARE(F::sorted(f.stored()), F::sorted({name, "Work"}));
-        QCOMPARE(f.combo()->currentText(), name + " " + text("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT"));
-    }
-
-    void undo_data() {
-        QTest::addColumn<QString>("button");
-        for (const char* button : {"pBtnnewProfile", "BtnEditProfile"}) QTest::newRow(button) << QString(button);
-    }
+    void undo_data() { nameRows("button", {"pBtnnewProfile", "BtnEditProfile"}); }
     void undo() {
-        QFETCH(QString, button);
-        F f;
-        f.newProfile = "name='n' type='of the template' readonly='true' phonenumber='1' autoapn='true' Remember='x'";
-        f.start(F::profile("Home", "type='of Home' phonenumber='2' apn='net' Remember=''") + F::profile("Work"));
-        const QByteArray before = TestFolder::read(f.folder.userFile());
-        const QStringList viewing = f.editState();
-        f.click(qPrintable(button));
-        F::type(f.edit("AccessNumberlineEdit"), "typed");
-        f.click("BtnUndoProfile");
-        QCOMPARE(f.editState().mid(1), viewing.mid(1));
-        QCOMPARE(TestFolder::read(f.folder.userFile()), before);
+        f->newProfile = "name='n' type='of the template' readonly='true' phonenumber='1' autoapn='true' Remember='x'";
+        f->start(F::profile("Home", "type='of Home' phonenumber='2' apn='net' Remember=''") + F::profile("Work"));
+        const QByteArray before = TestFolder::read(f->userFile());
+        const QStringList viewing = f->editState();
+        f->click(qPrintable(cell("button")));
+        F::type(f->edit("AccessNumberlineEdit"), "typed");
+        f->click("BtnUndoProfile");
+        QCOMPARE(f->editState().mid(1), viewing.mid(1));
+        QCOMPARE(TestFolder::read(f->userFile()), before);
         // Nothing of the undone edit reaches the next one.
-        f.click("BtnEditProfile");
-        f.click("BtnsaveProfile");
-        QCOMPARE(f.stored("Home", {"type", "readonly", "Remember"}), QString("of Home||"));
+        f->click("BtnEditProfile");
+        f->click("BtnsaveProfile");
+        QCOMPARE(f->stored("Home", "type readonly Remember"), QString("of Home||"));
     }
 
     void validation() {
@@ -122,79 +90,63 @@ private slots:
         const struct {
             const char *name, *number, *apn;
             QByteArray message;
-        } rows[] = {{"", "", "-", absent},
-                    {"   ", "1", "", absent},
-                    {"Work", "", "", same},
-                    {"Home", "1", "", same},
-                    {"Home (Default)", "1", "", same},
-                    {"a:b", "", "", bad},
-                    {"a(b", "1", "", bad},
-                    {"a", "", "x.", number},
-                    {"a", "1", "x.", apn},
-                    {"a", "1", "-ab", apn},
-                    {"home", "1", "-", none},
-                    {" a.b-c d ", "1", "", none},
-                    {"b", "1", "a.b-c", none},
-                    {"c", "1", "ab", none}};
-        F f;
-        f.newProfile = "autoapn='false'";
-        f.start(F::profile("Home") + F::profile("Work"), "<Default name='Home' IsUserSet='1'/>");
+        } rows[] = {{"", "", "-", absent},     {"Work", "", "", same},
+                    {"Home", "1", "", same},   {"Home (Default)", "1", "", same},
+                    {"a:b", "", "", bad},      {"a", "", "x.", number},
+                    {"a", "1", "x.", apn},     {"a", "1", "-ab", apn},
+                    {"home", "1", "-", none},  {" a.b-c d ", "1", "", none},
+                    {"b", "1", "a.b-c", none}, {"c", "1", "ab", none}};
+        f->newProfile = "autoapn='false'";
+        f->start(F::profile("Home") + F::profile("Work"), "<Default name='Home' IsUserSet='1'/>");
         for (const auto& row : rows) {
-            if (f.enabled("pBtnnewProfile")) f.click("pBtnnewProfile");
-            f.edit("LineEditProfileName")->setText(shown(row.name));
-            f.edit("AccessNumberlineEdit")->setText(row.number);
-            f.edit("ApnlineEdit")->setText(row.apn);
-            const QStringList typed = f.editState();
-            if (!row.message.isEmpty()) f.answers.ok();
-            f.click("BtnsaveProfile");
-            QVERIFY2(f.answers.allGiven(), row.name);
-            QCOMPARE(f.stored().contains(row.name),
+            if (f->enabled("pBtnnewProfile")) f->click("pBtnnewProfile");
+            f->edit("LineEditProfileName")->setText(shown(row.name));
+            f->edit("AccessNumberlineEdit")->setText(row.number);
+            f->edit("ApnlineEdit")->setText(row.apn);
+            const QStringList typed = f->editState();
+            if (!row.message.isEmpty()) f->answers.ok();
+            f->click("BtnsaveProfile");
+            QVERIFY2(f->answers.allGiven(), row.name);
+            QCOMPARE(f->stored().contains(row.name),
                      row.message.isEmpty() || QStringList({"Work", "Home"}).contains(row.name));
             if (row.message.isEmpty()) continue;
             const QString list = row.message == bad ? "\\/:*?[]()<>|" : "";
-            QCOMPARE(f.answers.texts.last(), text(row.message) + list);
-            QCOMPARE(f.editState(), typed);
+            QCOMPARE(f->answers.texts.last(), text(row.message) + list);
+            QCOMPARE(f->editState(), typed);
         }
     }
 
+    void deleting_data() {
+        const Rows<QString, bool, QString, QString> row("selected", "yes", "stored", "storedDefault");
+        row("no", "Home", false, "Home,Work", "Work/1");
+        row("yes", "Home", true, "Work", "Work/1");
+        row("the default", "Work (Default)", true, "Home", "/");
+    }
     void deleting() {
-        const struct {
-            const char* selected;
-            bool yes;
-            QStringList stored;
-            const char* storedDefault;
-        } rows[] = {{"Home", false, {"Home", "Work"}, "Work/1"},
-                    {"Home", true, {"Work"}, "Work/1"},
-                    {"Work (Default)", true, {"Home"}, "/"}};
-        for (const auto& row : rows) {
-            F f;
-            f.start(F::profile("Home") + F::profile("Work"), "<Default name='Work' IsUserSet='1'/>");
-            f.select(shown(row.selected));
-            row.yes ? f.answers.yes() : f.answers.no();
-            f.click("BtnDeleteProfile");
-            QCOMPARE(f.stored(), row.stored);
-            QCOMPARE(f.storedDefault(), QString(row.storedDefault));
-            QCOMPARE(f.listed().size(), f.stored().size());
-            QCOMPARE(f.notify->sent.size(), row.yes ? 2 : 0);
-        }
+        QFETCH(bool, yes);
+        f->start(F::profile("Home") + F::profile("Work"), "<Default name='Work' IsUserSet='1'/>");
+        f->select(shown(cell("selected")));
+        f->answers.box(yes ? CommonUtils::FirstButton : CommonUtils::SecondButton);
+        f->click("BtnDeleteProfile");
+        QTEST(f->stored().join(','), "stored");
+        QTEST(f->storedDefault(), "storedDefault");
+        QCOMPARE(f->listed().size(), f->stored().size());
+        QCOMPARE(f->notify->sent.size(), yes ? 2 : 0);
     }
 
     void settingTheDefault() {
-        F f;
-        f.start(F::profile("Home") + F::profile("Work"));
-        f.select("Work");
-        f.click("BtnSetDefaultProfile");
-        QCOMPARE(f.storedDefault(), QString("Work/1"));
-        QCOMPARE(f.listed(), QStringList({"Home", shown("Work (Default)")}));
-        QCOMPARE(f.notify->sent, QStringList("92804312-432E-401F-96BB-1C20D852815D 512 0 0"));
+        f->start(F::profile("Home") + F::profile("Work"));
+        f->select("Work");
+        f->click("BtnSetDefaultProfile");
+        QCOMPARE(f->storedDefault(), QString("Work/1"));
+        QCOMPARE(f->listed(), QStringList({"Home", shown("Work (Default)")}));
+        QCOMPARE(f->notify->sent, QStringList("92804312-432E-401F-96BB-1C20D852815D 512 0 0"));
     }
 
     // --- what comes in the middle of an edit ---
 
     void interruptions_data() {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("refusedFirst");  // a failed validation, which ends the operation's state
-        QTest::addColumn<QString>("what");
+        const Rows<QString, bool, QString> row("button", "refusedFirst", "what");
         for (const char* button : {"pBtnnewProfile", "BtnEditProfile"})
             for (bool refused : {false, true})
                 for (const char* what : {"card", "language", "system mode", "save of another", "save of this one",
@@ -206,52 +158,50 @@ private slots:
         QFETCH(QString, button);
         QFETCH(bool, refusedFirst);
         QFETCH(QString, what);
-        F f;
-        f.prompt =
+        f->prompt =
             "<item name='PromptPwd' value='true'/><item name='UserCheck' value='true'/>"
             "<item name='CheckNamePwd' value='true'/>";
-        f.start(F::profile("Alpha") + F::profile("Home", "phonenumber='2' apn='net'") + F::profile("Zulu"),
-                "<Default name='Home' IsUserSet='1'/>");
-        f.click(qPrintable(button));
-        f.click("BtnStatic");
-        F::type(f.edit("LineEditProfileName"), refusedFirst ? "Alpha" : "Typed");
-        F::type(f.edit("AccessNumberlineEdit"), "12345");
-        f.find<QAbstractButton>("CheckBoxAskUserName")->setChecked(false);
+        f->start(F::profile("Alpha") + F::profile("Home", "phonenumber='2' apn='net'") + F::profile("Zulu"),
+                 "<Default name='Home' IsUserSet='1'/>");
+        f->click(qPrintable(button));
+        f->click("BtnStatic");
+        F::type(f->edit("LineEditProfileName"), refusedFirst ? "Alpha" : "Typed");
+        F::type(f->edit("AccessNumberlineEdit"), "12345");
+        f->find<QAbstractButton>("CheckBoxAskUserName")->setChecked(false);
         if (refusedFirst) {
-            f.answers.ok();
-            f.click("BtnsaveProfile");
-            F::type(f.edit("LineEditProfileName"), "Typed");
+            f->answers.ok();
+            f->click("BtnsaveProfile");
+            F::type(f->edit("LineEditProfileName"), "Typed");
         }
-        const QStringList typed = f.editState();
-        interrupt(&f, what);
-        QCOMPARE(f.editState(), typed);
+        const QStringList typed = f->editState();
+        interrupt(what);
+        QCOMPARE(f->editState(), typed);
 
-        f.click("BtnsaveProfile");
+        f->click("BtnsaveProfile");
         const bool edited = button == "BtnEditProfile";
-        QStringList expected = {"Alpha", "Zulu", "Typed"};
-        if (!edited) expected.append("Home");
-        if (what == "save of another" || what == "other process") expected.append("Other");
-        QCOMPARE(F::sorted(f.stored()), F::sorted(expected));
-        QCOMPARE(f.stored("Typed", "phonenumber"), QString("12345"));
-        QCOMPARE(f.storedDefault(), QString(what == "default" ? "Zulu/1" : edited ? "Typed/1" : "Home/1"));
-        QCOMPARE(F::names(f.folder.userFile()).size(), f.listed().size());
+        QStringList expected = {"Alpha", edited ? "Typed" : "Home", edited ? "Zulu" : "Typed"};
+        if (!edited) expected.append("Zulu");
+        if (what == "save of another" || what == "other process") expected.insert(edited ? 1 : 2, "Other");
+        QCOMPARE(f->stored(), expected);
+        QCOMPARE(f->stored("Typed", "phonenumber"), QString("12345"));
+        QCOMPARE(f->storedDefault(), QString(what == "default" ? "Zulu/1" : edited ? "Typed/1" : "Home/1"));
+        QCOMPARE(f->listed().size(), f->stored().size());
+        QCOMPARE(f->combo()->currentText(), shown(edited && what != "default" ? "Typed (Default)" : "Typed"));
     }
 
     void languageChangeMovesTheEditedName() {
-        F f;
-        f.start(F::profile("Old", "phonenumber='1' langid='IDS_CANCEL'") + F::profile("Work"));
-        f.select(text("IDS_CANCEL"));
-        f.click("BtnEditProfile");
-        F::type(f.edit("AccessNumberlineEdit"), "2");
-        f.language("de");
-        f.click("BtnsaveProfile");
-        QCOMPARE(F::sorted(f.stored()), F::sorted({text("IDS_CANCEL"), "Work"}));
-        QCOMPARE(f.stored(text("IDS_CANCEL"), {"phonenumber", "langid"}), QString("2|IDS_CANCEL"));
+        f->start(F::profile("Old", "phonenumber='1' langid='IDS_CANCEL'") + F::profile("Work"));
+        f->select(text("IDS_CANCEL"));
+        f->click("BtnEditProfile");
+        F::type(f->edit("AccessNumberlineEdit"), "2");
+        f->language("de");
+        f->click("BtnsaveProfile");
+        QCOMPARE(f->stored(), QStringList({text("IDS_CANCEL"), "Work"}));
+        QCOMPARE(f->stored(text("IDS_CANCEL"), "phonenumber langid"), QString("2|IDS_CANCEL"));
     }
 
     void anotherProcessTakesTheName_data() {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("inQuestion");
+        const Rows<QString, bool> row("button", "inQuestion");
         for (const char* button : {"pBtnnewProfile", "BtnEditProfile"})
             for (bool question : {false, true})
                 QTest::addRow("%s%s", button, question ? ", in the question" : "") << QString(button) << question;
@@ -259,111 +209,97 @@ private slots:
     void anotherProcessTakesTheName() {
         QFETCH(QString, button);
         QFETCH(bool, inQuestion);
-        F f;
-        f.start(F::profile("Home"));
-        f.click(qPrintable(button));
-        F::type(f.edit("LineEditProfileName"), "Taken");
-        F::type(f.edit("AccessNumberlineEdit"), "12345");
-        const QStringList typed = f.editState();
+        f->start(F::profile("Home"));
+        f->click(qPrintable(button));
+        F::type(f->edit("LineEditProfileName"), "Taken");
+        F::type(f->edit("AccessNumberlineEdit"), "12345");
+        const QStringList typed = f->editState();
         const auto take = [] { F::otherProcess("add", "Taken"); };
-        if (inQuestion)
-            f.answers.yes(take);
-        else
-            take();
-        f.answers.ok();
-        if (inQuestion)
-            QCOMPARE(f.setting->OnClickSettingOkButton(), 0);
-        else
-            f.click("BtnsaveProfile");
-        QCOMPARE(f.answers.texts.last(), text("IDS_SETTING_PROMPT_PROFILE_NAME_SAME"));
-        QCOMPARE(f.editState(), typed);
-        QCOMPARE(f.stored(), QStringList({"Home", "Taken"}));
-        QCOMPARE(f.stored("Taken", "phonenumber"), QString("other"));
-        F::type(f.edit("LineEditProfileName"), "Free");
-        f.click("BtnsaveProfile");
-        QCOMPARE(F::sorted(f.stored()),
-                 button == "BtnEditProfile" ? F::sorted({"Free", "Taken"}) : F::sorted({"Home", "Free", "Taken"}));
+        inQuestion ? f->answers.yes(take) : take();
+        f->answers.ok();
+        inQuestion ? void(f->setting->OnClickSettingOkButton()) : f->click("BtnsaveProfile");
+        QCOMPARE(f->answers.texts.last(), text("IDS_SETTING_PROMPT_PROFILE_NAME_SAME"));
+        QCOMPARE(f->editState(), typed);
+        QCOMPARE(f->stored(), QStringList({"Home", "Taken"}));
+        QCOMPARE(f->stored("Taken", "phonenumber"), QString("other"));
+        F::type(f->edit("LineEditProfileName"), "Free");
+        f->click("BtnsaveProfile");
+        QStringList expected = {"Free", "Home", "Taken"};
+        if (button == "BtnEditProfile") expected.removeOne("Home");
+        QCOMPARE(f->stored(), expected);
     }
 
     // Saving brings back what another process has deleted; a name of its own list is still another one's.
     void anotherProcessDeletesTheEdited() {
-        F f;
-        f.start(F::profile("Home") + F::profile("Work", "phonenumber='2'"));
+        f->start(F::profile("Home") + F::profile("Work", "phonenumber='2'"));
         for (const char* button : {"BtnUndoProfile", "BtnsaveProfile"}) {
-            f.select("Home");
-            f.click("BtnEditProfile");
+            f->select("Home");
+            f->click("BtnEditProfile");
             F::otherProcess("delete", "Home");
             F::changeCard();
-            f.edit("LineEditProfileName")->setText("Work");
-            f.answers.ok();
-            f.click("BtnsaveProfile");
-            f.edit("LineEditProfileName")->setText("Home");
-            f.click(button);
-            const bool undone = !f.stored().contains("Home");
+            f->edit("LineEditProfileName")->setText("Work");
+            f->answers.ok();
+            f->click("BtnsaveProfile");
+            f->edit("LineEditProfileName")->setText("Home");
+            f->click(button);
+            const bool undone = !f->stored().contains("Home");
             QCOMPARE(undone, button == QString("BtnUndoProfile"));
             if (!undone) break;
-            QCOMPARE(f.combo()->currentText(), QString("Work"));
-            QCOMPARE(f.edit("AccessNumberlineEdit")->text(), QString("2"));
+            QCOMPARE(f->combo()->currentText(), QString("Work"));
+            QCOMPARE(f->edit("AccessNumberlineEdit")->text(), QString("2"));
             F::otherProcess("add", "Home");
             F::changeCard();
         }
-        QCOMPARE(F::sorted(f.stored()), F::sorted({"Home", "Work"}));
+        QCOMPARE(f->stored(), QStringList({"Home", "Work"}));
     }
 
     // The question names nobody, so that the profile on show when it came up is the one that goes.
-    void eventInTheDeleteQuestion_data() {
-        QTest::addColumn<QString>("what");
-        for (const char* what : {"card", "language", "other process", "default"}) QTest::newRow(what) << QString(what);
-    }
+    void eventInTheDeleteQuestion_data() { nameRows("what", {"card", "language", "other process", "default"}); }
     void eventInTheDeleteQuestion() {
         QFETCH(QString, what);
-        F f;
-        f.start(F::profile("Home") + F::profile("Work") + F::profile("Zulu"), "<Default name='Home' IsUserSet='1'/>");
-        f.select("Work");
-        f.answers.yes([this, &f, what] { interrupt(&f, what); });
-        f.click("BtnDeleteProfile");
-        QVERIFY(f.stored().contains("Home") && f.stored().contains("Zulu") && !f.stored().contains("Work"));
-        QCOMPARE(f.listed().size(), f.stored().size());
+        f->start(F::profile("Home") + F::profile("Work") + F::profile("Zulu"), "<Default name='Home' IsUserSet='1'/>");
+        f->select("Work");
+        f->answers.yes([=] { interrupt(what); });
+        f->click("BtnDeleteProfile");
+        QStringList expected = {"Home", "Zulu"};
+        if (what == "other process") expected.insert(1, "Other");
+        QCOMPARE(f->stored(), expected);
+        QCOMPARE(f->listed().size(), f->stored().size());
     }
 
     void writeFailureKeepsTheEdit() {
-        F f;
-        f.start(F::profile("Home"));
-        f.click("BtnEditProfile");
-        F::type(f.edit("LineEditProfileName"), "Mine");
-        QDir(f.folder.path("data")).rename("UserProfile.prof", "aside");
-        QVERIFY(QDir().mkdir(f.folder.userFile()));  // can be neither read nor replaced
-        f.click("BtnsaveProfile");
-        QVERIFY(f.edit("LineEditProfileName")->isVisible() && f.enabled("BtnsaveProfile"));
-        QVERIFY(f.find("BtnsaveProfile")->toolTip().startsWith(text("IDS_NETCONNECT_TIP_SAVE_FAILED")));
-        QDir().rmdir(f.folder.userFile());
-        QDir(f.folder.path("data")).rename("aside", "UserProfile.prof");
-        f.click("BtnsaveProfile");
-        QCOMPARE(f.stored(), QStringList("Mine"));
+        f->start(F::profile("Home"));
+        f->click("BtnEditProfile");
+        F::type(f->edit("LineEditProfileName"), "Mine");
+        QDir(f->path("data")).rename("UserProfile.prof", "aside");
+        QVERIFY(QDir().mkdir(f->userFile()));  // can be neither read nor replaced
+        f->click("BtnsaveProfile");
+        QVERIFY(f->edit("LineEditProfileName")->isVisible() && f->enabled("BtnsaveProfile"));
+        QVERIFY(f->find("BtnsaveProfile")->toolTip().startsWith(text("IDS_NETCONNECT_TIP_SAVE_FAILED")));
+        QDir().rmdir(f->userFile());
+        QDir(f->path("data")).rename("aside", "UserProfile.prof");
+        f->click("BtnsaveProfile");
+        QCOMPARE(f->stored(), QStringList("Mine"));
     }
 
+    void endDuringAMessage_data() { nameRows("button", {"BtnDeleteProfile", "BtnsaveProfile", "leaving"}); }
     void endDuringAMessage() {
-        for (const char* button : {"BtnDeleteProfile", "BtnsaveProfile", "leaving"}) {
-            F f;
-            f.start(F::profile("Home"));
-            if (button != QByteArray("BtnDeleteProfile")) f.click("BtnEditProfile");
-            f.edit("AccessNumberlineEdit")->clear();
-            f.answers.yes([&f] { f.plugin()->OnDestroy(); });
-            button == QByteArray("leaving") ? void(f.setting->OnClickSettingOkButton()) : f.click(button);
-            QVERIFY(f.answers.allGiven());
-            QCOMPARE(f.stored(), QStringList("Home"));
-        }
+        QFETCH(QString, button);
+        f->start(F::profile("Home"));
+        if (button != "BtnDeleteProfile") f->click("BtnEditProfile");
+        f->edit("AccessNumberlineEdit")->clear();
+        f->answers.yes([this] { f->plugin()->OnDestroy(); });
+        button == "leaving" ? void(f->setting->OnClickSettingOkButton()) : f->click(qPrintable(button));
+        QVERIFY(f->answers.allGiven());
+        QCOMPARE(f->stored(), QStringList("Home"));
     }
 
 private:
-    void interrupt(F* f, const QString& what) {
-        DialupProfile profile;
-        profile.name = what == "save of another" ? "Other" : "Home";
-        profile.phonenumber = "of another plug-in";
+    void interrupt(const QString& what) {
         if (what == "card") F::changeCard();
         if (what == "language") f->language(TestFolder::language() == "ar" ? "en" : "ar");
         if (what == "system mode") f->event(NotifySystemModeChanged);
-        if (what.startsWith("save of")) f->profiles->SaveDialUpProfile(profile);
+        if (what.startsWith("save of")) f->save(what == "save of another" ? "Other" : "Home", "of another plug-in");
         if (what == "default") f->profiles->SetDefaultDialUpProfileName("Zulu");
         if (what == "show") f->show();
         if (what == "other process") {

@@ -8,6 +8,8 @@
 #include "NetConnectUIService.h"
 #include "PageFixture.h"
 
+using F = PageFixture;
+
 namespace {
 
 // The place of a virtual operation in its class's table, counted from 0: the Itanium ABI keeps its byte offset, plus
@@ -25,34 +27,20 @@ QVector<int> slotsOf(Members... members) {
     return {slotOf(members)...};
 }
 
-// An operation of an object without arguments, called through the object's own table.
-template <class Result>
-Result callSlot(void* object, int slot) {
-    void** const table = *static_cast<void***>(object);
-    Result (*function)(void*);
-    std::memcpy(&function, &table[slot], sizeof(function));
-    return function(object);
-}
-
 const int AfterQObject = slotOf(&QObject::event) + 7;  // event is followed by six of QObject's own
-
-QString program(const QString& name, const QStringList& arguments) {
-    QProcess process;
-    process.start(name, arguments);
-    process.waitForFinished();
-    return QString::fromLocal8Bit(process.readAllStandardOutput());
-}
 
 }  // namespace
 
-class TestPlugin : public QObject {
+class TestPlugin : public PageTest {
     Q_OBJECT
 
 private slots:
     void exportsNothingElse() {
+        QProcess nm;
+        nm.start(NM, {"-D", "--defined-only", PLUGIN_FILE});
+        nm.waitForFinished();
         QStringList symbols;
-        for (const QString& line : program(NM, {"-D", "--defined-only", PLUGIN_FILE}).split('\n', Qt::SkipEmptyParts))
-            symbols.append(line.section(' ', -1));
+        while (nm.canReadLine()) symbols.append(nm.readLine().trimmed().split(' ').last());
         symbols.sort();
         QCOMPARE(symbols.join(' '),
                  QString("qt_plugin_instance qt_plugin_query_metadata qt_plugin_query_verification_data"));
@@ -66,20 +54,6 @@ private slots:
         const QJsonObject metadata = QPluginLoader(PLUGIN_FILE).metaData();
         QCOMPARE(metadata["className"].toString(), QString("CNetConnectSettingUIPlugin"));
         QCOMPARE(metadata["IID"].toString(), QString(qobject_interface_iid<IUIPlugin*>()));
-    }
-
-    void instanceIsMadeAgainAfterDeletion() {
-        const auto instance = (QObject * (*)()) QLibrary::resolve(PLUGIN_FILE, "qt_plugin_instance");
-        QVERIFY(instance);
-        QPointer<QObject> first = instance();
-        QVERIFY(first);
-        QCOMPARE(instance(), first.data());
-        delete first;
-        QPointer<QObject> second = instance();
-        QVERIFY(second);
-        QCOMPARE(qobject_cast<IUIPlugin*>(second)->GetPluginName(), QString("NetConnectSettingUIPlugin"));
-        qobject_cast<IUIPlugin*>(second)->OnDestroy();
-        delete second;
     }
 
     void virtualTables() {
@@ -122,46 +96,32 @@ private slots:
         QCOMPARE(slotsOf(&INotifyService::SendNotify, &IPluginContainer::FindPlugin), QVector<int>({5 - 1, 10 - 1}));
     }
 
-    void callsThroughTheLoadedTables() {
-        PageFixture f;
-        f.start();
-        // As the host does it, from the table's places alone.
-        QCOMPARE(callSlot<QString>(f.entry, AfterQObject + 10), QString("NetConnectSettingUIPlugin"));
-        QCOMPARE(callSlot<int>(f.entry, AfterQObject + 6), 1);
-        QCOMPARE(callSlot<QString>(f.setting, 5), QString(Change::tr("IDS_SETTING_NAME", "NetConnectPlugin")));
-        QVERIFY(callSlot<bool>(f.setting, 7));
-        QCOMPARE(callSlot<int>(f.profiles, 2), 0);
-    }
-
     void casts() {
-        PageFixture f;
-        f.start();
-        void* ui = static_cast<IUIPlugin*>(f.plugin());
-        QCOMPARE(f.entry->qt_metacast("CNetConnectSettingUIPlugin"), static_cast<void*>(f.entry));
-        QCOMPARE(f.entry->qt_metacast("IUIPlugin"), ui);
-        QCOMPARE(f.entry->qt_metacast("com.kestra.orbisdial.plugin.IBasePlugin"), ui);
-        QCOMPARE(f.entry->qt_metacast("com.kestra.orbisdial.plugin.IUIPlugin"), ui);
-        QCOMPARE(f.entry->qt_metacast("INotify"), f.entry->qt_metacast("com.kestra.orbisdial.plugin.INotify"));
-        QVERIFY(!f.entry->qt_metacast("ISettingUIPlugin"));
-        QVERIFY(!f.plugin()->ChangeLang("") && f.plugin()->ChangeLang("xx"));
-        QObject* service = &f.dialup;
-        QCOMPARE(f.plugin()->QueryInterface(1, &service), 0);
-        QCOMPARE(service, &f.dialup);
-        QCOMPARE(f.plugin()->QueryInterface(28689, &service), 1);
-        QCOMPARE(service->qt_metacast("INetConnectSetting"), static_cast<void*>(f.profiles));
-        QCOMPARE(service->qt_metacast("ISettingUIPlugin"), static_cast<void*>(f.setting));
+        f->start();
+        void* const ui = static_cast<IUIPlugin*>(f->plugin());
+        for (const char* name :
+             {"IUIPlugin", "com.kestra.orbisdial.plugin.IBasePlugin", "com.kestra.orbisdial.plugin.IUIPlugin"})
+            QCOMPARE(f->entry->qt_metacast(name), ui);
+        QCOMPARE(f->entry->qt_metacast("CNetConnectSettingUIPlugin"), static_cast<void*>(f->entry));
+        QCOMPARE(f->entry->qt_metacast("INotify"), f->entry->qt_metacast("com.kestra.orbisdial.plugin.INotify"));
+        QVERIFY(!f->entry->qt_metacast("ISettingUIPlugin"));
+        QVERIFY(!f->plugin()->ChangeLang("") && f->plugin()->ChangeLang("xx"));
+        QObject* service = &f->dialup;
+        QCOMPARE(f->plugin()->QueryInterface(1, &service), 0);
+        QCOMPARE(service, &f->dialup);
+        QCOMPARE(f->plugin()->QueryInterface(28689, &service), 1);
+        QCOMPARE(service->qt_metacast("INetConnectSetting"), static_cast<void*>(f->profiles));
+        QCOMPARE(service->qt_metacast("ISettingUIPlugin"), static_cast<void*>(f->setting));
     }
 
     void metaObject() {
-        PageFixture f;
-        f.start();
-        QObject* service = nullptr;
-        f.plugin()->QueryInterface(4098, &service);
+        f->start();
+        const QMetaObject* const service = dynamic_cast<QObject*>(f->setting)->metaObject();
         QStringList methods;
-        for (int i = QObject::staticMetaObject.methodCount(); i < service->metaObject()->methodCount(); ++i) {
-            const QMetaMethod method = service->metaObject()->method(i);
+        for (int i = QObject::staticMetaObject.methodCount(); i < service->methodCount(); ++i) {
+            const QMetaMethod method = service->method(i);
             const bool signal = method.methodType() == QMetaMethod::Signal;
-            if (!signal) QCOMPARE(method.access(), QMetaMethod::Private);
+            QVERIFY(signal || method.access() == QMetaMethod::Private);
             methods.append((signal ? "signal " : "") + QByteArray(method.typeName()) + " " + method.methodSignature());
         }
         const QString expected =
@@ -173,31 +133,26 @@ private slots:
             "void onSelectProfile(QString),void onFileSelected(QString),"
             "void onClickDialupProfileItem(QTreeWidgetItem*,int),void onDeviceInitailize()";
         QCOMPARE(methods.join(','), expected);
-        QCOMPARE(f.entry->metaObject()->methodCount(), QObject::staticMetaObject.methodCount());
+        QCOMPARE(f->entry->metaObject()->methodCount(), QObject::staticMetaObject.methodCount());
     }
 
     // After the end every call takes its null branch, and a new service can be had.
     void destroyAndInitAgain() {
-        PageFixture f;
-        f.start(PageFixture::profile("Home"));
-        f.click("pBtnnewProfile");  // an edit is open when the end comes
-        f.plugin()->OnDestroy();
-        QVERIFY(!f.combo());
+        f->start(F::profile("Home"));
+        f->click("pBtnnewProfile");  // an edit is open when the end comes
+        f->plugin()->OnDestroy();
+        QVERIFY(!f->combo());
         QRect place;
         QTest::ignoreMessage(QtDebugMsg, QRegularExpression("Init m_pNetConnectUIService == NULL$"));
-        QCOMPARE(f.plugin()->Init(), 0);
-        QCOMPARE(f.plugin()->ShowWindow(f.window, place), 0);
-        QCOMPARE(f.event(320), -1);
-        f.plugin()->Hide();
+        QCOMPARE(f->plugin()->Init(), 0);
+        QCOMPARE(f->plugin()->ShowWindow(f->window, place), 0);
+        QCOMPARE(f->event(320), -1);
+        f->plugin()->Hide();
 
-        QObject* service = nullptr;
-        QCOMPARE(f.plugin()->QueryInterface(4098, &service), 1);
-        QCOMPARE(f.plugin()->Init(), 1);
-        f.setting = qobject_cast<ISettingUIPlugin*>(service);
-        f.show();
-        QCOMPARE(f.listed(), QStringList("Home"));
-        QVERIFY(f.enabled("pBtnnewProfile") && !f.enabled("BtnsaveProfile"));
-        f.click("BtnEditProfile");
+        f->init();
+        QCOMPARE(f->listed(), QStringList("Home"));
+        QVERIFY(f->enabled("pBtnnewProfile") && !f->enabled("BtnsaveProfile"));
+        f->click("BtnEditProfile");
     }
 };
 

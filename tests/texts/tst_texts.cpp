@@ -7,8 +7,8 @@
 #include <QSet>
 #include <QTranslator>
 #include <QXmlStreamReader>
-#include <QtTest>
-#include <iterator>
+
+#include "Rows.h"
 
 namespace {
 
@@ -23,55 +23,33 @@ struct Text {
 // Keyed by "context/ID".
 using Texts = QMap<QString, Text>;
 
-Text readMessage(QXmlStreamReader& xml, QString* id) {
-    Text text;
-    while (xml.readNextStartElement()) {
-        const QStringRef type = xml.attributes().value("type");
-        if (xml.name() == "source") {
-            *id = xml.readElementText();
-        } else if (xml.name() == "extracomment") {
-            text.comment = xml.readElementText();
-        } else if (xml.name() == "translation") {
-            text.translation = xml.readElementText();
-            text.finished = type.isEmpty() && !text.translation.trimmed().isEmpty();
-        } else {
-            xml.skipCurrentElement();
-        }
-    }
-    return text;
-}
-
 Texts readTexts(const QString& language) {
     QFile file(ORBISDIAL_SOURCE_DIR "/data/lang/orbisdial_" + language + ".ts");
     if (!file.open(QIODevice::ReadOnly)) return {};
     Texts texts;
-    QString context;
+    QString context, key;
     QXmlStreamReader xml(&file);
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
         if (xml.name() == "name") {
             context = xml.readElementText();
-        } else if (xml.name() == "message") {
-            QString id;
-            const Text text = readMessage(xml, &id);
-            if (texts.contains(context + "/" + id)) xml.raiseError(id + " is there twice");
-            texts.insert(context + "/" + id, text);
+        } else if (xml.name() == "source") {
+            key = context + '/' + xml.readElementText();
+            if (texts.contains(key)) xml.raiseError(key + " is there twice");
+        } else if (xml.name() == "extracomment") {
+            texts[key].comment = xml.readElementText();
+        } else if (xml.name() == "translation") {
+            texts[key].finished = !xml.attributes().hasAttribute("type");
+            texts[key].translation = xml.readElementText();
         }
     }
     if (xml.hasError()) qWarning() << file.fileName() << xml.lineNumber() << xml.errorString();
     return xml.hasError() ? Texts() : texts;
 }
 
-QSet<QString> keysOf(const Texts& texts) {
-    const QStringList keys = texts.keys();
-    return {keys.begin(), keys.end()};
-}
+QSet<QString> keysOf(const Texts& texts) { return {texts.keyBegin(), texts.keyEnd()}; }
 
-QString joined(const QSet<QString>& keys) {
-    QStringList sorted = keys.values();
-    sorted.sort();
-    return sorted.join(", ");
-}
+QString joined(const QSet<QString>& keys) { return QStringList(keys.values()).join(", "); }
 
 // The character after a single "&", in lower case; null when there is none.
 QChar mnemonicOf(const QString& text) {
@@ -106,11 +84,7 @@ const QMap<QString, QStringList> Pages = {
 };
 
 // Where quoted IDs are looked for, and the context in which they are translated.
-struct CodeFolder {
-    const char* path;
-    const char* context;
-};
-const CodeFolder CodeFolders[] = {
+const QMap<QString, QString> CodeFolders = {
     {"src/NetConnectPlugin", "NetConnectPlugin"},
     {"src/presets", "NetConnectPlugin"},
     {"src/core/common", "NetConnectPlugin"},
@@ -123,25 +97,35 @@ const CodeFolder CodeFolders[] = {
 // Message boxes translate their own buttons, whoever names them.
 const QStringList MessageButtons = {"IDS_OK", "IDS_CANCEL", "IDS_YES", "IDS_NO"};
 
-// The keys of a folder's quoted IDs, each with a file that has it.
-QMap<QString, QString> keysUsedIn(const CodeFolder& folder) {
+// The keys of all quoted IDs, each with a file that has it.
+QMap<QString, QString> usedKeys() {
     static const QRegularExpression quoted("[\"'](IDS_\\w+)[\"']");
     QMap<QString, QString> used;
-    QDirIterator files(ORBISDIAL_SOURCE_DIR + QString("/") + folder.path, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        QFile file(files.next());
-        if (file.fileName().endsWith(".ts") || !file.open(QIODevice::ReadOnly)) continue;
-        for (auto match = quoted.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();) {
-            const QString id = match.next().captured(1);
-            used.insert((MessageButtons.contains(id) ? Plugin : QString(folder.context) + "/") + id, file.fileName());
+    for (const QString& folder : CodeFolders.keys()) {
+        QDirIterator files(ORBISDIAL_SOURCE_DIR "/" + folder, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            if (file.fileName().endsWith(".ts") || !file.open(QIODevice::ReadOnly)) continue;
+            for (auto match = quoted.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();) {
+                const QString id = match.next().captured(1);
+                used[(MessageButtons.contains(id) ? Plugin : CodeFolders[folder] + "/") + id] = file.fileName();
+            }
         }
     }
     return used;
 }
 
+QString placeholders(const QString& text) {
+    static const QRegularExpression placeholder("%\\d");
+    QStringList found;
+    for (auto match = placeholder.globalMatch(text); match.hasNext();) found += match.next().captured();
+    found.sort();
+    return found.join(' ');
+}
+
 void addLanguageRows() {
-    QTest::addColumn<QString>("language");
-    for (const QString& language : Languages) QTest::newRow(qPrintable(language)) << language;
+    const Rows<QString> row("language");
+    for (const QString& language : Languages) row(qPrintable(language), language);
 }
 
 }  // namespace
@@ -150,163 +134,117 @@ class TextsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void everyUsedIdHasAnEnglishText_data();
-    void everyUsedIdHasAnEnglishText();
-    void everyEnglishTextIsUsed();
+    void initTestCase() {
+        for (const QString& language : Languages) {
+            m_Texts.insert(language, readTexts(language));
+            QVERIFY2(!m_Texts[language].isEmpty(), qPrintable(language));
+        }
+    }
+
+    void everyUsedIdHasAnEnglishTextAndNoOtherDoes() {
+        const QMap<QString, QString> used = usedKeys();
+        for (const QString& key : used.keys())
+            QVERIFY2(m_Texts["en"].contains(key), qPrintable(used[key] + ": " + key));
+        QCOMPARE(joined(keysOf(m_Texts["en"]) - QSet<QString>(used.keyBegin(), used.keyEnd())), QString());
+    }
+
     void languageIsComplete_data() { addLanguageRows(); }
-    void languageIsComplete();
-    void placeholdersAreKept_data() { addLanguageRows(); }
-    void placeholdersAreKept();
-    void defaultMarkCanBeStripped_data() { addLanguageRows(); }
-    void defaultMarkCanBeStripped();
-    void newProfileNameIsAllowed_data() { addLanguageRows(); }
-    void newProfileNameIsAllowed();
-    void mnemonicsAreDistinct_data();
-    void mnemonicsAreDistinct();
+    void languageIsComplete() {
+        QFETCH(QString, language);
+        const QSet<QString> english = keysOf(m_Texts["en"]), own = keysOf(m_Texts[language]);
+        QCOMPARE(joined(english - own), QString());
+        QCOMPARE(joined(own - english), QString());
+        for (const QString& key : own) {
+            QVERIFY2(m_Texts[language][key].finished && !text(language, key).trimmed().isEmpty(), qPrintable(key));
+            QVERIFY2(placeholders(text(language, key)) == placeholders(text("en", key)), qPrintable(key));
+        }
+    }
+
+    void partsOfNamesAreAllowed_data() { addLanguageRows(); }
+    void partsOfNamesAreAllowed() {
+        QFETCH(QString, language);
+        const QString name = text(language, Plugin + QString("IDS_NETCONNECT_NEW_PROFILE"));
+        QVERIFY2(!name.contains(QRegularExpression("[\\\\/:*?\\[\\]()<>|]")), qPrintable(name));
+        const QString mark = text(language, Plugin + QString("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT"));  // is taken off
+        QVERIFY2(QRegularExpression("^\\([^()&\\s]([^()&]*[^()&\\s])?\\)$").match(mark).hasMatch(), qPrintable(mark));
+    }
+
+    void mnemonicsAreDistinct_data() { addLanguageRows(); }
+    void mnemonicsAreDistinct() {
+        QFETCH(QString, language);
+        for (const QStringList& page : Pages) {
+            QMap<QChar, QString> taken;
+            for (const QString& id : page) {
+                QVERIFY2(m_Texts[language].contains(Plugin + id), qPrintable(id));
+                const QChar mnemonic = mnemonicOf(text(language, Plugin + id));
+                if (mnemonic.isNull()) continue;
+                QVERIFY2(!taken.contains(mnemonic), qPrintable(taken[mnemonic] + " and " + id + " share " + mnemonic));
+                taken.insert(mnemonic, id);
+            }
+        }
+    }
+
     void plainTextHasNoMnemonic_data() { addLanguageRows(); }
-    void plainTextHasNoMnemonic();
+    void plainTextHasNoMnemonic() {
+        QFETCH(QString, language);
+        QSet<QString> marked;
+        for (const QStringList& page : Pages)
+            for (const QString& id : page) marked.insert(Plugin + id);
+        for (const QString& key : keysOf(m_Texts[language]) - marked)
+            QVERIFY2(!text(language, key).contains('&'), qPrintable(key));
+    }
+
     void hintNamesTheButtonAsWritten_data() { addLanguageRows(); }
-    void hintNamesTheButtonAsWritten();
+    void hintNamesTheButtonAsWritten() {
+        QFETCH(QString, language);
+        const QPair<QString, QString> mentions[] = {
+            {"NetConnectPlugin/IDS_NETCONNECT_TIP_PROFILE_READONLY", "IDS_SETTING_BUTTON_NEW"},
+            {"NetConnectPlugin/IDS_NETCONNECT_TIP_PROFILE_PRESET", "IDS_SETTING_BUTTON_NEW"},
+            {"NetConnectPlugin/IDS_NETCONNECT_TIP_NO_PROFILE", "IDS_SETTING_BUTTON_NEW"},
+            {"NetConnectPlugin/IDS_NETCONNECT_TIP_EDIT_OPEN", "IDS_SETTING_BUTTON_SAVE"},
+            {"NetConnectPlugin/IDS_NETCONNECT_TIP_EDIT_OPEN", "IDS_SETTING_BUTTON_NO_SAVE"},
+            {"NetConnectPlugin/IDS_NETCONNECT_TIP_SAVE_FAILED", "IDS_SETTING_BUTTON_SAVE"},
+            {"OrbisDial/IDS_HOST_LOCK_DEFAULT", "IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT"},
+        };
+        for (const auto& [hint, button] : mentions)
+            QVERIFY2(text(language, hint).contains(drawn(text(language, Plugin + button))), qPrintable(hint));
+    }
+
+    // The English comments say how much room there is: "up to 90 pixels", "cut off at 220 pixels", "up to 16
+    // characters".
     void textFitsItsWidget_data() { addLanguageRows(); }
-    void textFitsItsWidget();
+    void textFitsItsWidget() {
+        QFETCH(QString, language);
+        static const QRegularExpression limit("(?:up to|cut off at) (\\d+) (pixels|characters)");
+        const QFontMetrics metrics(QApplication::font());
+        int limits = 0;
+        for (const QString& key : m_Texts["en"].keys()) {
+            const auto match = limit.match(m_Texts["en"][key].comment);
+            if (!match.hasMatch()) continue;
+            ++limits;
+            const QString shown = drawn(text(language, key)).remove(QRegularExpression("%\\d"));
+            const int size = match.captured(2) == "pixels" ? metrics.horizontalAdvance(shown) : shown.size();
+            QVERIFY2(size <= match.captured(1).toInt(), qPrintable(key + ": " + shown));
+        }
+        QVERIFY(limits > 0);
+    }
+
     void releasedFileTranslates_data() { addLanguageRows(); }
-    void releasedFileTranslates();
+    void releasedFileTranslates() {
+        QFETCH(QString, language);
+        QTranslator translator;
+        QVERIFY(translator.load("orbisdial_" + language, ORBISDIAL_BUILD_DIR "/lib/orbisdial/lang"));
+        for (const QString& key : m_Texts[language].keys()) {
+            const QByteArray context = key.section('/', 0, 0).toUtf8(), id = key.section('/', 1).toUtf8();
+            QCOMPARE(translator.translate(context, id), text(language, key));
+        }
+    }
 
 private:
     QString text(const QString& language, const QString& key) const { return m_Texts[language][key].translation; }
 
     QMap<QString, Texts> m_Texts;  // by language
 };
-
-void TextsTest::initTestCase() {
-    for (const QString& language : Languages) {
-        m_Texts.insert(language, readTexts(language));
-        QVERIFY2(!m_Texts[language].isEmpty(), qPrintable(language));
-    }
-}
-
-void TextsTest::everyUsedIdHasAnEnglishText_data() {
-    QTest::addColumn<int>("folder");
-    for (int i = 0; i < int(std::size(CodeFolders)); ++i) QTest::newRow(CodeFolders[i].path) << i;
-}
-
-void TextsTest::everyUsedIdHasAnEnglishText() {
-    QFETCH(int, folder);
-    const QMap<QString, QString> used = keysUsedIn(CodeFolders[folder]);
-    for (const QString& key : used.keys()) QVERIFY2(m_Texts["en"].contains(key), qPrintable(used[key] + ": " + key));
-}
-
-void TextsTest::everyEnglishTextIsUsed() {
-    QSet<QString> unused = keysOf(m_Texts["en"]);
-    for (const CodeFolder& folder : CodeFolders)
-        for (const QString& key : keysUsedIn(folder).keys()) unused.remove(key);
-    QCOMPARE(joined(unused), QString());
-}
-
-void TextsTest::languageIsComplete() {
-    QFETCH(QString, language);
-    const QSet<QString> english = keysOf(m_Texts["en"]), own = keysOf(m_Texts[language]);
-    QCOMPARE(joined(english - own), QString());
-    QCOMPARE(joined(own - english), QString());
-    for (const QString& key : own) QVERIFY2(m_Texts[language][key].finished, qPrintable(key));
-}
-
-void TextsTest::placeholdersAreKept() {
-    QFETCH(QString, language);
-    static const QRegularExpression placeholder("%\\d");
-    const auto placeholders = [](const QString& text) {
-        QStringList found;
-        for (auto match = placeholder.globalMatch(text); match.hasNext();) found += match.next().captured();
-        found.sort();
-        return found;
-    };
-    for (const QString& key : m_Texts["en"].keys())
-        QVERIFY2(placeholders(text(language, key)) == placeholders(text("en", key)), qPrintable(key));
-}
-
-void TextsTest::defaultMarkCanBeStripped() {
-    QFETCH(QString, language);
-    const QString mark = text(language, Plugin + QString("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT"));
-    QVERIFY2(QRegularExpression("^\\([^()&\\s]([^()&]*[^()&\\s])?\\)$").match(mark).hasMatch(), qPrintable(mark));
-}
-
-void TextsTest::newProfileNameIsAllowed() {
-    QFETCH(QString, language);
-    const QString name = text(language, Plugin + QString("IDS_NETCONNECT_NEW_PROFILE"));
-    QVERIFY2(!name.contains(QRegularExpression("[\\\\/:*?\\[\\]()<>|]")), qPrintable(name));
-}
-
-void TextsTest::mnemonicsAreDistinct_data() {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("page");
-    for (const QString& language : Languages)
-        for (const QString& page : Pages.keys()) QTest::newRow(qPrintable(language + " " + page)) << language << page;
-}
-
-void TextsTest::mnemonicsAreDistinct() {
-    QFETCH(QString, language);
-    QFETCH(QString, page);
-    QMap<QChar, QString> taken;
-    for (const QString& id : Pages[page]) {
-        QVERIFY2(m_Texts[language].contains(Plugin + id), qPrintable(id));
-        const QChar mnemonic = mnemonicOf(text(language, Plugin + id));
-        if (mnemonic.isNull()) continue;
-        QVERIFY2(!taken.contains(mnemonic), qPrintable(taken[mnemonic] + " and " + id + " share " + mnemonic));
-        taken.insert(mnemonic, id);
-    }
-}
-
-void TextsTest::plainTextHasNoMnemonic() {
-    QFETCH(QString, language);
-    QSet<QString> marked;
-    for (const QStringList& page : Pages)
-        for (const QString& id : page) marked.insert(Plugin + id);
-    for (const QString& key : keysOf(m_Texts[language]) - marked)
-        QVERIFY2(!text(language, key).contains('&'), qPrintable(key));
-}
-
-void TextsTest::hintNamesTheButtonAsWritten() {
-    QFETCH(QString, language);
-    const QPair<QString, QString> mentions[] = {
-        {"NetConnectPlugin/IDS_NETCONNECT_TIP_PROFILE_READONLY", "IDS_SETTING_BUTTON_NEW"},
-        {"NetConnectPlugin/IDS_NETCONNECT_TIP_PROFILE_PRESET", "IDS_SETTING_BUTTON_NEW"},
-        {"NetConnectPlugin/IDS_NETCONNECT_TIP_NO_PROFILE", "IDS_SETTING_BUTTON_NEW"},
-        {"NetConnectPlugin/IDS_NETCONNECT_TIP_EDIT_OPEN", "IDS_SETTING_BUTTON_SAVE"},
-        {"NetConnectPlugin/IDS_NETCONNECT_TIP_EDIT_OPEN", "IDS_SETTING_BUTTON_NO_SAVE"},
-        {"NetConnectPlugin/IDS_NETCONNECT_TIP_SAVE_FAILED", "IDS_SETTING_BUTTON_SAVE"},
-        {"OrbisDial/IDS_HOST_LOCK_DEFAULT", "IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT"},
-    };
-    for (const auto& [hint, button] : mentions)
-        QVERIFY2(text(language, hint).contains(drawn(text(language, Plugin + button))), qPrintable(hint));
-}
-
-// The English comments say how much room there is: "up to 90 pixels", "cut off at 220 pixels", "up to 16 characters".
-void TextsTest::textFitsItsWidget() {
-    QFETCH(QString, language);
-    static const QRegularExpression limit("(?:up to|cut off at) (\\d+) (pixels|characters)");
-    const QFontMetrics metrics(QApplication::font());
-    int limits = 0;
-    for (const QString& key : m_Texts["en"].keys()) {
-        const auto match = limit.match(m_Texts["en"][key].comment);
-        if (!match.hasMatch()) continue;
-        ++limits;
-        const QString shown = drawn(text(language, key)).remove(QRegularExpression("%\\d"));
-        const int size = match.captured(2) == "pixels" ? metrics.horizontalAdvance(shown) : shown.size();
-        QVERIFY2(size <= match.captured(1).toInt(), qPrintable(QString("%1: %2 takes %3").arg(key, shown).arg(size)));
-    }
-    QVERIFY(limits > 0);
-}
-
-void TextsTest::releasedFileTranslates() {
-    QFETCH(QString, language);
-    QTranslator translator;
-    QVERIFY(translator.load("orbisdial_" + language, ORBISDIAL_BUILD_DIR "/lib/orbisdial/lang"));
-    for (const QString& key : m_Texts[language].keys()) {
-        const QByteArray context = key.section('/', 0, 0).toUtf8(), id = key.section('/', 1).toUtf8();
-        QCOMPARE(translator.translate(context, id), text(language, key));
-    }
-}
 
 QTEST_MAIN(TextsTest)
 #include "tst_texts.moc"

@@ -80,9 +80,9 @@ private slots:
     void initTestCase() {
         qputenv("TZ", "UTC");  // or each of the many traces asks for the system's time zone file
         m_pFixture.reset(new LogicFixture);
-        m_pFixture->shipConfig(LogicFixture::config(LogicFixture::functions({"IMSIAPN"}) + "<ProfileList>" +
-                                                    LogicFixture::item("Preset", "default") + "</ProfileList>"));
-        m_pFixture->shipLibrary(LogicFixture::profiles(LogicFixture::profile("name='Preset'")));
+        m_pFixture->shipConfig(LogicFixture::section("Function", {"IMSIAPN=true"}) +
+                               LogicFixture::section("ProfileList", {"Preset=default"}));
+        m_pFixture->shipLibrary(LogicFixture::profile("Preset"));
         testHandler = qInstallMessageHandler(countCalls);
         QCOMPARE(VRKS_DevSrv_RegisterDevInitEventCallback(countEvent), 0);
     }
