@@ -161,7 +161,9 @@ void change(benchmark::State& state, bool isStored, void (Edit::*edit)() const) 
         renamed = renames;
         folderFlushTimes.push_back(folderFlushTime);
     };
-    const auto reference = [&] { Reference::save(folder.path("data/reference.prof"), profiles); };
+    // In a folder of its own, so that neither side finds its folder changed by the other.
+    QDir().mkpath(folder.path("reference"));
+    const auto reference = [&] { Reference::save(folder.path("reference/UserProfile.prof"), profiles); };
     Measure::compare(state, {ours, prepare}, {reference, Measure::settle});
     state.counters["fsyncs"] = flushed;
     state.counters["renames"] = renamed;

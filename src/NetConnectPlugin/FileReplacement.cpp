@@ -79,34 +79,42 @@ bool flushFolder(const QString& folder) {
     return ::fsync(descriptor.get()) == 0 || errno == EINVAL || errno == EROFS;
 }
 
-// Whether it is time to look for leftovers beside this file: often enough to find what was too young the last time.
-bool isSearchDue(const QByteArray& name) {
-    static QHash<QByteArray, time_t> lastSearches;
-    const time_t now = ::time(0);
-    time_t& last = lastSearches[name];
-    if (last != 0 && now >= last && now - last <= LeftoverAge) return false;
-    last = now;
-    return true;
+QByteArray folderOf(const QByteArray& name) { return name.left(name.lastIndexOf('/') + 1); }
+
+// A file's name, and when its folder was last changed while no leftovers were beside the file. A search takes as long
+// as a good part of a small save, and there is nothing to find as long as nobody else changed the folder.
+QHash<QByteArray, qint64>& cleanFolders() {
+    static QHash<QByteArray, qint64> folders;
+    return folders;
 }
 
-// Removes what a writer that died left beside the file: it may hold passwords.
-void removeLeftovers(const QByteArray& name) {
-    if (!isSearchDue(name)) return;
-    const int slash = name.lastIndexOf('/') + 1;
-    const QByteArray folder = name.left(slash);
-    const QByteArray stem = name.mid(slash) + TemporaryMark;
+// Nanoseconds since 1970; 0 when there is no telling.
+qint64 changeTime(const QByteArray& folder) {
+    struct stat info;
+    if (::stat(folder.constData(), &info) != 0) return 0;
+    return qint64(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
+}
+
+// Removes what a writer that died left beside the file: it may hold passwords. False when some may be a living
+// writer's.
+bool removeLeftovers(const QByteArray& name) {
+    const QByteArray folder = folderOf(name);
+    if (cleanFolders().contains(name) && cleanFolders().value(name) == changeTime(folder)) return true;
+    const QByteArray stem = name.mid(folder.size()) + TemporaryMark;
     DIR* const entries = ::opendir(folder.constData());
-    if (!entries) return;
+    if (!entries) return false;
     const time_t limit = ::time(0) - LeftoverAge;
+    bool isClean = true;
     while (const dirent* entry = ::readdir(entries)) {
         const QByteArray candidate(entry->d_name);
         if (!candidate.startsWith(stem) || candidate.size() != stem.size() + UniqueLength) continue;
         struct stat info;
         const QByteArray path = folder + candidate;
-        if (::lstat(path.constData(), &info) == 0 && S_ISREG(info.st_mode) && info.st_mtime < limit)
-            ::unlink(path.constData());
+        const bool isOld = ::lstat(path.constData(), &info) == 0 && S_ISREG(info.st_mode) && info.st_mtime < limit;
+        if (!isOld || ::unlink(path.constData()) != 0) isClean = false;
     }
     ::closedir(entries);
+    return isClean;
 }
 
 // Gives the new file the mode and, when root writes another user's file, the owner that it should have.
@@ -147,7 +155,8 @@ bool replace(const QString& path, const QByteArray& content, Access access, QStr
     const QString file = target(path);
     const QFileInfo info(file);
     const QByteArray name = QFile::encodeName(info.absoluteFilePath());
-    removeLeftovers(name);
+    const bool isClean = removeLeftovers(name);
+    cleanFolders().remove(name);
 
     QByteArray temporary = name + TemporaryMark + TemporaryPattern;
     Descriptor descriptor(::mkostemp(temporary.data(), O_CLOEXEC));
@@ -161,6 +170,7 @@ bool replace(const QString& path, const QByteArray& content, Access access, QStr
     if (::rename(temporary.constData(), name.constData()) != 0) return failed("can't replace", reason);
     leftover.keep();
 
+    if (isClean) cleanFolders().insert(name, changeTime(folderOf(name)));
     if (!flushFolder(info.absolutePath())) failed("written, but the folder can't be flushed to disk", reason);
     return true;
 }

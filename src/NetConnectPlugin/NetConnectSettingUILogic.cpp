@@ -245,10 +245,14 @@ void NetConnectSettingUILogic::rememberUserFile(int status) {
     if (status == FileNotOpened) m_UserFileStamp.settled = false;
 }
 
+// Keeps other processes away from the user's file, and takes in what they wrote into it before.
 bool NetConnectSettingUILogic::lockUserFile(UserFileLock* lock) {
     const QString path = m_pXMLParse ? m_pXMLParse->userProfilePath() : QString();
-    if (path.isEmpty()) return false;
-    const QString lockPath = path + QLatin1String(".lock");
+    return !path.isEmpty() && lockFileBeside(path, lock) && takeInChanges(path);
+}
+
+bool NetConnectSettingUILogic::lockFileBeside(const QString& userFile, UserFileLock* lock) {
+    const QString lockPath = userFile + QLatin1String(".lock");
     QString reason;
     if (!lock->acquire(lockPath, &reason)) {
         m_pXMLParse->reportProblem(lockPath, reason);
@@ -261,8 +265,8 @@ bool NetConnectSettingUILogic::lockUserFile(UserFileLock* lock) {
 
 // Takes in what other processes wrote since the user's file was last read or written here. The default counts only
 // when they changed it: the one in memory may be newer. False when the file can't be read at all.
-bool NetConnectSettingUILogic::takeInChanges() {
-    const FileStamp stamp = FileStamp::of(m_pXMLParse->userProfilePath());
+bool NetConnectSettingUILogic::takeInChanges(const QString& userFile) {
+    const FileStamp stamp = FileStamp::of(userFile);
     if (m_UserFileStamp.settled && stamp == m_UserFileStamp) return true;
     QList<DialupProfile> profiles;
     QString defaultName = m_StoredDefault.name;

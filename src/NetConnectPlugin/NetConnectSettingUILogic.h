@@ -229,7 +229,8 @@ private:
     // the user's file
     static NetConnectSettingUILogic* instance();
     bool lockUserFile(UserFileLock* lock);
-    bool takeInChanges();
+    bool lockFileBeside(const QString& userFile, UserFileLock* lock);
+    bool takeInChanges(const QString& userFile);
     void rememberUserFile(int status);
     int writeUserProfiles(bool isUserSet);
     Snapshot snapshot() const;

@@ -96,7 +96,7 @@ NetConnectOperation::NetConnectOperation(NetConnectSettingUILogic* logic) : m_pL
     ++now.operations;
     logic->readAwaitedProfiles();
     if (!now.isBrowsing() && !now.lock.isHeld() && !now.lockFailed) {
-        now.lockFailed = !logic->lockUserFile(&now.lock) || !logic->takeInChanges();
+        now.lockFailed = !logic->lockUserFile(&now.lock);
     }
     if (now.actions > 0 && !now.hasSnapshot) {
         now.snapshot = logic->snapshot();
