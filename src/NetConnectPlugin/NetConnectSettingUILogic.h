@@ -260,7 +260,8 @@ private:
     void releaseImportHold();
     int refuseExportTo(const QString& path);
     bool addCandidates(const QStringList& names, const QSet<QString>& replaced);
-    bool exportProfile(QString name, QList<DialupProfile> target, QList<DialupProfile> source);
+    class ProfilesByName;
+    bool exportProfile(const QString& name, const ProfilesByName& target, const ProfilesByName& source);
 
     void publishStatus();
 

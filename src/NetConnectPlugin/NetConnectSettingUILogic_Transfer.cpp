@@ -33,6 +33,20 @@ private:
 
 }  // namespace
 
+// Where the profiles of a name stand in a list, which may hold several of one name.
+class NetConnectSettingUILogic::ProfilesByName {
+public:
+    explicit ProfilesByName(const QList<DialupProfile>& profiles) : m_Profiles(profiles) {
+        for (int i = 0; i < profiles.size(); ++i) m_Places[profiles.at(i).name].append(i);
+    }
+    QList<int> places(const QString& name) const { return m_Places.value(name); }
+    const DialupProfile& at(int place) const { return m_Profiles.at(place); }
+
+private:
+    QList<DialupProfile> m_Profiles;
+    QHash<QString, QList<int> > m_Places;
+};
+
 int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QString path) {
     m_ImportList.clear();
     if (!m_pXMLParse) return ObjectMissing;
@@ -124,18 +138,16 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
 
 // Adds the chosen candidates; a replaced profile goes only when one of its name comes. False when none came.
 bool NetConnectSettingUILogic::addCandidates(const QStringList& names, const QSet<QString>& replaced) {
-    QHash<QString, QList<DialupProfile> > byName;
-    for (int i = 0; i < m_ImportList.size(); ++i) byName[m_ImportList.at(i).name].append(m_ImportList.at(i));
-
+    const ProfilesByName candidates(m_ImportList);
     QSet<QString> leaving;
     QList<DialupProfile> coming;
     for (int i = 0; i < names.size(); ++i) {
-        QList<DialupProfile> found = byName.value(names.at(i));
+        const QList<int> found = candidates.places(names.at(i));
         if (!found.isEmpty() && replaced.contains(names.at(i))) leaving.insert(names.at(i));
         for (int j = 0; j < found.size(); ++j) {
-            found[j].name =
-                NetConnectProfileRules::cutToLength(found.at(j).name, NetConnectProfileRules::DefaultNameLength);
-            coming.append(found.at(j));
+            coming.append(candidates.at(found.at(j)));
+            coming.last().name =
+                NetConnectProfileRules::cutToLength(names.at(i), NetConnectProfileRules::DefaultNameLength);
         }
     }
     if (coming.isEmpty()) return false;
@@ -170,8 +182,11 @@ int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, con
     QList<DialupProfile> library;
     readForeignFile(&library, &ignoredDefault, QLatin1String("ProfileLib.prof"));
     for (int i = 0; i < library.size(); ++i) translateName(&library, i);
+    const ProfilesByName inTarget(target);
+    const ProfilesByName users(m_UserProfileList);
+    const ProfilesByName shipped(library);
     for (int i = 0; i < names.size(); ++i)
-        if (!exportProfile(names.at(i), target, m_UserProfileList)) exportProfile(names.at(i), target, library);
+        if (!exportProfile(names.at(i), inTarget, users)) exportProfile(names.at(i), inTarget, shipped);
 
     int status = Success;
     if (!m_ExportList.isEmpty()) status = m_pXMLParse->SaveProfileToXML(m_ExportList, m_strDefaultProfile, path, false);
@@ -189,16 +204,16 @@ int NetConnectSettingUILogic::refuseExportTo(const QString& path) {
     return FileNotOpened;
 }
 
-bool NetConnectSettingUILogic::exportProfile(QString name, QList<DialupProfile> target, QList<DialupProfile> source) {
-    bool isInTarget = false;
-    for (int i = 0; i < target.size() && !isInTarget; ++i) isInTarget = target.at(i).name == name;
-    bool found = false;
-    for (int i = 0; i < source.size(); ++i) {
-        if (source.at(i).name != name) continue;
-        found = true;
-        if (!isInTarget) m_ExportList.append(source.at(i));
-        for (int j = 0; isInTarget && j < m_ExportList.size(); ++j)
-            if (m_ExportList.at(j).name == name) m_ExportList[j] = source.at(i);
+// Puts every profile of a name into the exported list, in the place of those that the target has. False when there is
+// none.
+bool NetConnectSettingUILogic::exportProfile(const QString& name, const ProfilesByName& target,
+                                             const ProfilesByName& source) {
+    const QList<int> replaced = target.places(name);
+    const QList<int> found = source.places(name);
+    for (int i = 0; i < found.size(); ++i) {
+        const DialupProfile& profile = source.at(found.at(i));
+        if (replaced.isEmpty()) m_ExportList.append(profile);
+        for (int j = 0; j < replaced.size(); ++j) m_ExportList[replaced.at(j)] = profile;
     }
-    return found;
+    return !found.isEmpty();
 }
