@@ -32,6 +32,10 @@ std::optional<Usage> usageOf(const QString& word) {
     return word.contains("internet") ? Usage::Internet : Usage::Other;
 }
 
+// The access point of the IP multimedia subsystem (GSMA IR.88, "ims"), which carries calls and no data, whatever the
+// database says of it.
+bool isForCalls(const QString& apn) { return apn.endsWith("ims", Qt::CaseInsensitive); }
+
 bool isUsableApn(const QString& apn) {
     return !apn.isEmpty() && apn.size() <= NetConnectProfileRules::APNLength &&
            NetConnectProfileRules::isAPNAcceptable(apn);
@@ -101,6 +105,7 @@ private:
         const bool usable = isUsableApn(point.apn);
         const QString where = m_In.position();
         if (!readDetails(&point)) return;
+        if (isForCalls(point.apn)) point.usage = Usage::Other;
         if (usable)
             provider->accessPoints.append(point);
         else
