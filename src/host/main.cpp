@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "Change.h"
+#include "EndSignals.h"
 #include "Host.h"
 #include "Languages.h"
 #include "Options.h"
@@ -61,6 +62,7 @@ void useDesktopFontSize() {
 
 int run(const Options& options) {
     Host host;
+    const EndSignals endSignals;
     if (!usePage(host.window()->pages(), options.page)) return WrongUsage;
     host.window()->resize(host.window()->sizeHint());  // left to itself, Qt makes it narrower on a small screen
     host.window()->show();
