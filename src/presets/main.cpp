@@ -3,6 +3,7 @@
 // Exit status: 0 done, 1 failed with one line on stderr, 2 wrong usage.
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QTextStream>
 
 #include "OperatorDatabase.h"
@@ -23,6 +24,11 @@ struct Options {
 
 void say(const QString& line) { QTextStream(stderr) << "orbis-presets: " << line << '\n'; }
 
+// Found from where the program lies, so that it may be installed anywhere.
+QString installedTemplate(const QString& fileName) {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" ORBISDIAL_TEMPLATE_DIR "/" + fileName);
+}
+
 void describeOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(
         "Makes ProfileLib.prof and NetConnectConfig.xml: the presets of the operator database, merged with a "
@@ -32,9 +38,9 @@ void describeOptions(QCommandLineParser& parser) {
     parser.addOptions({
         {"database", "The operator database.", "FILE", ORBISDIAL_OPERATOR_DATABASE},
         {"template", "The configuration that takes the preset sections where it has <PresetSections/>.", "FILE",
-         ORBISDIAL_TEMPLATE_DIR "/NetConnectConfig.template.xml"},
+         installedTemplate("NetConnectConfig.template.xml")},
         {"library-template", "The profiles that come before the presets.", "FILE",
-         ORBISDIAL_TEMPLATE_DIR "/ProfileLib.template.prof"},
+         installedTemplate("ProfileLib.template.prof")},
         {"output-dir", "The folder for the two files, which must exist.", "DIR"},
     });
 }
