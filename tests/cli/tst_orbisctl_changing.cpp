@@ -41,36 +41,16 @@ private slots:
         const Rows<QStringList, int, QByteArray> row("arguments", "status", "words");
         row("no command", {}, 2, "--help");
         row("unknown command", {"frob"}, 2, "\"frob\"");
-        row("another command's option", {"list", "--secrets"}, 2, "secrets");
         row("too few arguments", {"show"}, 2, "show NAME");
-        row("too many arguments", {"list", "x"}, 2, "list");
-        row("unknown device", {"--device", "tin", "list"}, 2, "\"tin\"");
-        row("empty folder", {"--data-dir", "", "list"}, 2, "empty");
-        row("two defaults", {"default", "--clear", "Own"}, 2, "--clear");
         row("unknown profile", {"show", "own"}, 1, "\"own\"");
-        row("line break in a name", {"show", "a\nb"}, 1, "\"a");
-        row("unknown key", {"config", "FROB"}, 1, "\"FROB\"");
-        row("no assignment", {"set", "Own", "user"}, 2, "phonenumber");
         row("unknown field", {"set", "Own", "colour=red"}, 2,
             "name type device user password phonenumber autoapn apn chap pap ip dns dnsalt wins winsalt popusername "
             "Remember\n");
-        row("field twice", {"set", "Own", "user=a", "user=b"}, 2, "twice");
-        row("name as field", {"add", "New", "name=Other"}, 2, "argument");
-        row("read-only mark", {"set", "Own", "readonly=true"}, 2, "readonly");
-        row("blank name", {"add", "  ", "user=a"}, 1, "name");
         row("preset's name", {"add", "Beta"}, 1, "already");
         row("forbidden character", {"add", "a:b"}, 1, "\\/:*?[]()<>|");
-        row("control character in a name", {"add", "a\tb"}, 1, "control");
         row("long name", {"add", "123456789012345678901"}, 1, "20");
-        row("no number, wrong APN", {"add", "New", "phonenumber=", "apn=x."}, 1, "number");
-        row("long number", {"add", "New", "phonenumber=1234567890123456789012345"}, 1, "24");
-        row("wrong APN", {"add", "New", "apn=x."}, 1, "apn");
-        row("underscore in APN", {"add", "New", "apn=a_b"}, 1, "apn");
-        row("long user", {"add", "New", "user=" + QString(49, 'a')}, 1, "48");
-        row("flag", {"add", "New", "chap=yes"}, 1, "true or false");
-        row("short address", {"add", "New", "ip=10.1"}, 1, "IPv4");
+        row("wrong APN", {"add", "New", "apn=a_b"}, 1, "apn");
         row("multicast address", {"add", "New", "dns=224.0.0.1"}, 1, "IPv4");
-        row("address and line break", {"add", "New", "dns=9.9.9.9\n"}, 1, "control");
         row("password beyond Latin-1", {"add", "New", "password=\u20ac"}, 1, "Latin-1");
         row("change of a preset", {"set", "Alpha", "user=a"}, 1, "--like \"Alpha\"");
         row("change of a read-only one", {"set", "Fixed", "user=a"}, 1, "read-only");
@@ -78,9 +58,6 @@ private slots:
         row("deletion of a preset", {"delete", "Alpha"}, 1, "preset");
         row("unknown default", {"default", "Nope"}, 1, "\"Nope\"");
         row("import of no file", {"import", "/dev/null/nowhere/x"}, 1, "/dev/null/nowhere/x: does not exist");
-        row("import of nothing", {"import", ""}, 2, "empty");
-        row("import by a bare name", {"import", "ProfileLib.prof"}, 1, "does not exist");
-        row("export of unknown ones", {"export", "/dev/null/x", "Own", "Nope", "Never"}, 1, "\"Nope\", \"Never\"");
         row("export to no folder", {"export", "/dev/null/nowhere/x", "Own"}, 1, "/dev/null/nowhere/x");
     }
 
@@ -100,16 +77,10 @@ private slots:
 
     void acceptance_data() {
         const Rows<QStringList, QJsonObject> row("fields", "expected");
-        row("template", {}, {{"phonenumber", "*99#"}, {"autoapn", "true"}});
         row("an APN is used", {"apn=x"}, {{"apn", "x"}, {"autoapn", "false"}});
         row("an APN is kept", {"apn=x", "autoapn=true"}, {{"apn", "x"}, {"autoapn", "true"}});
-        row("no APN", {"apn="}, {{"apn", ""}, {"autoapn", "true"}});
-        row("value with signs", {"user=a=b= "}, {{"user", "a=b= "}});
-        row("longest", {"user=" + QString(48, 'u'), "apn=" + QString(100, 'a')},
-            {{"user", QString(48, 'u')}, {"apn", QString(100, 'a')}});
         row("copy of a preset", {"user=me", "--like=Alpha"},
             {{"apn", "alpha.example"}, {"user", "me"}, {"password", "alpha-secret"}});
-        row("copy of a read-only one", {"--like=Beta"}, {{"readonly", "false"}});
     }
 
     void acceptance() {
@@ -124,9 +95,7 @@ private slots:
     void passwordFromStandardInput_data() {
         const Rows<QByteArray, QString> row("input", "password");
         row("line", "se cret\nrest\n", "se cret");
-        row("no line end", "-", "-");
         row("line end of another system", "x\r\n", "x");
-        row("empty line", "\n", "");
         row("nothing", "", QString());
         row("not UTF-8", "\xff\n", QString());
     }
@@ -144,7 +113,7 @@ private slots:
         QCOMPARE(fixture.show("New")["password"].toString(), password);
     }
 
-    // Renamed, deleted, chosen, cleared; to choose what is proposed anyway is no choice.
+    // Renamed, deleted, chosen, cleared.
     void defaultFollows() {
         const OrbisctlFixture fixture;
         const auto isDefault = [&](const QString& name, bool isUserSet) {
@@ -160,8 +129,6 @@ private slots:
         isDefault("Beta", true);
         COMPARE_DONE(fixture.run({"default", "--clear"}));
         isDefault("Alpha", false);
-        COMPARE_DONE(fixture.run({"default", "Alpha"}));
-        QVERIFY(TestFolder::read(fixture.userFile()).contains("<Default name=\"\"/>"));
     }
 
     void importing_data() {
@@ -171,7 +138,6 @@ private slots:
         row("replace", {"--replace"}, 0, "imported New\nreplaced Own\n", "new");
         row("one, twice", {"New", "New"}, 0, "imported New\n", "old");
         row("none", {"Own"}, 1, skipped, "old");
-        row("unknown", {"New", "Nope"}, 1, "", "old");
     }
 
     // The file's default is nobody's here.
@@ -193,38 +159,16 @@ private slots:
     }
 
     void importWarnsOfUnreadablePasswords() {
-        const struct {
-            QByteArray attributes;
-            bool warns;
-        } rows[] = {{"password='n0t b64' encrypttype='1'", true},
-                    {"password='password'", true},  // decodes, but to no text
-                    {"password='c2VjcmV0' encrypttype='0'", false},
-                    {"password='n0t b64' encrypttype='2'", false},
-                    {"encrypttype='1'", false}};
-        for (const auto& row : rows) {
-            const OrbisctlFixture fixture;
-            TestFolder::write(fixture.path("in.prof"), document("<Profile name='New' " + row.attributes + "/>"));
-            const Outcome outcome = fixture.run({"import", fixture.path("in.prof")});
-            QCOMPARE(outcome.status, 0);
-            QVERIFY2(outcome.err.contains("\"New\"") == row.warns, row.attributes);
-        }
-    }
-
-    void damagedFileIsKept() {
-        for (const bool isExport : {false, true}) {
-            const OrbisctlFixture fixture;
-            const QString file = isExport ? fixture.path("data/x.prof") : fixture.userFile();
-            const QByteArray damaged = "<vrksdoc><Profile name='Kept'/><Prof";
-            TestFolder::write(file, damaged);
-            const Outcome outcome =
-                fixture.run(isExport ? QStringList{"export", file, "Alpha"} : QStringList{"add", "New"});
-            QCOMPARE(outcome.status, 0);
-            QVERIFY2(isOneDiagnostic(outcome.err) && outcome.err.contains("damaged"), outcome.err);
-            const QStringList copies = QDir(fixture.path("data")).entryList({"*.damaged-*"}, QDir::Files);
-            QCOMPARE(copies.size(), 1);
-            QCOMPARE(TestFolder::read(fixture.path("data/") + copies.first()), damaged);
-            QVERIFY(TestFolder::read(file).contains("Kept"));
-        }
+        const OrbisctlFixture fixture;
+        TestFolder::write(fixture.path("in.prof"),
+                          document("<Profile name='Coded' password='n0t b64' encrypttype='1'/>"
+                                   "<Profile name='Text' password='password'/>"
+                                   "<Profile name='Good' password='c2VjcmV0'/>"
+                                   "<Profile name='Plain' password='n0t b64' encrypttype='2'/>"));
+        const Outcome outcome = fixture.run({"import", fixture.path("in.prof")});
+        QCOMPARE(outcome.status, 0);
+        for (const QByteArray name : {"Coded", "Text", "Good", "Plain"})
+            QVERIFY2(outcome.err.contains('"' + name + '"') == (name == "Coded" || name == "Text"), outcome.err);
     }
 
     void tamperedPasswordIsNotLost() {

@@ -161,23 +161,16 @@ private slots:
 
     void environment_data() {
         const Rows<Answers, Answers> row("variables", "changed");  // against the defaults
-        const QString longest(256, 'u'), cut(62, 'n');
+        const QString cut(62, 'n');
         const Answers all = {{"IMSI", "262011234567890"}, {"STATUS", "-1"},      {"CUSTOMIZE_NAME", "Größe"},
                              {"PRODUCT_TYPE", "1"},       {"MULTI_MODE", "255"}, {"CARD_MODE", "2"},
                              {"SYS_MODE", "2"},           {"SYS_SUBMODE", "31"}, {"DS_USER", "u"},
                              {"DS_PASSWORD", "p"}};
-        row("nothing set", {}, {});
         row("everything set", all, all);
         row("no card", {{"IMSI", ""}}, {{"IMSI", Fails}});
-        row("IMSI too long", {{"IMSI", "3102601234567890"}}, {{"IMSI", Fails}});
         row("no number", {{"STATUS", "3x"}, {"PRODUCT_TYPE", ""}}, {{"STATUS", Fails}, {"PRODUCT_TYPE", Fails}});
         row("not a byte", {{"MULTI_MODE", "256"}}, {{"MULTI_MODE", Fails}, {"CARD_MODE", Fails}});
-        row("beyond 32 bits", {{"SYS_MODE", "4294967298"}}, {{"SYS_MODE", Fails}, {"SYS_SUBMODE", Fails}});
-        row("name fills its place", {{"CUSTOMIZE_NAME", cut + "n"}}, {{"CUSTOMIZE_NAME", cut + "n"}});
         row("name cut before a character", {{"CUSTOMIZE_NAME", cut + "é"}}, {{"CUSTOMIZE_NAME", cut}});
-        row("user alone", {{"DS_USER", "u"}}, {{"DS_USER", "u"}, {"DS_PASSWORD", ""}});
-        row("profile fills its place", {{"DS_USER", longest}, {"DS_PASSWORD", longest + "x"}},
-            {{"DS_USER", longest}, {"DS_PASSWORD", longest}});
     }
 
     void environment() {
@@ -195,9 +188,6 @@ private slots:
     void withoutModem_data() {
         const Rows<QByteArray, QByteArray> row("device", "backend");
         row("not asked for", {}, "none");
-        row("empty", "", "none");
-        row("none", "none", "none");
-        row("auto", "auto", "none");
         row("not there yet", "modemmanager", "failed");
         row("unknown", "Simulated", "failed");
     }
@@ -216,18 +206,6 @@ private slots:
         QCOMPARE(runProbe("simulated", {"within"}).status, 7);
     }
 
-    void nullOutputsFail() {
-        unsigned char isMultiMode = 0;
-        unsigned int cardMode = 0;
-        for (long status : {VRKS_DevSrv_GetDevStatus(nullptr), VRKS_DevSrv_GetCustomizeName(nullptr),
-                            VRKS_DevSrv_GetProductType(nullptr), VRKS_DevSrv_GetImsiInfo(nullptr),
-                            VRKS_DevSrv_GetMultiModeCardStatus(nullptr, nullptr, nullptr, &cardMode),
-                            VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, nullptr, nullptr, nullptr),
-                            VRKS_NetSrv_GetSysInfoEx(nullptr), VRKS_NetConnectSrv_DSGetProfile(nullptr),
-                            VRKS_GetUserDataDirectory(nullptr)})
-            QVERIFY(status != 0);
-    }
-
     void changesWhileRunning() {
         char imsi[VRKS_IMSI_SIZE] = "kept";
         QCOMPARE(vrks_simulated_set("IMSI", nullptr), 0L);
@@ -237,10 +215,8 @@ private slots:
         for (const char* name : {"CARD_MODE", "NO_SUCH", static_cast<const char*>(nullptr)})
             QVERIFY(vrks_simulated_set(name, "-1") != 0);
         QVERIFY(vrks_simulated_set("STATUS", "3x") != 0);
-        QCOMPARE(vrks_simulated_set("PRODUCT_TYPE", nullptr), 0L);
         Answers expected = Defaults;
         expected["IMSI"] = "20201";
-        expected["PRODUCT_TYPE"] = Fails;
         QCOMPARE(askEverything(), expected);
     }
 
@@ -330,19 +306,12 @@ private slots:
     void dataDirectory_data() {
         // Null: not set, or the call fails; '@' stands for the test's folder.
         const Rows<QByteArray, QByteArray, QByteArray, QString> row("dataDir", "dataHome", "home", "expected");
-        row("own variable", "@/a/b", "@/x", "@/h", "@/a/b/");
-        row("ends with a slash", "@/a/", {}, {}, "@/a/");
-        row("blanks, beyond ASCII", "@/my data/\u00e9\u4e2d\U0001f4f6", {}, {}, "@/my data/\u00e9\u4e2d\U0001f4f6/");
-        row("relative", "rel", {}, {}, "@/rel/");
+        row("own variable", "@/my data/\u00e9\u4e2d\U0001f4f6", "@/x", "@/h", "@/my data/\u00e9\u4e2d\U0001f4f6/");
         row("XDG data home", "", "@/x", "@/h", "@/x/orbisdial/");
         row("home", {}, "", "@/h", "@/h/.local/share/orbisdial/");
         row("no home", {}, {}, {}, {});
         row("file in the way", "@/file", {}, {}, {});
-        row("file on the way", "@/file/sub", {}, {}, {});
-        row("dangling link", "@/dangling", {}, {}, {});
-        row("name too long", "@/" + QByteArray(256, 'n'), {}, {}, {});
-        for (const char* bad : {"@/\xff", "@/\xc3", "@/\xed\xa0\x80", "@/\xed\xa0\x80\xed\xb0\x80", "@/\xc0\xaf"})
-            row("not UTF-8: " + QByteArray(bad).toHex(), bad, {}, {}, {});
+        row("not UTF-8", "@/\xc0\xaf", {}, {}, {});
     }
 
     void dataDirectory() {
@@ -350,18 +319,14 @@ private slots:
         QTemporaryDir root;
         const QString base = QFileInfo(root.path()).canonicalFilePath();
         QVERIFY(QFile(root.filePath("file")).open(QIODevice::WriteOnly));
-        QVERIFY(QFile::link(root.filePath("nowhere"), root.filePath("dangling")));
         const QStringList before = namesIn(base);
         setVariable("ORBISDIAL_DATA_DIR", "dataDir", base);
         setVariable("XDG_DATA_HOME", "dataHome", base);
         setVariable("HOME", "home", base);
-        const QString oldFolder = QDir::currentPath();
-        QDir::setCurrent(base);
         QVERIFY(QFile::setPermissions(base, QFile::Permissions(0x7755)));
         const mode_t oldMask = ::umask(0777);
         const std::optional<QString> folder = ::dataDirectory();
         ::umask(oldMask);
-        QDir::setCurrent(oldFolder);
         QCOMPARE(QFile::permissions(base), QFile::Permissions(0x7755));
         if (expected.isNull()) {
             QVERIFY(!folder);
@@ -377,7 +342,7 @@ private slots:
 private:
     // Sets an environment variable as the row's column says.
     static void setVariable(const char* name, const char* column, const QString& base) {
-        QByteArray value = *static_cast<QByteArray*>(QTest::qData(column, qMetaTypeId<QByteArray>()));
+        QByteArray value = cell<QByteArray>(column);
         value.isNull() ? qunsetenv(name) : qputenv(name, value.replace('@', QFile::encodeName(base)));
     }
 };

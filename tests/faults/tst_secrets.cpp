@@ -31,6 +31,8 @@ private slots:
 
 private:
     static void useAll(const OrbisctlFixture& fixture) {
+        qputenv("ORBISDIAL_SIM_DS_USER", "user");
+        qputenv("ORBISDIAL_SIM_DS_PASSWORD", Mark);
         const QString exported = fixture.path("export.prof");
         const QByteArray saves = "SaveProfileToXML", full = "write=" + QByteArray::number(ENOSPC);
         const struct {
@@ -49,6 +51,9 @@ private:
             {{"default", "B"}, 0, saves, {}},
             {{"add", "C", "password=-"}, 0, saves, {}},
             {{"delete", "C"}, 0, saves, {}},
+            {{"add", "X", Mark}, 2, {}, {}},
+            {{"add", "X", QString("apn=") + Mark + '='}, 1, "apn", {}},
+            {{"device"}, 0, {}, {}},
             {{"set", "B", "user=u", "password=-"}, 1, "No space left", full},
             {{"export", exported, "B"}, 1, "No space left", full},
             {{"add", "D", "password=-"}, 0, "was damaged", {}},

@@ -9,10 +9,8 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QTimer>
 #include <QtTest>
-#include <atomic>
 #include <memory>
 
 #include "Change.h"
@@ -30,13 +28,6 @@ namespace {
 
 constexpr int FakeRow = 0;
 constexpr int HostRow = 1;
-
-std::atomic<int> lastEvent{0};
-
-int noteEvent(int event, void*) {
-    lastEvent = event;
-    return 1;
-}
 
 // Presses the first button of the message on screen and answers its text.
 QString clickMessage() {
@@ -85,19 +76,16 @@ private slots:
 
     void notifies() {
         NotifyService service;
-        Listener host, target, other, gone, remover;
+        Listener host, target, gone, remover;
         remover.service = &service;
         remover.other = &gone;
         service.AddListener(ORBISDIAL_HOST_LISTENER_CLSID, &host);
         for (Listener* listener : {&remover, &gone, &target}) service.AddListener("target", listener);
-        service.AddListener("other", &other);
-
         QCOMPARE(service.SendNotify("target", 512, 1, 2), 0);
         QCOMPARE(service.SendNotify("nobody", 514, 0, 0), -1);
         QCOMPARE(service.SendNotify(ORBISDIAL_HOST_LISTENER_CLSID, 515, 0, 0), 0);
         QCOMPARE(target.events, (QVector<QVector<unsigned int>>{{512, 1, 2}}));
-        QCOMPARE(host.events.size(), 3);
-        QVERIFY(gone.events.isEmpty() && other.events.isEmpty());
+        QVERIFY(host.events.size() == 3 && gone.events.isEmpty());
     }
 
     void startsAndStops() {
@@ -119,24 +107,18 @@ private slots:
         TestFolder::write(plugin("Broken/readme.txt"), "no library by its name");
         QVERIFY(QDir().mkpath(plugin("SameAgain")));
         QVERIFY(QFile::copy(DIALUP_PLUGIN, plugin("SameAgain/libSameAgain.so")));
+        Fake::reset();
+        Fake::set("fake.initFails", true);
         start();
         const QStringList lines = child<QLabel>("Host_Problems")->text().split('\n');
         const QStringList expected = {"libBroken.so can't be used: it can't be loaded",
                                       "libqminimal.so can't be used: it is not a plug-in",
-                                      "libSameAgain.so can't be used: another plug-in"};
+                                      "libSameAgain.so can't be used: another plug-in",
+                                      "libFakeSettingsPlugin.so can't be used: it could not start"};
         QCOMPARE(lines.size(), expected.size());
         for (int i = 0; i < lines.size(); ++i) QVERIFY2(lines[i].startsWith(expected[i]), qPrintable(lines[i]));
         QVERIFY(child<QLabel>("Host_Problems")->isVisible());
-        QCOMPARE(pageList()->count(), 2);
-    }
-
-    void goesOnWithoutAPluginThatFails() {
-        m_Host.reset();
-        Fake::reset();
-        Fake::set("fake.initFails", true);
-        start();
         QCOMPARE(Fake::calls(), (QStringList{"Init", "UnSDKRegisterEvent", "OnDestroy"}));
-        QVERIFY(child<QLabel>("Host_Problems")->text().contains("could not start"));
         QCOMPARE(pageList()->count(), 1);
         click("Host_ConnectButton");
         QVERIFY(child<QLabel>("Host_ConnectionState")->text().contains("not loaded"));
@@ -162,22 +144,14 @@ private slots:
     }
 
     void answersOkAndCancel() {
-        const struct {
-            const char* button;
-            bool refuses;
-            QStringList calls;
-        } rows[] = {{"Host_OkButton", false, {"OK", "Show"}},
-                    {"Host_OkButton", true, {"OK"}},
-                    {"Host_CancelButton", true, {"Cancel", "Show"}}};
         QTest::keyClicks(child<QLineEdit>("Fake_Edit"), "typed");
-        for (const auto& row : rows) {
-            Fake::set("fake.calls", QStringList());
-            Fake::set("fake.refuse", row.refuses);
-            click(row.button);
-            QCOMPARE(Fake::calls(), row.calls);
-            QVERIFY(m_Host->window()->isVisible());
-            QCOMPARE(child<QLineEdit>("Fake_Edit")->text(), QString("typed"));
-        }
+        click("Host_OkButton");
+        Fake::set("fake.refuse", true);
+        click("Host_OkButton");
+        click("Host_CancelButton");
+        QCOMPARE(Fake::calls().mid(4), (QStringList{"OK", "Show", "OK", "Cancel", "Show"}));
+        QVERIFY(m_Host->window()->isVisible());
+        QCOMPARE(child<QLineEdit>("Fake_Edit")->text(), QString("typed"));
     }
 
     void staysOpenWhileAPageAsks() {
@@ -194,43 +168,26 @@ private slots:
         QCOMPARE(pageList()->currentRow(), FakeRow);
     }
 
-    void pageFollowsTheWindow() {
-        const int before = child<QLineEdit>("Fake_Edit")->width();
-        m_Host->window()->resize(m_Host->window()->size() + QSize(120, 0));
-        QTRY_COMPARE(child<QLineEdit>("Fake_Edit")->width(), before + 120);
-    }
-
     void changesLanguage() {
         chooseLanguage("de");
         click("Host_CancelButton");
         QCOMPARE(child<QComboBox>("Host_LanguageBox")->currentData().toString(), QString("en"));
-        clickRow(FakeRow);
-        QCOMPARE(Change::GetLangName(), QString("en"));
 
         chooseLanguage("ar");
+        auto* keepDefault = child<QCheckBox>("Host_KeepDefaultBox");
+        keepDefault->click();
         QVERIFY(!Fake::calls().contains("Notify 320"));
         click("Host_OkButton");
+        QCOMPARE(CommonUtils::GetSettings("ConnectionSetting", "load"), QString("true"));
+        QVERIFY(keepDefault->isChecked());
         QCOMPARE(Fake::calls().count("Notify 320"), 1);
         QCOMPARE(Change::GetLangName(), QString("ar"));
         QCOMPARE(pageList()->item(HostRow)->text(), hostText("IDS_HOST_SETTINGS_NAME"));
-        QCOMPARE(pageList()->currentRow(), HostRow);
-        QCOMPARE(child<QCheckBox>("ModemPanel_Ready")->text(), hostText("IDS_HOST_MODEM_READY"));
 
         // At the next start: English when the stored one is no longer shipped.
         QVERIFY(Languages::store("xx"));
         Languages::useStored();
         QCOMPARE(Change::GetLangName(), QString("en"));
-    }
-
-    void keepsTheSwitch() {
-        clickRow(HostRow);
-        for (const QString& value : QStringList{"true", "false"}) {
-            QTest::mouseClick(child<QCheckBox>("Host_KeepDefaultBox"), Qt::LeftButton, Qt::NoModifier, QPoint(8, 12));
-            clickRow(FakeRow);
-            QCOMPARE(CommonUtils::GetSettings("ConnectionSetting", "load"), value);
-            clickRow(HostRow);
-            QCOMPARE(child<QCheckBox>("Host_KeepDefaultBox")->isChecked(), value == "true");
-        }
     }
 
     void saysWhenSettingsAreNotStored() {
@@ -246,19 +203,15 @@ private slots:
     }
 
     void showsWhatTheCardSelected() {
-        const QVariant known("26201"), unknown, none("");
+        const QVariant known("26201"), none("");
         const struct {
             const char* imsi;
             QVariant prefix, preset;
             const char* line;
-        } rows[] = {
-            {"262011234567890", known, "100%3 <b>&",
-             "SIM card 262011234567890: preset \"100%3 <b>&\", selected by its prefix 26201"},
-            {"262011234567890", known, none,
-             "SIM card 262011234567890: prefix 26201 is known, but none of its presets is the proposed default"},
-            {"262011234567890", none, none, "SIM card 262011234567890: no preset matches it"},
-            {"262011234567890", unknown, unknown, "SIM card 262011234567890"},
-            {"", known, "A", "No SIM card found"}};
+        } rows[] = {{"262011234567890", known, "100%3 <b>&",
+                     "SIM card 262011234567890: preset \"100%3 <b>&\", selected by its prefix 26201"},
+                    {"262011234567890", none, none, "SIM card 262011234567890: no preset matches it"},
+                    {"", known, "A", "No SIM card found"}};
         auto* edit = child<QLineEdit>("ModemPanel_Imsi");
         for (const auto& row : rows) {
             profiles()->setProperty(ORBISDIAL_MATCHED_IMSI_PREFIX, row.prefix);
@@ -283,53 +236,14 @@ private slots:
 
     void connects() {
         auto* label = child<QLabel>("Host_ConnectionState");
-        auto* connect = child<QPushButton>("Host_ConnectButton");
         QTest::keyClick(child<QComboBox>("ModemPanel_Outcome"), Qt::Key_Down);
         click("Host_ConnectButton");
         QTRY_COMPARE(label->text(), QString("Not connected: The network does not answer (no carrier)."));
-        QCOMPARE(connect->text(), QString("Connect"));
-
         QTest::keyClick(child<QComboBox>("ModemPanel_Outcome"), Qt::Key_Up);
         click("Host_ConnectButton");
         QTRY_COMPARE(label->text(), QString("Connected with Home"));
-        QCOMPARE(connect->text(), QString("Disconnect"));
+        QCOMPARE(child<QPushButton>("Host_ConnectButton")->text(), QString("Disconnect"));
         QVERIFY(Fake::calls().contains("Notify 528"));
-        click("Host_ConnectButton");
-        QVERIFY(!connect->isEnabled());
-        QTRY_COMPARE(label->text(), QString("Not connected"));
-        QVERIFY(connect->isEnabled());
-    }
-
-    void drivesTheModem() {
-        Fake::set("fake.calls", QStringList());
-        child<QSpinBox>("ModemPanel_SystemMode")->setFocus();
-        const QPair<const char*, Qt::Key> keys[] = {{"SystemMode", Qt::Key_Up},        {"SystemMode", Qt::Key_Up},
-                                                    {"SystemSubMode", Qt::Key_PageUp}, {"CardMode", Qt::Key_End},
-                                                    {"ProductType", Qt::Key_End},      {"MultiMode", Qt::Key_Space},
-                                                    {"Ready", Qt::Key_Space}};
-        for (const auto& [name, key] : keys) QTest::keyClick(child<QWidget>(QByteArray("ModemPanel_") + name), key);
-        QCOMPARE(Fake::calls(), (QStringList{"Notify 4101", "Notify 4101", "Notify 4101"}));
-
-        qint32 systemInfo[VRKS_SYSINFO_SIZE / 4] = {};
-        unsigned char isMultiMode = 0;
-        unsigned int cardMode = 0;
-        int type = 0, status = VRKS_DEV_STATUS_READY;
-        QCOMPARE(VRKS_NetSrv_GetSysInfoEx(systemInfo), 0L);
-        QCOMPARE(VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, nullptr, nullptr, &cardMode), 0L);
-        QCOMPARE(VRKS_DevSrv_GetProductType(&type), 0L);
-        QCOMPARE(VRKS_DevSrv_GetDevStatus(&status), 0L);
-        QCOMPARE((QList<int>{systemInfo[1], systemInfo[5], isMultiMode, int(cardMode), type}),
-                 (QList<int>{2, 10, 1, 2, VRKS_PRODUCT_TYPE_CDMA}));
-        QVERIFY(status != VRKS_DEV_STATUS_READY);
-    }
-
-    void raisesModemEvents() {
-        QCOMPARE(VRKS_DevSrv_RegisterDevInitEventCallback(noteEvent), 0L);
-        click("ModemPanel_Initialise");
-        QTRY_COMPARE(lastEvent.load(), VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
-        click("ModemPanel_ChangeCard");
-        QTRY_COMPARE(lastEvent.load(), VRKS_EVENT_DEV_CARD_CHANGED);
-        VRKS_DevSrv_UnRegisterDevInitEventCallback(noteEvent);
     }
 
 private:

@@ -23,13 +23,10 @@ private slots:
         const QString nowhere = m_Folder.path("no such folder/picture.png");
         row("picture", picture, 0, "libBroken.so: it can't be loaded");
         row("picture of a page", picture + QStringList{"--page", "Fake page", "--lang", "ar"}, 0, "");
-        row("picture of a plug-in", picture + QStringList{"--page", "Host", "--device", "none"}, 0, "");
         row("unknown modem", picture + QStringList{"--device", "wrong"}, 0, "ORBISDIAL_DEVICE");
         row("picture not written", {"--screenshot", nowhere}, 1, nowhere);
         row("language", {"--lang", "xx"}, 2, "en, ar, de, es, fr, ru, zh_CN");
         row("page", {"--page", "None"}, 2, "FakeSettingsPlugin, Host");
-        row("option", {"--wrong"}, 2, "wrong");
-        row("argument", {"stray"}, 2, "stray");
     }
 
     void runs() {

@@ -32,22 +32,9 @@ private slots:
         QCOMPARE(m_Prompt.promptPwd + m_Prompt.disableNamePwd + m_Prompt.userCheck, QString("trueyes"));
     }
 
-    void aSectionCarriesOverToTheNextCall() {
-        ship("NetConnectConfig.xml",
-             "<x><group name='common'><module name='common'><Function/></module>"
-             "<module name='CDMA'><item name='late' value='1'/></module></group></x>");
-        QCOMPARE(readPair("common", "CDMA"), 0);
-        QVERIFY(m_Functions.isEmpty());
-        readPair("common", "common");
-        QCOMPARE(readPair("common", "CDMA"), 0);
-        QCOMPARE(m_Functions.keys(), QStringList({"late"}));
-    }
-
     void modeDefault_data() {
         const Rows<QString, QString, QString, QString> row("multiMode", "mode", "office", "defaults");
         row("CDMA", "1", "2", "", "Office");
-        row("WCDMA, any other value", "1", "1", "", "Home");
-        row("no mode", "1", "0", "", "Start");
         row("single mode", "0", "2", "", "Start");
         row("own value stays", "1", "2", "own", "");
     }

@@ -1,19 +1,46 @@
-// Answers modal windows the way a person does: by clicking their real buttons.
+// Clicks widgets and answers modal windows the way a person does: by their real buttons.
 #ifndef ORBISDIAL_ANSWERS_H
 #define ORBISDIAL_ANSWERS_H
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QtTest>
 #include <functional>
 
 #include "CommonUtils.h"
+
+// Clicks near the edge at which the indicator of a radio button is: the middle may lie beside its text.
+inline void clickButton(QAbstractButton* button, const char* name) {
+    QVERIFY2(button && button->isVisible() && button->isEnabled(), name);
+    const int x = button->isRightToLeft() ? button->width() - 8 : 8;
+    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(x, button->height() / 2));
+}
+
+// Clicks an item's check box, which stands at either end of the row; a click on the name does not tick it.
+inline void tickItem(QTreeWidgetItem* item) {
+    QVERIFY(item);
+    QTreeWidget* tree = item->treeWidget();
+    tree->scrollToItem(item);
+    const QRect row = tree->visualItemRect(item);
+    const Qt::CheckState before = item->checkState(0);
+    for (int x = row.left() + 2; item->checkState(0) == before && x < row.right(); x += 4)
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(x, row.center().y()));
+    QVERIFY(item->checkState(0) != before);
+}
+
+inline QStringList textsOf(const QComboBox* box) {
+    QStringList texts;
+    for (int i = 0; i < box->count(); ++i) texts.append(box->itemText(i));
+    return texts;
+}
 
 // Each expected window takes the next answer. A window that nobody expected is closed and fails the test.
 class Answers : public QObject {

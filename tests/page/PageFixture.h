@@ -2,10 +2,8 @@
 #ifndef ORBISDIAL_PAGEFIXTURE_H
 #define ORBISDIAL_PAGEFIXTURE_H
 
-#include <QComboBox>
 #include <QPluginLoader>
 #include <QProcess>
-#include <QPushButton>
 #include <QXmlStreamReader>
 #include <memory>
 
@@ -73,7 +71,7 @@ public:
     }
     // Another process on the same files: "add NAME" or "delete NAME".
     static void otherProcess(const QString& command, const QString& name) {
-        QCOMPARE(QProcess::execute(PAGE_WRITER, {command, name}), 0);
+        QCOMPARE(QProcess::execute(ORBISCTL, {command, name}), 0);
     }
 
     // --- the plug-in ---
@@ -145,27 +143,11 @@ public:
     }
     QComboBox* combo() const { return find<QComboBox>("ProfileCombobox"); }
     QLineEdit* edit(const char* role) const { return find<QLineEdit>(role); }
-    void click(const char* role) const {
-        auto* button = find<QAbstractButton>(role);
-        QVERIFY2(button && button->isVisible() && button->isEnabled(), role);
-        // Near the edge at which the indicator of a radio button is: the middle may lie beside its text.
-        const int x = button->isRightToLeft() ? button->width() - 8 : 8;
-        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(x, button->height() / 2));
-    }
+    void click(const char* role) const { clickButton(find<QAbstractButton>(role), role); }
     // Where the keyboard is once the window is active.
     bool focused(const char* role) const { return window->focusWidget() == find(role) && find(role)->isVisible(); }
     bool enabled(const char* role) const { return find(role)->isEnabled(); }
-    QStringList enabledOf(const QStringList& roles) const {
-        QStringList result;
-        for (const QString& role : roles)
-            if (enabled(qPrintable(role))) result.append(role);
-        return result;
-    }
-    QStringList listed() const {
-        QStringList texts;
-        for (int i = 0; i < combo()->count(); ++i) texts.append(combo()->itemText(i));
-        return texts;
-    }
+    QStringList listed() const { return textsOf(combo()); }
     void select(const QString& text) const {
         QVERIFY2(combo()->findText(text) >= 0, qPrintable(listed().join('|')));
         combo()->setCurrentIndex(combo()->findText(text));
@@ -183,8 +165,10 @@ public:
             state.append(edit(role)->text() + (edit(role)->isVisible() ? "" : " hidden"));
         for (const char* role : {"BtnStatic", "CheckBoxAskUserName"})
             state.append(find<QAbstractButton>(role)->isChecked() ? "on" : "off");
-        return state + enabledOf({"pBtnnewProfile", "BtnDeleteProfile", "BtnEditProfile", "BtnsaveProfile",
-                                  "BtnUndoProfile", "BtnSetDefaultProfile"});
+        for (const char* role : {"pBtnnewProfile", "BtnDeleteProfile", "BtnEditProfile", "BtnsaveProfile",
+                                 "BtnUndoProfile", "BtnSetDefaultProfile"})
+            if (enabled(role)) state.append(role);
+        return state;
     }
 
 private:

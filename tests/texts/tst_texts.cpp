@@ -1,11 +1,8 @@
 // Holds the texts of all languages against the code that shows them and against each other.
-#include <QApplication>
 #include <QDirIterator>
-#include <QFontMetrics>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTranslator>
 #include <QXmlStreamReader>
 
 #include "Rows.h"
@@ -16,7 +13,6 @@ const QStringList Languages = {"ar", "de", "en", "es", "fr", "ru", "zh_CN"};
 
 struct Text {
     QString translation;
-    QString comment;  // what the text is for; only English says
     bool finished = false;
 };
 
@@ -36,8 +32,6 @@ Texts readTexts(const QString& language) {
         } else if (xml.name() == "source") {
             key = context + '/' + xml.readElementText();
             if (texts.contains(key)) xml.raiseError(key + " is there twice");
-        } else if (xml.name() == "extracomment") {
-            texts[key].comment = xml.readElementText();
         } else if (xml.name() == "translation") {
             texts[key].finished = !xml.attributes().hasAttribute("type");
             texts[key].translation = xml.readElementText();
@@ -57,9 +51,6 @@ QChar mnemonicOf(const QString& text) {
     const QString character = mark.match(text).captured(1);
     return character.isEmpty() ? QChar() : character.at(0).toLower();
 }
-
-// The text as a widget draws it.
-QString drawn(QString text) { return text.remove(QRegularExpression("\\(&.\\)")).remove('&'); }
 
 const char Plugin[] = "NetConnectPlugin/";
 
@@ -181,62 +172,6 @@ private slots:
                 QVERIFY2(!taken.contains(mnemonic), qPrintable(taken[mnemonic] + " and " + id + " share " + mnemonic));
                 taken.insert(mnemonic, id);
             }
-        }
-    }
-
-    void plainTextHasNoMnemonic_data() { addLanguageRows(); }
-    void plainTextHasNoMnemonic() {
-        QFETCH(QString, language);
-        QSet<QString> marked;
-        for (const QStringList& page : Pages)
-            for (const QString& id : page) marked.insert(Plugin + id);
-        for (const QString& key : keysOf(m_Texts[language]) - marked)
-            QVERIFY2(!text(language, key).contains('&'), qPrintable(key));
-    }
-
-    void hintNamesTheButtonAsWritten_data() { addLanguageRows(); }
-    void hintNamesTheButtonAsWritten() {
-        QFETCH(QString, language);
-        const QPair<QString, QString> mentions[] = {
-            {"NetConnectPlugin/IDS_NETCONNECT_TIP_PROFILE_READONLY", "IDS_SETTING_BUTTON_NEW"},
-            {"NetConnectPlugin/IDS_NETCONNECT_TIP_PROFILE_PRESET", "IDS_SETTING_BUTTON_NEW"},
-            {"NetConnectPlugin/IDS_NETCONNECT_TIP_NO_PROFILE", "IDS_SETTING_BUTTON_NEW"},
-            {"NetConnectPlugin/IDS_NETCONNECT_TIP_EDIT_OPEN", "IDS_SETTING_BUTTON_SAVE"},
-            {"NetConnectPlugin/IDS_NETCONNECT_TIP_EDIT_OPEN", "IDS_SETTING_BUTTON_NO_SAVE"},
-            {"NetConnectPlugin/IDS_NETCONNECT_TIP_SAVE_FAILED", "IDS_SETTING_BUTTON_SAVE"},
-            {"OrbisDial/IDS_HOST_LOCK_DEFAULT", "IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT"},
-        };
-        for (const auto& [hint, button] : mentions)
-            QVERIFY2(text(language, hint).contains(drawn(text(language, Plugin + button))), qPrintable(hint));
-    }
-
-    // The English comments say how much room there is: "up to 90 pixels", "cut off at 220 pixels", "up to 16
-    // characters".
-    void textFitsItsWidget_data() { addLanguageRows(); }
-    void textFitsItsWidget() {
-        QFETCH(QString, language);
-        static const QRegularExpression limit("(?:up to|cut off at) (\\d+) (pixels|characters)");
-        const QFontMetrics metrics(QApplication::font());
-        int limits = 0;
-        for (const QString& key : m_Texts["en"].keys()) {
-            const auto match = limit.match(m_Texts["en"][key].comment);
-            if (!match.hasMatch()) continue;
-            ++limits;
-            const QString shown = drawn(text(language, key)).remove(QRegularExpression("%\\d"));
-            const int size = match.captured(2) == "pixels" ? metrics.horizontalAdvance(shown) : shown.size();
-            QVERIFY2(size <= match.captured(1).toInt(), qPrintable(key + ": " + shown));
-        }
-        QVERIFY(limits > 0);
-    }
-
-    void releasedFileTranslates_data() { addLanguageRows(); }
-    void releasedFileTranslates() {
-        QFETCH(QString, language);
-        QTranslator translator;
-        QVERIFY(translator.load("orbisdial_" + language, ORBISDIAL_BUILD_DIR "/lib/orbisdial/lang"));
-        for (const QString& key : m_Texts[language].keys()) {
-            const QByteArray context = key.section('/', 0, 0).toUtf8(), id = key.section('/', 1).toUtf8();
-            QCOMPARE(translator.translate(context, id), text(language, key));
         }
     }
 
