@@ -102,6 +102,24 @@ private slots:
         QCOMPARE(FaultsFixture::userNames(), QStringList({"New", "Old"}));
     }
 
+    // A choice that could not be stored is not undone by what another process writes, as long as that is no choice.
+    void aChoiceThatCouldNotBeStoredStays() {
+        FaultsFixture fixture;
+        COMPARE_DONE(fixture.run({"add", "Mine"}));
+        FaultsFixture::restart();
+        FaultsFixture::userNames();
+        {
+            const Failing failing({"write", ENOSPC, false});
+            QCOMPARE(fixture.logic()->SetDefaultDialUpProfileName("Mine", true), 25);
+        }
+        const QByteArray file = FaultsFixture::read(fixture.userFile());
+        FaultsFixture::write(fixture.userFile(), QByteArray(file).replace("name=\"Mine\"", "name=\"Theirs\""));
+        QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("Mine")), 0);
+        QCOMPARE(FaultsFixture::userNames(), QStringList({"Mine", "Theirs"}));
+        QCOMPARE(LogicFixture::defaultName(), QString("Mine"));
+        QVERIFY(FaultsFixture::read(fixture.userFile()).contains("<Default name=\"Mine\" IsUserSet=\"1\"/>"));
+    }
+
     void aFolderThatCannotBeFlushedIsSaid() {
         FaultsFixture fixture;
         const Failing failing({"fsync folder", EIO, false});

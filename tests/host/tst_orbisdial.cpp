@@ -1,4 +1,6 @@
 // The program as a user starts it: arguments, exit status, and the picture.
+#include <signal.h>
+
 #include <QImage>
 
 #include "Program.h"
@@ -38,6 +40,29 @@ private slots:
         QVERIFY2(outcome.status == status, outcome.err);
         QVERIFY2(outcome.err.contains(said.toUtf8()), outcome.err);
         QCOMPARE(QImage(m_Picture, "PNG").width() > 300, status == 0);
+    }
+
+    // As when its window is closed: a default that only the SIM card proposed does not stay behind.
+    void endsInOrderWhenASignalAsksForIt_data() {
+        const Rows<int> row("number");
+        row("Ctrl+C", SIGINT);
+        row("kill", SIGTERM);
+        row("the session ends", SIGHUP);
+    }
+    void endsInOrderWhenASignalAsksForIt() {
+        QFETCH(int, number);
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("ORBISDIAL_LIBRARY_PATH", ORBISDIAL_BUILD_DIR "/lib/orbisdial");
+        environment.insert("ORBISDIAL_DEVICE", "simulated");
+        program.setProcessEnvironment(environment);
+        program.start(ORBISDIAL_PROGRAM, QStringList());
+        QTRY_VERIFY(TestFolder::read(m_Folder.userFile()).contains("<Default name=\"US"));
+        QTest::qWait(100);  // the file is there before the window
+        QCOMPARE(::kill(pid_t(program.processId()), number), 0);
+        QVERIFY(program.waitForFinished());
+        QVERIFY(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0);
+        QVERIFY(TestFolder::read(m_Folder.userFile()).contains("<Default name=\"\"/>"));
     }
 
 private:

@@ -65,7 +65,34 @@ private slots:
         QCOMPARE(readPair("common", "common"), 23);
     }
 
+    // What is kept of the file serves every pair, and no longer than the file stays as it was.
+    void anUnchangedFileIsKept() {
+        const auto module = [](const QByteArray& group, const QByteArray& name, const QByteArray& items) {
+            return "<group name='" + group + "'><module name='" + name + "'>" + items + "</module></group>";
+        };
+        const QByteArray custom = module("customize", "ACME", section("Function", {"F=theirs"}));
+        const QByteArray content =
+            "<x>" + module("common", "common", section("Function", {"F=ours"})) + custom + "</x>";
+        ship("NetConnectConfig.xml", content);
+        QTest::qSleep(SettlingTime);
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(readPair("common", "common") + readPair("customize", "ACME"), 0);
+            QCOMPARE(m_Functions.value("F").value, QString("theirs"));
+        }
+        ship("NetConnectConfig.xml", QByteArray(content).replace("theirs", "others"));
+        QCOMPARE(readPair("customize", "ACME"), 0);
+        QCOMPARE(m_Functions.value("F").value, QString("others"));
+        QFile::remove(pluginDir() + "/NetConnectConfig.xml");
+        QCOMPARE(readPair("customize", "ACME"), 23);
+        ship("NetConnectConfig.xml", content.chopped(5));
+        QTest::qSleep(SettlingTime);
+        QCOMPARE(readPair("customize", "ACME") + readPair("customize", "ACME"), 6 + 6);
+        QCOMPARE(m_Functions.value("F").value, QString("theirs"));
+    }
+
 private:
+    enum { SettlingTime = 150 };  // milliseconds; a file that changed just now is read again in any case
+
     int readPair(const char* group, const char* module) {
         m_Templates.clear();
         m_Functions.clear();

@@ -1,5 +1,7 @@
 // Import and export. The page's tests answer its real questions.
 
+#include <unistd.h>
+
 #include "LogicFixture.h"
 
 // Answers every clash alike, and may do something at the first question.
@@ -110,12 +112,14 @@ private slots:
     }
 
     void exportsThatAreRefused_data() {
-        nameRows("name", {"", "data/UserProfile.prof", "link to the user's file", "data", "missing folder/x.prof"});
+        nameRows("name", {"", "data/UserProfile.prof", "link to the user's file", "hard link", "data",
+                          "missing folder/x.prof"});
     }
     void exportsThatAreRefused() {
         QFETCH(QString, name);
         start();
         QFile::link(userFile(), path("link to the user's file"));
+        QCOMPARE(::link(qPrintable(userFile()), qPrintable(path("hard link"))), 0);
         const QByteArray before = user();
         QCOMPARE(logic()->ExportChosenProfiles({"A"}, name.isEmpty() ? name : path(name)), 25);
         QVERIFY(!logic()->LastStorageProblem().isNull());

@@ -7,6 +7,8 @@ using F = PageFixture;
 class TestPage : public PageTest {
     Q_OBJECT
 
+    enum { ManyNames = 2000 };
+
 private slots:
     void edits() {
         f->newProfile = "autoapn='false'";
@@ -21,6 +23,47 @@ private slots:
         QCOMPARE(kept("AccessNumberlineEdit", "*99***1#*99***1#*99***1#*99"), QString("*99***1#*99***1#*99***1#"));
         QCOMPARE(f->edit("LineEditProfileName")->maxLength(), 20);
         QCOMPARE(f->edit("PasswordlineEdit")->echoMode(), QLineEdit::Password);
+    }
+
+    // Reading many takes longer than a paint may.
+    void manyNamesAreReadAfterTheFirstPaint() {
+        QByteArray many;
+        for (int i = 0; i < ManyNames; ++i) many += F::profile("A name that is long, number " + QByteArray::number(i));
+        f->start(many, "<Default name='A name that is long, number 7' IsUserSet='1'/>");
+        QTRY_COMPARE(f->combo()->count(), int(ManyNames));
+        QVERIFY(f->combo()->currentText().startsWith("A name that is long, number 7 "));
+        QVERIFY(f->combo()->sizeHint().width() < 400);
+    }
+
+    void manyNamesAreReadWhenNeeded_data() { nameRows("for", {"default", "save", "event", "end", "nobody"}); }
+    void manyNamesAreReadWhenNeeded() {
+        QByteArray many;
+        for (int i = 0; i < ManyNames; ++i) many += F::profile("N" + QByteArray::number(i));
+        f->start(many, "<Default name='N7' IsUserSet='1'/>");
+        const QByteArray before = TestFolder::read(f->userFile());
+        f->plugin()->OnDestroy();
+
+        // A host that shows another page first.
+        QObject* service = nullptr;
+        QCOMPARE(f->plugin()->QueryInterface(4098, &service), 1);
+        QCOMPARE(f->plugin()->Init(), 1);
+        QVERIFY(service->property(ORBISDIAL_PROFILES_AWAITED).toBool());
+        f->profiles = qobject_cast<INetConnectSetting*>(service);
+        const QString reason = cell("for");
+        QString name;
+        if (reason == "default") f->profiles->GetDefaultDialUpProfileName(&name);
+        if (reason == "save") f->save("New");
+        if (reason == "event") F::changeCard();
+        if (reason == "end") {
+            f->plugin()->OnDestroy();
+            QCOMPARE(TestFolder::read(f->userFile()), before);
+            return;
+        }
+        QCOMPARE(service->property(ORBISDIAL_PROFILES_AWAITED).toBool(), reason == "nobody");
+        QTRY_VERIFY(!service->property(ORBISDIAL_PROFILES_AWAITED).toBool());
+        QCOMPARE(f->stored().size(), ManyNames + (reason == "save" ? 1 : 0));
+        QCOMPARE(f->profiles->GetDefaultDialUpProfileName(&name), 0);
+        QCOMPARE(name, QString("N7"));
     }
 
     // The tip of Edit and Delete is empty where they are enabled.

@@ -186,6 +186,7 @@ private slots:
         const QByteArray wapFirst = Code + apn("w", usage("wap")) + apn("n"), internet = usage("internet");
         const QByteArray primary = provider("Q", Code + apn("b")).replace("<provider>", "<provider primary='true'>");
         row("internet first", provider(wapFirst + apn("i", internet)), "99901|XY P - w|XY P - n|XY P - i*");
+        row("not the one for calls", provider(Code + apn("xims", internet) + apn("n")), "99901|XY P - xims|XY P - n*");
         row("primary provider", provider(Code + apn("a")) + primary, "99901|XY P - a|XY Q - b*");
         row("usage before primary", provider(Code + apn("a", internet)) + primary, "99901|XY P - a*|XY Q - b");
         row("code that begins another, leading zeros kept", provider(twoCodes + apn("a")),
