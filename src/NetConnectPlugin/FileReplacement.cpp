@@ -95,8 +95,7 @@ qint64 changeTime(const QByteArray& folder) {
     return qint64(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
 }
 
-// Removes what a writer that died left beside the file: it may hold passwords. False when some may be a living
-// writer's.
+// Removes what a writer that died left beside the file: it may hold passwords. False when it had to leave some.
 bool removeLeftovers(const QByteArray& name) {
     const QByteArray folder = folderOf(name);
     if (cleanFolders().contains(name) && cleanFolders().value(name) == changeTime(folder)) return true;

@@ -204,8 +204,7 @@ int NetConnectSettingUILogic::refuseExportTo(const QString& path) {
     return FileNotOpened;
 }
 
-// Puts every profile of a name into the exported list, in the place of those that the target has. False when there is
-// none.
+// Exports the profiles of a name, in the place of those that the target has. False when the source has none.
 bool NetConnectSettingUILogic::exportProfile(const QString& name, const ProfilesByName& target,
                                              const ProfilesByName& source) {
     const QList<int> replaced = target.places(name);
