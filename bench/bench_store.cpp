@@ -178,7 +178,7 @@ BENCHMARK(load)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(100)->Arg(1
 BENCHMARK(load)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(10000)->Iterations(41);
 BENCHMARK(listUnchanged)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(10000)->Iterations(41);
 BENCHMARK(listChanged)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(10000)->Iterations(31);
-BENCHMARK(fetch)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10000)->Iterations(15);
+BENCHMARK(fetch)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(1000)->Arg(10000)->Iterations(61);
 // The disk makes the short ones uneven.
 void fewProfiles(benchmark::internal::Benchmark* edit) {
     edit->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(10)->Iterations(101);
