@@ -215,7 +215,7 @@ private:
     int readConfigPair(QString group, QString module, UserPrompt* prompt);
     static QString customizeName();
     static bool isCDMAProduct();
-    bool isUserFileLarge();
+    static bool isUserFileLarge();
     int readUserProfiles();
     void readAwaitedProfiles();
     void readLibrary(QString* defaultName);

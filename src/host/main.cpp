@@ -61,8 +61,8 @@ void useDesktopFontSize() {
 }
 
 int run(const Options& options) {
+    const EndSignals endSignals;  // for longer than the host, whose end a signal must not cut short
     Host host;
-    const EndSignals endSignals;
     if (!usePage(host.window()->pages(), options.page)) return WrongUsage;
     host.window()->resize(host.window()->sizeHint());  // left to itself, Qt makes it narrower on a small screen
     host.window()->show();
