@@ -2,13 +2,14 @@
 //
 // Its source is spread over topics:
 //   NetConnectSettingUILogic.cpp           life, loading, device events
-//   NetConnectSettingUILogic_Store.cpp     list, fetch, add, delete, replace, template
-//   NetConnectSettingUILogic_Default.cpp   the default profile
-//   NetConnectSettingUILogic_Lists.cpp     presets by IMSI and by configuration
-//   NetConnectSettingUILogic_Config.cpp    function configuration
-//   NetConnectSettingUILogic_Password.cpp  sealing of passwords
-//   NetConnectSettingUILogic_Transfer.cpp  import and export
-//   NetConnectStoreAction.cpp              gathered writes and the lock between processes
+//   logic/NetConnectSettingUILogic_Store.cpp     list, fetch, add, delete, replace, template
+//   logic/NetConnectSettingUILogic_Default.cpp   the default profile
+//   logic/NetConnectSettingUILogic_Lists.cpp     presets by IMSI and by configuration
+//   logic/NetConnectSettingUILogic_Config.cpp    function configuration
+//   logic/NetConnectSettingUILogic_Password.cpp  sealing of passwords
+//   logic/NetConnectSettingUILogic_Transfer.cpp  import and export
+//   logic/NetConnectSettingUILogic_Questions.cpp  what it asks on the screen (a library of its own)
+//   store/NetConnectStoreAction.cpp        gathered writes and the lock between processes
 #ifndef ORBISDIAL_NETCONNECTSETTINGUILOGIC_H
 #define ORBISDIAL_NETCONNECTSETTINGUILOGIC_H
 
@@ -21,12 +22,12 @@
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
-#include <QWidget>
 #include <atomic>
 
 #include "NetConnectStorageProblem.h"
 #include "NetConnectXMLParse.h"
 
+class QWidget;
 class UserFileLock;
 
 // Which presets a SIM selects.

@@ -2,14 +2,14 @@
 //
 // Its source is spread over topics:
 //   NetConnectUIService.cpp             life, events, mark, peers
-//   NetConnectUIService_Host.cpp        the host's settings dialog
-//   NetConnectUIService_Profiles.cpp    profiles for other plug-ins
-//   NetConnectUIService_Page.cpp        building the page
-//   NetConnectUIService_Language.cpp    texts
-//   NetConnectUIService_Viewing.cpp     list, selection, what may be done with a profile
-//   NetConnectUIService_Editing.cpp     new, edit, save, undo, delete, default
-//   NetConnectUIService_Validation.cpp  what a profile must be to be saved
-//   NetConnectUIService_Transfer.cpp    the import/export dialog
+//   page/NetConnectUIService_Host.cpp        the host's settings dialog
+//   page/NetConnectUIService_Profiles.cpp    profiles for other plug-ins
+//   page/NetConnectUIService_Page.cpp        building the page
+//   page/NetConnectUIService_Language.cpp    texts
+//   page/NetConnectUIService_Viewing.cpp     list, selection, what may be done with a profile
+//   page/NetConnectUIService_Editing.cpp     new, edit, save, undo, delete, default
+//   page/NetConnectUIService_Validation.cpp  what a profile must be to be saved
+//   page/NetConnectUIService_Transfer.cpp    the import/export dialog
 #ifndef ORBISDIAL_NETCONNECTUISERVICE_H
 #define ORBISDIAL_NETCONNECTUISERVICE_H
 

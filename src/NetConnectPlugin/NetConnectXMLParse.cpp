@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "CommonUtils.h"
+#include "CommonUtilsBase.h"
 #include "FileReplacement.h"
 #include "Trace.h"
 #include "XmlText.h"
@@ -63,7 +63,7 @@ QString NetConnectXMLParse::userProfilePath() {
 }
 
 QString NetConnectXMLParse::shippedPath(const char* fileName) {
-    return CommonUtils::GetPluginLibraryPath() + QLatin1String("/plugins/NetConnectPlugin/") + QLatin1String(fileName);
+    return CommonUtilsBase::GetPluginLibraryPath() + QLatin1String("/plugins/NetConnectPlugin/") + QLatin1String(fileName);
 }
 
 void NetConnectXMLParse::reportProblem(const QString& file, const QString& reason, qint64 line, qint64 column) {

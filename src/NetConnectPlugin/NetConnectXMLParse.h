@@ -2,9 +2,9 @@
 //
 // Its source is spread over topics:
 //   NetConnectXMLParse.cpp           life, places, problems
-//   NetConnectXMLParse_Profiles.cpp  profile files
-//   NetConnectXMLParse_Config.cpp    NetConnectConfig.xml
-//   NetConnectXMLParse_Template.cpp  SysProfile.prof
+//   logic/NetConnectXMLParse_Profiles.cpp  profile files
+//   logic/NetConnectXMLParse_Config.cpp    NetConnectConfig.xml
+//   logic/NetConnectXMLParse_Template.cpp  SysProfile.prof
 #ifndef ORBISDIAL_NETCONNECTXMLPARSE_H
 #define ORBISDIAL_NETCONNECTXMLPARSE_H
 
@@ -19,6 +19,7 @@
 #include "NetConnectConfigDocument.h"
 #include "NetConnectRecords.h"
 #include "NetConnectStorageProblem.h"
+#include "ProfileDocument.h"
 
 // Whether the SIM card serves CDMA and WCDMA, and in which mode it is now.
 struct NetConnectCardMode {
@@ -34,17 +35,6 @@ struct NetConnectCardMode {
 
     bool isMultiMode;
     unsigned int mode;
-};
-
-// A default profile's name, and whether the user chose it.
-struct NetConnectDefault {
-    NetConnectDefault() : isUserSet(false) {}
-    NetConnectDefault(const QString& defaultName, bool userSet) : name(defaultName), isUserSet(userSet) {}
-    bool operator==(const NetConnectDefault& other) const { return name == other.name && isUserSet == other.isUserSet; }
-    bool operator!=(const NetConnectDefault& other) const { return !(*this == other); }
-
-    QString name;
-    bool isUserSet;
 };
 
 // What the file layer remembers between calls of the defaults in the user's file.
@@ -136,19 +126,6 @@ public:
     void clearProblem(const QString& file);
 
 private:
-    // One default that a profile file names, in file order.
-    struct DefaultEntry {
-        enum Kind { Plain, CDMA, WCDMA };
-        Kind kind;
-        NetConnectDefault value;
-    };
-
-    // What one profile file says, its names as stored.
-    struct ProfileDocument {
-        QList<DialupProfile> profiles;
-        QList<DefaultEntry> defaults;
-    };
-
     // A profile file that is kept, so that it is parsed again only when it changed.
     struct KeptFile {
         KeptFile() : isComplete(false), revision(0) {}
@@ -191,14 +168,12 @@ private:
     QString profilePath(const QString& fileName);
     KeptFile* keptFile(const QString& fileName);
     int loadDocument(const QString& path, KeptFile* kept, ProfileDocument* document);
-    int parseDocument(QXmlStreamReader& reader, ProfileDocument* document);
     void applyDocument(const ProfileDocument& document, QList<DialupProfile>* profiles, QString* defaultName,
                        bool* isUserSet);
-    void applyDefault(const DefaultEntry& entry, const NetConnectCardMode& card, QString* defaultName, bool* isUserSet);
-    static QList<DefaultEntry> defaultEntries(const NetConnectDefault& value,
-                                              const NetConnectRememberedDefaults& remembered);
-    static void writeDefaults(QXmlStreamWriter& xml, const QList<DefaultEntry>& defaults);
-    static QByteArray writeDocument(const ProfileDocument& document);
+    void applyDefault(const ProfileDefaultEntry& entry, const NetConnectCardMode& card, QString* defaultName,
+                      bool* isUserSet);
+    static QList<ProfileDefaultEntry> defaultEntries(const NetConnectDefault& value,
+                                                     const NetConnectRememberedDefaults& remembered);
     NetConnectRememberedDefaults withModeDefault(const NetConnectDefault& value) const;
     bool prepareTarget(const QString& path, const KeptFile& kept);
 

@@ -3,7 +3,7 @@
 #include <QRegularExpression>
 #include <optional>
 
-#include "../NetConnectPlugin/NetConnectProfileRules.h"
+#include "NetConnectProfileRules.h"
 #include "XmlInput.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "../NetConnectPlugin/ProfileDocumentWriter.h"
+#include "ProfileDocumentWriter.h"
 #include "XmlInput.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
-#include "../NetConnectPlugin/NetConnectProfileRules.h"
+#include "NetConnectProfileRules.h"
 
 namespace {
 

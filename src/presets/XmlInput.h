@@ -7,7 +7,7 @@
 #include <QString>
 #include <QXmlStreamReader>
 
-#include "../NetConnectPlugin/XmlText.h"
+#include "XmlText.h"
 #include "PresetError.h"
 
 class XmlInput {

@@ -1,13 +1,14 @@
 #include "Change.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <QVariant>
 #include <memory>
 
-#include "CommonUtils.h"
+#include "CommonUtilsBase.h"
 
 namespace {
 
@@ -17,7 +18,7 @@ const QString English = "en";
 const QString FilePrefix = "orbisdial_";
 const QString FileSuffix = ".qm";
 
-QString textsFolder() { return CommonUtils::GetPluginLibraryPath() + "/lang"; }
+QString textsFolder() { return CommonUtilsBase::GetPluginLibraryPath() + "/lang"; }
 
 // A translator that holds the file, or null when there is no such file or it is damaged.
 Translator loadFile(const QString& file) {
@@ -109,8 +110,10 @@ void installQtTexts(const QString& code) {
 void applyToApplication(const QString& code) {
     if (!QCoreApplication::instance()) return;
     installQtTexts(code);
-    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
-        QGuiApplication::setLayoutDirection(QLocale(code).textDirection());
+    // An application with windows has this property; one without needs no direction, and no library for it.
+    QCoreApplication* const application = QCoreApplication::instance();
+    if (application->inherits("QGuiApplication"))
+        application->setProperty("layoutDirection", int(QLocale(code).textDirection()));
 }
 
 }  // namespace

@@ -1,17 +1,10 @@
 #include "CommonUtils.h"
 
-#include <dlfcn.h>
-#include <sys/stat.h>
-
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
-#include <QSettings>
-#include <QStandardPaths>
 #include <QStyle>
 
 #include "Change.h"
@@ -79,32 +72,9 @@ QRect insideScreen(QRect rect) {
     return rect;
 }
 
-QString settingsFolder() {
-    const QString configured = qEnvironmentVariable("ORBISDIAL_CONFIG_DIR");
-    if (!configured.isEmpty()) return configured;
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/orbisdial";
-}
-
-QString settingsFile() { return settingsFolder() + "/orbisdial.ini"; }
-
-QString settingsKey(const QString& group, const QString& key) { return group.isEmpty() ? key : group + '/' + key; }
-
-bool makeSettingsFolder() {
-    const QString folder = QDir::cleanPath(settingsFolder());
-    if (QFileInfo(folder).isDir()) return true;
-    return QDir().mkpath(QFileInfo(folder).path()) && ::mkdir(QFile::encodeName(folder).constData(), 0700) == 0;
-}
-
 QPointer<QWidget>& mainWindow() {
     static QPointer<QWidget> window;
     return window;
-}
-
-QString folderOfThisLibrary() {
-    static const char address = 0;
-    Dl_info info;
-    if (::dladdr(&address, &info) == 0) return QString();
-    return QFileInfo(QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath()).path();
 }
 
 }  // namespace
@@ -139,28 +109,6 @@ void CommonUtils::MoveCentre(QWidget* widget) {
     widget->move(insideScreen(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, area)).topLeft());
 }
 
-// A hand-written value with commas is a list to QSettings; it comes back joined.
-QString CommonUtils::GetSettings(const QString& group, const QString& key) {
-    const QSettings settings(settingsFile(), QSettings::IniFormat);
-    return settings.value(settingsKey(group, key)).toStringList().join(',');
-}
-
-bool CommonUtils::SetSettings(const QString& group, const QString& key, const QString& value) {
-    if (!makeSettingsFolder()) return false;
-    QSettings settings(settingsFile(), QSettings::IniFormat);
-    settings.setValue(settingsKey(group, key), value);
-    settings.sync();
-    return settings.status() == QSettings::NoError;
-}
-
 QWidget* CommonUtils::GetMainWindow() { return mainWindow(); }
 
 void CommonUtils::SetMainWindow(QWidget* window) { mainWindow() = window; }
-
-QString CommonUtils::GetPluginLibraryPath() {
-    static const QString besideThisLibrary = folderOfThisLibrary() + "/orbisdial";
-    const QString configured = qEnvironmentVariable("ORBISDIAL_LIBRARY_PATH");
-    return configured.isEmpty() ? besideThisLibrary : QDir::cleanPath(configured);
-}
-
-QString CommonUtils::ParanthesisCorrection(const QString& text) { return text; }

@@ -1,7 +1,5 @@
-// What the host core library offers to every plug-in: messages, settings, places, sealed texts.
-//
-// All operations are for the GUI thread, but Encrypt, Decrypt, CryptLocalFree, ParanthesisCorrection and
-// GetPluginLibraryPath, which are safe from any.
+// What the host core library offers to every plug-in: messages and windows here, settings, places and sealed texts in
+// CommonUtilsBase. GUI thread, where the base says nothing else.
 #ifndef ORBISDIAL_COMMONUTILS_H
 #define ORBISDIAL_COMMONUTILS_H
 
@@ -12,9 +10,10 @@
 #include <QTime>
 #include <QWidget>
 
+#include "CommonUtilsBase.h"
 #include "HostCoreExport.h"
 
-class HOSTCORE_EXPORT CommonUtils {
+class HOSTCORE_EXPORT CommonUtils : public CommonUtilsBase {
 public:
     // What ShowMessage answers for each button, in their order. A box that is closed without a button, or
     // goes with its parent, or can't be shown since there is no QApplication, answers the last one it has.
@@ -33,36 +32,9 @@ public:
     // off the screen. Null and a widget that is no window are left alone.
     static void MoveCentre(QWidget* widget);
 
-    // A value of the host's settings file, in the user's XDG configuration directory or in
-    // $ORBISDIAL_CONFIG_DIR; empty when it is not set.
-    static QString GetSettings(const QString& group, const QString& key);
-
-    // Stores a value; false when the settings file can't be written. A folder that is missing is made for the
-    // user alone.
-    static bool SetSettings(const QString& group, const QString& key, const QString& value);
-
     // The host's main window, which SetMainWindow() names; null before and after its life.
     static QWidget* GetMainWindow();
     static void SetMainWindow(QWidget* window);
-
-    // The directory that holds "plugins" and "lang", without a slash at its end: $ORBISDIAL_LIBRARY_PATH, or
-    // else "orbisdial" beside this library.
-    static QString GetPluginLibraryPath();
-
-    // Corrects parentheses in right-to-left text. Qt mirrors them when it draws, so the text comes back as is.
-    static QString ParanthesisCorrection(const QString& text);
-
-    // Seals a zero-terminated text under a key: libsodium's authenticated box (XSalsa20-Poly1305) with a
-    // random nonce under a hash of the key, as ASCII text that begins with a version mark. out becomes a new
-    // text to free with CryptLocalFree, or null on failure (a null argument, no libsodium).
-    static void Encrypt(const char* data, const char* key, char*& out);
-
-    // Opens what Encrypt sealed. Text that Encrypt did not make comes back unchanged; a sealed text that was
-    // changed, or sealed under another key, gives null.
-    static void Decrypt(const char* data, const char* key, char*& out);
-
-    // Wipes and frees a result of Encrypt or Decrypt; null is ignored.
-    static void CryptLocalFree(char* text);
 
     // Shortens a widget's caption to a width in pixels and keeps the full text as its tool tip. Works on the
     // text that the widget holds: set the full text again before each call.

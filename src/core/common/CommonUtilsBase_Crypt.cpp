@@ -4,7 +4,7 @@
 #include <cstring>
 #include <vector>
 
-#include "CommonUtils.h"
+#include "CommonUtilsBase.h"
 
 namespace {
 
@@ -73,7 +73,7 @@ char* open(const Bytes& sealed, const char* key) {
 
 }  // namespace
 
-void CommonUtils::Encrypt(const char* data, const char* key, char*& out) {
+void CommonUtilsBase::Encrypt(const char* data, const char* key, char*& out) {
     out = nullptr;
     if (!data || !key || sodium_init() < 0) return;
 
@@ -85,13 +85,13 @@ void CommonUtils::Encrypt(const char* data, const char* key, char*& out) {
         out = textOf(sealed);
 }
 
-void CommonUtils::Decrypt(const char* data, const char* key, char*& out) {
+void CommonUtilsBase::Decrypt(const char* data, const char* key, char*& out) {
     out = nullptr;
     if (!data || !key || sodium_init() < 0) return;
     out = isSealed(data) ? open(sealedOf(data), key) : copyOf(data);
 }
 
-void CommonUtils::CryptLocalFree(char* text) {
+void CommonUtilsBase::CryptLocalFree(char* text) {
     if (!text) return;
     sodium_memzero(text, std::strlen(text));
     delete[] text;

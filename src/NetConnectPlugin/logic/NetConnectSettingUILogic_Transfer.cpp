@@ -1,37 +1,9 @@
 // Import and export.
 
-#include "Change.h"
-#include "CommonUtils.h"
 #include "FileReplacement.h"
 #include "NetConnectOperation.h"
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"
-
-namespace {
-
-// Asks the user, in a message box over the import dialog.
-class AskUser : public NetConnectClashPolicy {
-public:
-    explicit AskUser(QWidget* parent)
-        : m_pParent(parent), m_strClash(text("IDS_NET_TIPS_PROFILEEXIST")), m_strCaption(text("IDS_PROMPT_CAPTION")) {}
-
-    bool replace(const QString& name) {
-        if (!m_pParent) return false;  // the dialog went while an earlier question was on screen
-        const int answer = CommonUtils::ShowMessage(
-            QMessageBox::Information, m_pParent, m_strCaption, name + QLatin1String(" ") + m_strClash,
-            QLatin1String("IDS_YES"), QLatin1String("IDS_NO"), QString(), QString(), true, Qt::WindowCloseButtonHint);
-        return answer == CommonUtils::FirstButton;
-    }
-
-private:
-    static QString text(const char* id) { return Change::tr(QLatin1String(id), QLatin1String("NetConnectPlugin")); }
-
-    QPointer<QWidget> m_pParent;
-    QString m_strClash;
-    QString m_strCaption;
-};
-
-}  // namespace
 
 // Where the profiles of a name stand in a list, which may hold several of one name.
 class NetConnectSettingUILogic::ProfilesByName {
@@ -68,13 +40,6 @@ int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QS
 }
 
 QList<DialupProfile> NetConnectSettingUILogic::ImportCandidates() const { return m_ImportList; }
-
-int NetConnectSettingUILogic::ImportDialupProfiles(QStringList* names, QWidget* parent) {
-    if (!parent || !m_pXMLParse) return ObjectMissing;
-    AskUser policy(parent);
-    const int status = ImportChosenProfiles(*names, &policy);
-    return status == NothingImported || status == ObjectMissing ? status : int(Success);
-}
 
 // Holds the logic's mutex for an import, and knows when a question's event loop has ended the logic.
 class NetConnectSettingUILogic::ImportHold {

@@ -2,7 +2,7 @@
 
 #include <sodium.h>
 
-#include "CommonUtils.h"
+#include "CommonUtilsBase.h"
 #include "NetConnectSettingUILogic.h"
 
 namespace {
@@ -45,7 +45,7 @@ QString passThrough(Cipher cipher, const QString& text) {
     char* out = 0;
     cipher(data.constData(), key.text(), out);
     const QString result = out ? QString::fromLatin1(out) : QString();
-    CommonUtils::CryptLocalFree(out);
+    CommonUtilsBase::CryptLocalFree(out);
     CipherKey::wipe(&data);
     return result;
 }
@@ -56,10 +56,10 @@ bool isBase64Method(const QString& encryptType) { return encryptType == QLatin1S
 
 QString NetConnectSettingUILogic::XorEncrypt(QString password, QString encryptType) {
     if (isBase64Method(encryptType)) return QString::fromLatin1(password.toUtf8().toBase64());
-    return passThrough(&CommonUtils::Encrypt, password);
+    return passThrough(&CommonUtilsBase::Encrypt, password);
 }
 
 QString NetConnectSettingUILogic::XorDecrypt(QString stored, QString encryptType) {
     if (isBase64Method(encryptType)) return QString::fromUtf8(QByteArray::fromBase64(stored.toUtf8()));
-    return passThrough(&CommonUtils::Decrypt, stored);
+    return passThrough(&CommonUtilsBase::Decrypt, stored);
 }

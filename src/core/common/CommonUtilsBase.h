@@ -1,0 +1,43 @@
+// What the host core library offers without a window: settings, places, sealed texts.
+//
+// Encrypt, Decrypt, CryptLocalFree, ParanthesisCorrection and GetPluginLibraryPath are safe from any thread; the
+// settings are for the thread that runs the application.
+#ifndef ORBISDIAL_COMMONUTILSBASE_H
+#define ORBISDIAL_COMMONUTILSBASE_H
+
+#include <QString>
+
+#include "HostCoreExport.h"
+
+// The part of CommonUtils that needs neither Qt Gui nor Qt Widgets. Whoever may show windows includes CommonUtils.h.
+class HOSTCORE_EXPORT CommonUtilsBase {
+public:
+    // A value of the host's settings file, in the user's XDG configuration directory or in
+    // $ORBISDIAL_CONFIG_DIR; empty when it is not set.
+    static QString GetSettings(const QString& group, const QString& key);
+
+    // Stores a value; false when the settings file can't be written. A folder that is missing is made for the
+    // user alone.
+    static bool SetSettings(const QString& group, const QString& key, const QString& value);
+
+    // The directory that holds "plugins" and "lang", without a slash at its end: $ORBISDIAL_LIBRARY_PATH, or
+    // else "orbisdial" beside this library.
+    static QString GetPluginLibraryPath();
+
+    // Corrects parentheses in right-to-left text. Qt mirrors them when it draws, so the text comes back as is.
+    static QString ParanthesisCorrection(const QString& text);
+
+    // Seals a zero-terminated text under a key: libsodium's authenticated box (XSalsa20-Poly1305) with a
+    // random nonce under a hash of the key, as ASCII text that begins with a version mark. out becomes a new
+    // text to free with CryptLocalFree, or null on failure (a null argument, no libsodium).
+    static void Encrypt(const char* data, const char* key, char*& out);
+
+    // Opens what Encrypt sealed. Text that Encrypt did not make comes back unchanged; a sealed text that was
+    // changed, or sealed under another key, gives null.
+    static void Decrypt(const char* data, const char* key, char*& out);
+
+    // Wipes and frees a result of Encrypt or Decrypt; null is ignored.
+    static void CryptLocalFree(char* text);
+};
+
+#endif
