@@ -1,5 +1,7 @@
 #include "ProfileDocument.h"
 
+#include <QHash>
+
 #include "ProfileDocumentWriter.h"
 #include "XmlText.h"
 
