@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include "CommonUtilsBase.h"
+#include "CommonUtilsElide.h"
 #include "HostCoreExport.h"
 
 class HOSTCORE_EXPORT CommonUtils : public CommonUtilsBase {
@@ -46,6 +47,14 @@ public:
     static void setElidedTextForWidgetTitle(T* widget, int width, Qt::TextElideMode mode);
 };
 
-#include "CommonUtilsElide.h"
+template <class T>
+void CommonUtils::setElidedTextForWidgetText(T* widget, int width, Qt::TextElideMode mode) {
+    CommonUtilsElide::elide(widget, &T::text, &T::setText, width, mode, "setElidedTextForWidgetText");
+}
+
+template <class T>
+void CommonUtils::setElidedTextForWidgetTitle(T* widget, int width, Qt::TextElideMode mode) {
+    CommonUtilsElide::elide(widget, &T::title, &T::setTitle, width, mode, "setElidedTextForWidgetTitle");
+}
 
 #endif

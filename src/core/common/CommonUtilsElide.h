@@ -1,8 +1,11 @@
-// The elided-text templates of CommonUtils; included at the end of CommonUtils.h.
+// What the elided-text templates of CommonUtils have in common.
 #ifndef ORBISDIAL_COMMONUTILSELIDE_H
 #define ORBISDIAL_COMMONUTILSELIDE_H
 
-#include "CommonUtils.h"
+#include <QDebug>
+#include <QFontMetrics>
+#include <QString>
+#include <QTime>
 
 namespace CommonUtilsElide {
 
@@ -27,15 +30,5 @@ void elide(T* widget, Text text, SetText setText, int width, Qt::TextElideMode m
 }
 
 }  // namespace CommonUtilsElide
-
-template <class T>
-void CommonUtils::setElidedTextForWidgetText(T* widget, int width, Qt::TextElideMode mode) {
-    CommonUtilsElide::elide(widget, &T::text, &T::setText, width, mode, "setElidedTextForWidgetText");
-}
-
-template <class T>
-void CommonUtils::setElidedTextForWidgetTitle(T* widget, int width, Qt::TextElideMode mode) {
-    CommonUtilsElide::elide(widget, &T::title, &T::setTitle, width, mode, "setElidedTextForWidgetTitle");
-}
 
 #endif
