@@ -27,7 +27,8 @@ as_root() {
 }
 
 install_packages() {
-    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get)
+    # Another package manager may be at work, as after the start of a fresh machine: wait for it.
+    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300)
     as_root true || return 1
     # Lists that could not be refreshed may still be good enough.
     as_root "${apt[@]}" -q update || true
@@ -61,17 +62,28 @@ logged() {
     return 1
 }
 
-# build PRESET: in build/PRESET. ORBISDIAL_WERROR=ON in the environment makes warnings errors, for good in that folder.
+# A build folder that was made for a tree elsewhere is configured anew: CMake refuses it otherwise.
+forget_moved_tree() {
+    local cache=$1/CMakeCache.txt
+    if [ -e "$cache" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
+        rm -r -- "$cache" "$1/CMakeFiles"
+    fi
+}
+
+# build PRESET [TARGET]: in build/PRESET; without a target everything, tests included. ORBISDIAL_WERROR=ON in the
+# environment makes warnings errors, for good in that folder.
 build() {
-    local preset=$1 werror=() first=
-    [ -z "${ORBISDIAL_WERROR:-}" ] || werror=("-DORBISDIAL_WERROR=$ORBISDIAL_WERROR")
-    [ -d "$root/build/$preset" ] || first=' (the first time takes some minutes)'
+    local preset=$1 first='' options=() target=()
+    [ -z "${ORBISDIAL_WERROR:-}" ] || options+=("-DORBISDIAL_WERROR=$ORBISDIAL_WERROR")
+    if [ -n "${2:-}" ]; then target=(--target "$2"); else options+=(-DORBISDIAL_TESTS=ON); fi
+    [ -e "$root/build/$preset/CMakeCache.txt" ] || first=' (the first time takes some minutes)'
     echo "Building in build/$preset$first ..."
     mkdir -p "$root/build"
-    (cd "$root" && logged "build/$preset-configure.log" cmake --preset "$preset" "${werror[@]}") || return 1
+    forget_moved_tree "$root/build/$preset"
+    (cd "$root" && logged "build/$preset-configure.log" cmake --preset "$preset" "${options[@]}") || return 1
     if [ -t 1 ]; then
-        NINJA_STATUS='[%f/%t] ' cmake --build "$root/build/$preset"
+        NINJA_STATUS='[%f/%t] ' cmake --build "$root/build/$preset" "${target[@]}"
     else
-        logged "$root/build/$preset-build.log" cmake --build "$root/build/$preset"
+        logged "$root/build/$preset-build.log" cmake --build "$root/build/$preset" "${target[@]}"
     fi
 }
