@@ -2,43 +2,65 @@
 #ifndef ORBISDIAL_BACKEND_H
 #define ORBISDIAL_BACKEND_H
 
-#include <cstdint>
-#include <optional>
+#include <chrono>
+#include <memory>
 #include <string>
+#include <vector>
 
-class EventDispatcher;
+#include "DialRequest.h"
+#include "Picture.h"
 
-struct MultiModeStatus {
-    unsigned char isMultiMode;
-    unsigned int cardMode;
-};
+class EventSink;
 
-struct SystemMode {
-    std::int32_t mode;
-    std::int32_t subMode;
-};
-
-struct DataServiceProfile {
-    std::string user;
-    std::string password;
-};
-
-// Every operation is safe from any thread. A query that fails answers nothing; texts are UTF-8 of any length,
-// since the C interface fits them into its buffers. What a backend does not override fails.
+// Every operation is safe from any thread, and none waits but the one that says so. What a backend does not override
+// fails. Texts are UTF-8 of any length, since the C interface fits them into its buffers.
 class Backend {
 public:
     virtual ~Backend() = default;
 
-    // Who delivers the backend's events; null for one that has none.
-    virtual EventDispatcher* events() { return nullptr; }
+    // What every query answers from; null when all of them fail.
+    virtual std::shared_ptr<const Picture> picture() { return nullptr; }
 
-    virtual std::optional<int> devStatus() { return std::nullopt; }
-    virtual std::optional<std::string> customizeName() { return std::nullopt; }
-    virtual std::optional<int> productType() { return std::nullopt; }
-    virtual std::optional<std::string> imsi() { return std::nullopt; }
-    virtual std::optional<MultiModeStatus> multiModeStatus() { return std::nullopt; }
-    virtual std::optional<SystemMode> systemMode() { return std::nullopt; }
-    virtual std::optional<DataServiceProfile> dataServiceProfile() { return std::nullopt; }
+    // Waits for the first complete picture, until then at most.
+    virtual void awaitPicture(std::chrono::steady_clock::time_point) {}
+
+    // Of the connection in the picture, or the last one.
+    virtual Traffic traffic() { return {}; }
+
+    // An empty key selects automatically.
+    virtual bool selectModem(const std::string&) { return false; }
+
+    // The C interface has looked at the digits, at the lock and at an unlocking on its way, as the picture has them.
+    virtual bool enterPin(const std::string& /*pin*/) { return false; }
+    virtual bool enterPuk(const std::string& /*puk*/, const std::string& /*newPin*/) { return false; }
+
+    // Publishes the reason when it fails, unless a connection of ours is up or on its way; see refusalOf().
+    virtual bool dial(const DialRequest&) { return false; }
+    virtual bool hangUp() { return false; }
+
+    // The C interface has looked at the text and at the session, as the picture has it.
+    virtual bool sendUssd(const std::string& /*command*/) { return false; }
+    virtual bool answerUssd(const std::string& /*answer*/) { return false; }
+    virtual bool cancelUssd() { return false; }
+
+    // The process ends: ends the backend's threads; nothing raises an event afterwards. Never called from one of them.
+    virtual void stop() {}
+};
+
+// A backend with foreign libraries is a module of its own, loaded only when it is chosen and never unloaded:
+// vrks-NAME.so in the folder "orbisdial" beside the SDK's library. It exports one object of this type under the
+// name below, with C linkage and default visibility.
+#define ORBISDIAL_BACKEND_MODULE orbisdial_backend_module
+#define ORBISDIAL_BACKEND_MODULE_NAME "orbisdial_backend_module"
+
+struct BackendModule {
+    static constexpr unsigned CurrentVersion = 1;  // grows with each change of what a module and the SDK share
+
+    unsigned version;
+    // Whether "auto" should choose it. May wait for a moment, as for an answer of the bus, never for a modem.
+    bool (*isAvailable)();
+    // Lives until the process ends, as the sink does; null when it can't be made.
+    Backend* (*make)(EventSink& events);
 };
 
 #endif

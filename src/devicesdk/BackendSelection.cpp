@@ -1,61 +1,112 @@
 #include "BackendSelection.h"
 
+#include <pthread.h>
+
+#include <atomic>
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 
+#include "BackendLoader.h"
 #include "EventDispatcher.h"
 #include "none/NoneBackend.h"
 #include "simulated/SimulatedBackend.h"
 
 namespace {
 
-template <class Kind>
-Backend* make() {
-    return new Kind;
+using Clock = std::chrono::steady_clock;
+
+constexpr int DefaultWaitMs = 1000;
+constexpr int LongestWaitMs = 60000;
+
+BackendSelection unavailable(const char* problem) { return {new NoneBackend, nullptr, nullptr, problem}; }
+
+BackendSelection chooseNone() { return {new NoneBackend, nullptr, "none", nullptr}; }
+
+BackendSelection chooseSimulated() {
+    auto* events = new EventDispatcher;
+    return {new SimulatedBackend(*events), events, "simulated", nullptr};
+}
+
+BackendSelection use(const LoadedModule& loaded, const char* name) {
+    if (!loaded.module) return unavailable(loaded.problem);
+    auto* events = new EventDispatcher;
+    Backend* backend = loaded.module->make(*events);
+    return backend ? BackendSelection{backend, events, name, nullptr} : unavailable("the device backend can't start");
+}
+
+BackendSelection chooseModemManager() { return use(loadBackendModule("modemmanager"), "modemmanager"); }
+
+BackendSelection chooseAutomatically() {
+    const LoadedModule loaded = loadBackendModule("modemmanager");
+    return loaded.module && loaded.module->isAvailable() ? use(loaded, "modemmanager") : chooseNone();
 }
 
 struct BackendKind {
     const char* request;  // the value of ORBISDIAL_DEVICE
-    Backend* (*make)();
-    const char* name;
-    const char* problem;
+    BackendSelection (*choose)();
 };
 
 const BackendKind Kinds[] = {
-    {"simulated", make<SimulatedBackend>, "simulated", nullptr},
-    {"none", make<NoneBackend>, "none", nullptr},
-    {"auto", make<NoneBackend>, "none", nullptr},
-    {"modemmanager", make<NoneBackend>, nullptr,
-     "the device backend \"modemmanager\" is not part of this version; use simulated, none or auto"},
+    {"simulated", chooseSimulated},
+    {"modemmanager", chooseModemManager},
+    {"none", chooseNone},
+    {"auto", chooseAutomatically},
 };
 
-const BackendKind UnknownKind = {nullptr, make<NoneBackend>, nullptr,
-                                 "ORBISDIAL_DEVICE names no device backend; use simulated, none or auto"};
-
-const BackendKind& kindFor(const char* request) {
-    for (const BackendKind& kind : Kinds)
-        if (std::strcmp(kind.request, request) == 0) return kind;
-    return UnknownKind;
-}
-
 BackendSelection select() {
-    const char* request = std::getenv("ORBISDIAL_DEVICE");
-    const BackendKind& kind = kindFor(request && *request ? request : "auto");
-    return {kind.make(), kind.name, kind.problem};
+    const char* variable = std::getenv("ORBISDIAL_DEVICE");
+    const char* request = variable && *variable ? variable : "auto";
+    for (const BackendKind& kind : Kinds)
+        if (std::strcmp(kind.request, request) == 0) return kind.choose();
+    return unavailable("ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto");
 }
 
-// Ends the event thread with the process, before what callbacks use goes away.
-struct EventsStopper {
-    EventDispatcher* events;
-    ~EventsStopper() {
-        if (events) events->stop();
+std::chrono::milliseconds timeToWait() {
+    const char* text = std::getenv("ORBISDIAL_DEVICE_WAIT_MS");
+    if (!text) return std::chrono::milliseconds(DefaultWaitMs);
+    int number = DefaultWaitMs;
+    const char* end = text + std::strlen(text);
+    const auto [stop, error] = std::from_chars(text, end, number);
+    const bool isNumber = error == std::errc() && stop == end && number >= 0 && number <= LongestWaitMs;
+    return std::chrono::milliseconds(isNumber ? number : DefaultWaitMs);
+}
+
+std::atomic<bool> isChildOfUser{false};
+
+// Ends the threads with the process, before what callbacks use goes away. In a child they are not there.
+struct Stopper {
+    const BackendSelection& selection;
+    ~Stopper() {
+        if (isChildOfUser) return;
+        selection.backend->stop();
+        if (selection.events) selection.events->stop();
     }
 };
 
+const BackendSelection& parentsSelection() {
+    static const BackendSelection selection = [] {
+        ::pthread_atfork(nullptr, nullptr, [] { isChildOfUser = true; });
+        return select();
+    }();
+    static const Stopper stopper{selection};
+    return selection;
+}
+
+const BackendSelection& childsSelection() {
+    static NoneBackend backend;
+    static const BackendSelection selection{&backend, nullptr, nullptr,
+                                            "the process was made by one that uses the modem"};
+    return selection;
+}
+
 }  // namespace
 
-const BackendSelection& selectedBackend() {
-    static const BackendSelection selection = select();
-    static const EventsStopper stopper{selection.backend->events()};
+const BackendSelection& selectedBackend() { return isChildOfUser ? childsSelection() : parentsSelection(); }
+
+const BackendSelection& answeringBackend() {
+    const BackendSelection& selection = selectedBackend();
+    static const Clock::time_point deadline = Clock::now() + timeToWait();
+    selection.backend->awaitPicture(deadline);
     return selection;
 }

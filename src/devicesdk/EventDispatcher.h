@@ -2,30 +2,49 @@
 #ifndef ORBISDIAL_EVENTDISPATCHER_H
 #define ORBISDIAL_EVENTDISPATCHER_H
 
+#include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <mutex>
 #include <thread>
 #include <vector>
 
+#include "EventSink.h"
 #include "vrks.h"
 
+// Who gets events; exactly one of the two functions is set.
+struct Listener {
+    VRKS_DevInitEventCallback device = nullptr;
+    VRKS_EventCallback other = nullptr;
+    void* data = nullptr;  // for the other one
+
+    bool isNull() const { return !device && !other; }
+    bool operator==(const Listener& that) const {
+        return device == that.device && other == that.other && data == that.data;
+    }
+};
+
 // Every operation is safe from any thread, the event thread included. The thread starts with the first
-// callback or event. An object must outlive every caller, so it is never destroyed, only stopped.
-class EventDispatcher {
+// callback or queued event. An object must outlive every caller, so it is never destroyed, only stopped.
+class EventDispatcher : public EventSink {
 public:
-    // False when the callback is null or registered already.
-    bool add(VRKS_DevInitEventCallback callback);
+    // False when the listener is null or registered already.
+    bool add(const Listener& listener);
 
-    // False when the callback was not registered. Either way it is not running when this returns, unless
+    // False when the listener was not registered. Either way it is not running when this returns, unless
     // this is called from within it.
-    bool remove(VRKS_DevInitEventCallback callback);
+    bool remove(const Listener& listener);
 
-    // Queues an event and returns at once.
-    void raise(int event);
+    // Queues one of VRKS_DevInitEventCallback, however many wait already; dropped when nobody listens.
+    void queueDevice(int event);
 
-    // Waits until every event raised before was delivered; false, at once, on the event thread.
+    void raiseDevice(int event) override;
+    void raise(int event) override;
+
+    // Waits until every event raised before was delivered, but for those that are kept since nobody listens; false,
+    // at once, on the event thread.
     bool waitDelivered();
 
     // Drops the waiting events, waits for a running callback and ends the thread for good.
@@ -33,20 +52,35 @@ public:
 
 private:
     using Lock = std::unique_lock<std::mutex>;
+    using Clock = std::chrono::steady_clock;
+
+    struct Event {
+        int number;
+        bool isDevice;
+        std::uint64_t serial;  // grows with each event
+        Clock::time_point due;
+    };
 
     bool isEventThread() const;
-    bool isRegistered(VRKS_DevInitEventCallback callback) const;
+    bool isRegistered(const Listener& listener) const;
+    bool hasListener(const Event& event) const;
+    bool isOutstanding(std::uint64_t last) const;
     void startThread();
+    void raiseOnce(int event, bool isDevice);
     void run();
-    void deliver(Lock& lock, int event);
+    bool takeEvent(Event* event);
+    void waitForEvent(Lock& lock);
+    void deliver(Lock& lock, const Event& event);
 
     std::mutex m_Mutex;  // guards everything below; never held while a callback runs
     std::condition_variable m_Changed;
-    std::vector<VRKS_DevInitEventCallback> m_Callbacks;
-    std::deque<int> m_Events;
-    std::uint64_t m_Raised = 0;  // how many events, since the process began
-    std::uint64_t m_Delivered = 0;
-    VRKS_DevInitEventCallback m_Running = nullptr;
+    std::vector<Listener> m_Listeners;
+    std::deque<Event> m_Queue;     // delivered one by one
+    std::vector<Event> m_Pending;  // at most one of a kind, in the order in which they came
+    std::uint64_t m_LastSerial = 0;
+    std::uint64_t m_SerialRunning = 0;           // 0: none
+    std::map<int, Clock::time_point> m_NextDue;  // when the next pending device event of a kind may come
+    Listener m_Running;
     bool m_IsStopped = false;
     std::thread m_Thread;
     std::thread::id m_EventThread;  // of the thread while it runs

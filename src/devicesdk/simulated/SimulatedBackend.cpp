@@ -1,136 +1,390 @@
 #include "SimulatedBackend.h"
 
-#include <charconv>
-#include <cstdlib>
-#include <cstring>
-#include <limits>
+#include <ctime>
+
+#include "../ModemChoice.h"
 
 namespace {
 
-constexpr char VariablePrefix[] = "ORBISDIAL_SIM_";
+using std::chrono::milliseconds;
 
-// What stands when the variable is not set; null: the query fails.
-struct TextSetting {
-    const char* name;
-    std::optional<std::string> SimulatedState::*member;
-    const char* preset;
-};
+const char* const Keys[] = {"/simulated/1", "/simulated/2"};
+constexpr std::size_t NoModem = 2;
 
-struct NumberSetting {
-    const char* name;
-    std::optional<int> SimulatedState::*member;
-    const char* preset;
-    int least;
-    int most;
-};
+constexpr int AllPinAttempts = 3;
+constexpr int AllPukAttempts = 10;
 
-constexpr int Least = std::numeric_limits<int>::min();
-constexpr int Most = std::numeric_limits<int>::max();
+constexpr int Steps[] = {VRKS_STEP_REGISTERING, VRKS_STEP_CONNECTING, VRKS_STEP_ADDRESSING};
+constexpr int UpstreamShare = 8;  // of what is received, one part in so many is sent
 
-const TextSetting Texts[] = {
-    {"IMSI", &SimulatedState::imsi, "310260123456789"},
-    {"CUSTOMIZE_NAME", &SimulatedState::customizeName, ""},
-    {"DS_USER", &SimulatedState::user, nullptr},
-    {"DS_PASSWORD", &SimulatedState::password, nullptr},
-};
+std::string textOf(const std::optional<std::string>& text) { return text.value_or(std::string()); }
 
-const NumberSetting Numbers[] = {
-    {"STATUS", &SimulatedState::status, "3", Least, Most},
-    {"PRODUCT_TYPE", &SimulatedState::productType, "0", Least, Most},
-    {"MULTI_MODE", &SimulatedState::multiMode, "0", 0, 255},
-    {"CARD_MODE", &SimulatedState::cardMode, "0", 0, Most},
-    {"SYS_MODE", &SimulatedState::systemMode, "0", Least, Most},
-    {"SYS_SUBMODE", &SimulatedState::systemSubMode, "0", Least, Most},
-};
+bool isLocked(const SimulatedModem& modem) { return modem.lock.value_or(VRKS_LOCK_NONE) != VRKS_LOCK_NONE; }
 
-template <class Setting, std::size_t Count>
-const Setting* find(const Setting (&settings)[Count], const char* name) {
-    for (const Setting& setting : settings)
-        if (std::strcmp(setting.name, name) == 0) return &setting;
-    return nullptr;
+// A modem that would be ready waits for its card to be unlocked.
+std::optional<int> statusOf(const SimulatedModem& modem) {
+    const bool waits = modem.status == VRKS_DEV_STATUS_READY && isLocked(modem);
+    return waits ? std::optional<int>(VRKS_DEV_STATUS_LOCKED) : modem.status;
 }
 
-std::optional<int> parse(const NumberSetting& setting, const char* text) {
-    int number = 0;
-    const char* end = text + std::strlen(text);
-    const auto [stop, error] = std::from_chars(text, end, number);
-    if (error != std::errc() || stop != end || number < setting.least || number > setting.most) return std::nullopt;
-    return number;
+int attemptsOf(const SimulatedModem& modem) {
+    if (modem.lock == VRKS_LOCK_PIN) return modem.pinAttempts.value_or(-1);
+    return modem.lock == VRKS_LOCK_PUK ? modem.pukAttempts.value_or(-1) : -1;
 }
 
-template <class Setting>
-const char* fromEnvironment(const Setting& setting) {
-    const char* value = std::getenv((std::string(VariablePrefix) + setting.name).c_str());
-    return value ? value : setting.preset;
+// What only a modem that is ready can tell.
+void addNetwork(ModemInfo* info, const SimulatedModem& modem) {
+    info->registration = modem.registration.value_or(VRKS_REGISTRATION_UNKNOWN);
+    info->ownNumber = textOf(modem.ownNumber);
+    info->cardOperator = textOf(modem.cardOperator);
+    info->gid1 = textOf(modem.gid1);
+    if (info->registration != VRKS_REGISTRATION_HOME && info->registration != VRKS_REGISTRATION_ROAMING) return;
+    info->generation = modem.generation.value_or(0);
+    info->signal = modem.signal.value_or(-1);
+    info->operatorName = textOf(modem.operatorName);
+    info->operatorCode = textOf(modem.operatorCode);
+    info->technology = textOf(modem.technology);
 }
 
-// An empty IMSI variable means that there is no card; one of user name and password alone has the other empty.
-void applyCardRules(SimulatedState& state) {
-    if (state.imsi && state.imsi->empty()) state.imsi.reset();
-    if (state.user && !state.password) state.password = "";
-    if (state.password && !state.user) state.user = "";
+// The queries of the modem in use.
+void addModem(Picture* picture, const SimulatedModem& modem) {
+    picture->devStatus = statusOf(modem);
+    picture->customizeName = modem.customizeName;
+    picture->productType = modem.productType;
+    if (!isLocked(modem)) picture->imsi = modem.imsi;
+    if (modem.multiMode && modem.cardMode)
+        picture->multiModeStatus =
+            MultiModeStatus{static_cast<unsigned char>(*modem.multiMode), static_cast<unsigned int>(*modem.cardMode)};
+    if (modem.systemMode && modem.systemSubMode)
+        picture->systemMode = SystemMode{*modem.systemMode, *modem.systemSubMode};
+    if (modem.user && modem.password) picture->dataServiceProfile = DataServiceProfile{*modem.user, *modem.password};
 }
 
-SimulatedState environmentState() {
-    SimulatedState state;
-    for (const TextSetting& setting : Texts)
-        if (const char* value = fromEnvironment(setting)) state.*setting.member = value;
-    for (const NumberSetting& setting : Numbers) state.*setting.member = parse(setting, fromEnvironment(setting));
-    applyCardRules(state);
-    return state;
+bool isAccepted(const std::optional<std::string>& accepted, const std::string& given) {
+    return !accepted || *accepted == given;
 }
 
 }  // namespace
 
-SimulatedBackend::SimulatedBackend() : m_State(environmentState()) {}
+SimulatedBackend::SimulatedBackend(EventSink& events)
+    : m_Settings(SimulatedSettings::fromEnvironment()), m_Picture(events) {
+    m_Picture.replace(makePicture());
+}
 
 bool SimulatedBackend::set(const char* name, const char* value) {
-    const std::lock_guard lock(m_Mutex);
-    if (const TextSetting* setting = find(Texts, name)) {
-        m_State.*setting->member = value ? std::optional<std::string>(value) : std::nullopt;
-        return true;
-    }
-    const NumberSetting* setting = find(Numbers, name);
-    if (!setting) return false;
-    const std::optional<int> number = value ? parse(*setting, value) : std::nullopt;
-    if (value && !number) return false;
-    m_State.*setting->member = number;
+    const Lock lock(m_Mutex);
+    if (!m_Settings.set(name, value)) return false;
+    m_Picture.replace(makePicture());
+    return true;
+}
+
+bool SimulatedBackend::change(const char* name, const char* value) {
+    const Lock lock(m_Mutex);
+    if (!m_Settings.set(name, value)) return false;
+    endWithoutModem();
+    publish();
+    return true;
+}
+
+bool SimulatedBackend::drop(int failure) {
+    const Lock lock(m_Mutex);
+    if (m_Connection.state == VRKS_CONNECTION_DOWN) return false;
+    end(failure);
     return true;
 }
 
 void SimulatedBackend::reset() {
-    const SimulatedState fresh = environmentState();
-    const std::lock_guard lock(m_Mutex);
-    m_State = fresh;
+    const Lock lock(m_Mutex);
+    ++m_DialRun;
+    ++m_UnlockRun;
+    ++m_UssdRun;
+    m_Settings = SimulatedSettings::fromEnvironment();
+    m_Unlockings = {};
+    m_Wanted.clear();
+    m_InUse.clear();
+    m_Connection = {};
+    m_LastTraffic = {};
+    m_Dialled.reset();
+    m_Ussd = {};
+    m_Picture.replace(makePicture());
 }
 
-SimulatedState SimulatedBackend::state() {
-    const std::lock_guard lock(m_Mutex);
-    return m_State;
+std::shared_ptr<const DialRequest> SimulatedBackend::dialled() {
+    const Lock lock(m_Mutex);
+    return m_Dialled;
 }
 
-std::optional<int> SimulatedBackend::devStatus() { return state().status; }
-
-std::optional<std::string> SimulatedBackend::customizeName() { return state().customizeName; }
-
-std::optional<int> SimulatedBackend::productType() { return state().productType; }
-
-std::optional<std::string> SimulatedBackend::imsi() { return state().imsi; }
-
-std::optional<MultiModeStatus> SimulatedBackend::multiModeStatus() {
-    const SimulatedState now = state();
-    if (!now.multiMode || !now.cardMode) return std::nullopt;
-    return MultiModeStatus{static_cast<unsigned char>(*now.multiMode), static_cast<unsigned int>(*now.cardMode)};
+Traffic SimulatedBackend::traffic() {
+    const Lock lock(m_Mutex);
+    return trafficNow();
 }
 
-std::optional<SystemMode> SimulatedBackend::systemMode() {
-    const SimulatedState now = state();
-    if (!now.systemMode || !now.systemSubMode) return std::nullopt;
-    return SystemMode{*now.systemMode, *now.systemSubMode};
+bool SimulatedBackend::selectModem(const std::string& id) {
+    const Lock lock(m_Mutex);
+    m_Wanted = id;
+    endWithoutModem();
+    publish();
+    return true;
 }
 
-std::optional<DataServiceProfile> SimulatedBackend::dataServiceProfile() {
-    const SimulatedState now = state();
-    if (!now.user || !now.password) return std::nullopt;
-    return DataServiceProfile{*now.user, *now.password};
+ModemInfo SimulatedBackend::infoOf(std::size_t index) const {
+    const SimulatedModem& modem = m_Settings.modems[index];
+    ModemInfo info;
+    info.id = Keys[index];
+    info.status = statusOf(modem).value_or(VRKS_DEV_STATUS_FAILED);
+    info.card = modem.imsi ? VRKS_CARD_PRESENT : VRKS_CARD_NONE;
+    info.lock = modem.lock.value_or(VRKS_LOCK_NONE);
+    info.attempts = attemptsOf(modem);
+    info.unlockResult = m_Unlockings[index].result;
+    info.unlockWords = m_Unlockings[index].words;
+    info.dialsAsCdma = modem.productType == VRKS_PRODUCT_TYPE_CDMA;
+    info.hasUssd = modem.hasUssd.value_or(0) != 0;
+    info.port = textOf(modem.port);
+    info.manufacturer = textOf(modem.manufacturer);
+    info.model = textOf(modem.model);
+    info.imei = textOf(modem.imei);
+    if (info.status == VRKS_DEV_STATUS_READY) addNetwork(&info, modem);
+    return info;
+}
+
+Picture SimulatedBackend::makePicture() {
+    Picture picture;
+    for (std::size_t i = 0; i < m_Settings.modems.size(); ++i)
+        if (m_Settings.modems[i].present.value_or(0) != 0) picture.modems.push_back(infoOf(i));
+    m_InUse = chooseModem(picture.modems, m_Wanted, m_InUse);
+    picture.modemInUse = m_InUse;
+    const std::size_t index = indexInUse();
+    if (index == NoModem) {
+        picture.devStatus = VRKS_DEV_STATUS_NO_MODEM;
+    } else {
+        addModem(&picture, m_Settings.modems[index]);
+    }
+    picture.connection = m_Connection;
+    if (m_Connection.state == VRKS_CONNECTION_DOWN) picture.connection.usedBy = textOf(m_Settings.network.usedBy);
+    picture.ussd = m_Ussd;
+    return picture;
+}
+
+std::size_t SimulatedBackend::indexInUse() const {
+    std::size_t index = 0;
+    while (index < NoModem && m_InUse != Keys[index]) ++index;
+    return index;
+}
+
+template <class Task>
+void SimulatedBackend::later(int ms, unsigned* run, Task task) {
+    m_Later.run(milliseconds(ms), [this, run, own = *run, task] {
+        const Lock lock(m_Mutex);
+        if (*run == own) task();
+    });
+}
+
+bool SimulatedBackend::enterPin(const std::string& pin) {
+    const Lock lock(m_Mutex);
+    return beginUnlocking(VRKS_LOCK_PIN, [pin](SimulatedModem* modem) { return isPinRight(modem, pin); });
+}
+
+bool SimulatedBackend::enterPuk(const std::string& puk, const std::string& newPin) {
+    const Lock lock(m_Mutex);
+    return beginUnlocking(VRKS_LOCK_PUK,
+                          [puk, newPin](SimulatedModem* modem) { return isPukRight(modem, puk, newPin); });
+}
+
+template <class Check>
+bool SimulatedBackend::beginUnlocking(int lock, Check check) {
+    const std::size_t index = indexInUse();
+    if (index == NoModem || m_Settings.modems[index].lock != lock) return false;
+    if (m_Unlockings[index].result == VRKS_UNLOCK_PENDING) return false;
+    m_Unlockings[index] = {VRKS_UNLOCK_PENDING, {}};
+    publish();
+    later(m_Settings.network.unlockMs.value_or(0), &m_UnlockRun, [this, index, check] {
+        m_Unlockings[index] = unlock(&m_Settings.modems[index], check);
+        publish();
+    });
+    return true;
+}
+
+template <class Check>
+SimulatedBackend::Unlocking SimulatedBackend::unlock(SimulatedModem* modem, Check check) {
+    switch (m_Settings.network.unlock.value_or(UnlockChecks)) {
+        case UnlockNotAllowed:
+            return {VRKS_UNLOCK_NOT_ALLOWED, {}};
+        case UnlockOther:
+            return {VRKS_UNLOCK_OTHER, "SIM failure"};
+        default:
+            break;
+    }
+    if (!check(modem)) return {VRKS_UNLOCK_WRONG, {}};
+    modem->lock = VRKS_LOCK_NONE;
+    modem->pinAttempts = AllPinAttempts;
+    modem->pukAttempts = AllPukAttempts;
+    return {VRKS_UNLOCK_DONE, {}};
+}
+
+bool SimulatedBackend::isPinRight(SimulatedModem* modem, const std::string& pin) {
+    if (modem->pin == pin) return true;
+    modem->pinAttempts = modem->pinAttempts.value_or(1) - 1;
+    if (*modem->pinAttempts <= 0) modem->lock = VRKS_LOCK_PUK;
+    return false;
+}
+
+// After the last wrong PUK nothing opens the card any more.
+bool SimulatedBackend::isPukRight(SimulatedModem* modem, const std::string& puk, const std::string& newPin) {
+    if (modem->puk == puk) {
+        modem->pin = newPin;
+        return true;
+    }
+    modem->pukAttempts = modem->pukAttempts.value_or(1) - 1;
+    if (*modem->pukAttempts <= 0) modem->lock = VRKS_LOCK_OTHER;
+    return false;
+}
+
+bool SimulatedBackend::dial(const DialRequest& request) {
+    const Lock lock(m_Mutex);
+    if (m_Connection.state != VRKS_CONNECTION_DOWN) return false;
+    const Refusal refusal = refusalOf(request, *m_Picture.get());
+    m_Connection = {};
+    m_Connection.name = request.name;
+    m_Connection.failure = refusal.failure;
+    m_Connection.words = refusal.words;
+    if (!refusal.failure) {
+        m_Connection.state = VRKS_CONNECTION_DIALLING;
+        m_Connection.step = VRKS_STEP_PREPARING;
+        m_Connection.isOwn = true;
+        m_Connection.endsWithProcess = true;  // whatever was asked for: the modem itself does
+        m_Dialled = std::make_shared<const DialRequest>(request);
+        m_LastTraffic = {};
+        scheduleSteps();
+    }
+    publish();
+    return !refusal.failure;
+}
+
+void SimulatedBackend::scheduleSteps() {
+    ++m_DialRun;
+    const int ms = m_Settings.network.dialMs.value_or(0);
+    constexpr int Count = sizeof Steps / sizeof *Steps;
+    for (int i = 0; i < Count; ++i) {
+        later(ms / (Count + 1) * (i + 1), &m_DialRun, [this, step = Steps[i]] {
+            m_Connection.step = step;
+            publish();
+        });
+    }
+    later(ms, &m_DialRun, [this] { finishDialling(); });
+}
+
+int SimulatedBackend::outcome() const {
+    const SimulatedNetwork& network = m_Settings.network;
+    if (const int failure = network.dial.value_or(VRKS_FAILURE_NONE)) return failure;
+    if (!isAccepted(network.acceptedApn, m_Dialled->apn)) return VRKS_FAILURE_APN;
+    const bool known =
+        isAccepted(network.acceptedUser, m_Dialled->user) && isAccepted(network.acceptedPassword, m_Dialled->password);
+    return known ? VRKS_FAILURE_NONE : VRKS_FAILURE_AUTHENTICATION;
+}
+
+void SimulatedBackend::finishDialling() {
+    if (const int failure = outcome()) {
+        end(failure);
+    } else {
+        connect();
+    }
+}
+
+void SimulatedBackend::connect() {
+    m_Connection.state = VRKS_CONNECTION_UP;
+    m_Connection.step = VRKS_STEP_NONE;
+    m_Connection.since = std::time(nullptr);
+    m_Connection.upSince = std::chrono::steady_clock::now();
+    m_Connection.interfaceName = "sim0";
+    m_Connection.address = "192.0.2.10";  // of the networks for examples, RFC 5737 and RFC 3849
+    m_Connection.address6 = "2001:db8::10";
+    m_Connection.dns = m_Dialled->dns;
+    if (m_Connection.dns.empty()) m_Connection.dns = {"192.0.2.53", "198.51.100.53"};
+    publish();
+    if (const int ms = m_Settings.network.dropMs.value_or(0))
+        later(ms, &m_DialRun, [this] { end(VRKS_FAILURE_DROPPED); });
+}
+
+bool SimulatedBackend::hangUp() {
+    const Lock lock(m_Mutex);
+    if (m_Connection.state == VRKS_CONNECTION_DOWN || m_Settings.network.refusesHangUp.value_or(0) != 0) return false;
+    if (m_Connection.state == VRKS_CONNECTION_HANGING_UP) return true;
+    const int failure = isUp() ? VRKS_FAILURE_NONE : VRKS_FAILURE_CANCELLED;
+    m_LastTraffic = trafficNow();
+    m_Connection.state = VRKS_CONNECTION_HANGING_UP;
+    m_Connection.step = VRKS_STEP_NONE;
+    ++m_DialRun;
+    publish();
+    later(m_Settings.network.hangUpMs.value_or(0), &m_DialRun, [this, failure] { end(failure); });
+    return true;
+}
+
+void SimulatedBackend::end(int failure) {
+    ++m_DialRun;
+    m_LastTraffic = trafficNow();
+    Connection ended;
+    ended.name = m_Connection.name;
+    ended.failure = failure;
+    if (failure && failure != VRKS_FAILURE_CANCELLED) ended.words = textOf(m_Settings.network.words);
+    m_Connection = ended;
+    publish();
+}
+
+// A connection does not outlive its modem's being ready.
+void SimulatedBackend::endWithoutModem() {
+    const std::string before = m_InUse;
+    const Picture picture = makePicture();
+    if (m_Connection.state == VRKS_CONNECTION_DOWN) return;
+    if (picture.modemInUse != before) return end(VRKS_FAILURE_MODEM_GONE);
+    if (picture.devStatus != VRKS_DEV_STATUS_READY) end(VRKS_FAILURE_DROPPED);
+}
+
+Traffic SimulatedBackend::trafficNow() const {
+    if (!isUp()) return m_LastTraffic;
+    const auto up = std::chrono::steady_clock::now() - *m_Connection.upSince;
+    const auto ms = static_cast<std::uint64_t>(std::chrono::duration_cast<milliseconds>(up).count());
+    const std::uint64_t received = ms * static_cast<std::uint64_t>(m_Settings.network.rate.value_or(0)) / 1000;
+    return {received, received / UpstreamShare};
+}
+
+bool SimulatedBackend::sendUssd(const std::string&) {
+    const Lock lock(m_Mutex);
+    const std::size_t index = indexInUse();
+    if (index == NoModem || m_Ussd.state == VRKS_USSD_SENT || m_Ussd.state == VRKS_USSD_ASKS) return false;
+    const bool isPossible = m_Settings.modems[index].hasUssd.value_or(0) != 0;
+    const int outcome = m_Settings.network.ussd.value_or(UssdAnswers);
+    beginUssd(isPossible ? outcome : VRKS_USSD_FAILURE_NOT_SUPPORTED);
+    return true;
+}
+
+bool SimulatedBackend::answerUssd(const std::string&) {
+    const Lock lock(m_Mutex);
+    if (m_Ussd.state != VRKS_USSD_ASKS) return false;
+    beginUssd(UssdAnswers);
+    return true;
+}
+
+bool SimulatedBackend::cancelUssd() {
+    const Lock lock(m_Mutex);
+    if (m_Ussd.state != VRKS_USSD_SENT && m_Ussd.state != VRKS_USSD_ASKS) return false;
+    ++m_UssdRun;
+    m_Ussd = {VRKS_USSD_FAILED, VRKS_USSD_FAILURE_CANCELLED, {}, {}};
+    publish();
+    return true;
+}
+
+void SimulatedBackend::beginUssd(int outcome) {
+    ++m_UssdRun;
+    m_Ussd = {VRKS_USSD_SENT, VRKS_USSD_FAILURE_NONE, {}, {}};
+    publish();
+    later(m_Settings.network.ussdMs.value_or(0), &m_UssdRun, [this, outcome] {
+        const SimulatedNetwork& network = m_Settings.network;
+        if (outcome == UssdAnswers)
+            m_Ussd = {VRKS_USSD_ANSWER, 0, textOf(network.ussdText), {}};
+        else if (outcome == UssdAsks)
+            m_Ussd = {VRKS_USSD_ASKS, 0, textOf(network.ussdQuestion), {}};
+        else
+            m_Ussd = {VRKS_USSD_FAILED, outcome, {}, {}};
+        publish();
+    });
 }

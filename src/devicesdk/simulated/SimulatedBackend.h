@@ -1,52 +1,88 @@
-// A modem that exists only in the process's environment and memory.
+// Modems that exist only in the process's environment and memory.
 #ifndef ORBISDIAL_SIMULATEDBACKEND_H
 #define ORBISDIAL_SIMULATEDBACKEND_H
 
 #include <mutex>
 
 #include "../Backend.h"
-#include "../EventDispatcher.h"
-
-// What the simulated modem knows; nothing means that the query behind it fails.
-struct SimulatedState {
-    std::optional<std::string> imsi;
-    std::optional<std::string> customizeName;
-    std::optional<std::string> user;
-    std::optional<std::string> password;
-    std::optional<int> status;
-    std::optional<int> productType;
-    std::optional<int> multiMode;
-    std::optional<int> cardMode;
-    std::optional<int> systemMode;
-    std::optional<int> systemSubMode;
-};
+#include "../CurrentPicture.h"
+#include "Later.h"
+#include "SimulatedSettings.h"
 
 class SimulatedBackend : public Backend {
 public:
-    SimulatedBackend();
+    explicit SimulatedBackend(EventSink& events);
 
-    // One value by its name without the prefix ORBISDIAL_SIM_; null makes its query fail. False, and nothing
-    // changes, for an unknown name or a number that is none.
+    // See vrks_simulated.h.
     bool set(const char* name, const char* value);
-
-    // Everything back to what the environment says.
+    bool change(const char* name, const char* value);
+    bool drop(int failure);
     void reset();
 
-    EventDispatcher* events() override { return &m_Events; }
-    std::optional<int> devStatus() override;
-    std::optional<std::string> customizeName() override;
-    std::optional<int> productType() override;
-    std::optional<std::string> imsi() override;
-    std::optional<MultiModeStatus> multiModeStatus() override;
-    std::optional<SystemMode> systemMode() override;
-    std::optional<DataServiceProfile> dataServiceProfile() override;
+    // The last request that was dialled; nothing before the first.
+    std::shared_ptr<const DialRequest> dialled();
+
+    std::shared_ptr<const Picture> picture() override { return m_Picture.get(); }
+    Traffic traffic() override;
+    bool selectModem(const std::string& id) override;
+    bool enterPin(const std::string& pin) override;
+    bool enterPuk(const std::string& puk, const std::string& newPin) override;
+    bool dial(const DialRequest& request) override;
+    bool hangUp() override;
+    bool sendUssd(const std::string& command) override;
+    bool answerUssd(const std::string& answer) override;
+    bool cancelUssd() override;
+    void stop() override { m_Later.stop(); }
 
 private:
-    SimulatedState state();
+    using Lock = std::lock_guard<std::mutex>;
 
-    EventDispatcher m_Events;
-    std::mutex m_Mutex;  // guards the state
-    SimulatedState m_State;
+    // What is not set but happens.
+    struct Unlocking {
+        int result = VRKS_UNLOCK_NONE;
+        std::string words;
+    };
+
+    // All of these are called with the mutex held.
+    ModemInfo infoOf(std::size_t index) const;
+    Picture makePicture();
+    void publish() { m_Picture.publish(makePicture()); }
+    std::size_t indexInUse() const;
+    // Runs the task with the mutex held, unless the run has been counted on by then.
+    template <class Task>
+    void later(int ms, unsigned* run, Task task);
+    template <class Check>
+    bool beginUnlocking(int lock, Check check);
+    template <class Check>
+    Unlocking unlock(SimulatedModem* modem, Check check);
+    static bool isPinRight(SimulatedModem* modem, const std::string& pin);
+    static bool isPukRight(SimulatedModem* modem, const std::string& puk, const std::string& newPin);
+    void scheduleSteps();
+    int outcome() const;
+    void finishDialling();
+    void connect();
+    void end(int failure);
+    void endWithoutModem();
+    Traffic trafficNow() const;
+    bool isUp() const { return m_Connection.state == VRKS_CONNECTION_UP; }
+    void beginUssd(int outcome);
+
+    std::mutex m_Mutex;  // guards everything below but what guards itself
+    SimulatedSettings m_Settings;
+    std::array<Unlocking, 2> m_Unlockings;
+    std::string m_Wanted;  // the selected modem's key; empty: automatic
+    std::string m_InUse;
+    Connection m_Connection;
+    Traffic m_LastTraffic;
+    std::shared_ptr<const DialRequest> m_Dialled;
+    Ussd m_Ussd;
+    // Counted on to call off what was to happen later.
+    unsigned m_DialRun = 0;
+    unsigned m_UnlockRun = 0;
+    unsigned m_UssdRun = 0;
+
+    Later m_Later;
+    CurrentPicture m_Picture;
 };
 
 #endif

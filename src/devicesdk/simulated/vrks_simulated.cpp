@@ -3,6 +3,8 @@
 #include <exception>
 
 #include "../BackendSelection.h"
+#include "../EventDispatcher.h"
+#include "../Failures.h"
 #include "SimulatedBackend.h"
 
 namespace {
@@ -34,15 +36,48 @@ long vrks_simulated_set(const char* name, const char* value) {
     return withModem([=](SimulatedBackend& modem) { return name && modem.set(name, value); });
 }
 
+long vrks_simulated_change(const char* name, const char* value) {
+    return withModem([=](SimulatedBackend& modem) { return name && modem.change(name, value); });
+}
+
 long vrks_simulated_raise_event(int event) {
-    return withModem([=](SimulatedBackend& modem) {
-        modem.events()->raise(event);
+    return withModem([=](SimulatedBackend&) {
+        selectedBackend().events->queueDevice(event);
         return true;
     });
 }
 
 long vrks_simulated_wait_events(void) {
-    return withModem([](SimulatedBackend& modem) { return modem.events()->waitDelivered(); });
+    return withModem([](SimulatedBackend&) { return selectedBackend().events->waitDelivered(); });
+}
+
+long vrks_simulated_drop(const char* failure) {
+    return withModem([=](SimulatedBackend& modem) {
+        const std::optional<int> known = failureNamed(failure ? failure : "dropped");
+        return known && modem.drop(*known);
+    });
+}
+
+long vrks_simulated_dialled(VRKS_DialRequest* request) {
+    return withModem([=](SimulatedBackend& modem) {
+        if (!request) return false;
+        thread_local std::shared_ptr<const DialRequest> dialled;
+        dialled = modem.dialled();
+        if (!dialled) return false;
+        const auto server = [](std::size_t i) { return i < dialled->dns.size() ? dialled->dns[i].c_str() : ""; };
+        *request = {sizeof *request,
+                    dialled->allowsChap,
+                    dialled->allowsPap,
+                    dialled->endsWithProcess,
+                    dialled->name.c_str(),
+                    dialled->number.c_str(),
+                    dialled->apn.c_str(),
+                    dialled->user.c_str(),
+                    dialled->password.c_str(),
+                    server(0),
+                    server(1)};
+        return true;
+    });
 }
 
 long vrks_simulated_reset(void) {

@@ -1,0 +1,14 @@
+// Loads a backend that is a module.
+#ifndef ORBISDIAL_BACKENDLOADER_H
+#define ORBISDIAL_BACKENDLOADER_H
+
+#include "Backend.h"
+
+struct LoadedModule {
+    const BackendModule* module;  // null when it can't be had
+    const char* problem;          // why not, for a person; lives as long as the process
+};
+
+LoadedModule loadBackendModule(const char* name);
+
+#endif
