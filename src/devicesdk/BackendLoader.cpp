@@ -12,7 +12,7 @@ namespace {
 fs::path moduleFile(const std::string& name) {
     Dl_info own;
     if (::dladdr(reinterpret_cast<const void*>(&loadBackendModule), &own) == 0) return {};
-    return fs::absolute(own.dli_fname).parent_path() / "orbisdial" / ("vrks-" + name + ".so");
+    return fs::absolute(own.dli_fname).lexically_normal().parent_path() / "orbisdial" / ("vrks-" + name + ".so");
 }
 
 LoadedModule failed(const std::string& name, const std::string& reason) {

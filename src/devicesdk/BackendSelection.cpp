@@ -94,9 +94,7 @@ const BackendSelection& parentsSelection() {
 }
 
 const BackendSelection& childsSelection() {
-    static NoneBackend backend;
-    static const BackendSelection selection{&backend, nullptr, nullptr,
-                                            "the process was made by one that uses the modem"};
+    static const BackendSelection selection = unavailable("the process was made by one that uses the modem");
     return selection;
 }
 

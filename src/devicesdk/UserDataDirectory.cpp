@@ -1,7 +1,10 @@
 #include "UserDataDirectory.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <mutex>
@@ -27,12 +30,54 @@ bool isFolder(const fs::path& path) {
     return fs::is_directory(path, ignored);
 }
 
-// The mode is set again because the umask may have taken the owner's own rights away. Another process may
-// make the same folder at the same time.
+class Descriptor {
+public:
+    explicit Descriptor(int descriptor) : m_Descriptor(descriptor) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (isOpen()) ::close(m_Descriptor);
+    }
+
+    int get() const { return m_Descriptor; }
+    bool isOpen() const { return m_Descriptor >= 0; }
+
+private:
+    int m_Descriptor;
+};
+
+constexpr mode_t FolderMode = 0700;
+constexpr int FolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+// The folder just made, whatever somebody may put in its place. The umask may have taken the owner's right to open
+// it; that hinders everybody but root, who must not change the mode of what a link leads to.
+int openMade(const fs::path& path) {
+    const int descriptor = ::open(path.c_str(), FolderFlags | O_NOFOLLOW);
+    if (descriptor >= 0 || errno != EACCES || ::chmod(path.c_str(), FolderMode) != 0) return descriptor;
+    return ::open(path.c_str(), FolderFlags | O_NOFOLLOW);
+}
+
+// What root makes in another user's folder is for that user.
+bool giveToOwnerOf(int parent, int made) {
+    struct stat owner = {};
+    if (::geteuid() != 0) return true;
+    if (::fstat(parent, &owner) != 0) return false;
+    return owner.st_uid == 0 || ::fchown(made, owner.st_uid, owner.st_gid) == 0;
+}
+
+// A file system that can't flush a folder says so, and then there is nothing to do.
+bool flush(int folder) { return ::fsync(folder) == 0 || errno == EINVAL; }
+
+// Another process may make the same folder at the same time. The folder around it is flushed, or a loss of power could
+// take away the new one with all that was flushed into it.
 bool makeFolder(const fs::path& path) {
-    constexpr mode_t mode = 0700;
-    if (::mkdir(path.c_str(), mode) != 0) return isFolder(path);
-    return ::chmod(path.c_str(), mode) == 0;
+    if (::mkdir(path.c_str(), FolderMode) != 0) return isFolder(path);
+    const Descriptor made(openMade(path));
+    if (!made.isOpen() || ::fchmod(made.get(), FolderMode) != 0) return false;
+    const fs::path around = path.has_parent_path() ? path.parent_path() : fs::path(".");
+    const Descriptor parent(::open(around.c_str(), FolderFlags));
+    if (!parent.isOpen()) return errno == EACCES && ::geteuid() != 0;  // may be entered and written to, not read
+    return giveToOwnerOf(parent.get(), made.get()) && flush(parent.get());
 }
 
 bool haveFolders(const fs::path& path) {
@@ -54,14 +99,16 @@ std::optional<std::u16string> userDataDirectory() {
     static std::u16string lastName;
     const std::optional<fs::path> configured = configuredFolder();
     if (!configured) return std::nullopt;
-    const std::lock_guard<std::mutex> lock(mutex);
-    if (configured->native() == lastConfigured.native() && isFolder(*configured)) return lastName;
+    // In a forked child the lock may be held by a thread that is not there.
+    const std::unique_lock<std::mutex> lock(mutex, std::try_to_lock);
+    const bool mayKeep = lock.owns_lock();
+    if (mayKeep && configured->native() == lastConfigured.native() && isFolder(*configured)) return lastName;
 
     const fs::path folder = fs::absolute(*configured) / "";
     std::u16string name = folder.u16string();           // throws when it is not UTF-8, but for encoded surrogates
     if (fs::path(name) != folder) return std::nullopt;  // which don't come back
     if (!haveFolders(folder)) return std::nullopt;
-    if (configured->is_absolute()) {
+    if (mayKeep && configured->is_absolute()) {
         lastConfigured = *configured;
         lastName = name;
     }

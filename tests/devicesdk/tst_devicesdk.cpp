@@ -1,5 +1,6 @@
 // The device SDK: what each environment makes of it, its events, and the user data directory.
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QSemaphore>
 #include <QTemporaryDir>
@@ -15,6 +16,7 @@
 
 #include "Program.h"
 #include "Rows.h"
+#include "TestFolder.h"
 #include "vrks.h"
 #include "vrks_simulated.h"
 
@@ -187,8 +189,7 @@ private slots:
 
     void withoutModem_data() {
         const Rows<QByteArray, QByteArray> row("device", "backend");
-        row("not asked for", {}, "none");
-        row("not there yet", "modemmanager", "failed");
+        row("none", "none", "none");
         row("unknown", "Simulated", "failed");
     }
 
@@ -200,6 +201,53 @@ private slots:
         QCOMPARE(outcome.out.split('|').first(), backend);
         QCOMPARE(outcome.out.endsWith('|'), backend == "none");
     }
+
+    void modules_data() {
+        const Rows<QByteArray, QString, QByteArray, QByteArray> row("device", "module", "standIn", "expected");
+        row("asked for", "modemmanager", STANDIN_GOOD, "0", "modemmanager|");
+        row("chosen", {}, STANDIN_GOOD, "0", "modemmanager|");
+        row("not available", {}, STANDIN_GOOD, "absent", "none|");
+        row("asked for all the same", "modemmanager", STANDIN_GOOD, "absent", "modemmanager|");
+        row("can't be made", "modemmanager", STANDIN_GOOD, "null", "failed|the device backend can't start");
+        row("of another version", "modemmanager", STANDIN_OLD, "0",
+            "failed|the device backend \"modemmanager\" can't be loaded: it belongs to another version");
+        row("missing", "modemmanager", "", "",
+            "failed|the device backend \"modemmanager\" can't be loaded: there is no @/orbisdial/vrks-modemmanager.so");
+        row("missing and not asked for", {}, "", "", "none|");
+        row("no library", "modemmanager", VRKS_PROBE ".c", "",
+            "failed|the device backend \"modemmanager\" can't be loaded: @/orbisdial/vrks-modemmanager.so: ");
+    }
+
+    void modules() {
+        const QTemporaryDir folder;
+        const QString expected = cell<QByteArray>("expected").replace('@', QFile::encodeName(folder.path()));
+        qputenv("STANDIN", cell<QByteArray>("standIn"));
+        install(folder, cell("module"));
+        const QString out = runProbe(cell<QByteArray>("device"), {}).out;
+        leave();
+        QCOMPARE(expected.endsWith(": ") ? out.left(expected.size()) : out, expected);  // the loader's words follow
+    }
+
+    void firstQueryWaits_data() {
+        const Rows<QByteArray, QByteArray, int> row("wait", "comesAfter", "status");
+        row("long enough", "20000", "200", 3);
+        row("not at all", "0", "1000", 9);
+        row("no number", "x", "200", 3);  // a second, then
+    }
+
+    void firstQueryWaits() {
+        const QTemporaryDir folder;
+        qputenv("STANDIN", cell<QByteArray>("comesAfter"));
+        qputenv("ORBISDIAL_DEVICE_WAIT_MS", cell<QByteArray>("wait"));
+        install(folder, STANDIN_GOOD);
+        const int status = runProbe("modemmanager", {"status"}).status;
+        leave();
+        qunsetenv("ORBISDIAL_DEVICE_WAIT_MS");
+        QCOMPARE(status, cell<int>("status"));
+    }
+
+    // Nothing works there but what needs no modem.
+    void forkedChildHasNoModem() { QCOMPARE(runProbe("simulated", {"fork"}).status, 0); }
 
     void endsWithEventsOnTheirWay() {
         QCOMPARE(runProbe("simulated", {"from main"}).status, 0);
@@ -339,7 +387,38 @@ private slots:
             QCOMPARE(QFile::permissions(made), QFile::Permissions(0x7700));
     }
 
+    // Root's programs must leave the folder's owner able to use it.
+    void dataDirectoryBelongsToTheFoldersOwner() {
+        if (::geteuid() != 0) QSKIP("only root can make folders for others");
+        constexpr uid_t User = 12345, Group = 23456;
+        const QTemporaryDir root;
+        QCOMPARE(::chown(QFile::encodeName(root.path()), User, Group), 0);
+        qputenv("ORBISDIAL_DATA_DIR", QFile::encodeName(root.filePath("a/b")));
+        QVERIFY(::dataDirectory());
+        for (const char* name : {"a", "a/b"}) {
+            const QFileInfo made(root.filePath(name));
+            QCOMPARE(made.ownerId(), User);
+            QCOMPARE(made.groupId(), Group);
+            QCOMPARE(made.permissions(), QFile::Permissions(0x7700));
+        }
+        qunsetenv("ORBISDIAL_DATA_DIR");
+    }
+
 private:
+    // The SDK's library in a folder of its own, with a module beside it where one is given.
+    static void install(const QTemporaryDir& folder, const QString& module) {
+        QVERIFY(QDir(folder.path()).mkdir("orbisdial"));
+        QVERIFY(QFile::copy(VRKS_LIBRARY, folder.filePath(VRKS_LIBRARY_NAME)));
+        const QString file = folder.filePath("orbisdial/vrks-modemmanager.so");
+        if (!module.isEmpty() && !QFile::copy(module, file)) TestFolder::write(file, "no library");
+        qputenv("LD_LIBRARY_PATH", QFile::encodeName(folder.path()));
+    }
+
+    static void leave() {
+        qunsetenv("LD_LIBRARY_PATH");
+        qunsetenv("STANDIN");
+    }
+
     // Sets an environment variable as the row's column says.
     static void setVariable(const char* name, const char* column, const QString& base) {
         QByteArray value = cell<QByteArray>(column);

@@ -1,12 +1,16 @@
 /* A program in C on the device SDK. Without an argument it prints the backend's name and the problem, and
- * ends with the number of device calls that did anything. With one it ends while events are on their way:
- * "within" a callback, or else from main. */
+ * ends with the number of device calls that did anything. With "status" it ends with the modem's status, or 9. With
+ * "fork" it ends with that number for a child that it makes while events are on their way. With another it ends itself
+ * while they are: "within" a callback, or else from main. */
+#define _POSIX_C_SOURCE 200809L
 #include <stdatomic.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/wait.h>
 #include <threads.h>
 #include <time.h>
+#include <unistd.h>
 
 #include "vrks.h"
 #include "vrks_simulated.h"
@@ -39,6 +43,41 @@ static int endEarly(VRKS_DevInitEventCallback callback) {
     return callback == endWithin ? vrks_simulated_wait_events() != 0 : 0;
 }
 
+static void ignore(int event, void* data) {
+    (void)event;
+    (void)data;
+}
+
+/* How many of the calls about modems and connections did anything, or wrote to a record. */
+static int laterCalls(void) {
+    const VRKS_DialRequest request = {.size = sizeof request, .name = "Home"};
+    static const VRKS_ModemInfo noModem = {.size = sizeof noModem};
+    static const VRKS_Connection noConnection = {.size = sizeof noConnection};
+    static const VRKS_Ussd noUssd = {.size = sizeof noUssd};
+    VRKS_ModemInfo modem = noModem;
+    VRKS_Connection connection = noConnection;
+    VRKS_Ussd ussd = noUssd;
+    char id[VRKS_MODEM_ID_SIZE];
+    int count = VRKS_DevSrv_RegisterEventCallback(ignore, 0) == 0;
+    count += VRKS_DevSrv_UnRegisterEventCallback(ignore, 0) == 0;
+    count += VRKS_DevSrv_GetModemAt(0, id) == 0;
+    count += VRKS_DevSrv_SelectModem(0) == 0;
+    count += VRKS_DevSrv_GetModemInfo(&modem) == 0;
+    count += VRKS_DevSrv_GetModemInfoOf("", &modem) == 0;
+    count += VRKS_DevSrv_EnterPin("1234") == 0;
+    count += VRKS_DevSrv_EnterPuk("12345678", "1234") == 0;
+    count += VRKS_NetConnectSrv_Dial(&request) == 0;
+    count += VRKS_NetConnectSrv_HangUp() == 0;
+    count += VRKS_NetConnectSrv_GetConnection(&connection) == 0;
+    count += VRKS_NetSrv_SendUssd("*100#") == 0;
+    count += VRKS_NetSrv_AnswerUssd("1") == 0;
+    count += VRKS_NetSrv_CancelUssd() == 0;
+    count += VRKS_NetSrv_GetUssd(&ussd) == 0;
+    count += memcmp(&modem, &noModem, sizeof modem) != 0;
+    count += memcmp(&connection, &noConnection, sizeof connection) != 0;
+    return count + (memcmp(&ussd, &noUssd, sizeof ussd) != 0);
+}
+
 static int callsThatDidAnything(void) {
     static char out[VRKS_DSPROFILE_SIZE];
     static const char untouched[sizeof out];
@@ -56,12 +95,36 @@ static int callsThatDidAnything(void) {
     count += vrks_simulated_raise_event(1) == 0;
     count += vrks_simulated_wait_events() == 0;
     count += vrks_simulated_reset() == 0;
+    count += vrks_simulated_change("IMSI", "1") == 0;
+    count += vrks_simulated_drop(0) == 0;
+    count += laterCalls();
     return count + (memcmp(out, untouched, sizeof out) != 0);
+}
+
+/* The child must neither wait for the parent's threads nor end with them. */
+static int inChild(void) {
+    int i;
+    int status = 0;
+    pid_t child;
+    unsigned short* directory = 0;
+    if (VRKS_DevSrv_RegisterDevInitEventCallback(slowly) != 0) return 1;
+    for (i = 0; i < 1000; ++i) vrks_simulated_raise_event(7);
+    child = fork();
+    if (child == 0) exit(callsThatDidAnything() + (VRKS_GetUserDataDirectory(&directory) != 0));
+    if (child < 0 || waitpid(child, &status, 0) != child || !WIFEXITED(status)) return 1;
+    return WEXITSTATUS(status);
+}
+
+static int status(void) {
+    int value = 0;
+    return VRKS_DevSrv_GetDevStatus(&value) == 0 ? value : 9;
 }
 
 int main(int count, char** arguments) {
     const char* problem = "unset";
     const char* name;
+    if (count > 1 && strcmp(arguments[1], "fork") == 0) return inChild();
+    if (count > 1 && strcmp(arguments[1], "status") == 0) return status();
     if (count > 1) return endEarly(strcmp(arguments[1], "within") == 0 ? endWithin : slowly);
     name = vrks_backend_name(&problem);
     printf("%s|%s", name ? name : "failed", problem ? problem : "");
