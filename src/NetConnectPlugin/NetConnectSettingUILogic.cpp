@@ -4,11 +4,10 @@
 #include <QVariant>
 
 #include "Change.h"
-#include "FileReplacement.h"
 #include "INetConnectSetting.h"
+#include "NetConnectLogicHold.h"
 #include "NetConnectOperation.h"
 #include "Trace.h"
-#include "UserFileLock.h"
 #include "vrks.h"
 
 // Atomic, since the device's thread asks whether there is an instance.
@@ -21,8 +20,6 @@ NetConnectSettingUILogic* NetConnectSettingUILogic::GetInstance(LoadMoment momen
     return m_pNetConnectSettingUILogic;
 }
 
-NetConnectSettingUILogic* NetConnectSettingUILogic::instance() { return m_pNetConnectSettingUILogic; }
-
 void NetConnectSettingUILogic::Destroy() {
     NetConnectSettingUILogic* logic = m_pNetConnectSettingUILogic;
     if (!logic) return;
@@ -33,7 +30,8 @@ void NetConnectSettingUILogic::Destroy() {
 }
 
 NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
-    : m_pXMLParse(0),
+    : m_Store(UserStore::instance()),
+      m_pXMLParse(0),
       m_pProfileTemplateHash(0),
       m_pFunctionHash(0),
       m_pProfileListHash(0),
@@ -42,11 +40,9 @@ NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
       m_Mutex(QMutex::Recursive),
       m_bIMSIDefaultForgotten(false),
       m_bForeignDefault(false),
-      m_bProfilesAwaited(moment == WhenNeeded && isUserFileLarge()),
-      m_bUserIndexValid(false),
-      m_nUserSearches(0),
       m_nLibraryRevision(-1),
-      m_nImportHolds(0) {
+      m_nHolds(0) {
+    if (moment == WhenNeeded && isUserFileLarge()) m_Store.awaitProfiles();
     Init();
 }
 
@@ -61,12 +57,13 @@ NetConnectSettingUILogic::~NetConnectSettingUILogic() {
     delete m_pFunctionHash;
     delete m_pProfileListHash;
     delete m_pIMSIHash;
-    while (m_nImportHolds > 0) releaseImportHold();
+    m_Store.detach();
+    while (m_nHolds > 0) letGo();
     NetConnectXMLParse::Destroy();
 }
 
 bool NetConnectSettingUILogic::isAutomaticDefault() {
-    readAwaitedProfiles();
+    m_Store.readAwaited();
     if (m_strDefaultProfile.isEmpty()) return false;
     bool followsIMSI = false;
     GetFunctionConfigValue("IMSIAPN", &followsIMSI);
@@ -77,16 +74,17 @@ bool NetConnectSettingUILogic::isAutomaticDefault() {
 // A default that the configuration proposed is not left in the user's file.
 void NetConnectSettingUILogic::clearAutomaticDefault() {
     if (!isAutomaticDefault()) return;
-    NetConnectOperation operation(this);
+    const NetConnectOperation operation;
     // The user may have chosen one in another process meanwhile.
     if (isAutomaticDefault()) SetDefaultDialUpProfileName(QLatin1String(""), false);
 }
 
 int NetConnectSettingUILogic::Init() {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     m_pXMLParse = NetConnectXMLParse::GetInstance();
     qDebug("%s: %s: ", __FILE__, "Init");
     if (!m_pXMLParse) return NoXMLParse;
+    attachStore();
 
     delete m_pProfileTemplateHash;
     delete m_pFunctionHash;
@@ -98,7 +96,7 @@ int NetConnectSettingUILogic::Init() {
 
     forgetForeignDefault();
     readLibrary(&m_strDefaultProfile);
-    if (!m_bProfilesAwaited) readUserProfiles();
+    if (!m_Store.isAwaited()) m_Store.read();
     m_APNProfileList = getAPNListFromHash();
 
     m_IMSIProfileList.clear();
@@ -108,12 +106,19 @@ int NetConnectSettingUILogic::Init() {
     int deviceStatus = 0;
     if (followsIMSI && VRKS_DevSrv_GetDevStatus(&deviceStatus) == 0 && deviceStatus == VRKS_DEV_STATUS_READY)
         result = getIMSIProfileList();
-    publishStatus();
     return result;
 }
 
+void NetConnectSettingUILogic::attachStore() {
+    UserStoreMembers members;
+    members.profiles = &m_UserProfileList;
+    members.defaultName = &m_strDefaultProfile;
+    members.isUserSet = &m_bIsUserSet;
+    m_Store.attach(members, m_pXMLParse, [this] { publishStatus(); });
+}
+
 int NetConnectSettingUILogic::getConfigData() {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     delete m_pProfileTemplateHash;
     delete m_pFunctionHash;
     delete m_pProfileListHash;
@@ -219,98 +224,6 @@ bool NetConnectSettingUILogic::isUserFileLarge() {
     return QFileInfo(NetConnectXMLParse::GetInstance()->userProfilePath()).size() > soonRead;
 }
 
-void NetConnectSettingUILogic::readAwaitedProfiles() {
-    if (!m_bProfilesAwaited) return;
-    readUserProfiles();
-    publishStatus();
-}
-
-int NetConnectSettingUILogic::readUserProfiles() {
-    m_bProfilesAwaited = false;
-    const QList<DialupProfile> before = m_UserProfileList;
-    m_UserProfileList.clear();
-    bool isUserSet = false;
-    const int status =
-        m_pXMLParse->GetAllProfileFromUserDataXML(&m_UserProfileList, &m_strDefaultProfile, QString(), &isUserSet);
-    if (!m_UserProfileList.isSharedWith(before)) userListChanged();
-    m_bIsUserSet = isUserSet;
-    m_StoredDefault = NetConnectDefault(m_strDefaultProfile, m_bIsUserSet);
-    rememberUserFile(status);
-    return status;
-}
-
-// A file that could not be read is read again before anything is written over it, though it did not change.
-void NetConnectSettingUILogic::rememberUserFile(int status) {
-    m_UserFileStamp = m_pXMLParse->userFileStamp();
-    if (status == FileNotOpened) m_UserFileStamp.settled = false;
-}
-
-// Keeps other processes away from the user's file, and takes in what they wrote into it before.
-bool NetConnectSettingUILogic::lockUserFile(UserFileLock* lock) {
-    const QString path = m_pXMLParse ? m_pXMLParse->userProfilePath() : QString();
-    return !path.isEmpty() && lockFileBeside(path, lock) && takeInChanges(path);
-}
-
-bool NetConnectSettingUILogic::lockFileBeside(const QString& userFile, UserFileLock* lock) {
-    const QString lockPath = userFile + QLatin1String(".lock");
-    QString reason;
-    if (!lock->acquire(lockPath, &reason)) {
-        m_pXMLParse->reportProblem(lockPath, reason);
-        publishStatus();
-        return false;
-    }
-    m_pXMLParse->clearProblem(lockPath);
-    return true;
-}
-
-// Takes in what other processes wrote since the user's file was last read or written here. The default counts only
-// when they changed it: the one in memory may be newer. False when the file can't be read at all.
-bool NetConnectSettingUILogic::takeInChanges(const QString& userFile) {
-    const FileStamp stamp = FileStamp::of(userFile);
-    if (m_UserFileStamp.settled && stamp == m_UserFileStamp) return true;
-    QList<DialupProfile> profiles;
-    QString defaultName = m_StoredDefault.name;
-    bool isUserSet = false;
-    const int status = m_pXMLParse->GetAllProfileFromUserDataXML(&profiles, &defaultName, QString(), &isUserSet);
-    rememberUserFile(status);
-    if (status == FileNotOpened) publishStatus();
-    if (status != Success && status != FileMissing)
-        return status != FileNotOpened;  // what was read before is better than a part
-
-    if (!m_UserProfileList.isSharedWith(profiles)) userListChanged();
-    m_UserProfileList = profiles;
-    const NetConnectDefault stored(defaultName, isUserSet);
-    if (stored == m_StoredDefault) return true;
-    m_StoredDefault = stored;
-    m_strDefaultProfile = stored.name;
-    m_bIsUserSet = stored.isUserSet;
-    return true;
-}
-
-int NetConnectSettingUILogic::writeUserProfiles(bool isUserSet) {
-    const int status = m_pXMLParse->SaveProfileToXML(m_UserProfileList, m_strDefaultProfile, QString(), isUserSet);
-    if (status == Success) {
-        m_StoredDefault = NetConnectDefault(m_strDefaultProfile, isUserSet);
-        m_UserFileStamp = m_pXMLParse->userFileStamp();
-    } else {
-        m_UserFileStamp.settled = false;  // the next change starts from what the file holds
-    }
-    publishStatus();
-    return status;
-}
-
-NetConnectSettingUILogic::Snapshot NetConnectSettingUILogic::snapshot() const {
-    const Snapshot snapshot = {m_UserProfileList, NetConnectDefault(m_strDefaultProfile, m_bIsUserSet)};
-    return snapshot;
-}
-
-void NetConnectSettingUILogic::restore(const Snapshot& snapshot) {
-    m_UserProfileList = snapshot.userProfiles;
-    m_strDefaultProfile = snapshot.defaultProfile.name;
-    m_bIsUserSet = snapshot.defaultProfile.isUserSet;
-    userListChanged();
-}
-
 void NetConnectSettingUILogic::RegisterDevice() {
     const char* const function = "RegisterDevice";
     qDebug("%s: %s: %s: Entered", traceTime().constData(), __FILE__, function);
@@ -363,11 +276,18 @@ void NetConnectSettingUILogic::PublishStatus(QObject* object) {
     publishStatus();
 }
 
+void NetConnectSettingUILogic::letGo() {
+    --m_nHolds;
+    m_Mutex.unlock();
+}
+
+bool NetConnectSettingUILogic::AreProfilesAwaited() const { return m_Store.isAwaited(); }
+
 void NetConnectSettingUILogic::publishStatus() {
     if (!m_pStatusObject) return;
     const NetConnectStorageProblem problem = LastStorageProblem();
     m_pStatusObject->setProperty(ORBISDIAL_LAST_STORAGE_PROBLEM, problem.isNull() ? QString() : problem.text());
     m_pStatusObject->setProperty(ORBISDIAL_MATCHED_IMSI_PREFIX, m_strMatchedPrefix);
     m_pStatusObject->setProperty(ORBISDIAL_PROPOSED_DEFAULT, ProposedDefault());
-    m_pStatusObject->setProperty(ORBISDIAL_PROFILES_AWAITED, m_bProfilesAwaited);
+    m_pStatusObject->setProperty(ORBISDIAL_PROFILES_AWAITED, AreProfilesAwaited());
 }

@@ -9,7 +9,7 @@
 //   logic/NetConnectSettingUILogic_Password.cpp  sealing of passwords
 //   logic/NetConnectSettingUILogic_Transfer.cpp  import and export
 //   logic/NetConnectSettingUILogic_Questions.cpp  what it asks on the screen (a library of its own)
-//   store/NetConnectStoreAction.cpp        gathered writes and the lock between processes
+//   store/UserStore.cpp                    the lists in step with the user's file
 #ifndef ORBISDIAL_NETCONNECTSETTINGUILOGIC_H
 #define ORBISDIAL_NETCONNECTSETTINGUILOGIC_H
 
@@ -28,7 +28,7 @@
 #include "NetConnectXMLParse.h"
 
 class QWidget;
-class UserFileLock;
+class UserStore;
 
 // Which presets a SIM selects.
 struct NetConnectIMSISelection {
@@ -119,7 +119,7 @@ public:
     bool HasUserProfile(const QString& name);
 
     // True while the user's profiles are still to be read.
-    bool AreProfilesAwaited() const { return m_bProfilesAwaited; }
+    bool AreProfilesAwaited() const;
 
     // --- the default profile ---
 
@@ -200,25 +200,18 @@ signals:
     void DeviceInit();
 
 private:
-    friend class NetConnectStoreAction;
-    friend class NetConnectOperation;
-
-    // What a dropped action puts back.
-    struct Snapshot {
-        QList<DialupProfile> userProfiles;
-        NetConnectDefault defaultProfile;
-    };
+    class Hold;
+    friend class Hold;
 
     explicit NetConnectSettingUILogic(LoadMoment moment);
     virtual ~NetConnectSettingUILogic();
 
     // loading
+    void attachStore();
     int readConfigPair(QString group, QString module, UserPrompt* prompt);
     static QString customizeName();
     static bool isCDMAProduct();
     static bool isUserFileLarge();
-    int readUserProfiles();
-    void readAwaitedProfiles();
     void readLibrary(QString* defaultName);
     int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);
     void forgetForeignDefault();
@@ -228,19 +221,6 @@ private:
     static bool translateName(QList<DialupProfile>* profiles, int index);
 
     // the user's file
-    static NetConnectSettingUILogic* instance();
-    bool lockUserFile(UserFileLock* lock);
-    bool lockFileBeside(const QString& userFile, UserFileLock* lock);
-    bool takeInChanges(const QString& userFile);
-    void rememberUserFile(int status);
-    int writeUserProfiles(bool isUserSet);
-    Snapshot snapshot() const;
-    void restore(const Snapshot& snapshot);
-    void userListChanged() {
-        m_bUserIndexValid = false;
-        m_nUserSearches = 0;
-    }
-    int findUserProfile(const QString& name);
     int findLibraryProfile(const QString& name);
     bool sealPassword(DialupProfile* profile);
     bool translateUserProfiles();
@@ -257,15 +237,15 @@ private:
     QString translatedLibraryName(const QString& name);
 
     // import and export
-    class ImportHold;
-    void releaseImportHold();
     int refuseExportTo(const QString& path);
     bool addCandidates(const QStringList& names, const QSet<QString>& replaced);
     class ProfilesByName;
     bool exportProfile(const QString& name, const ProfilesByName& target, const ProfilesByName& source);
 
     void publishStatus();
+    void letGo();
 
+    UserStore& m_Store;
     NetConnectXMLParse* m_pXMLParse;
     QHash<QString, NetConnectXML>* m_pProfileTemplateHash;
     QHash<QString, NetConnectXML>* m_pFunctionHash;
@@ -291,16 +271,9 @@ private:
     std::atomic<bool> m_bIMSIDefaultForgotten;
 
     QString m_strMatchedPrefix;
-    NetConnectDefault m_StoredDefault;  // as last read from or written to the user's file
-    FileStamp m_UserFileStamp;          // the user's file as m_UserProfileList was read or written
-    bool m_bForeignDefault;             // m_strDefaultProfile came from a file that was browsed
-    NetConnectDefault m_OwnDefault;     // what it was before
+    bool m_bForeignDefault;          // m_strDefaultProfile came from a file that was browsed
+    NetConnectDefault m_OwnDefault;  // what it was before
 
-    bool m_bProfilesAwaited;  // reading the user's file was postponed
-
-    QHash<QString, int> m_UserIndex;  // name to first place in m_UserProfileList
-    bool m_bUserIndexValid;
-    int m_nUserSearches;             // without the index, since the list changed
     QList<QString> m_UnsortedNames;  // what sortProfileNames was last given, and what it made of it
     QList<QString> m_SortedNames;
     QHash<QString, int> m_LibraryIndex;        // shown name to first place in m_ProfileLibList
@@ -308,7 +281,7 @@ private:
     QHash<QString, QString> m_LibraryLangids;  // stored name to langid
     QHash<QString, QString> m_StoredNames;     // shown name to stored name, the inverse of m_ProfileMap
     QPointer<QObject> m_pStatusObject;
-    int m_nImportHolds;  // how often imports hold m_Mutex
+    int m_nHolds;  // how often m_Mutex is held
 };
 
 #endif

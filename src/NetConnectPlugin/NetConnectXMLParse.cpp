@@ -63,7 +63,8 @@ QString NetConnectXMLParse::userProfilePath() {
 }
 
 QString NetConnectXMLParse::shippedPath(const char* fileName) {
-    return CommonUtilsBase::GetPluginLibraryPath() + QLatin1String("/plugins/NetConnectPlugin/") + QLatin1String(fileName);
+    return CommonUtilsBase::GetPluginLibraryPath() + QLatin1String("/plugins/NetConnectPlugin/") +
+           QLatin1String(fileName);
 }
 
 void NetConnectXMLParse::reportProblem(const QString& file, const QString& reason, qint64 line, qint64 column) {

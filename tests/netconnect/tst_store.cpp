@@ -245,6 +245,23 @@ private slots:
         QVERIFY(user().contains("Second"));
     }
 
+    void anActionMayOutliveTheLogic() {
+        restart();
+        QCOMPARE(logic()->SaveDialUpProfile(named("First")), 0);
+        const QByteArray before = user();
+        NetConnectStoreAction action;
+        QCOMPARE(logic()->DelDialUpProfile("First"), 0);
+        restart();
+        QCOMPARE(action.commit(), 25);  // the list that it was about is gone
+        QCOMPARE(user(), before);
+        QCOMPARE(names(), QStringList({"First"}));
+        NetConnectStoreAction later;
+        QCOMPARE(logic()->DelDialUpProfile("First"), 0);
+        NetConnectSettingUILogic::Destroy();
+        later.drop();
+        QCOMPARE(user(), before);
+    }
+
     void browsingStoresNothing() {
         shipConfig(section("ProfileList", {"Preset=default"}));
         setUser(profile("Mine"), "<Default name='Preset'/>");

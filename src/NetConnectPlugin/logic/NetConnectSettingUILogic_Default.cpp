@@ -1,25 +1,26 @@
 // The default profile.
 
+#include "NetConnectLogicHold.h"
 #include "NetConnectOperation.h"
 #include "NetConnectSettingUILogic.h"
 #include "Trace.h"
 
 int NetConnectSettingUILogic::GetDefaultDialUpProfileName(QString* name) {
     const TraceScope trace(__FILE__, "GetDefaultDialUpProfileName", "%s : %s: %s: enter", "%s : %s: %s: exit");
-    readAwaitedProfiles();
+    m_Store.readAwaited();
     *name = m_strDefaultProfile;
     return Success;
 }
 
 bool NetConnectSettingUILogic::IsDefaultUserSet() {
-    readAwaitedProfiles();
+    m_Store.readAwaited();
     return m_bIsUserSet;
 }
 
 int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isUserSet) {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
-    NetConnectOperation operation(this);
+    NetConnectOperation operation;
     m_bForeignDefault = false;
     m_strDefaultProfile = name;
     m_bIsUserSet = isUserSet;
@@ -30,7 +31,7 @@ int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isU
     const bool isIMSIListEmpty = m_IMSIProfileList.isEmpty();
     if (!isIMSIListEmpty && followsIMSI && name == imsiProposal()) m_bIsUserSet = false;
     if (isIMSIListEmpty && name == m_strAPNDefaultProfile) m_bIsUserSet = false;
-    return operation.store(m_bIsUserSet);
+    return operation.store();
 }
 
 // The default that the configuration puts in the place of the stored one; null when that stays. The other names are
@@ -47,6 +48,7 @@ QString NetConnectSettingUILogic::replacementDefault(const QSet<QString>& otherN
     const QString proposal = hasIMSIProposal ? fromIMSI : m_strAPNDefaultProfile;
     if (proposal.isNull() || (!otherNames.contains(proposal) && !HasUserProfile(proposal))) return QString();
     const NetConnectDefault wanted(proposal, false);
-    const bool isStored = m_StoredDefault == wanted && NetConnectDefault(m_strDefaultProfile, m_bIsUserSet) == wanted;
+    const bool isStored =
+        m_Store.storedDefault() == wanted && NetConnectDefault(m_strDefaultProfile, m_bIsUserSet) == wanted;
     return isStored && m_pXMLParse->isModeDefault(wanted) ? QString() : proposal;
 }

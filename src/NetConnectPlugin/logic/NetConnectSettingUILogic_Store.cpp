@@ -4,6 +4,7 @@
 #include <functional>
 #include <vector>
 
+#include "NetConnectLogicHold.h"
 #include "NetConnectOperation.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectStoreAction.h"
@@ -14,18 +15,17 @@ static const char KeyedMethod[] = "2";
 static const char Base64Method[] = "1";
 
 int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     if (!m_pXMLParse) {
         m_UserProfileList.clear();
-        userListChanged();
         return ObjectMissing;
     }
     forgetForeignDefault();
-    const bool isReadable = readUserProfiles() != FileNotOpened;
+    const bool isReadable = m_Store.read() != FileNotOpened;
     if (translateUserProfiles()) {
-        NetConnectOperation operation(this);
+        NetConnectOperation operation;
         translateUserProfiles();  // what another process changed meanwhile
-        operation.store(m_bIsUserSet);
+        operation.store();
     }
     QSet<QString> otherNames;
     for (int i = 0; i < names->size(); ++i) otherNames.insert(names->at(i));
@@ -42,14 +42,13 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
 
     const QString replacement = replacementDefault(otherNames);
     if (!replacement.isNull()) {
-        const NetConnectDefault stored = m_StoredDefault;
-        NetConnectOperation operation(this);
+        const NetConnectDefault stored = m_Store.storedDefault();
+        const NetConnectOperation operation;
         // Not over what another process has set meanwhile; nor into a file that may hold another, for all we know.
-        if (m_StoredDefault == stored) m_strDefaultProfile = replacement;
-        if (m_StoredDefault == stored && isReadable) SetDefaultDialUpProfileName(replacement, false);
+        if (m_Store.storedDefault() == stored) m_strDefaultProfile = replacement;
+        if (m_Store.storedDefault() == stored && isReadable) SetDefaultDialUpProfileName(replacement, false);
     }
     sortProfileNames(names);
-    publishStatus();
     return Success;
 }
 
@@ -64,7 +63,6 @@ bool NetConnectSettingUILogic::translateUserProfiles() {
         if (m_strDefaultProfile == storedName) m_strDefaultProfile = m_UserProfileList.at(i).name;
         changed = true;
     }
-    if (changed) userListChanged();
     return changed;
 }
 
@@ -119,24 +117,7 @@ int NetConnectSettingUILogic::sortProfileNames(QList<QString>* names) {
     return Success;
 }
 
-int NetConnectSettingUILogic::findUserProfile(const QString& name) {
-    const int cheapSearches = 2;  // going through the list takes less than making the index
-    readAwaitedProfiles();
-    if (!m_bUserIndexValid && m_nUserSearches++ < cheapSearches) {
-        for (int i = 0; i < m_UserProfileList.size(); ++i)
-            if (m_UserProfileList.at(i).name == name) return i;
-        return -1;
-    }
-    if (!m_bUserIndexValid) {
-        m_UserIndex.clear();
-        m_UserIndex.reserve(m_UserProfileList.size());
-        for (int i = m_UserProfileList.size() - 1; i >= 0; --i) m_UserIndex.insert(m_UserProfileList.at(i).name, i);
-        m_bUserIndexValid = true;
-    }
-    return m_UserIndex.value(name, -1);
-}
-
-bool NetConnectSettingUILogic::HasUserProfile(const QString& name) { return findUserProfile(name) >= 0; }
+bool NetConnectSettingUILogic::HasUserProfile(const QString& name) { return m_Store.find(name) >= 0; }
 
 int NetConnectSettingUILogic::findLibraryProfile(const QString& name) {
     if (m_ProfileLibList.isEmpty() && m_pXMLParse) {
@@ -157,7 +138,7 @@ int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* prof
     if (followsIMSI && m_StoredNames.contains(name)) candidates.prepend(m_StoredNames.value(name));
 
     for (int i = 0; i < candidates.size(); ++i) {
-        const int index = findUserProfile(candidates.at(i));
+        const int index = m_Store.find(candidates.at(i));
         if (index < 0) continue;
         *profile = m_UserProfileList.at(index);
         openPassword(profile);
@@ -221,9 +202,9 @@ int NetConnectSettingUILogic::SaveDialUpProfile(DialupProfile profile) {
 }
 
 int NetConnectSettingUILogic::AddDialUpProfile(const DialupProfile& profile) {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
-    NetConnectOperation operation(this);
+    NetConnectOperation operation;
     // Without the lock the name may be one that an earlier call could not store.
     if (HasUserProfile(profile.name)) return operation.hasFailed() ? FileNotOpened : NameTaken;
     DialupProfile stored = profile;
@@ -232,23 +213,20 @@ int NetConnectSettingUILogic::AddDialUpProfile(const DialupProfile& profile) {
         return FileNotOpened;
     }
     m_UserProfileList.append(stored);
-    userListChanged();
-    return operation.store(m_bIsUserSet);  // the list keeps the change whatever becomes of the write
+    return operation.store();  // the list keeps the change whatever becomes of the write
 }
 
 int NetConnectSettingUILogic::DelDialUpProfile(QString name) {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     if (m_pXMLParse) {
-        NetConnectOperation operation(this);
-        const int index = findUserProfile(name);
+        NetConnectOperation operation;
+        const int index = m_Store.find(name);
         if (index >= 0) {
             m_UserProfileList.removeAt(index);
-            userListChanged();
-            return operation.store(m_bIsUserSet);
+            return operation.store();
         }
-    } else if (findUserProfile(name) >= 0) {
-        m_UserProfileList.removeAt(findUserProfile(name));
-        userListChanged();
+    } else if (m_Store.find(name) >= 0) {
+        m_UserProfileList.removeAt(m_Store.find(name));
         return ObjectMissing;
     }
     removePreset(name);
@@ -266,24 +244,23 @@ void NetConnectSettingUILogic::removePreset(const QString& name) {
 }
 
 int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const DialupProfile& profile) {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
     NetConnectStoreAction action;
-    NetConnectOperation operation(this);  // from here on the lists hold what other processes changed
+    NetConnectOperation operation;  // from here on the lists hold what other processes changed
     const bool isRenamed = profile.name != oldName;
     if (isRenamed && HasUserProfile(profile.name)) return NameTaken;
 
     DialupProfile stored = profile;
     if (isRenamed) stored.langid = QLatin1String("");
     if (m_strDefaultProfile == oldName) SetDefaultDialUpProfileName(profile.name, m_bIsUserSet);
-    const int index = findUserProfile(oldName);
+    const int index = m_Store.find(oldName);
     if (index >= 0) DelDialUpProfile(oldName);
     int status = AddDialUpProfile(stored);
     if (status == NameTaken && sealPassword(&stored)) {
         // An import may have brought in two of that name: the edited one keeps its place before the other.
         m_UserProfileList.insert(index, stored);
-        userListChanged();
-        status = operation.store(m_bIsUserSet);
+        status = operation.store();
     }
     if (status != Success) return status;
     return action.commit();

@@ -1,6 +1,7 @@
 // Import and export.
 
 #include "FileReplacement.h"
+#include "NetConnectLogicHold.h"
 #include "NetConnectOperation.h"
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"
@@ -20,9 +21,10 @@ private:
 };
 
 int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QString path) {
+    const Hold hold(this);
     m_ImportList.clear();
     if (!m_pXMLParse) return ObjectMissing;
-    readAwaitedProfiles();
+    m_Store.readAwaited();
     const QString file = path.isEmpty() ? QString(QLatin1String("ProfileLib.prof")) : path;
     const NetConnectDefault own(m_strDefaultProfile, m_bIsUserSet);
     const int status = readForeignFile(&m_ImportList, &m_strDefaultProfile, file);
@@ -30,7 +32,6 @@ int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QS
         m_bForeignDefault = true;
         m_OwnDefault = own;
     }
-    publishStatus();
     if (status != Success) return status;
     for (int i = 0; i < m_ImportList.size(); ++i) {
         translateName(&m_ImportList, i);
@@ -41,31 +42,8 @@ int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QS
 
 QList<DialupProfile> NetConnectSettingUILogic::ImportCandidates() const { return m_ImportList; }
 
-// Holds the logic's mutex for an import, and knows when a question's event loop has ended the logic.
-class NetConnectSettingUILogic::ImportHold {
-public:
-    explicit ImportHold(NetConnectSettingUILogic* logic) : m_pLogic(logic) {
-        logic->m_Mutex.lock();
-        ++logic->m_nImportHolds;
-    }
-    ~ImportHold() {
-        if (m_pLogic) m_pLogic->releaseImportHold();
-    }
-    bool isLogicGone() const { return !m_pLogic; }
-
-private:
-    Q_DISABLE_COPY(ImportHold)
-
-    QPointer<NetConnectSettingUILogic> m_pLogic;
-};
-
-void NetConnectSettingUILogic::releaseImportHold() {
-    --m_nImportHolds;
-    m_Mutex.unlock();
-}
-
 int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, NetConnectClashPolicy* policy) {
-    const ImportHold hold(this);
+    const Hold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
     if (names.isEmpty()) return NothingImported;
 
@@ -83,7 +61,7 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
             if (policy->replace(names.at(i))) replaced.insert(names.at(i));
             if (hold.isLogicGone()) return ObjectMissing;
         }
-        NetConnectOperation operation(this);
+        NetConnectOperation operation;
         bool isSettled = true;
         for (int i = 0; i < names.size(); ++i) {
             if (decided.contains(names.at(i)) || !HasUserProfile(names.at(i))) continue;
@@ -97,7 +75,7 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
         for (int i = 0; i < names.size(); ++i)
             if (!decided.contains(names.at(i)) || replaced.contains(names.at(i))) accepted.append(names.at(i));
         if (!addCandidates(accepted, replaced)) return NothingImported;
-        return operation.store(m_bIsUserSet);
+        return operation.store();
     }
 }
 
@@ -121,7 +99,6 @@ bool NetConnectSettingUILogic::addCandidates(const QStringList& names, const QSe
     for (int i = 0; i < m_UserProfileList.size(); ++i)
         if (!leaving.contains(m_UserProfileList.at(i).name)) staying.append(m_UserProfileList.at(i));
     m_UserProfileList = staying + coming;
-    userListChanged();
     return true;
 }
 
@@ -131,13 +108,13 @@ int NetConnectSettingUILogic::ExportSelectedProfilesToFile(QStringList* names, Q
 }
 
 int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, const QString& path) {
-    QMutexLocker locker(&m_Mutex);
+    const Hold hold(this);
     m_ExportList.clear();
     if (!m_pXMLParse) return ObjectMissing;
     const int refusal = refuseExportTo(path);
     if (refusal != Success) return refusal;
 
-    NetConnectOperation operation(this);  // another process may be exporting into the same file
+    NetConnectOperation operation;  // another process may be exporting into the same file
     QList<DialupProfile> target;
     QString ignoredDefault;
     if (FileStamp::of(path).exists() && readForeignFile(&target, &ignoredDefault, path) == FileNotOpened)
@@ -155,7 +132,6 @@ int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, con
 
     int status = Success;
     if (!m_ExportList.isEmpty()) status = m_pXMLParse->SaveProfileToXML(m_ExportList, m_strDefaultProfile, path, false);
-    publishStatus();
     return status;
 }
 
@@ -165,7 +141,6 @@ int NetConnectSettingUILogic::refuseExportTo(const QString& path) {
         FileReplacement::target(path) != m_pXMLParse->userProfilePath())
         return Success;
     m_pXMLParse->reportProblem(path, QLatin1String("profiles can't be exported to this file"));
-    publishStatus();
     return FileNotOpened;
 }
 

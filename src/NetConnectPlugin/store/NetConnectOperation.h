@@ -2,27 +2,23 @@
 #ifndef ORBISDIAL_NETCONNECTOPERATION_H
 #define ORBISDIAL_NETCONNECTOPERATION_H
 
-#include <QtGlobal>
-
-class NetConnectSettingUILogic;
+#include "UserStore.h"
 
 // Makes sure that the user's file is locked and that what other processes changed is taken in, before the
 // operation changes the lists. Operations nest. GUI thread, for the logic's own use.
 class NetConnectOperation {
 public:
-    explicit NetConnectOperation(NetConnectSettingUILogic* logic);
-    ~NetConnectOperation();
+    NetConnectOperation() { UserStore::instance().beginOperation(); }
+    ~NetConnectOperation() { UserStore::instance().endOperation(); }
 
     // True when the user's file could not be locked or read: nothing will be stored.
-    bool hasFailed() const;
+    bool hasFailed() const { return UserStore::instance().hasFailed(); }
 
     // Writes the user's profiles and default, or leaves that to the open NetConnectStoreAction: 0 or 25.
-    int store(bool isUserSet);
+    int store() { return UserStore::instance().store(); }
 
 private:
     Q_DISABLE_COPY(NetConnectOperation)
-
-    NetConnectSettingUILogic* m_pLogic;
 };
 
 #endif

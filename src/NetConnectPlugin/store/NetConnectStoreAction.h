@@ -33,12 +33,6 @@ public:
 
 private:
     Q_DISABLE_COPY(NetConnectStoreAction)
-    friend class NetConnectOperation;
-
-    struct State;
-    static State& state();
-    static void releaseLock();
-    void close();
 
     bool m_bOpen;
 };

@@ -1,0 +1,205 @@
+#include "UserStore.h"
+
+#include "NetConnectStatus.h"
+#include "NetConnectXMLParse.h"
+
+UserStore& UserStore::instance() {
+    static UserStore store;
+    return store;
+}
+
+UserStore::UserStore()
+    : m_pFiles(0),
+      m_bAwaited(false),
+      m_nActions(0),
+      m_nOperations(0),
+      m_Kind(Change),
+      m_bFailed(false),
+      m_bPending(false) {}
+
+void UserStore::attach(const UserStoreMembers& members, NetConnectXMLParse* files,
+                       const std::function<void()>& changed) {
+    m_Members = members;
+    m_pFiles = files;
+    m_Changed = changed;
+}
+
+void UserStore::detach() {
+    m_Members = UserStoreMembers();
+    m_pFiles = 0;
+    m_Changed = std::function<void()>();
+    m_Stamp = FileStamp();
+    m_StoredDefault = NetConnectDefault();
+    m_bAwaited = false;
+    if (m_bPending && m_Kind == Change) m_bFailed = true;
+    m_Index = ProfileIndex();
+    m_Snapshot = Snapshot();
+}
+
+// --- reading ---
+
+void UserStore::readAwaited() {
+    if (m_bAwaited) read();
+}
+
+int UserStore::read() {
+    m_bAwaited = false;
+    m_Members.profiles->clear();
+    *m_Members.isUserSet = false;
+    const int status = m_pFiles->GetAllProfileFromUserDataXML(m_Members.profiles, m_Members.defaultName, QString(),
+                                                              m_Members.isUserSet);
+    m_StoredDefault = NetConnectDefault(*m_Members.defaultName, *m_Members.isUserSet);
+    rememberFile(status);
+    m_Changed();
+    return status;
+}
+
+int UserStore::find(const QString& name) {
+    if (!isAttached()) return -1;
+    readAwaited();
+    return m_Index.find(*m_Members.profiles, name);
+}
+
+// A file that could not be read is read again before anything is written over it, though it did not change.
+void UserStore::rememberFile(int status) {
+    m_Stamp = m_pFiles->userFileStamp();
+    if (status == NetConnectStatus::FileNotOpened) m_Stamp.settled = false;
+}
+
+// --- locking ---
+
+// Keeps other processes away from the user's file, and takes in what they wrote into it before.
+bool UserStore::lockFile() {
+    const QString path = m_pFiles->userProfilePath();
+    const bool isLocked = !path.isEmpty() && acquireBeside(path) && takeInChanges(path);
+    m_Changed();
+    return isLocked;
+}
+
+bool UserStore::acquireBeside(const QString& userFile) {
+    const QString lockPath = userFile + QLatin1String(".lock");
+    QString reason;
+    if (!m_Lock.acquire(lockPath, &reason)) {
+        m_pFiles->reportProblem(lockPath, reason);
+        return false;
+    }
+    m_pFiles->clearProblem(lockPath);
+    return true;
+}
+
+// Takes in what other processes wrote since the user's file was last read or written here. The default counts only
+// when they changed it: the one in memory may be newer. False when the file can't be read at all.
+bool UserStore::takeInChanges(const QString& userFile) {
+    const FileStamp stamp = FileStamp::of(userFile);
+    if (m_Stamp.settled && stamp == m_Stamp) return true;
+    QList<DialupProfile> profiles;
+    QString defaultName = m_StoredDefault.name;
+    bool isUserSet = false;
+    const int status = m_pFiles->GetAllProfileFromUserDataXML(&profiles, &defaultName, QString(), &isUserSet);
+    rememberFile(status);
+    if (status != NetConnectStatus::Success && status != NetConnectStatus::FileMissing)
+        return status != NetConnectStatus::FileNotOpened;  // what was read before is better than a part
+
+    *m_Members.profiles = profiles;
+    const NetConnectDefault stored(defaultName, isUserSet);
+    if (stored == m_StoredDefault) return true;
+    m_StoredDefault = stored;
+    *m_Members.defaultName = stored.name;
+    *m_Members.isUserSet = stored.isUserSet;
+    return true;
+}
+
+void UserStore::releaseLock() {
+    if (m_nActions > 0 || m_nOperations > 0) return;
+    m_Lock.release();
+    m_bFailed = false;
+}
+
+// --- writing ---
+
+int UserStore::store() {
+    if (!isAttached()) return NetConnectStatus::FileNotOpened;
+    if (m_bFailed) {
+        m_Stamp.settled = false;  // the next change starts from what the file holds
+        return NetConnectStatus::FileNotOpened;
+    }
+    if (m_nActions == 0) return write();
+    m_bPending = true;
+    return NetConnectStatus::Success;
+}
+
+int UserStore::write() {
+    const NetConnectDefault value(*m_Members.defaultName, *m_Members.isUserSet);
+    const int status = m_pFiles->SaveProfileToXML(*m_Members.profiles, value.name, QString(), value.isUserSet);
+    if (status == NetConnectStatus::Success) {
+        m_StoredDefault = value;
+        m_Stamp = m_pFiles->userFileStamp();
+    } else {
+        m_Stamp.settled = false;  // the next change starts from what the file holds
+    }
+    m_Changed();
+    return status;
+}
+
+NetConnectStorageProblem UserStore::lastProblem() const {
+    return isAttached() ? m_pFiles->lastProblem() : NetConnectStorageProblem();
+}
+
+// --- operations and actions ---
+
+void UserStore::beginOperation() {
+    ++m_nOperations;
+    if (!isAttached()) return;
+    readAwaited();
+    if (!isBrowsing() && !m_Lock.isHeld() && !m_bFailed) m_bFailed = !lockFile();
+    takeSnapshot();
+}
+
+void UserStore::endOperation() {
+    --m_nOperations;
+    releaseLock();
+}
+
+void UserStore::takeSnapshot() {
+    if (m_nActions == 0 || m_Snapshot.isTaken) return;
+    m_Snapshot.isTaken = true;
+    m_Snapshot.profiles = *m_Members.profiles;
+    m_Snapshot.defaultProfile = NetConnectDefault(*m_Members.defaultName, *m_Members.isUserSet);
+}
+
+void UserStore::alsoUndo(const std::function<void()>& undo) {
+    if (m_nActions > 0) m_Snapshot.undo.append(undo);
+}
+
+void UserStore::beginAction(Kind kind) {
+    if (m_nActions++ == 0) m_Kind = kind;
+}
+
+int UserStore::commitAction() {
+    int status = m_bFailed ? NetConnectStatus::FileNotOpened : NetConnectStatus::Success;
+    const bool isOutermost = m_nActions == 1;
+    if (isOutermost && m_bPending && m_Kind == Change && status == NetConnectStatus::Success) status = write();
+    if (isOutermost && status != NetConnectStatus::Success)
+        dropAction();  // memory holds what the file holds, or a repeated change would find itself done
+    else
+        closeAction();
+    return status;
+}
+
+void UserStore::dropAction() {
+    while (!m_Snapshot.undo.isEmpty()) m_Snapshot.undo.takeLast()();
+    if (m_Snapshot.isTaken) {
+        *m_Members.profiles = m_Snapshot.profiles;
+        *m_Members.defaultName = m_Snapshot.defaultProfile.name;
+        *m_Members.isUserSet = m_Snapshot.defaultProfile.isUserSet;
+    }
+    m_bPending = false;
+    closeAction();
+}
+
+void UserStore::closeAction() {
+    if (--m_nActions > 0) return;
+    m_bPending = false;
+    m_Snapshot = Snapshot();
+    releaseLock();
+}
