@@ -2,6 +2,8 @@
 
 #include <sys/stat.h>
 
+#include <QTextCodec>
+
 #include "LogicFixture.h"
 
 // Written by hand, so that a wrong table of fields can't agree with itself.
@@ -85,7 +87,7 @@ private slots:
         row("cut in the second", whole.left(whole.indexOf("'B'")), 6, 1);
         row("wrongly encoded", QByteArray(whole).replace("'B'", "'\xff\xc3'"), 6, -1);
         row("entity bomb", bomb(), 6, 0);
-        row("many attributes", manyAttributes(), 6, 0);
+        row("many attributes", manyAttributes(1000), 6, 0);
     }
     void brokenFiles() {
         QFETCH(QByteArray, content);
@@ -104,6 +106,64 @@ private slots:
             QCOMPARE(m_Profiles.size(), found);
             QCOMPARE(!xml()->lastProblem().isNull(), status != 0);
         }
+    }
+
+    // Every encoding that a file can be in, as its byte order mark or its declaration tells.
+    void encodings_data() {
+        nameRows("encoding", {"UTF-8", "UTF-16", "UTF-16LE", "UTF-16BE", "UTF-32", "UTF-32LE", "UTF-32BE", "ISO-8859-1",
+                              "windows-1252"});
+    }
+    void encodings() {
+        const auto load = [this](const QByteArray& text) {
+            write(userFile(), inEncoding(cell("encoding"), text));
+            return tst_profilefile::load();
+        };
+        // A thousand equals signs, and what would nest too deep, where they count as nothing.
+        const QByteArray equals(1001, '=');
+        const QByteArray harmless = "<!DOCTYPE v [<!ELEMENT v ANY> <!-- <!ELEMENT '> --> <?x <a?>]><!--<a " + equals +
+                                    QByteArray("<a>").repeated(1001) + "--><?pi <a " + equals + "?><v a='=>" + equals +
+                                    "'><![CDATA[<a " + equals + "]]]]>" + QByteArray("<a/><b></b>").repeated(1001);
+        QCOMPARE(load(harmless + profile("\xc3\xa9", "apn='" + equals + "'") + "</v>"), 0);
+        QCOMPARE(m_Profiles.value(0).name, QString(QChar(0xe9)));
+        QCOMPARE(m_Profiles.value(0).apn, QString(equals));
+        const QPair<QByteArray, const char*> hostile[] = {
+            {manyAttributes(400000), "attributes"},
+            {"<!--\"--><v>" + manyAttributes(101), "attributes"},
+            {QByteArray("<a>").repeated(1000000), "deep"},
+            {"<v>" + QByteArray("<a xmlns:b=''/>").repeated(101), "namespaces"},
+            {"<v>" + QByteArray("<a/>").repeated(1000001), "elements"},
+            {"<!DOCTYPE v [<!ELEMENT v ANY><!ENTITY % a ''>" + QByteArray("%a;").repeated(1000000) + "]><v/>",
+             "entities"},
+        };
+        for (const auto& attempt : hostile) {
+            QCOMPARE(load(attempt.first), 6);
+            QVERIFY2(xml()->lastProblem().reason.contains(attempt.second), qPrintable(xml()->lastProblem().reason));
+        }
+    }
+
+    // The declaration is read in one encoding, and what follows in another.
+    void anEncodingThatChanges() {
+        const auto wide = [](const QByteArray& text) {
+            QTextEncoder encoder(QTextCodec::codecForName("UTF-16BE"), QTextCodec::IgnoreHeader);
+            return encoder.fromUnicode(QString::fromLatin1(text));
+        };
+        const QByteArray declaration = "<?xml version=\"1.0\" encoding=\"UTF-16BE\" ?>";
+        const QByteArray skipped = wide(QByteArray("<!--").leftJustified(declaration.size() / 2, ' '));
+        write(userFile(), declaration + skipped + wide(manyAttributes(400000)));
+        QCOMPARE(load(), 6);
+        QVERIFY(xml()->lastProblem().reason.contains("attributes"));
+        write(userFile(), "<?xml " + QByteArray(5000, ' ') + "version='1.0'?><v/>");
+        QCOMPARE(load(), 6);
+        QVERIFY(xml()->lastProblem().reason.contains("declaration"));
+    }
+
+    // What stands before a mistake is read, whatever the mistake makes of what follows.
+    void nothingCountsAfterAMistake() {
+        QByteArray profiles = profile("A") + "<Profile name='B type=''/>";
+        for (int i = 0; i < 200; ++i) profiles += profile("C", "password='QUJD=='");
+        setUser(profiles);
+        QCOMPARE(load(), 6);
+        QCOMPARE(m_Profiles.size(), 1);
     }
 
     void placesThatAreNoFile_data() {
@@ -214,10 +274,17 @@ private:
         }
         return type + "]><v><Profile name=\"&a19;\"/></v>";
     }
-    static QByteArray manyAttributes() {
+    static QByteArray manyAttributes(int count) {
         QByteArray content = "<v><Profile";
-        for (int i = 0; i <= 1000; ++i) content += " a" + QByteArray::number(i) + "='='";
+        for (int i = 0; i < count; ++i) content += " a" + QByteArray::number(i) + "='='";
         return content + "/></v>";
+    }
+    // The text with a declaration of its encoding, or a byte order mark where that is what tells.
+    static QByteArray inEncoding(const QString& encoding, const QByteArray& text) {
+        QTextEncoder encoder(QTextCodec::codecForName(encoding.toLatin1()));
+        const bool isMarked = encoding == "UTF-16" || encoding == "UTF-32";
+        const QString declaration = "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>";
+        return encoder.fromUnicode((isMarked ? QString() : declaration) + QString::fromUtf8(text));
     }
     QList<DialupProfile> m_Profiles;
     QString m_Default;

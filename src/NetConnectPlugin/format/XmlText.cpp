@@ -1,7 +1,5 @@
 #include "XmlText.h"
 
-#include <string.h>
-
 namespace XmlText {
 
 static bool isAllowed(ushort c) {
@@ -40,38 +38,6 @@ QString clean(const QString& text) {
         at += qMax(length, 1);
     }
     return result;
-}
-
-// Counts the equals signs outside quotes between two places: the attributes of a tag.
-static int countAttributes(const char* from, const char* end) {
-    int count = 0;
-    char quote = 0;
-    for (; from != end; ++from) {
-        if (quote != 0)
-            quote = *from == quote ? 0 : quote;
-        else if (*from == '"' || *from == '\'')
-            quote = *from;
-        else if (*from == '>')
-            return count;
-        else if (*from == '=')
-            ++count;
-    }
-    return count;
-}
-
-QString refusal(const QByteArray& document) {
-    const int mostAttributes = 1000;
-    const int shortestAttribute = 5;  // a="" and a blank; two bytes a character only make it longer
-    const char* const end = document.constData() + document.size();
-    const char* tag = static_cast<const char*>(memchr(document.constData(), '<', size_t(document.size())));
-    while (tag) {
-        const char* next = static_cast<const char*>(memchr(tag + 1, '<', size_t(end - tag - 1)));
-        const char* const stop = next ? next : end;
-        if (stop - tag > mostAttributes * shortestAttribute && countAttributes(tag, stop) > mostAttributes)
-            return QString::fromLatin1("an element has more than %1 attributes").arg(mostAttributes);
-        tag = next;
-    }
-    return QString();
 }
 
 void refuseDeclarations(QXmlStreamReader& reader) {

@@ -12,8 +12,12 @@ namespace XmlText {
 // otherwise make a file that no reader takes.
 QString clean(const QString& text);
 
-// Why a document can't be given to the reader at all, in English; null when it can. The reader's time grows with
-// the square of an element's attributes, so a hostile element of very many would hold the program up for hours.
+// A document of more elements is refused, and none is written: each costs far more memory than bytes of the file.
+enum { MostElements = 1000000 };
+
+// Why a document can't be given to the reader at all, in English; null when it can. Whatever encoding it has, the
+// reader's time and memory stay in proportion to its size then; without that a hostile element of very many
+// attributes would hold the program up for hours.
 QString refusal(const QByteArray& document);
 
 // Raises an error in the reader when it stands on a document type that declares entities or attributes: no file of
