@@ -115,7 +115,7 @@ private slots:
     void answersMessagesWithoutWindows() {
         QTest::ignoreMessage(QtWarningMsg, "CommonUtils::ShowMessage: there is no QApplication to show a message");
         QCOMPARE(CommonUtils::ShowMessage(QMessageBox::Question, nullptr, "c", "t", "IDS_YES", "IDS_NO"),
-                 int(CommonUtils::SecondButton));
+                 int(CommonUtils::NoAnswer));
     }
 
     void changesLanguageWithoutWindows() {

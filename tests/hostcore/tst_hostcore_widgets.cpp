@@ -92,10 +92,11 @@ private slots:
             });
             QCOMPARE(show({"A", "B", "IDS_SHARED"}), answers[i]);
             const QStringList labels = shown.mid(0, i + 1);
+            // Closed without a button: nobody decided.
             whenShown([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
-            QCOMPARE(show(labels), answers[i]);
+            QCOMPARE(show(labels), 0);
             whenShown([](QMessageBox* box) { box->close(); });
-            QCOMPARE(show(labels), answers[i]);
+            QCOMPARE(show(labels), 0);
             whenShown([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); });
             QCOMPARE(show(labels), 1024);
         }
@@ -108,7 +109,19 @@ private slots:
             QCOMPARE(box->parentWidget(), parent);
             delete parent;
         });
-        QCOMPARE(show({"IDS_YES", "IDS_NO"}, parent), 4194304);
+        QCOMPARE(show({"IDS_YES", "IDS_NO"}, parent), 0);
+    }
+
+    void defaultButton() {
+        const QMap<CommonUtils::MessageAnswer, int> pressed = {{CommonUtils::FirstButton, 1024},
+                                                               {CommonUtils::SecondButton, 4194304},
+                                                               {CommonUtils::ThirdButton, 1024}};  // not shown
+        for (auto wanted = pressed.begin(); wanted != pressed.end(); ++wanted) {
+            whenShown([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); });
+            QCOMPARE(CommonUtils::ShowMessage(QMessageBox::Question, nullptr, "c", "t", "A", "B", {}, {}, true,
+                                              Qt::WindowCloseButtonHint, wanted.key()),
+                     wanted.value());
+        }
     }
 
     void hostsOneMainWidget() {

@@ -1,6 +1,8 @@
 #include "CommonUtils.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -42,11 +44,30 @@ void setPlainTexts(QMessageBox* box, const QString& text, const QString& informa
     if (auto* label = box->findChild<QLabel*>("qt_msgbox_informativelabel")) label->setTextFormat(Qt::PlainText);
 }
 
-void addButtons(QMessageBox* box, const QList<ButtonLabel>& buttons) {
-    for (const ButtonLabel& shown : buttons) box->addButton(shown.button)->setText(labelText(shown.id));
-    box->setDefaultButton(buttons.first().button);
-    box->setEscapeButton(buttons.last().button);
+void addButtons(QMessageBox* box, const QList<ButtonLabel>& buttons, int wantedDefault) {
+    QMessageBox::StandardButton defaultButton = buttons.first().button;
+    for (const ButtonLabel& shown : buttons) {
+        box->addButton(shown.button)->setText(labelText(shown.id));
+        if (shown.button == wantedDefault) defaultButton = shown.button;
+    }
+    box->setDefaultButton(defaultButton);
 }
+
+// Qt's own box takes its last button when it is closed without one: that would be a decision nobody made.
+class MessageBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Cancel)) return done(CommonUtils::NoAnswer);
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        event->accept();
+        done(CommonUtils::NoAnswer);
+    }
+};
 
 bool canShowWidgets() { return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr; }
 
@@ -81,23 +102,22 @@ QPointer<QWidget>& mainWindow() {
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QString& caption, const QString& text,
                              const QString& button1, const QString& button2, const QString& button3,
-                             const QString& informativeText, bool modal, Qt::WindowFlags flags) {
-    const QList<ButtonLabel> buttons = shownButtons({button1, button2, button3});
-    const int dismissed = buttons.last().button;
+                             const QString& informativeText, bool modal, Qt::WindowFlags flags,
+                             MessageAnswer defaultButton) {
     if (!canShowWidgets()) {
         qWarning("CommonUtils::ShowMessage: there is no QApplication to show a message");
-        return dismissed;
+        return NoAnswer;
     }
 
-    const QPointer<QMessageBox> box = new QMessageBox(icon, caption, QString(), QMessageBox::NoButton, parent, flags);
+    const QPointer<QMessageBox> box = new MessageBox(icon, caption, QString(), QMessageBox::NoButton, parent, flags);
     box->setObjectName("CommonUtils_MessageBox");
     box->setWindowModality(modal ? Qt::ApplicationModal : Qt::WindowModal);
     setPlainTexts(box, text, informativeText);
-    addButtons(box, buttons);
+    addButtons(box, shownButtons({button1, button2, button3}), defaultButton);
 
     const int answer = box->exec();
-    delete box;                                              // null when the parent took the box along
-    return answer > QDialog::Accepted ? answer : dismissed;  // QDialog's own results are no button's
+    delete box;                                             // null when the parent took the box along
+    return answer > QDialog::Accepted ? answer : NoAnswer;  // QDialog's own results are no button's
 }
 
 void CommonUtils::MoveCentre(QWidget* widget) {

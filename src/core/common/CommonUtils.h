@@ -16,18 +16,21 @@
 
 class HOSTCORE_EXPORT CommonUtils : public CommonUtilsBase {
 public:
-    // What ShowMessage answers for each button, in their order. A box that is closed without a button, or
-    // goes with its parent, or can't be shown since there is no QApplication, answers the last one it has.
-    enum MessageAnswer { FirstButton = 1024, SecondButton = 4194304, ThirdButton = 1048576 };
+    // What ShowMessage answers: for each button, in their order; none for a box that is closed without one of them
+    // (Escape, the window's own cross, its parent's or the program's end) or can't be shown since there is no
+    // QApplication. A caller that asks must then leave things as they are.
+    enum MessageAnswer { NoAnswer = 0, FirstButton = 1024, SecondButton = 4194304, ThirdButton = 1048576 };
 
     // Shows a message box and waits for the answer. The caption and texts are shown as plain text. The button
     // labels are string IDs, translated here in the context "NetConnectPlugin" (an ID without a text is shown
     // itself); an empty label makes no button, but there is always one. The parent may be null and may be
-    // destroyed while the box is up. A modal box blocks every window, any other one its parent's alone.
+    // destroyed while the box is up. A modal box blocks every window, any other one its parent's alone. The default
+    // button is the one that Return presses; the first one where it is not shown.
     static int ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QString& caption, const QString& text,
                            const QString& button1, const QString& button2 = QString(),
                            const QString& button3 = QString(), const QString& informativeText = QString(),
-                           bool modal = true, Qt::WindowFlags flags = Qt::WindowCloseButtonHint);
+                           bool modal = true, Qt::WindowFlags flags = Qt::WindowCloseButtonHint,
+                           MessageAnswer defaultButton = FirstButton);
 
     // Moves a window to the centre of its parent's window, or of the screen when that one is not shown; never
     // off the screen. Null and a widget that is no window are left alone.
