@@ -28,11 +28,10 @@ public:
     // Safe from any thread. After stop() the work is dropped.
     void invoke(Work work);
 
-    // On the thread: runs the work once when the time is over; the answer is for g_source_destroy and to be unref'd.
+    // On the thread: runs the work once when the time is over. Destroy the source to give it up, and unref it.
     GSource* invokeLater(unsigned int milliseconds, Work work);
 
     GMainContext* context() const { return m_Context; }
-    bool isCurrent() const { return std::this_thread::get_id() == m_Thread.get_id(); }
 
     // Drops the work that waits, runs the last one and ends the thread. Not from the thread itself.
     void stop(Work last);
