@@ -31,10 +31,10 @@ public:
     virtual MMObject* modemInUse() = 0;
 };
 
-// Answers for Picture::connection. What it has, it makes and gives up on the thread.
+// Answers for Picture::connection. It lives as long as the process; what it has, it makes and gives up on the thread.
 class ConnectionPart {
 public:
-    virtual ~ConnectionPart() = default;  // on the thread, before it ends
+    virtual ~ConnectionPart() = default;
 
     // On the thread. The connection is private to the module and doesn't end the process when the bus goes.
     virtual void busCame(GDBusConnection* bus) = 0;
@@ -42,6 +42,9 @@ public:
 
     // On the thread: another modem in use (or none), or its object at ModemManager is another one.
     virtual void modemChanged() = 0;
+
+    // On the thread, which ends then: gives up all it has there. Publishes nothing any more.
+    virtual void stop() = 0;
 
     // As in Backend: from any thread, without waiting. Refuses with a reason in the picture.
     virtual bool dial(const DialRequest& request) = 0;

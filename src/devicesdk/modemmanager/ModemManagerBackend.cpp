@@ -1,0 +1,83 @@
+#include "ModemManagerBackend.h"
+
+#include "ModemPicture.h"
+
+ModemManagerBackend::ModemManagerBackend(EventSink& events)
+    : m_Board(events, PictureBoard::Modems),
+      m_Watch(m_Thread, [this] { describe(); }),
+      m_Unlocking(m_Thread, m_Watch, m_Board),
+      m_Ussd(m_Thread, m_Watch, m_Board),
+      m_Bus(m_Thread, {[this](GDBusConnection* bus) { busCame(bus); }, [this] { busWent(); }}) {
+    m_Thread.start();
+    m_Thread.invoke([this] { m_Bus.connect(); });
+}
+
+void ModemManagerBackend::busCame(GDBusConnection* bus) {
+    if (m_Connecting) m_Connecting->busCame(bus);
+    m_Watch.busCame(bus);
+}
+
+void ModemManagerBackend::busWent() {
+    if (m_Connecting) m_Connecting->busWent();
+    m_Watch.busWent();
+}
+
+std::string ModemManagerBackend::wanted() {
+    const std::lock_guard lock(m_Mutex);
+    return m_Wanted;
+}
+
+// The first picture has the cards that are there; afterwards a modem whose card is being read is one that starts.
+void ModemManagerBackend::describe() {
+    const Known known = m_Watch.known();
+    if (!known.isComplete && !m_IsDescribed) return;
+    m_IsDescribed = true;
+    m_Board.change([&, wanted = wanted()](Picture& picture) {
+        picture = pictureOf(known, wanted, picture);
+        return true;
+    });
+    tellModemInUse();
+    m_Board.setKnown(PictureBoard::Modems);
+}
+
+MMObject* ModemManagerBackend::modemInUse() {
+    const std::shared_ptr<const Picture> picture = m_Board.get();
+    return picture ? m_Watch.modem(picture->modemInUse) : nullptr;
+}
+
+void ModemManagerBackend::tellModemInUse() {
+    MMObject* object = modemInUse();
+    const std::string path = textOf(object ? mm_object_get_path(object) : nullptr);
+    if (path == m_PathInUse) return;
+    m_PathInUse = path;
+    if (m_Connecting) m_Connecting->modemChanged();
+}
+
+bool ModemManagerBackend::selectModem(const std::string& id) {
+    {
+        const std::lock_guard lock(m_Mutex);
+        m_Wanted = id;
+    }
+    m_Thread.invoke([this] { describe(); });
+    return true;
+}
+
+bool ModemManagerBackend::enterPuk(const std::string& puk, const std::string& newPin) {
+    return m_Unlocking.enterPuk(puk, newPin);
+}
+
+bool ModemManagerBackend::dial(const DialRequest& request) { return m_Connecting && m_Connecting->dial(request); }
+
+bool ModemManagerBackend::hangUp() { return m_Connecting && m_Connecting->hangUp(); }
+
+Traffic ModemManagerBackend::traffic() { return m_Connecting ? m_Connecting->traffic() : Traffic(); }
+
+void ModemManagerBackend::stop() {
+    m_Thread.stop([this] {
+        if (m_Connecting) m_Connecting->stop();
+        m_Unlocking.stop();
+        m_Ussd.stop();
+        m_Watch.stop();
+        m_Bus.stop();
+    });
+}

@@ -1,0 +1,90 @@
+// Watches ModemManager, its modems and their cards.
+#ifndef ORBISDIAL_MODEMWATCH_H
+#define ORBISDIAL_MODEMWATCH_H
+
+#include <libmm-glib.h>
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "Known.h"
+#include "Ref.h"
+#include "WorkerThread.h"
+
+// Everything but its making happens on the thread.
+class ModemWatch {
+public:
+    // Runs the function when something of what is known may have changed; many changes at once are one.
+    ModemWatch(WorkerThread& thread, std::function<void()> changed);
+    ModemWatch(const ModemWatch&) = delete;
+    ModemWatch& operator=(const ModemWatch&) = delete;
+
+    void busCame(GDBusConnection* bus);
+    void busWent();
+
+    // Gives up all it has, without a word; the thread ends.
+    void stop();
+
+    // Looks now for what has changed, where that would come a moment later.
+    void refresh();
+
+    Known known();
+
+    // Null when there is no such modem, or no card in it. Whoever keeps them refs them.
+    MMObject* modem(const std::string& device);
+    MMSim* card(const std::string& device);
+
+private:
+    // One card's object, asked for once.
+    struct Card {
+        std::string path;
+        Ref<MMSim> object;
+        bool isAsked = false;
+        bool isFinished = false;  // it came, or can't be had
+    };
+
+    // Data profiles, asked for when the modem is there, and when they change.
+    struct Profiles {
+        std::optional<KnownCredentials> first;
+        bool isAsked = false;
+    };
+
+    struct Request;
+
+    static void onAppeared(GDBusConnection* bus, const gchar* name, const gchar* owner, gpointer self);
+    static void onVanished(GDBusConnection* bus, const gchar* name, gpointer self);
+    static void onProbed(GObject* source, GAsyncResult* result, gpointer self);
+    static void onCard(GObject* source, GAsyncResult* result, gpointer request);
+    static void onProfiles(GObject* source, GAsyncResult* result, gpointer request);
+    static void onProfilesUpdated(ModemWatch* self);
+    static void onChanged(ModemWatch* self);
+
+    void appear(const char* owner);
+    void makeManager();
+    void dropManager();
+    void dropCard(Card* card);
+    void unwatchName();
+    void finish();
+    void giveUpChange();
+    void follow(MMObject* object);
+    void followCard(MMObject* object, MMModem* modem);
+    void followProfiles(MMObject* object);
+    void changeSoon();
+
+    template <class Function>
+    void forEachModem(Function function);
+
+    WorkerThread& m_Thread;
+    std::function<void()> m_Changed;
+    GDBusConnection* m_Bus = nullptr;
+    guint m_NameWatch = 0;
+    Ref<MMManager> m_Manager;
+    std::map<std::string, Card> m_Cards;         // by the modem's path
+    std::map<std::string, Profiles> m_Profiles;  // by the modem's path
+    GSource* m_ChangeSource = nullptr;
+    bool m_IsAnswered = false;  // there is no daemon, or it has told its modems
+    Cancellation m_Cancellation;
+};
+
+#endif

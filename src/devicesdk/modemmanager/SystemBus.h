@@ -1,0 +1,46 @@
+// The module's own connection to the system bus.
+#ifndef ORBISDIAL_SYSTEMBUS_H
+#define ORBISDIAL_SYSTEMBUS_H
+
+#include <functional>
+
+#include "Ref.h"
+#include "WorkerThread.h"
+
+// Connects, and connects again when the bus went. GLib's shared connection would end the process with the bus.
+// Everything but its making happens on the thread.
+class SystemBus {
+public:
+    struct Handlers {
+        std::function<void(GDBusConnection*)> came;
+        std::function<void()> went;  // also when there is none to begin with
+    };
+
+    SystemBus(WorkerThread& thread, Handlers handlers) : m_Thread(thread), m_Handlers(std::move(handlers)) {}
+    SystemBus(const SystemBus&) = delete;
+    SystemBus& operator=(const SystemBus&) = delete;
+
+    void connect();
+
+    // Gives the connection up, without a word; the thread ends.
+    void stop();
+
+    // Whether somebody offers the name, or would be started for it. Waits for the bus, for so long at most.
+    static bool hasService(const char* name, unsigned int milliseconds);
+
+private:
+    static void onConnected(GObject* source, GAsyncResult* result, gpointer self);
+    static void onClosed(SystemBus* self);
+    void retryLater();
+    void lose();
+    void drop();
+
+    WorkerThread& m_Thread;
+    Handlers m_Handlers;
+    Ref<GDBusConnection> m_Connection;
+    GSource* m_Retry = nullptr;
+    unsigned int m_Pause = 0;  // before the next attempt, milliseconds
+    Cancellation m_Cancellation;
+};
+
+#endif

@@ -1,0 +1,143 @@
+#include "UssdSession.h"
+
+#include "RemoteError.h"
+#include "SignalBarrier.h"
+
+namespace {
+
+constexpr int AnswerTimeout = 120000;  // milliseconds; networks take their time
+
+bool isOpen(const Picture& picture) {
+    return picture.ussd.state == VRKS_USSD_SENT || picture.ussd.state == VRKS_USSD_ASKS;
+}
+
+int failureOf(const GError* error) {
+    const ErrorMeaning meanings[] = {
+        {MM_CORE_ERROR, MM_CORE_ERROR_UNSUPPORTED, VRKS_USSD_FAILURE_NOT_SUPPORTED},
+        {MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NOT_SUPPORTED, VRKS_USSD_FAILURE_NOT_SUPPORTED},
+        {G_DBUS_ERROR, G_DBUS_ERROR_UNKNOWN_METHOD, VRKS_USSD_FAILURE_NOT_SUPPORTED},
+        {MM_CORE_ERROR, MM_CORE_ERROR_UNAUTHORIZED, VRKS_USSD_FAILURE_NOT_ALLOWED},
+        {G_DBUS_ERROR, G_DBUS_ERROR_ACCESS_DENIED, VRKS_USSD_FAILURE_NOT_ALLOWED},
+        {MM_CORE_ERROR, MM_CORE_ERROR_ABORTED, VRKS_USSD_FAILURE_NETWORK},
+        {MM_CORE_ERROR, MM_CORE_ERROR_CANCELLED, VRKS_USSD_FAILURE_CANCELLED},
+        {MM_SERIAL_ERROR, MM_SERIAL_ERROR_RESPONSE_TIMEOUT, VRKS_USSD_FAILURE_TIMEOUT},
+        {MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NETWORK_TIMEOUT, VRKS_USSD_FAILURE_TIMEOUT},
+        {G_IO_ERROR, G_IO_ERROR_TIMED_OUT, VRKS_USSD_FAILURE_TIMEOUT},
+        {MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NETWORK_NOT_ALLOWED, VRKS_USSD_FAILURE_NETWORK},
+        {MM_MOBILE_EQUIPMENT_ERROR, MM_MOBILE_EQUIPMENT_ERROR_NO_NETWORK, VRKS_USSD_FAILURE_NETWORK},
+    };
+    return meaningOf(error, meanings, VRKS_USSD_FAILURE_OTHER);
+}
+
+Ussd failed(int failure, const std::string& words) { return {VRKS_USSD_FAILED, failure, {}, words}; }
+
+bool asksBack(MMModem3gppUssd* ussd) {
+    return mm_modem_3gpp_ussd_get_state(ussd) == MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
+}
+
+}  // namespace
+
+struct UssdSession::Turn {
+    UssdSession* session;
+    unsigned number;
+};
+
+bool UssdSession::send(const std::string& command) {
+    const auto isPossible = [](const Picture& picture) {
+        return picture.devStatus == VRKS_DEV_STATUS_READY && !isOpen(picture);
+    };
+    return begin(isPossible, [command](MMModem3gppUssd* ussd, GCancellable* cancellable, Turn* turn) {
+        mm_modem_3gpp_ussd_initiate(ussd, command.c_str(), cancellable, onInitiated, turn);
+    });
+}
+
+bool UssdSession::answer(const std::string& answer) {
+    const auto isPossible = [](const Picture& picture) { return picture.ussd.state == VRKS_USSD_ASKS; };
+    return begin(isPossible, [answer](MMModem3gppUssd* ussd, GCancellable* cancellable, Turn* turn) {
+        mm_modem_3gpp_ussd_respond(ussd, answer.c_str(), cancellable, onResponded, turn);
+    });
+}
+
+bool UssdSession::begin(Condition isPossible, Send send) {
+    std::string modem;
+    unsigned turn = 0;
+    const bool isMine = m_Board.change([&](Picture& picture) {
+        if (!isPossible(picture)) return false;
+        modem = picture.modemInUse;
+        turn = ++m_Turn;
+        picture.ussd = {VRKS_USSD_SENT, VRKS_USSD_FAILURE_NONE, {}, {}};
+        return true;
+    });
+    if (isMine) m_Thread.invoke([=, send = std::move(send)] { run(modem, turn, send); });
+    return isMine;
+}
+
+MMModem3gppUssd* UssdSession::ussd(const std::string& modem) {
+    MMObject* object = m_Watch.modem(modem);
+    return object ? mm_object_peek_modem_3gpp_ussd(object) : nullptr;
+}
+
+void UssdSession::run(const std::string& modem, unsigned turn, const Send& send) {
+    MMModem3gppUssd* proxy = ussd(modem);
+    if (!proxy) return end(turn, failed(VRKS_USSD_FAILURE_NOT_SUPPORTED, {}));
+    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(proxy), AnswerTimeout);
+    send(proxy, m_Cancellation.get(), new Turn{this, turn});
+}
+
+void UssdSession::onInitiated(GObject* source, GAsyncResult* result, gpointer turn) {
+    GError* error = nullptr;
+    char* reply = mm_modem_3gpp_ussd_initiate_finish(MM_MODEM_3GPP_USSD(source), result, &error);
+    finish(source, static_cast<Turn*>(turn), reply, error);
+}
+
+void UssdSession::onResponded(GObject* source, GAsyncResult* result, gpointer turn) {
+    GError* error = nullptr;
+    char* reply = mm_modem_3gpp_ussd_respond_finish(MM_MODEM_3GPP_USSD(source), result, &error);
+    finish(source, static_cast<Turn*>(turn), reply, error);
+}
+
+// Whether the network asks back tells the session's state, which comes behind the reply.
+void UssdSession::finish(GObject* source, Turn* data, char* rawReply, GError* rawError) {
+    const std::unique_ptr<Turn> turn(data);
+    const Text reply(rawReply);
+    const Error error(rawError);
+    if (isCancelled(error)) return;
+    UssdSession* self = turn->session;
+    if (error) return self->end(turn->number, failed(failureOf(error.get()), wordsOf(error.get())));
+    auto* proxy = MM_MODEM_3GPP_USSD(source);
+    const std::string text = textOf(reply.get());
+    afterSignals(G_DBUS_PROXY(proxy), self->m_Cancellation.get(), [self, proxy, number = turn->number, text] {
+        self->end(number, {asksBack(proxy) ? VRKS_USSD_ASKS : VRKS_USSD_ANSWER, VRKS_USSD_FAILURE_NONE, text, {}});
+    });
+}
+
+// What was given up meanwhile stays given up.
+void UssdSession::end(unsigned turn, const Ussd& outcome) {
+    m_Board.change([&](Picture& picture) {
+        if (turn != m_Turn || picture.ussd.state != VRKS_USSD_SENT) return false;
+        picture.ussd = outcome;
+        return true;
+    });
+}
+
+bool UssdSession::cancel() {
+    std::string modem;
+    const bool isMine = m_Board.change([&](Picture& picture) {
+        if (!isOpen(picture)) return false;
+        modem = picture.modemInUse;
+        ++m_Turn;
+        picture.ussd = failed(VRKS_USSD_FAILURE_CANCELLED, {});
+        return true;
+    });
+    if (!isMine) return false;
+    m_Thread.invoke([this, modem] {
+        if (MMModem3gppUssd* proxy = ussd(modem))
+            mm_modem_3gpp_ussd_cancel(proxy, m_Cancellation.get(), onCancelled, nullptr);
+    });
+    return true;
+}
+
+// For us it is over already; a network that goes on talks to nobody.
+void UssdSession::onCancelled(GObject* source, GAsyncResult* result, gpointer) {
+    mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(source), result, nullptr);
+}

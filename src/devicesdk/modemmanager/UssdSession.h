@@ -1,0 +1,44 @@
+// The USSD session of the modem in use.
+#ifndef ORBISDIAL_USSDSESSION_H
+#define ORBISDIAL_USSDSESSION_H
+
+#include <string>
+
+#include "ModemWatch.h"
+#include "PictureBoard.h"
+
+class UssdSession {
+public:
+    UssdSession(WorkerThread& thread, ModemWatch& watch, PictureBoard& board)
+        : m_Thread(thread), m_Watch(watch), m_Board(board) {}
+
+    // As in Backend.
+    bool send(const std::string& command);
+    bool answer(const std::string& answer);
+    bool cancel();
+
+    // On the thread, which ends then.
+    void stop() { m_Cancellation.renew(); }
+
+private:
+    struct Turn;
+    using Condition = bool (*)(const Picture&);
+    using Send = std::function<void(MMModem3gppUssd*, GCancellable*, Turn*)>;
+
+    bool begin(Condition isPossible, Send send);
+    void run(const std::string& modem, unsigned turn, const Send& send);
+    void end(unsigned turn, const Ussd& outcome);
+    MMModem3gppUssd* ussd(const std::string& modem);
+    static void onInitiated(GObject* source, GAsyncResult* result, gpointer turn);
+    static void onResponded(GObject* source, GAsyncResult* result, gpointer turn);
+    static void onCancelled(GObject* source, GAsyncResult* result, gpointer nothing);
+    static void finish(GObject* ussd, Turn* turn, char* reply, GError* error);
+
+    WorkerThread& m_Thread;
+    ModemWatch& m_Watch;
+    PictureBoard& m_Board;
+    unsigned m_Turn = 0;  // of question and answer, counted; changed only within edits of the picture
+    Cancellation m_Cancellation;
+};
+
+#endif
