@@ -529,5 +529,13 @@
         <source>IDS_HOST_MODEM_CHANGE_CARD</source>
         <translation>تغيير البطاقة</translation>
     </message>
+    <message>
+        <source>IDS_HOST_MODEM_SETTING</source>
+        <translation>الإعداد:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_DROP</source>
+        <translation>قطع الاتصال</translation>
+    </message>
 </context>
 </TS>

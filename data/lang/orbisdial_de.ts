@@ -529,5 +529,13 @@
         <source>IDS_HOST_MODEM_CHANGE_CARD</source>
         <translation>Karte wechseln</translation>
     </message>
+    <message>
+        <source>IDS_HOST_MODEM_SETTING</source>
+        <translation>Einstellung:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_DROP</source>
+        <translation>Verbindung kappen</translation>
+    </message>
 </context>
 </TS>

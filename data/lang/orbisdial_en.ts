@@ -659,5 +659,15 @@
         <extracomment>Button in the panel: the modem reports that its card was changed; up to 16 characters. No mnemonic.</extracomment>
         <translation>Change card</translation>
     </message>
+    <message>
+        <source>IDS_HOST_MODEM_SETTING</source>
+        <extracomment>Label in the panel, before a list of technical names; the line below holds the value; up to 16 characters.</extracomment>
+        <translation>Setting:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_DROP</source>
+        <extracomment>Button in the panel: the network ends the connection; up to 20 characters. No mnemonic.</extracomment>
+        <translation>Drop connection</translation>
+    </message>
 </context>
 </TS>

@@ -529,5 +529,13 @@
         <source>IDS_HOST_MODEM_CHANGE_CARD</source>
         <translation>Cambiar tarjeta</translation>
     </message>
+    <message>
+        <source>IDS_HOST_MODEM_SETTING</source>
+        <translation>Ajuste:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_DROP</source>
+        <translation>Cortar conexión</translation>
+    </message>
 </context>
 </TS>

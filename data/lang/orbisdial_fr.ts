@@ -529,5 +529,13 @@
         <source>IDS_HOST_MODEM_CHANGE_CARD</source>
         <translation>Changer de carte</translation>
     </message>
+    <message>
+        <source>IDS_HOST_MODEM_SETTING</source>
+        <translation>Réglage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_DROP</source>
+        <translation>Couper</translation>
+    </message>
 </context>
 </TS>

@@ -529,5 +529,13 @@
         <source>IDS_HOST_MODEM_CHANGE_CARD</source>
         <translation>Сменить карту</translation>
     </message>
+    <message>
+        <source>IDS_HOST_MODEM_SETTING</source>
+        <translation>Параметр:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_DROP</source>
+        <translation>Оборвать связь</translation>
+    </message>
 </context>
 </TS>

@@ -57,6 +57,10 @@ VRKS_API long vrks_simulated_set(const char* name, const char* value);
 /* The same with the events that a real modem's change raises; a connection ends when its modem is no longer ready. */
 VRKS_API long vrks_simulated_change(const char* name, const char* value);
 
+/* The name and the value of the setting with this number, counted from 0, each at most VRKS_TEXT_SIZE bytes with the
+ * zero; a value that is taken away is empty. The order is always the same; a failure behind the last. */
+VRKS_API long vrks_simulated_get_at(unsigned int index, char* name, char* value);
+
 /* Raises an event of VRKS_DevInitEventCallback on the SDK's thread and returns at once. Each one is delivered,
  * however many wait already. */
 VRKS_API long vrks_simulated_raise_event(int event);

@@ -40,6 +40,25 @@ const QVector<Choice> Outcomes = {
     {"IDS_HOST_MODEM_NO_SIGNAL", nullptr, ORBISDIAL_OUTCOME_NO_SIGNAL},
 };
 
+// Every other failure under its technical name.
+void addFailures(QComboBox* box) {
+    const char* name = nullptr;
+    for (int failure = VRKS_FAILURE_NONE + 1; VRKS_NetConnectSrv_GetFailureName(failure, &name) == 0; ++failure) {
+        if (box->findData(QLatin1String(name)) < 0) box->addItem(QLatin1String(name), QLatin1String(name));
+    }
+}
+
+// The settings' names; an item's number is the setting's.
+QComboBox* makeSettingBox() {
+    auto* box = new QComboBox;
+    box->setObjectName(QStringLiteral("ModemPanel_Setting"));
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(12);
+    char name[VRKS_TEXT_SIZE], value[VRKS_TEXT_SIZE];
+    for (unsigned int i = 0; vrks_simulated_get_at(i, name, value) == 0; ++i) box->addItem(QLatin1String(name));
+    return box;
+}
+
 QComboBox* makeBox(const char* name, const QVector<Choice>& choices) {
     auto* box = new QComboBox;
     box->setObjectName(QLatin1String(name));
@@ -80,7 +99,9 @@ ModemPanel::ModemPanel(QWidget* parent)
       m_ProductType(makeBox("ModemPanel_ProductType", ProductTypes)),
       m_SystemMode(makeNumber("ModemPanel_SystemMode")),
       m_SystemSubMode(makeNumber("ModemPanel_SystemSubMode")),
-      m_Outcome(makeBox("ModemPanel_Outcome", Outcomes)) {
+      m_Outcome(makeBox("ModemPanel_Outcome", Outcomes)),
+      m_Setting(makeSettingBox()),
+      m_Value(new QLineEdit) {
     setObjectName(QStringLiteral("ModemPanel"));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     m_Imsi->setObjectName(QStringLiteral("ModemPanel_Imsi"));
@@ -91,9 +112,13 @@ ModemPanel::ModemPanel(QWidget* parent)
     auto* form = new QFormLayout(this);
     buildCard(form);
     buildNetwork(form);
+    buildSettings(form);
     makeEventButton(form, "ModemPanel_Initialise", "IDS_HOST_MODEM_INITIALISE", VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
     makeEventButton(form, "ModemPanel_ChangeCard", "IDS_HOST_MODEM_CHANGE_CARD", VRKS_EVENT_DEV_CARD_CHANGED);
+    auto* drop = makeButton(form, "ModemPanel_Drop", "IDS_HOST_MODEM_DROP");
+    connect(drop, &QPushButton::clicked, this, [] { vrks_simulated_drop(nullptr); });
     readModem();
+    readValue();
     connectControls();
 }
 
@@ -125,6 +150,13 @@ void ModemPanel::buildNetwork(QFormLayout* form) {
     addRow(form, "IDS_HOST_MODEM_OUTCOME", m_Outcome);
 }
 
+void ModemPanel::buildSettings(QFormLayout* form) {
+    addFailures(m_Outcome);
+    m_Value->setObjectName(QStringLiteral("ModemPanel_Value"));
+    addRow(form, "IDS_HOST_MODEM_SETTING", m_Setting);
+    form->addRow(QString(), m_Value);
+}
+
 void ModemPanel::addRow(QFormLayout* form, const char* id, QWidget* field) {
     auto* label = new QLabel;
     label->setBuddy(field);
@@ -139,12 +171,16 @@ QSpinBox* ModemPanel::makeNumber(const char* name) {
     return number;
 }
 
-void ModemPanel::makeEventButton(QFormLayout* form, const char* name, const char* id, int event) {
+QPushButton* ModemPanel::makeButton(QFormLayout* form, const char* name, const char* id) {
     auto* button = new QPushButton;
     button->setObjectName(QLatin1String(name));
-    connect(button, &QPushButton::clicked, this, [event] { vrks_simulated_raise_event(event); });
     form->addRow(button);
     m_Texts.append({button, id});
+    return button;
+}
+
+void ModemPanel::makeEventButton(QFormLayout* form, const char* name, const char* id, int event) {
+    connect(makeButton(form, name, id), &QPushButton::clicked, this, [event] { vrks_simulated_raise_event(event); });
 }
 
 void ModemPanel::readModem() {
@@ -165,8 +201,14 @@ void ModemPanel::readModem() {
     m_MultiMode->setChecked(isMultiMode != 0);
     select(m_CardMode, cardMode);
     select(m_ProductType, productType);
-    m_SystemMode->setValue(numberAt(systemInfo, 4));
-    m_SystemSubMode->setValue(numberAt(systemInfo, 20));
+    m_SystemMode->setValue(numberAt(systemInfo, VRKS_SYSINFO_MODE_OFFSET));
+    m_SystemSubMode->setValue(numberAt(systemInfo, VRKS_SYSINFO_SUBMODE_OFFSET));
+}
+
+void ModemPanel::readValue() {
+    char name[VRKS_TEXT_SIZE], value[VRKS_TEXT_SIZE];
+    if (vrks_simulated_get_at(unsigned(m_Setting->currentIndex()), name, value) == 0)
+        m_Value->setText(QString::fromUtf8(value));
 }
 
 void ModemPanel::connectControls() {
@@ -181,12 +223,21 @@ void ModemPanel::connectControls() {
     connect(m_SystemMode, valueChanged, this, [this](int mode) { setSystemMode("SYS_MODE", mode); });
     connect(m_SystemSubMode, valueChanged, this, [this](int mode) { setSystemMode("SYS_SUBMODE", mode); });
     connect(m_Outcome, activated, this, &ModemPanel::setOutcome);
+    connect(m_Setting, activated, this, &ModemPanel::readValue);
+    connect(m_Value, &QLineEdit::editingFinished, this, &ModemPanel::setValue);
 }
 
 void ModemPanel::set(const char* name, const QVariant& value) {
-    const QByteArray text = value.toString().toLatin1();
-    vrks_simulated_set(name, text.isEmpty() ? nullptr : text.constData());
+    const QByteArray text = value.toString().toUtf8();
+    vrks_simulated_change(name, text.isEmpty() ? nullptr : text.constData());
+    readValue();
     emit changed();
+}
+
+// A value that the setting can't hold gives way to the one it has.
+void ModemPanel::setValue() {
+    set(m_Setting->currentText().toLatin1(), m_Value->text());
+    readModem();
 }
 
 void ModemPanel::setSystemMode(const char* name, int mode) {
@@ -195,5 +246,6 @@ void ModemPanel::setSystemMode(const char* name, int mode) {
 }
 
 void ModemPanel::setOutcome() {
+    set("DIAL", m_Outcome->currentData());
     if (QObject* object = dialer()) object->setProperty(ORBISDIAL_SIMULATED_OUTCOME, m_Outcome->currentData());
 }

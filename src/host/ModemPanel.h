@@ -1,6 +1,7 @@
 // The simulated modem's panel: what the modem and its card report, and what a dialling ends with.
 //
-// A change takes effect at once, without an event; the two buttons raise the modem's events.
+// A change takes effect at once and raises the events that a real modem's would; two buttons raise the events by
+// themselves. What has no control of its own is set by its name.
 #ifndef ORBISDIAL_MODEMPANEL_H
 #define ORBISDIAL_MODEMPANEL_H
 
@@ -12,6 +13,7 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
+class QPushButton;
 class QSpinBox;
 
 class ModemPanel : public QGroupBox {
@@ -41,16 +43,20 @@ private:
 
     void buildCard(QFormLayout* form);
     void buildNetwork(QFormLayout* form);
+    void buildSettings(QFormLayout* form);
     void addRow(QFormLayout* form, const char* id, QWidget* field);
     static QSpinBox* makeNumber(const char* name);
+    QPushButton* makeButton(QFormLayout* form, const char* name, const char* id);
     void makeEventButton(QFormLayout* form, const char* name, const char* id, int event);
     void readModem();
+    void readValue();
     void connectControls();
 
-    // Sets a value of vrks_simulated_set(); an empty text takes it away.
+    // Sets a value of vrks_simulated_change(); an empty text takes it away.
     void set(const char* name, const QVariant& value);
     void setSystemMode(const char* name, int mode);
     void setOutcome();
+    void setValue();
 
     QVector<Text> m_Texts;
     QLineEdit* m_Imsi;
@@ -61,6 +67,8 @@ private:
     QSpinBox* m_SystemMode;
     QSpinBox* m_SystemSubMode;
     QComboBox* m_Outcome;
+    QComboBox* m_Setting;
+    QLineEdit* m_Value;
 };
 
 #endif

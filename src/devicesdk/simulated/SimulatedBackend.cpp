@@ -93,6 +93,11 @@ bool SimulatedBackend::drop(int failure) {
     return true;
 }
 
+std::vector<NamedValue> SimulatedBackend::values() {
+    const Lock lock(m_Mutex);
+    return m_Settings.values();
+}
+
 void SimulatedBackend::reset() {
     const Lock lock(m_Mutex);
     ++m_DialRun;

@@ -17,6 +17,7 @@ public:
     bool set(const char* name, const char* value);
     bool change(const char* name, const char* value);
     bool drop(int failure);
+    std::vector<NamedValue> values();
     void reset();
 
     // The last request that was dialled; nothing before the first.

@@ -27,6 +27,7 @@ struct NumberSetting {
     std::optional<int> Owner::*member;
     const char* preset;
     std::optional<int> (*parse)(const char* text);
+    std::string (*print)(int value);
 };
 
 constexpr int Least = std::numeric_limits<int>::min();
@@ -52,6 +53,16 @@ std::optional<int> word(const char* text) {
     for (const Word& word : Words)
         if (std::strcmp(word.text, text) == 0) return word.value;
     return std::nullopt;
+}
+
+std::string decimal(int value) { return std::to_string(value); }
+
+// One that has no word has a number.
+template <const auto& Words>
+std::string wordFor(int value) {
+    for (const Word& word : Words)
+        if (word.value == value) return word.text;
+    return decimal(value);
 }
 
 constexpr Word Locks[] = {
@@ -81,6 +92,8 @@ std::optional<int> outcome(const char* text) {
     return own ? own : failureNamed(text);
 }
 
+std::string outcomeName(int value) { return value == VRKS_FAILURE_NONE ? Outcomes[0].text : failureName(value); }
+
 using Modem = SimulatedModem;
 using Network = SimulatedNetwork;
 
@@ -104,20 +117,20 @@ const TextSetting<Modem> ModemTexts[] = {
 };
 
 const NumberSetting<Modem> ModemNumbers[] = {
-    {"PRESENT", &Modem::present, "1", number<0, 1>},
-    {"STATUS", &Modem::status, "3", number<Least, Most>},
-    {"PRODUCT_TYPE", &Modem::productType, "0", number<Least, Most>},
-    {"MULTI_MODE", &Modem::multiMode, "0", number<0, 255>},
-    {"CARD_MODE", &Modem::cardMode, "0", number<0, Most>},
-    {"SYS_MODE", &Modem::systemMode, "0", number<Least, Most>},
-    {"SYS_SUBMODE", &Modem::systemSubMode, "0", number<Least, Most>},
-    {"LOCK", &Modem::lock, "none", word<Locks>},
-    {"PIN_ATTEMPTS", &Modem::pinAttempts, "3", number<1, 3>},
-    {"PUK_ATTEMPTS", &Modem::pukAttempts, "10", number<1, 10>},
-    {"REGISTRATION", &Modem::registration, "home", word<Registrations>},
-    {"GENERATION", &Modem::generation, "4", number<0, 5>},
-    {"SIGNAL", &Modem::signal, "70", number<-1, 100>},
-    {"HAS_USSD", &Modem::hasUssd, "1", number<0, 1>},
+    {"PRESENT", &Modem::present, "1", number<0, 1>, decimal},
+    {"STATUS", &Modem::status, "3", number<Least, Most>, decimal},
+    {"PRODUCT_TYPE", &Modem::productType, "0", number<Least, Most>, decimal},
+    {"MULTI_MODE", &Modem::multiMode, "0", number<0, 255>, decimal},
+    {"CARD_MODE", &Modem::cardMode, "0", number<0, Most>, decimal},
+    {"SYS_MODE", &Modem::systemMode, "0", number<Least, Most>, decimal},
+    {"SYS_SUBMODE", &Modem::systemSubMode, "0", number<Least, Most>, decimal},
+    {"LOCK", &Modem::lock, "none", word<Locks>, wordFor<Locks>},
+    {"PIN_ATTEMPTS", &Modem::pinAttempts, "3", number<1, 3>, decimal},
+    {"PUK_ATTEMPTS", &Modem::pukAttempts, "10", number<1, 10>, decimal},
+    {"REGISTRATION", &Modem::registration, "home", word<Registrations>, wordFor<Registrations>},
+    {"GENERATION", &Modem::generation, "4", number<0, 5>, decimal},
+    {"SIGNAL", &Modem::signal, "70", number<-1, 100>, decimal},
+    {"HAS_USSD", &Modem::hasUssd, "1", number<0, 1>, decimal},
 };
 
 const TextSetting<Network> NetworkTexts[] = {
@@ -131,16 +144,16 @@ const TextSetting<Network> NetworkTexts[] = {
 };
 
 const NumberSetting<Network> NetworkNumbers[] = {
-    {"UNLOCK", &Network::unlock, "checks", word<Unlocks>},
-    {"UNLOCK_MS", &Network::unlockMs, "100", number<0, LongestMs>},
-    {"DIAL", &Network::dial, "answers", outcome},
-    {"DIAL_MS", &Network::dialMs, "1500", number<0, LongestMs>},
-    {"DIAL_DROP_MS", &Network::dropMs, "0", number<0, LongestMs>},
-    {"HANG_UP_MS", &Network::hangUpMs, "300", number<0, LongestMs>},
-    {"REFUSE_HANG_UP", &Network::refusesHangUp, "0", number<0, 1>},
-    {"RATE", &Network::rate, "100000", number<0, Most>},
-    {"USSD", &Network::ussd, "answers", word<Ussds>},
-    {"USSD_MS", &Network::ussdMs, "300", number<0, LongestMs>},
+    {"UNLOCK", &Network::unlock, "checks", word<Unlocks>, wordFor<Unlocks>},
+    {"UNLOCK_MS", &Network::unlockMs, "100", number<0, LongestMs>, decimal},
+    {"DIAL", &Network::dial, "answers", outcome, outcomeName},
+    {"DIAL_MS", &Network::dialMs, "1500", number<0, LongestMs>, decimal},
+    {"DIAL_DROP_MS", &Network::dropMs, "0", number<0, LongestMs>, decimal},
+    {"HANG_UP_MS", &Network::hangUpMs, "300", number<0, LongestMs>, decimal},
+    {"REFUSE_HANG_UP", &Network::refusesHangUp, "0", number<0, 1>, decimal},
+    {"RATE", &Network::rate, "100000", number<0, Most>, decimal},
+    {"USSD", &Network::ussd, "answers", word<Ussds>, wordFor<Ussds>},
+    {"USSD_MS", &Network::ussdMs, "300", number<0, LongestMs>, decimal},
 };
 
 // Where the second modem's presets differ.
@@ -194,6 +207,24 @@ void applyCardRules(Modem* modem) {
     if (modem->password && !modem->user) modem->user = "";
 }
 
+template <class Owner>
+std::optional<std::string> textIn(const Owner& owner, const TextSetting<Owner>& setting) {
+    return owner.*setting.member;
+}
+
+template <class Owner>
+std::optional<std::string> textIn(const Owner& owner, const NumberSetting<Owner>& setting) {
+    const std::optional<int> number = owner.*setting.member;
+    return number ? std::optional<std::string>(setting.print(*number)) : std::nullopt;
+}
+
+template <class Owner, class Setting, std::size_t Count>
+void list(std::vector<NamedValue>* values, const Owner& owner, const Setting (&settings)[Count],
+          const char* prefix = "") {
+    for (const Setting& setting : settings)
+        values->push_back({std::string(prefix) + setting.name, textIn(owner, setting)});
+}
+
 }  // namespace
 
 SimulatedSettings SimulatedSettings::fromEnvironment() {
@@ -218,4 +249,16 @@ bool SimulatedSettings::set(const std::string& name, const char* value) {
     if (isSecond) return false;
     if (const auto done = assignNamed(&network, NetworkTexts, own, value)) return *done;
     return assignNamed(&network, NetworkNumbers, own, value).value_or(false);
+}
+
+std::vector<NamedValue> SimulatedSettings::values() const {
+    std::vector<NamedValue> values;
+    list(&values, network, NetworkTexts);
+    list(&values, network, NetworkNumbers);
+    for (const Modem& modem : modems) {
+        const char* prefix = &modem == &modems.front() ? "" : SecondPrefix;
+        list(&values, modem, ModemTexts, prefix);
+        list(&values, modem, ModemNumbers, prefix);
+    }
+    return values;
 }

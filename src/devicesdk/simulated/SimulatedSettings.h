@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 // Nothing means that a query fails, or for what came later that the value is empty or unknown.
 struct SimulatedModem {
@@ -66,6 +67,11 @@ enum { UnlockChecks, UnlockNotAllowed, UnlockOther };  // SimulatedNetwork::unlo
 // SimulatedNetwork::ussd; the failures are VRKS_USSD_FAILURE_...
 enum { UssdAnswers = 0, UssdAsks = -1 };
 
+struct NamedValue {
+    std::string name;
+    std::optional<std::string> value;  // as set() takes it
+};
+
 struct SimulatedSettings {
     std::array<SimulatedModem, 2> modems;
     SimulatedNetwork network;
@@ -76,6 +82,9 @@ struct SimulatedSettings {
     // One value by its name without the prefix; null takes it away. False, and nothing changes, for an unknown name or
     // a value that the setting can't hold.
     bool set(const std::string& name, const char* value);
+
+    // All of them, always in the same order.
+    std::vector<NamedValue> values() const;
 };
 
 #endif

@@ -1,10 +1,12 @@
 #include "vrks_simulated.h"
 
+#include <cstring>
 #include <exception>
 
 #include "../BackendSelection.h"
 #include "../EventDispatcher.h"
 #include "../Failures.h"
+#include "../Utf8.h"
 #include "SimulatedBackend.h"
 
 namespace {
@@ -20,6 +22,12 @@ long withModem(Operation operation) noexcept {
     } catch (const std::exception&) {
         return -1;
     }
+}
+
+void writeText(char* place, const std::string& text) {
+    const std::size_t length = fittingLength(text, VRKS_TEXT_SIZE - 1);
+    std::memcpy(place, text.data(), length);
+    place[length] = '\0';
 }
 
 }  // namespace
@@ -38,6 +46,16 @@ long vrks_simulated_set(const char* name, const char* value) {
 
 long vrks_simulated_change(const char* name, const char* value) {
     return withModem([=](SimulatedBackend& modem) { return name && modem.change(name, value); });
+}
+
+long vrks_simulated_get_at(unsigned int index, char* name, char* value) {
+    return withModem([=](SimulatedBackend& modem) {
+        const std::vector<NamedValue> values = modem.values();
+        if (!name || !value || index >= values.size()) return false;
+        writeText(name, values[index].name);
+        writeText(value, values[index].value.value_or(std::string()));
+        return true;
+    });
 }
 
 long vrks_simulated_raise_event(int event) {
