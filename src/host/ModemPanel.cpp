@@ -246,6 +246,6 @@ void ModemPanel::setSystemMode(const char* name, int mode) {
 }
 
 void ModemPanel::setOutcome() {
-    set("DIAL", m_Outcome->currentData());
     if (QObject* object = dialer()) object->setProperty(ORBISDIAL_SIMULATED_OUTCOME, m_Outcome->currentData());
+    set("DIAL", m_Outcome->currentData());
 }

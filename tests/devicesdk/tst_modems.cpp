@@ -1,6 +1,7 @@
 // Modems and their choice, unlocking, data connections and USSD on the simulated modems, and the events of all that.
 #include <QSemaphore>
 #include <algorithm>
+#include <atomic>
 #include <cstddef>
 #include <cstring>
 #include <mutex>
@@ -14,7 +15,7 @@ namespace {
 std::mutex eventsMutex;
 QList<int> events;
 QSemaphore mayReturn;
-bool blocks = false;
+std::atomic<bool> blocks{false};
 
 void record(int event) {
     const std::lock_guard lock(eventsMutex);
@@ -260,6 +261,18 @@ private slots:
         QCOMPARE(QByteArray(record.more, sizeof record.more), QByteArray(8, '\0'));
         record.info.size = 4;
         QVERIFY(VRKS_DevSrv_GetModemInfo(&record.info) != 0);
+    }
+
+    // What is listed can be set again as it stands.
+    void settingsAreListed() {
+        char name[VRKS_TEXT_SIZE], value[VRKS_TEXT_SIZE];
+        QSet<QString> names;
+        for (unsigned int i = 0; vrks_simulated_get_at(i, name, value) == 0; ++i) {
+            names += name;
+            if (*value) QVERIFY2(vrks_simulated_change(name, value) == 0, name);
+        }
+        for (const char* known : {"IMSI", "2_IMSI", "LOCK", "DIAL", "USSD"}) QVERIFY2(names.contains(known), known);
+        QCOMPARE(takeEvents(), QString());
     }
 
     void unlocks_data() {

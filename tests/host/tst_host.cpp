@@ -224,6 +224,26 @@ private slots:
         }
     }
 
+    // What has no control of its own is set by its name; a value that is none gives way to the one in force.
+    void setsTheModemByName() {
+        auto* box = child<QComboBox>("ModemPanel_Setting");
+        auto* value = child<QLineEdit>("ModemPanel_Value");
+        box->setCurrentText("SIGNAL");
+        emit box->activated(box->currentIndex());
+        QCOMPARE(value->text(), QString("70"));
+        const struct { const char *typed, *shown; } rows[] = {{"101", "70"}, {"33", "33"}};
+        for (const auto& row : rows) {
+            value->selectAll();
+            QTest::keyClicks(value, row.typed);
+            QTest::keyClick(value, Qt::Key_Return);
+            QCOMPARE(value->text(), QString(row.shown));
+        }
+        VRKS_ModemInfo info{};
+        info.size = sizeof info;
+        QCOMPARE(VRKS_DevSrv_GetModemInfo(&info), 0L);
+        QCOMPARE(info.signal, 33);
+    }
+
     void showsStorageProblems() {
         auto* label = child<QLabel>("Host_StorageProblem");
         QVERIFY(!label->isVisible());
