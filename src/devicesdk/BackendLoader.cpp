@@ -16,8 +16,7 @@ fs::path moduleFile(const std::string& name) {
 }
 
 LoadedModule failed(const std::string& name, const std::string& reason) {
-    const auto* text = new std::string("the device backend \"" + name + "\" can't be loaded: " + reason);
-    return {nullptr, text->c_str()};
+    return {nullptr, "the device backend \"" + name + "\" can't be loaded: " + reason};
 }
 
 std::string loaderError() {
@@ -36,5 +35,5 @@ LoadedModule loadBackendModule(const char* name) {
     const auto* module = static_cast<const BackendModule*>(::dlsym(library, ORBISDIAL_BACKEND_MODULE_NAME));
     if (!module) return failed(name, loaderError());
     if (module->version != BackendModule::CurrentVersion) return failed(name, "it belongs to another version");
-    return {module, nullptr};
+    return {module, {}};
 }

@@ -6,7 +6,7 @@
 
 struct LoadedModule {
     const BackendModule* module;  // null when it can't be had
-    const char* problem;          // why not, for a person; lives as long as the process
+    std::string problem;          // why not, for a person
 };
 
 LoadedModule loadBackendModule(const char* name);

@@ -19,7 +19,10 @@ using Clock = std::chrono::steady_clock;
 constexpr int DefaultWaitMs = 1000;
 constexpr int LongestWaitMs = 60000;
 
-BackendSelection unavailable(const char* problem) { return {new NoneBackend, nullptr, nullptr, problem}; }
+// The text is for whoever asks as long as the process lives.
+BackendSelection unavailable(const std::string& problem) {
+    return {new NoneBackend, nullptr, nullptr, ::strdup(problem.c_str())};
+}
 
 BackendSelection chooseNone() { return {new NoneBackend, nullptr, "none", nullptr}; }
 
@@ -30,9 +33,10 @@ BackendSelection chooseSimulated() {
 
 BackendSelection use(const LoadedModule& loaded, const char* name) {
     if (!loaded.module) return unavailable(loaded.problem);
-    auto* events = new EventDispatcher;
+    auto events = std::make_unique<EventDispatcher>();
     Backend* backend = loaded.module->make(*events);
-    return backend ? BackendSelection{backend, events, name, nullptr} : unavailable("the device backend can't start");
+    if (!backend) return unavailable("the device backend can't start");
+    return {backend, events.release(), name, nullptr};
 }
 
 BackendSelection chooseModemManager() { return use(loadBackendModule("modemmanager"), "modemmanager"); }

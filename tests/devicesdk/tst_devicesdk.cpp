@@ -246,8 +246,14 @@ private slots:
         QCOMPARE(status, cell<int>("status"));
     }
 
-    // Nothing works there but what needs no modem.
-    void forkedChildHasNoModem() { QCOMPARE(runProbe("simulated", {"fork"}).status, 0); }
+    // Nothing works there but what needs no modem. What the parent's threads held on their stacks looks lost there.
+    void forkedChildHasNoModem() {
+        const QByteArray options = qgetenv("ASAN_OPTIONS");
+        qputenv("ASAN_OPTIONS", options + ":detect_leaks=0");
+        const int status = runProbe("simulated", {"fork"}).status;
+        qputenv("ASAN_OPTIONS", options);
+        QCOMPARE(status, 0);
+    }
 
     void endsWithEventsOnTheirWay() {
         QCOMPARE(runProbe("simulated", {"from main"}).status, 0);

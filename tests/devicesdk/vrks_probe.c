@@ -1,6 +1,6 @@
 /* A program in C on the device SDK. Without an argument it prints the backend's name and the problem, and
  * ends with the number of device calls that did anything. With "status" it ends with the modem's status, or 9. With
- * "fork" it ends with that number for a child that it makes while events are on their way. With another it ends itself
+ * "fork" it ends with that number for a child that it makes while an event is delivered. With another it ends itself
  * while they are: "within" a callback, or else from main. */
 #define _POSIX_C_SOURCE 200809L
 #include <stdatomic.h>
@@ -101,16 +101,28 @@ static int callsThatDidAnything(void) {
     return count + (memcmp(out, untouched, sizeof out) != 0);
 }
 
+static atomic_int entered;
+static atomic_int forked;
+
+/* Holds the event thread within it until the process has forked. */
+static int untilForked(int event, void* data) {
+    (void)data;
+    entered = 1;
+    while (!forked) thrd_sleep(&(struct timespec){.tv_nsec = 1000000}, 0);
+    return event;
+}
+
 /* The child must neither wait for the parent's threads nor end with them. */
 static int inChild(void) {
-    int i;
     int status = 0;
     pid_t child;
     unsigned short* directory = 0;
-    if (VRKS_DevSrv_RegisterDevInitEventCallback(slowly) != 0) return 1;
-    for (i = 0; i < 1000; ++i) vrks_simulated_raise_event(7);
+    if (VRKS_DevSrv_RegisterDevInitEventCallback(untilForked) != 0) return 1;
+    vrks_simulated_raise_event(7);
+    while (!entered) thrd_yield();
     child = fork();
     if (child == 0) exit(callsThatDidAnything() + (VRKS_GetUserDataDirectory(&directory) != 0));
+    forked = 1;
     if (child < 0 || waitpid(child, &status, 0) != child || !WIFEXITED(status)) return 1;
     return WEXITSTATUS(status);
 }
