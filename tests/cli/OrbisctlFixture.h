@@ -11,7 +11,7 @@ public:
         const QString fixtures = ORBISDIAL_SOURCE_DIR "/tests/cli/fixtures/";
         for (const char* file : {"NetConnectConfig.xml", "ProfileLib.prof"}) ship(file, read(fixtures + file));
         ship("SysProfile.prof", "<vrksdoc/>");
-        QFile::copy(ORBISDIAL_BUILD_DIR "/lib/orbisdial/lang/orbisdial_en.qm", path("library/lang/orbisdial_en.qm"));
+        QFile::copy(ORBISDIAL_LIBRARY_DIR "/lang/orbisdial_en.qm", path("library/lang/orbisdial_en.qm"));
         qputenv("ORBISDIAL_DEVICE", "simulated");
         qputenv("ORBISDIAL_SIM_IMSI", "262019876543210");
     }

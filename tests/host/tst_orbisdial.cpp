@@ -53,7 +53,7 @@ private slots:
         QFETCH(int, number);
         QProcess program;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("ORBISDIAL_LIBRARY_PATH", ORBISDIAL_BUILD_DIR "/lib/orbisdial");
+        environment.insert("ORBISDIAL_LIBRARY_PATH", ORBISDIAL_LIBRARY_DIR);
         environment.insert("ORBISDIAL_DEVICE", "simulated");
         program.setProcessEnvironment(environment);
         program.start(ORBISDIAL_PROGRAM, QStringList());

@@ -38,7 +38,7 @@ public:
         ship("ProfileLib.prof", document(profiles, after));
     }
     void shipTexts() {
-        const QString from = ORBISDIAL_BUILD_DIR "/lib/orbisdial/lang/orbisdial_en.qm";
+        const QString from = ORBISDIAL_LIBRARY_DIR "/lang/orbisdial_en.qm";
         QVERIFY2(QFile::copy(from, path("library/lang/orbisdial_en.qm")), qPrintable(from));
     }
     void setUser(const QByteArray& profiles, const QByteArray& after = QByteArray()) {

@@ -173,7 +173,7 @@ public:
 
 private:
     void copyTexts() const {
-        const QDir built(QString(ORBISDIAL_BUILD_DIR) + "/lib/orbisdial/lang");
+        const QDir built(QString(ORBISDIAL_LIBRARY_DIR) + "/lang");
         for (const QString& file : built.entryList({"*.qm"}))
             QFile::copy(built.filePath(file), path("library/lang/" + file));
     }
