@@ -40,6 +40,7 @@ public:
             const QString imsi = QString::fromUtf8(line).trimmed();
             if (!imsi.isEmpty()) explain(imsi);
         }
+        if (std::ferror(stdin)) throw CommandError::failed("standard input can't be read");
     }
 
     void requireAllValid() const {

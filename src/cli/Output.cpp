@@ -1,38 +1,21 @@
 #include "Output.h"
 
-#include <QJsonDocument>
-#include <cstdio>
-
 #include "CommandError.h"
-
-Output::Output(bool json) : m_bJson(json) { m_Stdout.open(stdout, QIODevice::WriteOnly); }
+#include "StandardOutput.h"
+#include "TerminalText.h"
 
 void Output::result(const QJsonObject& object, const QStringList& lines) {
-    if (m_bJson) return text(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) + '\n');
+    if (m_bJson) return text(TerminalText::json(object) + '\n');
     QString all;
-    for (const QString& line : lines) all += printable(line) + '\n';
+    for (const QString& line : lines) all += TerminalText::printable(line) + '\n';
     text(all);
 }
 
 void Output::text(const QString& text) {
-    const QByteArray bytes = text.toUtf8();
-    if (m_Stdout.write(bytes) != bytes.size() || !m_Stdout.flush())
-        throw CommandError::failed("the output can't be written: " + m_Stdout.errorString());
+    const QString problem = StandardOutput::writeText(text);
+    if (!problem.isNull()) throw CommandError::failed(problem);
 }
 
-QString printable(QString text) {
-    for (QChar& c : text) {
-        const QChar::Category category = c.category();
-        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
-            category == QChar::Separator_Paragraph)
-            c = QChar::ReplacementCharacter;
-    }
-    return text;
-}
-
-void printDiagnostic(const QString& text) {
-    const QByteArray line = "orbisctl: " + printable(text.trimmed()).toUtf8() + '\n';
-    std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
-}
+void printDiagnostic(const QString& text) { StandardOutput::writeDiagnostic("orbisctl", text); }
 
 void printWarning(const QString& text) { printDiagnostic("warning: " + text); }

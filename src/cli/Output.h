@@ -2,14 +2,13 @@
 #ifndef ORBISDIAL_CLI_OUTPUT_H
 #define ORBISDIAL_CLI_OUTPUT_H
 
-#include <QFile>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
 class Output {
 public:
-    explicit Output(bool json);
+    explicit Output(bool json) : m_bJson(json) {}
 
     // Writes one result in the form that was asked for: the object as one line, or the lines. It is handed on at
     // once, so that a reader at the other end of a pipe need not wait for the last. Throws a CommandError when
@@ -17,15 +16,11 @@ public:
     void result(const QJsonObject& object, const QStringList& lines);
 
     // Writes text as it is; throws like result().
-    void text(const QString& text);
+    static void text(const QString& text);
 
 private:
     bool m_bJson;
-    QFile m_Stdout;
 };
-
-// The text without characters that a terminal would obey.
-QString printable(QString text);
 
 // Writes "orbisctl: " and the text, as one line, to stderr.
 void printDiagnostic(const QString& text);

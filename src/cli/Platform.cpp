@@ -1,15 +1,18 @@
 #include "Platform.h"
 
+#include <unistd.h>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QTextCodec>
-#include <cstdio>
 #include <memory>
 
 #include "Command.h"
 #include "CommandError.h"
+#include "StandardOutput.h"
+#include "TerminalText.h"
 #include "vrks_simulated.h"
 
 namespace {
@@ -17,12 +20,13 @@ namespace {
 const char DataFolderVariable[] = "ORBISDIAL_DATA_DIR";
 const char DeviceVariable[] = "ORBISDIAL_DEVICE";
 
-void dropTrace(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type == QtFatalMsg) std::fprintf(stderr, "%s\n", qPrintable(text));
+void writeTrace(QtMsgType, const QMessageLogContext&, const QString& text) {
+    const QByteArray line = TerminalText::printable(text).toUtf8() + '\n';
+    StandardOutput::write(STDERR_FILENO, line.constData(), std::size_t(line.size()));
 }
 
-void writeTrace(QtMsgType, const QMessageLogContext&, const QString& text) {
-    std::fprintf(stderr, "%s\n", qPrintable(text));
+void dropTrace(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) writeTrace(type, context, text);
 }
 
 void setVariable(const char* name, const QString& value) {
@@ -63,6 +67,7 @@ void checkDataFolder() {
 
 void Platform::prepare(int argc, char** argv) {
     qInstallMessageHandler(dropTrace);
+    qputenv("QT_NO_GLIB", "1");  // there is no event loop, and GLib crashes a program when memory runs out
     QLoggingCategory::setFilterRules("default.debug=false");
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     for (int i = 1; i < argc; ++i)

@@ -1,4 +1,5 @@
-// orbisdial: the reference host. Exit status: 0 done, 1 the picture can't be written, 2 wrong usage.
+// orbisdial: the reference host. Exit status: 0 done, 1 the picture can't be written or memory is out, 2 wrong
+// usage.
 #include <vrks_simulated.h>
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include "Host.h"
 #include "Languages.h"
 #include "Options.h"
+#include "ProgramStart.h"
 #include "SettingsPages.h"
 
 namespace {
@@ -75,6 +77,7 @@ int run(const Options& options) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    ProgramStart::prepare("orbisdial", Failed);
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orbisdial"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORBISDIAL_VERSION));

@@ -4,12 +4,14 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
-#include <QTextStream>
+#include <new>
 
 #include "OperatorDatabase.h"
 #include "PresetCatalogue.h"
 #include "PresetError.h"
 #include "PresetFiles.h"
+#include "ProgramStart.h"
+#include "StandardOutput.h"
 
 namespace {
 
@@ -22,7 +24,12 @@ struct Options {
     QString outputDir;
 };
 
-void say(const QString& line) { QTextStream(stderr) << "orbis-presets: " << line << '\n'; }
+void say(const QString& line) { StandardOutput::writeDiagnostic("orbis-presets", line); }
+
+void print(const QString& text) {
+    const QString problem = StandardOutput::writeText(text);
+    if (!problem.isNull()) throw PresetError(problem);
+}
 
 // Found from where the program lies, so that it may be installed anywhere.
 QString installedTemplate(const QString& fileName) {
@@ -58,7 +65,7 @@ QStringList namesOf(const QList<DialupProfile>& profiles) {
     return names;
 }
 
-void run(const Options& options) {
+void makePresets(const Options& options) {
     QStringList warnings;
     const QList<Provider> providers = readOperatorDatabase(options.database, &warnings);
     for (const QString& warning : qAsConst(warnings)) say(warning);
@@ -70,32 +77,45 @@ void run(const Options& options) {
         {options.outputDir + "/NetConnectConfig.xml",
          PresetFiles::configFile(options.configTemplate, catalogue.imsiLists)},
     });
-    QTextStream(stdout) << catalogue.profiles.size() << " preset profiles, " << catalogue.imsiLists.size()
-                        << " network codes\n";
+    print(QString("%1 preset profiles, %2 network codes\n")
+              .arg(catalogue.profiles.size())
+              .arg(catalogue.imsiLists.size()));
+}
+
+ExitStatus run(const QCommandLineParser& parser) {
+    if (parser.isSet("help")) {
+        print(parser.helpText());
+        return Done;
+    }
+    if (parser.isSet("version")) {
+        print("orbis-presets " ORBISDIAL_VERSION "\n");
+        return Done;
+    }
+    const QString wrong = usageProblem(parser);
+    if (!wrong.isEmpty()) {
+        say(wrong);
+        return WrongUsage;
+    }
+    makePresets({parser.value("database"), parser.value("template"), parser.value("library-template"),
+                 parser.value("output-dir")});
+    return Done;
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName("orbis-presets");
-    QCoreApplication::setApplicationVersion(ORBISDIAL_VERSION);
-    QCommandLineParser parser;
-    describeOptions(parser);
-    const QString problem = parser.parse(app.arguments()) ? QString() : parser.errorText();
-    if (problem.isEmpty() && parser.isSet("help")) parser.showHelp(Done);
-    if (problem.isEmpty() && parser.isSet("version")) parser.showVersion();
-    const QString wrong = problem.isEmpty() ? usageProblem(parser) : problem;
-    if (!wrong.isEmpty()) {
-        say(wrong);
-        return WrongUsage;
-    }
+    ProgramStart::prepare("orbis-presets", Failed);
     try {
-        run({parser.value("database"), parser.value("template"), parser.value("library-template"),
-             parser.value("output-dir")});
-        return Done;
+        const QCoreApplication application(argc, argv);
+        QCommandLineParser parser;
+        describeOptions(parser);
+        if (parser.parse(QCoreApplication::arguments())) return run(parser);
+        say(parser.errorText());
+        return WrongUsage;
     } catch (const PresetError& error) {
         say(QString::fromStdString(error.what()));
-        return Failed;
+    } catch (const std::bad_alloc&) {
+        ProgramStart::reportOutOfMemory();
     }
+    return Failed;
 }

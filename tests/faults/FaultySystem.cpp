@@ -82,6 +82,7 @@ INTERPOSED int mkostemp64(char* name, int flags) {
 
 INTERPOSED ssize_t write(int fd, const void* data, size_t size) {
     const auto write = next<decltype(::write)>("write");
+    if (fd <= STDERR_FILENO) return strcmp(failing, "output of nothing") == 0 ? 0 : write(fd, data, size);
     if (callsLeft == 1 && write(fd, data, size / 2) < 0) raise(SIGABRT);
     if (failsAt("write")) return -1;
     return write(fd, data, strcmp(failing, "write in full") == 0 ? (size + 1) / 2 : size);

@@ -137,6 +137,15 @@ private slots:
         QVERIFY(FaultsFixture::read(fixture.userFile()).endsWith("</vrksdoc>\n"));
     }
 
+    void aDeviceThatTakesNothingEndsTheOutput() {
+        const FaultsFixture fixture;
+        qputenv("ORBISDIAL_TEST_FAULT", "output of nothing=0");
+        const Outcome outcome = fixture.run({"list"});
+        qunsetenv("ORBISDIAL_TEST_FAULT");
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.out + outcome.err, QByteArray());
+    }
+
     // The user's folder goes while the program runs: it is made again, but not in the place of something else.
     void theUsersFolderGoes() {
         FaultsFixture fixture;

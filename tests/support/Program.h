@@ -2,6 +2,7 @@
 #ifndef ORBISDIAL_PROGRAM_H
 #define ORBISDIAL_PROGRAM_H
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
