@@ -1,47 +1,134 @@
 #include "HiddenInput.h"
 
+#include <poll.h>
 #include <termios.h>
 #include <unistd.h>
 
-#include <QFile>
-#include <cstdio>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
 
 #include "CommandError.h"
+#include "StandardOutput.h"
 
 namespace {
+
+// The signal that came; 0 when none did. To be woken is the least of what can come.
+volatile std::sig_atomic_t caught = 0;
+
+extern "C" void keepSignal(int signal) {
+    if (signal != SIGCONT || caught == 0) caught = signal;
+}
+
+// All but those that do nothing where nobody asked for them.
+bool endsOrStops(int signal) { return signal != SIGCHLD && signal != SIGURG && signal != SIGWINCH; }
+
+// While one lives signals wait, and come only while it waits for input. Those that were ignored stay so.
+class KeptSignals {
+public:
+    KeptSignals() {
+        caught = 0;
+        sigset_t all;
+        sigfillset(&all);
+        sigprocmask(SIG_BLOCK, &all, &m_MaskBefore);
+        for (int signal = 1; signal < NSIG; ++signal)
+            if (endsOrStops(signal)) keep(signal, &m_Before[signal]);
+    }
+    ~KeptSignals() {
+        for (int signal = 1; signal < NSIG; ++signal)
+            if (endsOrStops(signal)) sigaction(signal, &m_Before[signal], nullptr);
+        sigprocmask(SIG_SETMASK, &m_MaskBefore, nullptr);
+    }
+    KeptSignals(const KeptSignals&) = delete;
+    KeptSignals& operator=(const KeptSignals&) = delete;
+
+    // False when a signal came instead.
+    bool waitForInput() const {
+        pollfd input = {STDIN_FILENO, POLLIN, 0};
+        return ppoll(&input, 1, nullptr, &m_MaskBefore) >= 0 || errno != EINTR || caught == 0;
+    }
+
+private:
+    // Does nothing for the few that can't be caught.
+    static void keep(int signal, struct sigaction* before) {
+        if (sigaction(signal, nullptr, before) != 0 || before->sa_handler == SIG_IGN) return;
+        struct sigaction action = {};
+        action.sa_handler = keepSignal;
+        sigaction(signal, &action, nullptr);
+    }
+
+    sigset_t m_MaskBefore;
+    struct sigaction m_Before[NSIG] = {};
+};
 
 // Keeps a terminal from showing what is typed, while it lives.
 class EchoOff {
 public:
-    EchoOff() : m_bTerminal(tcgetattr(STDIN_FILENO, &m_Before) == 0) {
+    explicit EchoOff(const char* prompt) : m_bTerminal(tcgetattr(STDIN_FILENO, &m_Before) == 0) {
         if (!m_bTerminal) return;
         termios silent = m_Before;
         silent.c_lflag &= ~tcflag_t(ECHO);
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
+        StandardOutput::write(STDERR_FILENO, prompt, std::strlen(prompt));
     }
     ~EchoOff() {
-        if (!m_bTerminal) return;
+        if (!m_bTerminal || isBackground()) return;  // then the shell has made the terminal its own again
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_Before);
-        std::fputc('\n', stderr);
+        StandardOutput::write(STDERR_FILENO, "\n", 1);
     }
     EchoOff(const EchoOff&) = delete;
     EchoOff& operator=(const EchoOff&) = delete;
 
-    bool isTerminal() const { return m_bTerminal; }
-
 private:
+    static bool isBackground() {
+        const pid_t foreground = tcgetpgrp(STDIN_FILENO);
+        return foreground > 0 && foreground != getpgrp();
+    }
+
     termios m_Before;
     const bool m_bTerminal;
 };
 
+// Reads up to the line's end, or so much that it is no password. False when a signal came.
+bool readLine(const KeptSignals& kept, QByteArray* line) {
+    constexpr int longest = 64 * 1024;  // bytes
+    while (line->size() < longest && !line->endsWith('\n')) {
+        char byte = 0;
+        if (!kept.waitForInput()) return false;
+        const ssize_t size = ::read(STDIN_FILENO, &byte, 1);
+        if (size < 0 && (errno == EINTR || errno == EAGAIN)) continue;
+        if (size < 0) throw CommandError::failed(QString("standard input can't be read: ") + std::strerror(errno));
+        if (size == 0) break;
+        line->append(byte);
+    }
+    return true;
+}
+
+// Stops a program in the background until it is in front, as reading would; what it sets is what is set.
+void waitForForeground() {
+    termios now;
+    if (tcgetattr(STDIN_FILENO, &now) != 0) return;
+    while (tcsetattr(STDIN_FILENO, TCSANOW, &now) != 0 && errno == EINTR) continue;
+}
+
+// When a signal comes all is put back before it does what it does; where the program then goes on, it asks again.
+QByteArray askForLine(const char* prompt) {
+    for (;;) {
+        waitForForeground();
+        {
+            const KeptSignals kept;
+            const EchoOff echoOff(prompt);
+            QByteArray line;
+            if (readLine(kept, &line)) return line;
+        }
+        raise(caught);
+    }
+}
+
 }  // namespace
 
 QString readHiddenLine(const char* prompt) {
-    QFile input;
-    input.open(stdin, QIODevice::ReadOnly);
-    const EchoOff echoOff;
-    if (echoOff.isTerminal()) std::fputs(prompt, stderr);
-    QByteArray line = input.readLine();
+    QByteArray line = askForLine(prompt);
     if (line.isEmpty()) throw CommandError::failed("standard input holds no password");
     if (line.endsWith('\n')) line.chop(1);
     if (line.endsWith('\r')) line.chop(1);
