@@ -78,6 +78,7 @@ void addProfile(const Invocation& invocation, Output& output) {
     requireNameFree(status, name);
     session.require(status, "the profile can't be added");
     session.finish();
+    fields.warnOfShownPassword();
     output.result({{"added", name}}, {});
 }
 
@@ -93,14 +94,15 @@ void setFields(const Invocation& invocation, Output& output) {
     requireNameFree(status, profile.name);
     session.require(status, "the profile can't be changed");
     session.finish();
+    changes.warnOfShownPassword();
     output.result({{"changed", profile.name}}, {});
 }
 
 void deleteProfile(const Invocation& invocation, Output& output) {
     const QString name = invocation.arguments().first();
     ProfileSession session(ProfileSession::Changing);
-    session.requireChangeable(session.profile(name));
-    if (session.defaultName() == name)
+    session.requireOwn(session.profile(name));
+    if (!name.isEmpty() && session.defaultName() == name)
         session.require(session->SetDefaultDialUpProfileName(QString(""), false), "the default can't be cleared");
     session.require(session->DelDialUpProfile(name), "the profile can't be deleted");
     session.finish();

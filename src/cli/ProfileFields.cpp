@@ -2,10 +2,12 @@
 
 #include <QRegularExpression>
 #include <algorithm>
+#include <iterator>
 
 #include "CommandError.h"
 #include "HiddenInput.h"
 #include "NetConnectProfileRules.h"
+#include "Output.h"
 #include "XmlText.h"
 
 namespace Rules = NetConnectProfileRules;
@@ -17,49 +19,61 @@ enum class Kind { Text, APN, Flag, Address, Fixed };
 // What a value of each field may be; a length of 0 is no limit, and the name's is configured. The fixed ones are not
 // for the user: who may change the profile, whether its name is translated, and how its password is stored.
 struct FieldRule {
-    const char* field;
+    QString DialupProfile::*field;
     Kind kind;
     int length;
 };
 
-const FieldRule FieldRules[] = {
-    {"name", Kind::Text, 0},
-    {"type", Kind::Text, 0},
-    {"readonly", Kind::Fixed, 0},
-    {"device", Kind::Text, 0},
-    {"user", Kind::Text, Rules::UserNameLength},
-    {"password", Kind::Text, Rules::PasswordLength},
-    {"phonenumber", Kind::Text, Rules::AccessNumberLength},
-    {"autoapn", Kind::Flag, 0},
-    {"apn", Kind::APN, Rules::APNLength},
-    {"chap", Kind::Flag, 0},
-    {"pap", Kind::Flag, 0},
-    {"ip", Kind::Address, 0},
-    {"dns", Kind::Address, 0},
-    {"dnsalt", Kind::Address, 0},
-    {"wins", Kind::Address, 0},
-    {"winsalt", Kind::Address, 0},
-    {"popusername", Kind::Flag, 0},
-    {"Remember", Kind::Flag, 0},
-    {"langid", Kind::Fixed, 0},
-    {"encrypttype", Kind::Fixed, 0},
+constexpr FieldRule FieldRules[] = {
+    {&DialupProfile::name, Kind::Text, 0},
+    {&DialupProfile::type, Kind::Text, 0},
+    {&DialupProfile::readonly, Kind::Fixed, 0},
+    {&DialupProfile::device, Kind::Text, 0},
+    {&DialupProfile::user, Kind::Text, Rules::UserNameLength},
+    {&DialupProfile::password, Kind::Text, Rules::PasswordLength},
+    {&DialupProfile::phonenumber, Kind::Text, Rules::AccessNumberLength},
+    {&DialupProfile::autoapn, Kind::Flag, 0},
+    {&DialupProfile::apn, Kind::APN, Rules::APNLength},
+    {&DialupProfile::chap, Kind::Flag, 0},
+    {&DialupProfile::pap, Kind::Flag, 0},
+    {&DialupProfile::ip, Kind::Address, 0},
+    {&DialupProfile::dns, Kind::Address, 0},
+    {&DialupProfile::dnsalt, Kind::Address, 0},
+    {&DialupProfile::wins, Kind::Address, 0},
+    {&DialupProfile::winsalt, Kind::Address, 0},
+    {&DialupProfile::popusername, Kind::Flag, 0},
+    {&DialupProfile::Remember, Kind::Flag, 0},
+    {&DialupProfile::langid, Kind::Fixed, 0},
+    {&DialupProfile::encrypttype, Kind::Fixed, 0},
 };
 
-const FieldRule* findRule(const QString& name) {
-    for (const FieldRule& rule : FieldRules)
-        if (rule.kind != Kind::Fixed && name == rule.field) return &rule;
-    return nullptr;
+// As many rules as fields, and no field twice: each has its own.
+constexpr bool isEveryFieldRuledOnce() {
+    constexpr int count = std::size(FieldRules);
+    for (int i = 0; i < count; ++i)
+        for (int j = 0; j < i; ++j)
+            if (FieldRules[i].field == FieldRules[j].field) return false;
+    return count == DialupProfileFieldCount;
 }
 
-const DialupProfileField* findField(const QString& name) {
-    return std::find_if(std::begin(DialupProfileFields), std::end(DialupProfileFields),
-                        [&](const DialupProfileField& field) { return name == field.attribute; });
+static_assert(isEveryFieldRuledOnce(), "every field of a profile has one rule");
+
+const FieldRule& ruleOf(const DialupProfileField& field) {
+    return *std::find_if(std::begin(FieldRules), std::end(FieldRules),
+                         [&](const FieldRule& rule) { return rule.field == field.member; });
+}
+
+// Null for what is no field, or not for the user to set.
+const DialupProfileField* findSettable(const QString& name) {
+    for (const DialupProfileField& field : DialupProfileFields)
+        if (name == field.attribute && ruleOf(field).kind != Kind::Fixed) return &field;
+    return nullptr;
 }
 
 QString settableFields() {
     QStringList fields;
-    for (const FieldRule& rule : FieldRules)
-        if (rule.kind != Kind::Fixed) fields.append(rule.field);
+    for (const DialupProfileField& field : DialupProfileFields)
+        if (ruleOf(field).kind != Kind::Fixed) fields.append(field.attribute);
     return fields.join(' ');
 }
 
@@ -80,26 +94,25 @@ bool isAddress(const QString& text) {
     return text.isEmpty() || pattern.match(text).hasMatch();
 }
 
-void checkValue(const FieldRule& rule, const QString& value) {
-    const QString field = rule.field;
-    require(isStorable(value), field + ": control characters can't be stored");
+void checkValue(const DialupProfileField& field, const QString& value) {
+    const FieldRule& rule = ruleOf(field);
+    const QString name = field.attribute;
+    require(isStorable(value), name + ": control characters can't be stored");
     require(rule.length == 0 || value.size() <= rule.length,
-            QString("%1: at most %2 characters").arg(field).arg(rule.length));
-    require(rule.kind != Kind::Flag || value == "true" || value == "false", field + ": must be true or false");
+            QString("%1: at most %2 characters").arg(name).arg(rule.length));
+    require(rule.kind != Kind::Flag || value == "true" || value == "false", name + ": must be true or false");
     require(rule.kind != Kind::Address || isAddress(value),
-            field + ": must be empty or an IPv4 address such as 192.0.2.1");
+            name + ": must be empty or an IPv4 address such as 192.0.2.1");
     require(rule.kind != Kind::APN || Rules::isAPNTypeable(value),
-            field + ": may hold letters, digits, dots and hyphens");
+            name + ": may hold letters, digits, dots and hyphens");
 }
 
-QString valueOf(const FieldRule& rule, const QString& text) {
-    if (rule.field == QLatin1String("password") && text == "-") return readHiddenLine("Password: ");
-    return rule.kind == Kind::Address && text == "0.0.0.0" ? QString("") : text;
+QString valueOf(const DialupProfileField& field, const QString& text) {
+    if (field.member == &DialupProfile::password && text == "-") return readHiddenLine("Password: ");
+    return ruleOf(field).kind == Kind::Address && text == "0.0.0.0" ? QString("") : text;
 }
 
 }  // namespace
-
-static_assert(sizeof(FieldRules) / sizeof(FieldRules[0]) == DialupProfileFieldCount, "every field has its rule");
 
 FieldAssignments::FieldAssignments(const QStringList& arguments) {
     for (const QString& argument : arguments) {
@@ -107,13 +120,20 @@ FieldAssignments::FieldAssignments(const QStringList& arguments) {
         // The value may be a password in the wrong place: it is not repeated.
         if (sign < 0) throw CommandError::usage("an argument is not FIELD=VALUE; fields: " + settableFields());
         const QString name = argument.left(sign);
-        const FieldRule* rule = findRule(name);
-        if (!rule) throw CommandError::usage(quoted(name) + " is no field to set; fields: " + settableFields());
-        if (contains(rule->field)) throw CommandError::usage("the field " + quoted(name) + " is given twice");
-        const QString value = valueOf(*rule, argument.mid(sign + 1));
-        checkValue(*rule, value);
-        m_Assignments.append({findField(name), value});
+        const QString text = argument.mid(sign + 1);
+        const DialupProfileField* field = findSettable(name);
+        if (!field) throw CommandError::usage(quoted(name) + " is no field to set; fields: " + settableFields());
+        if (contains(field->attribute)) throw CommandError::usage("the field " + quoted(name) + " is given twice");
+        const QString value = valueOf(*field, text);
+        checkValue(*field, value);
+        m_Assignments.append({field, value});
+        m_bShowsPassword |= field->member == &DialupProfile::password && !text.isEmpty() && text != "-";
     }
+}
+
+void FieldAssignments::warnOfShownPassword() const {
+    if (m_bShowsPassword)
+        printWarning("others can read a password on the command line in the list of processes; use password=-");
 }
 
 bool FieldAssignments::contains(const char* field) const {

@@ -16,6 +16,9 @@ public:
     bool contains(const char* field) const;
     void applyTo(DialupProfile* profile) const;
 
+    // Warns, when it is so, that the command line holds a password.
+    void warnOfShownPassword() const;
+
 private:
     struct Assignment {
         const DialupProfileField* field;
@@ -23,6 +26,7 @@ private:
     };
 
     QList<Assignment> m_Assignments;
+    bool m_bShowsPassword = false;
 };
 
 // Throws a CommandError for the first of the page's rules that the profile breaks. oldName is the one that the

@@ -33,11 +33,6 @@ void ProfileSession::loadNames() {
     require(m_pLogic->GetAllDialUpProfile(&m_Names), "the profiles can't be listed");
 }
 
-void ProfileSession::reload() {
-    m_pLogic->Init();  // its status tells of the SIM card
-    loadNames();
-}
-
 QString ProfileSession::defaultName() const {
     QString name;
     m_pLogic->GetDefaultDialUpProfileName(&name);
@@ -71,16 +66,28 @@ DialupProfile ProfileSession::profile(const QString& name) const {
 std::optional<DialupProfile> ProfileSession::fetch(const QString& name) const {
     DialupProfile profile;
     m_pLogic->GetDialUpProfile(name, &profile);
-    if (name.isEmpty() || profile.name != name) return std::nullopt;
-    return profile;
+    const bool isFound = name.isEmpty() ? m_pLogic->HasUserProfile(name) : profile.name == name;
+    return isFound ? std::optional(profile) : std::nullopt;
+}
+
+namespace {
+
+// How to get a profile that may be changed from one that may not.
+QString copyAdvice(const QString& name) {
+    return "; make one of your own from it: orbisctl add \"new name\" --like " + name;
+}
+
+}  // namespace
+
+void ProfileSession::requireOwn(const DialupProfile& profile) const {
+    const QString name = quoted(profile.name);
+    if (!m_pLogic->HasUserProfile(profile.name)) throw CommandError::failed(name + " is a preset" + copyAdvice(name));
 }
 
 void ProfileSession::requireChangeable(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
-    if (!m_pLogic->HasUserProfile(profile.name))
-        throw CommandError::failed(
-            name + " is a preset; make one of your own from it: orbisctl add \"new name\" --like " + name);
-    if (profile.readonly == "true") throw CommandError::failed(name + " is read-only");
+    requireOwn(profile);
+    if (profile.readonly == "true") throw CommandError::failed(name + " is read-only" + copyAdvice(name));
 }
 
 void ProfileSession::require(int status, const QString& what) const {
@@ -99,13 +106,15 @@ void ProfileSession::finish() {
     if (!m_Problem.isEmpty()) throw CommandError::failed(m_Problem);
 }
 
-// Asked apart, since the logic keeps only the last problem.
+// The logic has read the configuration already, but keeps only the last problem. Only when that is another file's is
+// the configuration read once more.
 QString ProfileSession::configurationProblem() const {
-    const int status = m_pLogic->getConfigData();
-    if (status == NetConnectSettingUILogic::Success) return QString();
     const QString path = NetConnectXMLParse::shippedPath("NetConnectConfig.xml");
     if (!QFileInfo::exists(path)) return missingText(path);
-    return m_pLogic->LastStorageProblem().text();
+    const auto last = [this] { return m_pLogic->LastStorageProblem(); };
+    const bool isHidden = !last().isNull() && last().file != path;
+    if (isHidden && m_pLogic->getConfigData() == NetConnectSettingUILogic::Success) return QString();
+    return last().text();
 }
 
 QString ProfileSession::problem() const {

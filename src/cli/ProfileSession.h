@@ -33,14 +33,17 @@ public:
     // A profile of this very name, its password in plain text.
     DialupProfile profile(const QString& name) const;
 
-    // Refuses presets and read-only profiles; the error says what to do instead.
+    // Refuses presets; the error says what to do instead.
+    void requireOwn(const DialupProfile& profile) const;
+
+    // The same for read-only profiles, too.
     void requireChangeable(const DialupProfile& profile) const;
 
     // Why no SIM card selects any preset although the configuration lets it; null when that is not so.
     QString presetsNote() const;
 
-    // Reads everything anew, which puts the user's own default back after an import file was read.
-    void reload();
+    // Lists the profiles anew, which puts the user's own default back after an import file was read.
+    void loadNames();
 
     // Throws when the status of an operation is not 0; what names the thing that failed.
     void require(int status, const QString& what) const;
@@ -57,7 +60,6 @@ private:
     QString configurationProblem() const;
     QString problem() const;
     std::optional<DialupProfile> fetch(const QString& name) const;
-    void loadNames();
 
     const Kind m_Kind;
     NetConnectStoreAction m_Action;  // outlives the logic, so that the end of what was not stored writes nothing

@@ -128,7 +128,7 @@ void importProfiles(const Invocation& invocation, Output& output) {
     const QString file = filePath(invocation);
     ProfileSession session(ProfileSession::Changing);
     const QStringList candidates = readCandidates(session, file);
-    session.reload();
+    session.loadNames();
     const QStringList chosen = chosenOf(candidates, chosenNames(invocation), file);
     const ImportResult result = importChosen(session, file, chosen, invocation.isSet("replace"));
     const QStringList taken = result.imported + result.replaced;

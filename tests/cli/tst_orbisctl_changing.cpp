@@ -14,10 +14,11 @@ private slots:
     void roundTrip() {
         const OrbisctlFixture fixture;
         const QString name = "Gr\u00fc\u00dfe 1", file = fixture.path("out.prof");
-        COMPARE_DONE(fixture.run({"add", name, "type=t", "device=d", "user=a <&> \"b\"", "password=s3cr=\u00e9'\"",
-                                  "phonenumber=*99***1#", "apn=a.b-c", "autoapn=false", "chap=true", "pap=false",
-                                  "ip=10.0.0.1", "dns=9.9.9.9", "dnsalt=223.255.255.255", "wins=1.2.3.4",
-                                  "winsalt=0.0.0.0", "popusername=true", "Remember=false"}));
+        COMPARE_DONE(fixture.run(
+            {"add", name, "type=t", "device=d", "user=a <&> \"b\"", "password=-", "phonenumber=*99***1#", "apn=a.b-c",
+             "autoapn=false", "chap=true", "pap=false", "ip=10.0.0.1", "dns=9.9.9.9", "dnsalt=223.255.255.255",
+             "wins=1.2.3.4", "winsalt=0.0.0.0", "popusername=true", "Remember=false"},
+            "s3cr=\u00e9'\""));
         const QJsonObject before = fixture.show(name);
         QCOMPARE(before.size(), 20);
         QCOMPARE(before["password"].toString(), QString("s3cr=\u00e9'\""));
@@ -53,7 +54,7 @@ private slots:
         row("multicast address", {"add", "New", "dns=224.0.0.1"}, 1, "IPv4");
         row("password beyond Latin-1", {"add", "New", "password=\u20ac"}, 1, "Latin-1");
         row("change of a preset", {"set", "Alpha", "user=a"}, 1, "--like \"Alpha\"");
-        row("change of a read-only one", {"set", "Fixed", "user=a"}, 1, "read-only");
+        row("change of a read-only one", {"set", "Fixed", "user=a"}, 1, "--like \"Fixed\"");
         row("name of another", {"set", "Own", "name=Fixed"}, 1, "already");
         row("deletion of a preset", {"delete", "Alpha"}, 1, "preset");
         row("unknown default", {"default", "Nope"}, 1, "\"Nope\"");
@@ -113,6 +114,49 @@ private slots:
         QCOMPARE(fixture.show("New")["password"].toString(), password);
     }
 
+    // Others see it in the list of processes.
+    void passwordOnTheCommandLineIsWarnedAbout() {
+        const OrbisctlFixture fixture;
+        for (const QByteArray command : {"add", "set"}) {
+            const Outcome outcome = fixture.run({command, "New", "password=secret"});
+            QCOMPARE(outcome.status, 0);
+            QVERIFY2(outcome.err.startsWith("orbisctl: warning: ") && outcome.err.contains("password=-"), outcome.err);
+            QVERIFY2(!outcome.err.contains("secret"), outcome.err);
+            COMPARE_DONE(fixture.run({"set", "New", "password="}));
+        }
+    }
+
+    // What can't be changed, or hardly be named, can still be deleted.
+    void deletion_data() { nameRows("name", {"Fixed", ""}); }
+    void deletion() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='Fixed' readonly='true'/><Profile name=''/>", "<Default name='Alpha'/>");
+        COMPARE_DONE(fixture.run({"delete", cell("name")}));
+        const QByteArray left = TestFolder::read(fixture.userFile());
+        QVERIFY2(!left.contains("<Profile name=\"" + cell("name").toUtf8() + '"'), left);
+        QCOMPARE(left.count("<Profile name"), 1);
+        COMPARE_REFUSED(fixture.run({"delete", cell("name")}), 1, "there is no profile");
+    }
+
+    void configurationIsReadOnce_data() {
+        const Rows<QStringList> row("command");
+        row("add", {"add", "New"});
+        row("set", {"set", "Own", "user=x"});
+        row("delete", {"delete", "Own"});
+        row("default", {"default", "Beta"});
+        row("import", {"import", "in.prof"});
+    }
+    void configurationIsReadOnce() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='Own' phonenumber='1'/>");
+        QStringList command = cell<QStringList>("command");
+        if (command.last() == "in.prof") command.last() = fixture.path("in.prof");
+        TestFolder::write(fixture.path("in.prof"), document("<Profile name='New'/>"));
+        const Outcome outcome = fixture.run(QStringList("--trace") + command);
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.err.count(": getConfigData: \n"), 1);
+    }
+
     // Renamed, deleted, chosen, cleared.
     void defaultFollows() {
         const OrbisctlFixture fixture;
@@ -120,7 +164,7 @@ private slots:
             QCOMPARE(fixture.run({"default", "--json"}).json(), (QJsonObject{{"name", name}, {"userSet", isUserSet}}));
         };
         fixture.writeUser("<Profile name='Own' phonenumber='1'/>", "<Default name='Own' IsUserSet='1'/>");
-        COMPARE_DONE(fixture.run({"set", "Own", "name=Renamed", "password=new"}));
+        COMPARE_DONE(fixture.run({"set", "Own", "name=Renamed", "password=-"}, "new"));
         isDefault("Renamed", true);
         QCOMPARE(fixture.show("Renamed")["password"].toString(), QString("new"));
         COMPARE_DONE(fixture.run({"delete", "Renamed"}));
@@ -173,7 +217,7 @@ private slots:
 
     void tamperedPasswordIsNotLost() {
         const OrbisctlFixture fixture;
-        COMPARE_DONE(fixture.run({"add", "Own", "password=secret"}));
+        COMPARE_DONE(fixture.run({"add", "Own", "password=-"}, "secret"));
         QByteArray content = TestFolder::read(fixture.userFile());
         const int place = content.indexOf("password=\"orbis1:") + 40;
         content[place] = content.at(place) == 'A' ? 'B' : 'A';
@@ -182,7 +226,7 @@ private slots:
         COMPARE_REFUSED(fixture.run({"set", "Own", "user=x"}), 1, "password=");
         COMPARE_REFUSED(fixture.run({"add", "New", "--like", "Own"}), 1, "password=");
         QCOMPARE(TestFolder::read(fixture.userFile()), content);
-        COMPARE_DONE(fixture.run({"set", "Own", "password=again"}));
+        COMPARE_DONE(fixture.run({"set", "Own", "password=-"}, "again"));
         QCOMPARE(fixture.show("Own")["password"].toString(), QString("again"));
     }
 
