@@ -240,6 +240,8 @@ private:
     int refuseExportTo(const QString& path);
     bool addCandidates(const QStringList& names, const QSet<QString>& replaced);
     class ProfilesByName;
+    int exportInto(const QString& path, const QStringList& names, const ProfilesByName& users,
+                   const ProfilesByName& shipped);
     bool exportProfile(const QString& name, const ProfilesByName& target, const ProfilesByName& source);
 
     void publishStatus();

@@ -1,13 +1,6 @@
 #include "NetConnectXMLParse.h"
 
-#include <errno.h>
-#include <string.h>
-
-#include <QFile>
-#include <QFileInfo>
-
 #include "CommonUtilsBase.h"
-#include "FileReplacement.h"
 #include "Trace.h"
 #include "XmlText.h"
 #include "vrks.h"
@@ -80,25 +73,12 @@ void NetConnectXMLParse::clearProblem(const QString& file) {
 }
 
 int NetConnectXMLParse::readFile(const QString& path, QByteArray* content) {
-    const qint64 largest = 256 * 1024 * 1024;  // bytes; a larger file is no profile file
-    QFile file(path);
-    const FileStamp stamp = FileStamp::of(path);
-    if (!stamp.exists()) {
+    QString reason;
+    const FileReplacement::Outcome outcome = FileReplacement::read(path, content, &reason);
+    if (outcome == FileReplacement::Done) return 0;
+    if (outcome == FileReplacement::Missing) {
         qDebug("File %s does not exist", qPrintable(path));
         return 23;
-    }
-    // A pipe or a device could be opened, but would never end.
-    QString reason;
-    if (!stamp.isRegularFile())
-        reason = QLatin1String("it is not a regular file, or can't be looked at");
-    else if (file.size() > largest)
-        reason = QLatin1String("it is too large");
-    else if (!file.open(QIODevice::ReadOnly))
-        reason = file.errorString();
-    if (reason.isEmpty()) {
-        *content = file.readAll();
-        if (file.error() == QFile::NoError) return 0;
-        reason = file.errorString();
     }
     qDebug("Error open file: ");
     reportProblem(path, QLatin1String("can't be read: ") + reason);
@@ -111,11 +91,13 @@ int NetConnectXMLParse::readError(const QXmlStreamReader& reader, const QString&
     return 6;
 }
 
-int NetConnectXMLParse::writeFile(const QString& path, const QByteArray& content, bool isShared) {
-    QString reason;
-    const FileReplacement::Access access = isShared ? FileReplacement::AsBefore : FileReplacement::OwnerOnly;
-    if (content.isEmpty() || !FileReplacement::replace(path, content, access, &reason)) {
-        if (reason.isEmpty()) reason = QLatin1String("can't be written as XML");
+int NetConnectXMLParse::writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
+                                  FileReplacement::Placing placing) {
+    QString reason = content.isEmpty() ? QLatin1String("can't be written as XML") : XmlText::refusal(content);
+    FileReplacement::Outcome outcome = FileReplacement::Failed;
+    if (reason.isEmpty()) outcome = FileReplacement::write(path, content, purpose, placing, &reason);
+    if (outcome == FileReplacement::Taken) return TargetAppeared;
+    if (outcome != FileReplacement::Done) {
         qDebug("Error open file: ");
         reportProblem(path, reason);
         return 25;

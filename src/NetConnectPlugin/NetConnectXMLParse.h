@@ -15,6 +15,7 @@
 #include <QString>
 #include <QXmlStreamReader>
 
+#include "FileReplacement.h"
 #include "FileStamp.h"
 #include "NetConnectConfigDocument.h"
 #include "NetConnectRecords.h"
@@ -64,8 +65,11 @@ public:
     // The same from a reader: 0, or 6 at the first error; what was read before stays.
     int readXML(QXmlStreamReader& reader, QList<DialupProfile>* profiles, QString* defaultName, bool* isUserSet);
 
-    // Replaces a file; the defaults go into the user's file (an empty name) alone.
-    int SaveProfileToXML(QList<DialupProfile> profiles, QString defaultName, QString fileName, bool isUserSet);
+    // Replaces a file; the defaults go into the user's file (an empty name) alone. Or makes one that is new: then also
+    // TargetAppeared, when another program was faster; nothing is written or reported in that case.
+    enum { TargetAppeared = -1 };
+    int SaveProfileToXML(QList<DialupProfile> profiles, QString defaultName, QString fileName, bool isUserSet,
+                         FileReplacement::Placing placing = FileReplacement::OverOld);
 
     // --- configuration ---
 
@@ -175,7 +179,11 @@ private:
     static QList<ProfileDefaultEntry> defaultEntries(const NetConnectDefault& value,
                                                      const NetConnectRememberedDefaults& remembered);
     NetConnectRememberedDefaults withModeDefault(const NetConnectDefault& value) const;
-    bool prepareTarget(const QString& path, const KeptFile& kept);
+    bool prepareTarget(const QString& path, const KeptFile& kept, FileReplacement::Purpose purpose,
+                       FileReplacement::DamagedCopy* copy);
+
+    int writeOver(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
+                  FileReplacement::Placing placing, FileReplacement::DamagedCopy* damaged);
 
     int loadConfig(NetConnectConfigDocument* document);
     void fileElement(const NetConnectConfigElement& element, const ConfigTargets& targets);
@@ -188,8 +196,9 @@ private:
     // Traces and reports a reader's error: 6.
     int readError(const QXmlStreamReader& reader, const QString& path, const char* function);
 
-    // Replaces a file's content: 0 or 25, traced and reported.
-    int writeFile(const QString& path, const QByteArray& content, bool isShared);
+    // Writes a file: 0 or 25, traced and reported, or TargetAppeared.
+    int writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
+                  FileReplacement::Placing placing);
 
     KeptFile m_User;
     KeptFile m_Library;

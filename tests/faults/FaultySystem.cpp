@@ -21,6 +21,9 @@ namespace {
 int callsLeft = 0;
 char failing[32] = "";
 int failure = 0;
+int passing = 0;  // calls of the name before the one that fails; -1 for none that does
+bool failsAll = false;
+bool failed = false;
 
 // The function that this program's own stands before.
 template <class Function>
@@ -28,17 +31,26 @@ Function* next(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
+bool isLook(const char* call) {
+    return strcmp(call, "stat") == 0 || strcmp(call, "read") == 0 || strcmp(call, "open to read") == 0;
+}
+
 // Counts a call; true when it is to fail, errno then being set.
 bool failsAt(const char* call) {
-    if (callsLeft > 0 && --callsLeft == 0) raise(SIGKILL);
-    if (strcmp(call, failing) != 0) return false;
+    if (callsLeft > 0 && !isLook(call) && --callsLeft == 0) raise(SIGKILL);
+    if (strcmp(call, failing) != 0 || passing < 0) return false;
+    if (!failsAll && passing-- > 0) return false;
+    failed = true;
     errno = failure;
     return true;
 }
 
 __attribute__((constructor)) void takeFaultFromEnvironment() {
     const char* fault = getenv("ORBISDIAL_TEST_FAULT");
-    if (fault) sscanf(fault, "%31[^=]=%d", failing, &failure);
+    char call[sizeof failing] = "";
+    int error = 0;
+    int n = 0;
+    if (fault && sscanf(fault, "%31[^=]=%d@%d", call, &error, &n) >= 2) FaultySystem::fail(call, error, n);
 }
 
 // What a profiler writes at the end of the program is no save.
@@ -48,36 +60,58 @@ __attribute__((destructor)) void stopFailing() { FaultySystem::fail(nullptr, 0);
 
 void FaultySystem::killAt(int n) { callsLeft = n; }
 
-void FaultySystem::fail(const char* call, int error) {
+void FaultySystem::fail(const char* call, int error, int n) {
     snprintf(failing, sizeof failing, "%s", call ? call : "");
     failure = error;
+    passing = n > 0 ? n - 1 : 0;
+    failsAll = n == 0;
+    failed = false;
 }
 
-#define FAULTY(name, parameters, arguments, exceptions) \
-    INTERPOSED int name parameters exceptions { return failsAt(#name) ? -1 : next<decltype(name)>(#name) arguments; }
+bool FaultySystem::hasFailed() { return failed; }
 
-FAULTY(fchmod, (int fd, mode_t mode), (fd, mode), noexcept)
-FAULTY(fchown, (int fd, uid_t user, gid_t group), (fd, user, group), noexcept)
-FAULTY(rename, (const char* from, const char* to), (from, to), noexcept)
-FAULTY(unlink, (const char* path), (path), noexcept)
-FAULTY(flock, (int fd, int operation), (fd, operation), noexcept)
+#define FAULTY(call, name, parameters, arguments) \
+    INTERPOSED int name parameters noexcept { return failsAt(call) ? -1 : next<decltype(name)>(#name) arguments; }
 
-#define FAULTY_OPEN(name)                                                                                      \
-    INTERPOSED int name(const char* path, int flags, ...) {                                                    \
-        va_list arguments;                                                                                     \
-        va_start(arguments, flags);                                                                            \
-        const int mode = (flags & O_CREAT) != 0 ? va_arg(arguments, int) : 0;                                  \
-        va_end(arguments);                                                                                     \
-        const bool reads = (flags & (O_ACCMODE | O_CREAT)) == O_RDONLY;                                        \
-        return failsAt(reads ? "open to read" : "open") ? -1 : next<decltype(name)>(#name)(path, flags, mode); \
+FAULTY("fchmod", fchmod, (int fd, mode_t mode), (fd, mode))
+FAULTY("fchown", fchown, (int fd, uid_t user, gid_t group), (fd, user, group))
+FAULTY("rename", rename, (const char* from, const char* to), (from, to))
+FAULTY("rename", renameat, (int oldFolder, const char* from, int folder, const char* to), (oldFolder, from, folder, to))
+FAULTY("rename", renameat2, (int oldFolder, const char* from, int folder, const char* to, unsigned flags),
+       (oldFolder, from, folder, to, flags))
+FAULTY("linkat", linkat, (int oldFolder, const char* from, int folder, const char* to, int flags),
+       (oldFolder, from, folder, to, flags))
+FAULTY("unlink", unlink, (const char* path), (path))
+FAULTY("unlink", unlinkat, (int folder, const char* path, int flags), (folder, path, flags))
+FAULTY("flock", flock, (int fd, int operation), (fd, operation))
+FAULTY("stat", fstat, (int fd, struct stat* info), (fd, info))
+FAULTY("stat", fstat64, (int fd, struct stat64* info), (fd, info))
+FAULTY("stat", stat, (const char* path, struct stat* info), (path, info))
+FAULTY("stat", stat64, (const char* path, struct stat64* info), (path, info))
+FAULTY("stat", lstat64, (const char* path, struct stat64* info), (path, info))
+FAULTY("stat", fstatat, (int folder, const char* path, struct stat* info, int flags), (folder, path, info, flags))
+FAULTY("stat", fstatat64, (int folder, const char* path, struct stat64* info, int flags), (folder, path, info, flags))
+FAULTY("stat", statx, (int folder, const char* path, int flags, unsigned mask, struct statx* info),
+       (folder, path, flags, mask, info))
+
+bool failsToOpen(int flags) { return failsAt((flags & (O_ACCMODE | O_CREAT)) == O_RDONLY ? "open to read" : "open"); }
+
+#define FAULTY_OPEN(name, parameters, arguments)                                \
+    INTERPOSED int name parameters {                                            \
+        va_list rest;                                                           \
+        va_start(rest, flags);                                                  \
+        const int mode = (flags & O_CREAT) != 0 ? va_arg(rest, int) : 0;        \
+        va_end(rest);                                                           \
+        return failsToOpen(flags) ? -1 : next<decltype(name)>(#name) arguments; \
     }
 
-FAULTY_OPEN(open)
-FAULTY_OPEN(open64)
+FAULTY_OPEN(open, (const char* path, int flags, ...), (path, flags, mode))
+FAULTY_OPEN(open64, (const char* path, int flags, ...), (path, flags, mode))
+FAULTY_OPEN(openat, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
+FAULTY_OPEN(openat64, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
 
-// mkostemp, by its name where files may be of any size.
-INTERPOSED int mkostemp64(char* name, int flags) {
-    return failsAt("mkostemp") ? -1 : next<decltype(mkostemp64)>("mkostemp64")(name, flags);
+INTERPOSED ssize_t read(int fd, void* data, size_t size) {
+    return failsAt("read") ? -1 : next<decltype(read)>("read")(fd, data, size);
 }
 
 INTERPOSED ssize_t write(int fd, const void* data, size_t size) {
@@ -85,12 +119,13 @@ INTERPOSED ssize_t write(int fd, const void* data, size_t size) {
     if (fd <= STDERR_FILENO) return strcmp(failing, "output of nothing") == 0 ? 0 : write(fd, data, size);
     if (callsLeft == 1 && write(fd, data, size / 2) < 0) raise(SIGABRT);
     if (failsAt("write")) return -1;
+    if (strcmp(failing, "write anything") == 0) return 0;
     return write(fd, data, strcmp(failing, "write in full") == 0 ? (size + 1) / 2 : size);
 }
 
 INTERPOSED int fsync(int fd) {
     struct stat info;
-    const bool isFolder = fstat(fd, &info) == 0 && S_ISDIR(info.st_mode);
+    const bool isFolder = next<decltype(fstat)>("fstat")(fd, &info) == 0 && S_ISDIR(info.st_mode);
     return failsAt(isFolder ? "fsync folder" : "fsync") ? -1 : next<decltype(fsync)>("fsync")(fd);
 }
 

@@ -4,14 +4,19 @@
 
 namespace FaultySystem {
 
-// Kills the process at the n-th call from now on, counted from one; a write is half done by then. 0 stops counting.
+// Kills the process at the n-th call from now on that may change something, counted from one; a write is half done by
+// then. 0 stops counting.
 void killAt(int n);
 
-// Lets every call of a name fail with this errno; null none. The names are the functions', but "fsync folder" for the
-// flush of a folder, "open to read" for an open that writes nothing and "write in full" for a write that then takes
-// only half of its data. $ORBISDIAL_TEST_FAULT ("name=errno") does the
-// same from the program's start.
-void fail(const char* call, int error);
+// Lets the n-th call of a name from now on fail with this errno, or every call for n = 0; null none. The names are the
+// functions', but that "rename", "unlink" and "stat" stand for all of their kind, "open to read" for an open that
+// writes nothing, "fsync folder" for the flush of a folder, "write in full" for a write that takes only half of its
+// data and "write anything" for one that takes nothing. $ORBISDIAL_TEST_FAULT ("name=errno@n") does the same from the
+// program's start.
+void fail(const char* call, int error, int n = 0);
+
+// Whether any call has failed since.
+bool hasFailed();
 
 }  // namespace FaultySystem
 

@@ -5,6 +5,7 @@
 #include "NetConnectOperation.h"
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"
+#include "UserFileLock.h"
 
 // Where the profiles of a name stand in a list, which may hold several of one name.
 class NetConnectSettingUILogic::ProfilesByName {
@@ -108,38 +109,59 @@ int NetConnectSettingUILogic::ExportSelectedProfilesToFile(QStringList* names, Q
 }
 
 int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, const QString& path) {
+    const int mostAttempts = 100;
     const Hold hold(this);
     m_ExportList.clear();
     if (!m_pXMLParse) return ObjectMissing;
-    const int refusal = refuseExportTo(path);
-    if (refusal != Success) return refusal;
+    int status = refuseExportTo(path);
+    if (status != Success) return status;
 
-    NetConnectOperation operation;  // another process may be exporting into the same file
-    QList<DialupProfile> target;
-    QString ignoredDefault;
-    if (FileStamp::of(path).exists() && readForeignFile(&target, &ignoredDefault, path) == FileNotOpened)
-        return FileNotOpened;
-    m_ExportList = target;
-
+    { const NetConnectOperation operation; }  // takes in what other processes changed
     QList<DialupProfile> library;
+    QString ignoredDefault;
     readForeignFile(&library, &ignoredDefault, QLatin1String("ProfileLib.prof"));
     for (int i = 0; i < library.size(); ++i) translateName(&library, i);
-    const ProfilesByName inTarget(target);
     const ProfilesByName users(m_UserProfileList);
     const ProfilesByName shipped(library);
+
+    status = NetConnectXMLParse::TargetAppeared;
+    for (int i = 0; i < mostAttempts && status == NetConnectXMLParse::TargetAppeared; ++i)
+        status = exportInto(path, names, users, shipped);
+    if (status == NetConnectXMLParse::TargetAppeared) {
+        m_pXMLParse->reportProblem(path, QLatin1String("other programs make and remove it all the time"));
+        status = FileNotOpened;
+    }
+    return status;
+}
+
+// Puts the profiles among those that the target has, while other exports into it wait. Without a target a new one is
+// made, unless one appears meanwhile: then it is the caller's to begin again.
+int NetConnectSettingUILogic::exportInto(const QString& path, const QStringList& names, const ProfilesByName& users,
+                                         const ProfilesByName& shipped) {
+    UserFileLock lock;
+    QString reason;
+    if (!lock.acquireIfThere(path, &reason)) {
+        m_pXMLParse->reportProblem(path, reason);
+        return FileNotOpened;
+    }
+    QList<DialupProfile> target;
+    QString ignoredDefault;
+    const int status = lock.isHeld() ? readForeignFile(&target, &ignoredDefault, path) : int(Success);
+    if (status == FileNotOpened) return status;
+    if (status == FileMissing) return NetConnectXMLParse::TargetAppeared;  // and it went again
+
+    m_ExportList = target;
+    const ProfilesByName inTarget(target);
     for (int i = 0; i < names.size(); ++i)
         if (!exportProfile(names.at(i), inTarget, users)) exportProfile(names.at(i), inTarget, shipped);
-
-    int status = Success;
-    if (!m_ExportList.isEmpty()) status = m_pXMLParse->SaveProfileToXML(m_ExportList, m_strDefaultProfile, path, false);
-    return status;
+    if (m_ExportList.isEmpty()) return Success;
+    return m_pXMLParse->SaveProfileToXML(m_ExportList, m_strDefaultProfile, path, false,
+                                         lock.isHeld() ? FileReplacement::OverOld : FileReplacement::OnlyNew);
 }
 
 // The user's own file would lose its default, and an empty path means that very file.
 int NetConnectSettingUILogic::refuseExportTo(const QString& path) {
-    if (!path.isEmpty() && !FileReplacement::isSameFile(path, m_pXMLParse->userProfilePath()) &&
-        FileReplacement::target(path) != m_pXMLParse->userProfilePath())
-        return Success;
+    if (!path.isEmpty() && !FileReplacement::isSameFile(path, m_pXMLParse->userProfilePath())) return Success;
     m_pXMLParse->reportProblem(path, QLatin1String("profiles can't be exported to this file"));
     return FileNotOpened;
 }

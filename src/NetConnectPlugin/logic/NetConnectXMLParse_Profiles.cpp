@@ -111,7 +111,7 @@ void NetConnectXMLParse::applyDefault(const ProfileDefaultEntry& entry, const Ne
 }
 
 int NetConnectXMLParse::SaveProfileToXML(QList<DialupProfile> profiles, QString defaultName, QString fileName,
-                                         bool isUserSet) {
+                                         bool isUserSet, FileReplacement::Placing placing) {
     const TraceScope trace(__FILE__, "SaveProfileToXML");
     const bool isUserFile = fileName.isEmpty();
     const QString path = isUserFile ? userProfilePath() : fileName;
@@ -119,19 +119,22 @@ int NetConnectXMLParse::SaveProfileToXML(QList<DialupProfile> profiles, QString 
         qDebug("Error open file: ");
         return 25;
     }
-    if (!prepareTarget(path, isUserFile ? m_User : KeptFile())) return 25;
+    const FileReplacement::Purpose purpose = isUserFile ? FileReplacement::UserFile : FileReplacement::Export;
+    FileReplacement::DamagedCopy damaged;
+    if (!prepareTarget(path, isUserFile ? m_User : KeptFile(), purpose, &damaged)) return 25;
 
     ProfileDocument document;
     document.profiles = profiles;
-    if (!isUserFile) document.clean();
-    if (!isUserFile) return writeFile(path, document.write(), false);
-
+    if (!isUserFile) {
+        document.clean();
+        return writeOver(path, document.write(), purpose, placing, &damaged);
+    }
     const NetConnectDefault value(defaultName, isUserSet);
     const NetConnectRememberedDefaults remembered = withModeDefault(value);
     document.defaults = defaultEntries(value, remembered);
     document.clean();
     const QByteArray content = document.write();
-    const int status = writeFile(path, content, false);
+    const int status = writeOver(path, content, purpose, placing, &damaged);
     if (status != 0) return status;
     m_Remembered = remembered;
     m_User.path = path;
@@ -175,13 +178,15 @@ QList<ProfileDefaultEntry> NetConnectXMLParse::defaultEntries(const NetConnectDe
 }
 
 // Makes sure that replacing a file loses nothing: one that can't be read stays, a damaged one is copied first.
-bool NetConnectXMLParse::prepareTarget(const QString& path, const KeptFile& kept) {
+bool NetConnectXMLParse::prepareTarget(const QString& path, const KeptFile& kept, FileReplacement::Purpose purpose,
+                                       FileReplacement::DamagedCopy* copy) {
     const FileStamp stamp = FileStamp::of(path);
     if (!stamp.exists()) return true;
     if (kept.isComplete && kept.path == path && kept.stamp == stamp) return true;
 
     QByteArray content;
-    if (readFile(path, &content) != 0) return false;
+    const int status = readFile(path, &content);
+    if (status != 0) return status == 23;
     ProfileDocument document;
     QXmlStreamReader reader(content);
     const QString refusal = XmlText::refusal(content);
@@ -189,16 +194,24 @@ bool NetConnectXMLParse::prepareTarget(const QString& path, const KeptFile& kept
     document.read(reader);
     if (content.isEmpty() || !reader.hasError()) return true;
 
-    QString copy;
     QString reason;
-    if (!FileReplacement::keepDamaged(path, &copy, &reason)) {
+    if (!copy->make(path, content, purpose, &reason)) {
         qDebug("Error open file: ");
-        reportProblem(path, reason);
+        reportProblem(path, QLatin1String("is damaged, and can't be kept: ") + reason);
         return false;
     }
     reportProblem(
-        path, QString::fromLatin1("was damaged (%1); the damaged file is kept as %2").arg(reader.errorString(), copy),
+        path,
+        QString::fromLatin1("was damaged (%1); the damaged file is kept as %2").arg(reader.errorString(), copy->path()),
         reader.lineNumber(), reader.columnNumber());
     m_bKeepProblem = true;
     return true;
+}
+
+// The copy of what was damaged stays only when it is needed.
+int NetConnectXMLParse::writeOver(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
+                                  FileReplacement::Placing placing, FileReplacement::DamagedCopy* damaged) {
+    const int status = writeFile(path, content, purpose, placing);
+    if (status == 0) damaged->keep();
+    return status;
 }

@@ -74,5 +74,5 @@ int NetConnectXMLParse::ModifyProfileTemplateToSysXML(QHash<QString, NetConnectX
     // The file lies where many users may read but few may write: leave one alone that is right already.
     QFile present(path);
     if (!content.isEmpty() && present.open(QIODevice::ReadOnly) && present.readAll() == content) return 0;
-    return writeFile(path, content, true);
+    return writeFile(path, content, FileReplacement::Shipped, FileReplacement::OverOld);
 }

@@ -1,63 +1,23 @@
 #include "FileReplacement.h"
 
 #include <dirent.h>
-#include <errno.h>
-#include <fcntl.h>
-#include <stdlib.h>
-#include <string.h>
-#include <sys/stat.h>
+#include <stdio.h>
 #include <time.h>
-#include <unistd.h>
 
 #include <QDateTime>
 #include <QFile>
-#include <QFileInfo>
 #include <QHash>
+#include <QUuid>
 
 namespace {
 
 const char TemporaryMark[] = ".tmp-";
-const char TemporaryPattern[] = "XXXXXX";  // mkostemp's
-const int UniqueLength = sizeof(TemporaryPattern) - 1;
+const int UniqueLength = 6;
+const char DamageMark[] = ".damaged-";
 const int LeftoverAge = 60;  // seconds after which a temporary file is a dead writer's
 
-// An open file descriptor that closes itself.
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : m_Fd(fd) {}
-    ~Descriptor() {
-        if (m_Fd >= 0) ::close(m_Fd);
-    }
-    int get() const { return m_Fd; }
-    bool close() {
-        const int fd = m_Fd;
-        m_Fd = -1;
-        return ::close(fd) == 0;
-    }
-
-private:
-    Q_DISABLE_COPY(Descriptor)
-    int m_Fd;
-};
-
-// A file's name that is removed again unless it is kept.
-class TemporaryName {
-public:
-    explicit TemporaryName(const QByteArray& name) : m_Name(name) {}
-    ~TemporaryName() {
-        if (!m_Name.isEmpty()) ::unlink(m_Name.constData());
-    }
-    void keep() { m_Name.clear(); }
-
-private:
-    Q_DISABLE_COPY(TemporaryName)
-    QByteArray m_Name;
-};
-
-bool failed(const char* step, QString* reason) {
-    *reason = QString::fromLatin1("%1: %2").arg(QString::fromLatin1(step), QString::fromLocal8Bit(strerror(errno)));
-    return false;
-}
+// Letters and digits that differ from file to file.
+QByteArray uniqueText() { return QUuid::createUuid().toString().mid(1, UniqueLength).toLatin1(); }
 
 bool writeAll(int fd, const QByteArray& content) {
     const char* data = content.constData();
@@ -65,128 +25,289 @@ bool writeAll(int fd, const QByteArray& content) {
     while (left > 0) {
         const ssize_t written = ::write(fd, data, size_t(left));
         if (written < 0 && errno == EINTR) continue;
-        if (written < 0) return false;
+        if (written == 0) errno = EIO;  // it would never end
+        if (written <= 0) return false;
         data += written;
         left -= written;
     }
     return true;
 }
 
-// A folder that can't be flushed by its kind of file system is none that could lose the name.
-bool flushFolder(const QString& folder) {
-    Descriptor descriptor(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (descriptor.get() < 0) return errno == EACCES;
-    return ::fsync(descriptor.get()) == 0 || errno == EINVAL || errno == EROFS;
+// Reads to the end; false with errno set, EFBIG for a file that grows beyond the limit.
+bool readAll(int fd, qint64 expected, QByteArray* content) {
+    const int least = 4096;
+    content->resize(int(expected) + least);
+    qint64 size = 0;
+    for (;;) {
+        if (size == content->size()) content->resize(int(qMin(2 * size, FileReplacement::LargestFile + 1)));
+        const ssize_t taken = ::read(fd, content->data() + size, size_t(content->size() - size));
+        if (taken < 0 && errno == EINTR) continue;
+        if (taken < 0) return false;
+        size += taken;
+        if (taken == 0) break;
+        if (size > FileReplacement::LargestFile) {
+            errno = EFBIG;
+            return false;
+        }
+    }
+    content->resize(int(size));
+    return true;
 }
 
-QByteArray folderOf(const QByteArray& name) { return name.left(name.lastIndexOf('/') + 1); }
+bool flush(int fd) {
+    int status = 0;
+    do {
+        status = ::fsync(fd);
+    } while (status != 0 && errno == EINTR);
+    return status == 0;
+}
 
-// A file's name, and when its folder was last changed while no leftovers were beside the file. A search takes as long
-// as a good part of a small save, and there is nothing to find as long as nobody else changed the folder.
+// A folder that can't be flushed by its kind of file system, or not be opened by us, is none that could lose the name.
+bool flushFolder(int folder) {
+    const Descriptor descriptor(Descriptor::openAt(folder, ".", O_RDONLY | O_DIRECTORY));
+    if (!descriptor.isOpen()) return errno == EACCES;
+    return flush(descriptor.get()) || errno == EINVAL || errno == EROFS;
+}
+
+// A file that takes a name of its own beside another, and goes again unless it is put in that one's place.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const FilePlace& place) : m_Place(place) {}
+    ~TemporaryFile() {
+        if (!m_Name.isEmpty()) ::unlinkat(m_Place.folder(), m_Name.constData(), 0);
+    }
+
+    bool create() {
+        const int mostAttempts = 100;
+        for (int i = 0; i < mostAttempts; ++i) {
+            const QByteArray name = m_Place.name() + TemporaryMark + uniqueText();
+            m_Descriptor.reset(
+                Descriptor::openAt(m_Place.folder(), name.constData(), O_WRONLY | O_CREAT | O_EXCL, 0600));
+            if (m_Descriptor.isOpen()) m_Name = name;
+            if (m_Descriptor.isOpen() || errno != EEXIST) break;
+        }
+        return m_Descriptor.isOpen();
+    }
+
+    int get() const { return m_Descriptor.get(); }
+    bool close() { return m_Descriptor.close(); }
+
+    bool put(FileReplacement::Placing placing) {
+        const char* const name = m_Place.name().constData();
+        const int folder = m_Place.folder();
+        if (placing == FileReplacement::OnlyNew) {
+            if (!putNew(folder, name)) return false;
+        } else if (::renameat(folder, m_Name.constData(), folder, name) != 0) {
+            return false;
+        }
+        m_Name.clear();
+        return true;
+    }
+
+private:
+    Q_DISABLE_COPY(TemporaryFile)
+
+    // Not every kind of file system can rename without replacing.
+    bool putNew(int folder, const char* name) const {
+        if (::renameat2(folder, m_Name.constData(), folder, name, RENAME_NOREPLACE) == 0) return true;
+        if (errno != EINVAL && errno != ENOSYS) return false;
+        if (::linkat(folder, m_Name.constData(), folder, name, 0) != 0) return false;
+        ::unlinkat(folder, m_Name.constData(), 0);
+        return true;
+    }
+
+    const FilePlace& m_Place;
+    Descriptor m_Descriptor;
+    QByteArray m_Name;  // empty when there is nothing to remove
+};
+
+// A file, by its folder's inode and its name, and when that folder was last changed while no leftovers were beside the
+// file. A search takes as long as a good part of a small save, and there is nothing to find as long as nobody else
+// changed the folder.
 QHash<QByteArray, qint64>& cleanFolders() {
     static QHash<QByteArray, qint64> folders;
     return folders;
 }
 
-// Nanoseconds since 1970; 0 when there is no telling.
-qint64 changeTime(const QByteArray& folder) {
+struct FolderState {
+    explicit FolderState(const FilePlace& place) : changed(0) {
+        const int nanoseconds = 1000000000;
+        struct stat info;
+        if (::fstat(place.folder(), &info) != 0) return;
+        changed = qint64(info.st_mtim.tv_sec) * nanoseconds + info.st_mtim.tv_nsec;
+        key = QByteArray::number(quint64(info.st_dev)) + ' ' + QByteArray::number(quint64(info.st_ino)) + ' ' +
+              place.name();
+    }
+
+    QByteArray key;
+    qint64 changed;  // nanoseconds since 1970; 0 when there is no telling
+};
+
+// Whether a name is that of a temporary file for this one, its lock file or a copy of its damaged content.
+bool isTemporary(const QByteArray& candidate, const QByteArray& name) {
+    const int mark = candidate.lastIndexOf(TemporaryMark);
+    if (mark < 0 || candidate.size() != mark + int(sizeof TemporaryMark) - 1 + UniqueLength) return false;
+    if (!candidate.startsWith(name)) return false;
+    const QByteArray between = candidate.mid(name.size(), mark - name.size());
+    return mark >= name.size() && (between.isEmpty() || between == ".lock" || between.startsWith(DamageMark));
+}
+
+// True when the name is no leftover any more.
+bool removeLeftover(int folder, const char* name) {
     struct stat info;
-    if (::stat(folder.constData(), &info) != 0) return 0;
-    return qint64(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec;
+    const bool isOld = ::fstatat(folder, name, &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(info.st_mode) &&
+                       info.st_mtime < ::time(0) - LeftoverAge;
+    return isOld && ::unlinkat(folder, name, 0) == 0;
 }
 
 // Removes what a writer that died left beside the file: it may hold passwords. False when it had to leave some.
-bool removeLeftovers(const QByteArray& name) {
-    const QByteArray folder = folderOf(name);
-    if (cleanFolders().contains(name) && cleanFolders().value(name) == changeTime(folder)) return true;
-    const QByteArray stem = name.mid(folder.size()) + TemporaryMark;
-    DIR* const entries = ::opendir(folder.constData());
-    if (!entries) return false;
-    const time_t limit = ::time(0) - LeftoverAge;
-    bool isClean = true;
-    while (const dirent* entry = ::readdir(entries)) {
-        const QByteArray candidate(entry->d_name);
-        if (!candidate.startsWith(stem) || candidate.size() != stem.size() + UniqueLength) continue;
-        struct stat info;
-        const QByteArray path = folder + candidate;
-        const bool isOld = ::lstat(path.constData(), &info) == 0 && S_ISREG(info.st_mode) && info.st_mtime < limit;
-        if (!isOld || ::unlink(path.constData()) != 0) isClean = false;
+bool removeLeftovers(const FilePlace& place) {
+    const FolderState state(place);
+    if (state.changed != 0 && cleanFolders().value(state.key) == state.changed) return true;
+    const int fd = Descriptor::openAt(place.folder(), ".", O_RDONLY | O_DIRECTORY);
+    if (fd < 0) return false;
+    DIR* const entries = ::fdopendir(fd);
+    if (!entries) {
+        ::close(fd);
+        return false;
     }
+    bool isClean = true;
+    while (const dirent* entry = ::readdir(entries))
+        if (isTemporary(entry->d_name, place.name()) && !removeLeftover(place.folder(), entry->d_name)) isClean = false;
     ::closedir(entries);
     return isClean;
 }
 
-// Gives the new file the mode and, when root writes another user's file, the owner that it should have.
-bool applyRights(int fd, const QByteArray& target, FileReplacement::Access access) {
+// The owner that a new file should have, as one of these files has it; null for whoever writes. Only root can choose.
+const struct stat* ownerFor(FileReplacement::Purpose purpose, const struct stat* before, const struct stat* folder) {
+    if (::geteuid() != 0 || purpose == FileReplacement::Export) return 0;
+    return purpose == FileReplacement::UserFile ? folder : before;
+}
+
+// Gives the new file the owner and the mode that it should have.
+bool applyRights(int fd, const FilePlace& place, FileReplacement::Purpose purpose, QString* reason) {
     struct stat before;
-    const bool existed = ::stat(target.constData(), &before) == 0;
-    if (existed && before.st_uid != ::geteuid() && ::fchown(fd, before.st_uid, before.st_gid) != 0 && errno != EPERM)
-        return false;
+    struct stat folder;
+    struct stat now;
+    const bool existed = place.look(&before);
+    if (!existed && errno != ENOENT) return systemFailure("can't be looked at", reason);
+    if (::fstat(place.folder(), &folder) != 0 || ::fstat(fd, &now) != 0)
+        return systemFailure("can't look at the folder", reason);
+    const struct stat* const owner = ownerFor(purpose, existed ? &before : 0, &folder);
+    const bool isOwned = !owner || (owner->st_uid == now.st_uid && owner->st_gid == now.st_gid);
+    if (!isOwned && ::fchown(fd, owner->st_uid, owner->st_gid) != 0)
+        return systemFailure("can't set the file's owner", reason);
     mode_t mode = 0600;
-    if (access == FileReplacement::AsBefore) mode = existed ? before.st_mode & 07777 : 0644;
-    return ::fchmod(fd, mode) == 0;
+    if (purpose == FileReplacement::Shipped) mode = existed ? before.st_mode & 07777 : 0644;
+    return ::fchmod(fd, mode) == 0 || systemFailure("can't set the file's mode", reason);
+}
+
+QString megabytes(qint64 bytes) { return QString::number(bytes / (1024 * 1024)) + QLatin1String(" MB"); }
+
+bool fill(TemporaryFile* file, const FilePlace& place, const QByteArray& content, FileReplacement::Purpose purpose,
+          QString* reason) {
+    if (!file->create()) return systemFailure("can't create a file in the folder", reason);
+    if (!applyRights(file->get(), place, purpose, reason)) return false;
+    if (!writeAll(file->get(), content)) return systemFailure("can't write", reason);
+    if (!flush(file->get())) return systemFailure("can't flush to disk", reason);
+    return file->close() || systemFailure("can't close", reason);
+}
+
+FileReplacement::Outcome writeAt(const FilePlace& place, const QByteArray& content, FileReplacement::Purpose purpose,
+                                 FileReplacement::Placing placing, QString* reason) {
+    const bool isClean = removeLeftovers(place);
+    cleanFolders().remove(FolderState(place).key);
+    {
+        TemporaryFile file(place);
+        if (!fill(&file, place, content, purpose, reason)) return FileReplacement::Failed;
+        if (!file.put(placing)) {
+            if (placing == FileReplacement::OnlyNew && errno == EEXIST) return FileReplacement::Taken;
+            systemFailure("can't replace", reason);
+            return FileReplacement::Failed;
+        }
+    }
+    const FolderState state(place);
+    if (isClean && state.changed != 0) cleanFolders().insert(state.key, state.changed);
+    if (!flushFolder(place.folder())) systemFailure("written, but the folder can't be flushed to disk", reason);
+    return FileReplacement::Done;
 }
 
 }  // namespace
 
 namespace FileReplacement {
 
-QString target(const QString& path) {
-    const int deepest = 40;  // as the kernel bounds a chain of links
-    QString result = path;
-    for (int i = 0; i < deepest; ++i) {
-        const QFileInfo info(result);
-        if (!info.isSymLink()) break;
-        result = info.symLinkTarget();
+Outcome read(const QString& path, QByteArray* content, QString* reason) {
+    const char* const opening = "can't be opened";
+    FilePlace place;
+    if (path.isEmpty()) return Missing;
+    if (!place.open(path, reason)) return place.isMissing() ? Missing : Failed;
+    struct stat info;
+    if (!place.look(&info)) {
+        if (errno == ENOENT) return Missing;
+        systemFailure("can't be looked at", reason);
+        return Failed;
     }
-    return result;
+    // A pipe or a device could be opened, but would never end.
+    if (!S_ISREG(info.st_mode)) {
+        *reason = QLatin1String("it is not a regular file");
+        return Failed;
+    }
+    if (info.st_size > LargestFile) {
+        *reason = QString::fromLatin1("it is too large: %1 of at most %2")
+                      .arg(megabytes(info.st_size), megabytes(LargestFile));
+        return Failed;
+    }
+    const Descriptor file(Descriptor::openAt(place.folder(), place.name().constData(), O_RDONLY));
+    if (!file.isOpen()) {
+        systemFailure(opening, reason);
+        return Failed;
+    }
+    if (readAll(file.get(), info.st_size, content)) return Done;
+    content->clear();
+    systemFailure("reading failed", reason);
+    return Failed;
+}
+
+Outcome write(const QString& path, const QByteArray& content, Purpose purpose, Placing placing, QString* reason) {
+    if (content.size() > LargestFile) {
+        *reason = QString::fromLatin1("not written: it would be too large to be read again, %1 of at most %2")
+                      .arg(megabytes(content.size()), megabytes(LargestFile));
+        return Failed;
+    }
+    FilePlace place;
+    if (!place.open(path, reason)) return Failed;
+    return writeAt(place, content, purpose, placing, reason);
+}
+
+DamagedCopy::~DamagedCopy() {
+    if (m_bExists) ::unlinkat(m_Place.folder(), m_Place.name().constData(), 0);
+}
+
+bool DamagedCopy::make(const QString& path, const QByteArray& content, Purpose purpose, QString* reason) {
+    const int mostNames = 100;
+    if (!m_Place.open(path, reason)) return false;
+    const QByteArray stem = m_Place.name() + DamageMark +
+                            QDateTime::currentDateTime().toUTC().toString(QLatin1String("yyyyMMddThhmmssZ")).toLatin1();
+    for (int i = 1; i <= mostNames; ++i) {
+        m_Place.setName(i == 1 ? stem : stem + '-' + QByteArray::number(i));
+        const Outcome outcome = writeAt(m_Place, content, purpose, OnlyNew, reason);
+        m_bExists = outcome == Done;
+        if (outcome != Taken) return m_bExists;
+    }
+    *reason = QLatin1String("every name for a copy of the damaged file is taken");
+    return false;
 }
 
 bool isSameFile(const QString& one, const QString& other) {
     struct stat first;
     struct stat second;
-    return ::stat(QFile::encodeName(one).constData(), &first) == 0 &&
-           ::stat(QFile::encodeName(other).constData(), &second) == 0 && first.st_dev == second.st_dev &&
-           first.st_ino == second.st_ino;
-}
-
-bool replace(const QString& path, const QByteArray& content, Access access, QString* reason) {
-    const QString file = target(path);
-    const QFileInfo info(file);
-    const QByteArray name = QFile::encodeName(info.absoluteFilePath());
-    const bool isClean = removeLeftovers(name);
-    cleanFolders().remove(name);
-
-    QByteArray temporary = name + TemporaryMark + TemporaryPattern;
-    Descriptor descriptor(::mkostemp(temporary.data(), O_CLOEXEC));
-    if (descriptor.get() < 0) return failed("can't create a file in the folder", reason);
-    TemporaryName leftover(temporary);
-
-    if (!writeAll(descriptor.get(), content)) return failed("can't write", reason);
-    if (!applyRights(descriptor.get(), name, access)) return failed("can't set the file's mode", reason);
-    if (::fsync(descriptor.get()) != 0) return failed("can't flush to disk", reason);
-    if (!descriptor.close()) return failed("can't close", reason);
-    if (::rename(temporary.constData(), name.constData()) != 0) return failed("can't replace", reason);
-    leftover.keep();
-
-    if (isClean) cleanFolders().insert(name, changeTime(folderOf(name)));
-    if (!flushFolder(info.absolutePath())) failed("written, but the folder can't be flushed to disk", reason);
-    return true;
-}
-
-bool keepDamaged(const QString& path, QString* copy, QString* reason) {
-    QFile damaged(path);
-    QByteArray content;
-    if (damaged.open(QIODevice::ReadOnly)) content = damaged.readAll();
-    if (damaged.error() != QFile::NoError) {
-        *reason = QString::fromLatin1("can't read the damaged file: ") + damaged.errorString();
-        return false;
-    }
-    const QString stem = target(path) + QLatin1String(".damaged-") +
-                         QDateTime::currentDateTime().toUTC().toString(QLatin1String("yyyyMMddThhmmssZ"));
-    *copy = stem;
-    for (int i = 2; QFileInfo(*copy).exists(); ++i) *copy = stem + QLatin1Char('-') + QString::number(i);
-    return replace(*copy, content, OwnerOnly, reason);
+    if (::stat(QFile::encodeName(one).constData(), &first) == 0 &&
+        ::stat(QFile::encodeName(other).constData(), &second) == 0)
+        return isSameInode(first, second);
+    FilePlace firstPlace;
+    FilePlace secondPlace;
+    QString ignored;
+    return firstPlace.open(one, &ignored) && secondPlace.open(other, &ignored) && firstPlace == secondPlace;
 }
 
 }  // namespace FileReplacement

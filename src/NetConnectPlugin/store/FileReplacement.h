@@ -1,31 +1,64 @@
-// Replaces whole files so that a death at any moment leaves the old content or the new one. For one thread.
+// Reads and replaces whole files so that a death at any moment leaves the old content or the new one. For one thread.
 #ifndef ORBISDIAL_FILEREPLACEMENT_H
 #define ORBISDIAL_FILEREPLACEMENT_H
 
 #include <QByteArray>
 #include <QString>
 
+#include "FilePlace.h"
+
+// Links are followed as FilePlace says; reasons are in English.
 namespace FileReplacement {
 
-// Who may read the new file.
-enum Access {
-    OwnerOnly,  // mode 0600, whatever it was before
-    AsBefore    // the mode that the file had; 0644 for a new one
+const qint64 LargestFile = 256 * 1024 * 1024;  // bytes; a larger one is neither read nor written
+
+// Who owns and who may read a new file.
+enum Purpose {
+    UserFile,  // mode 0600; the folder's owner, also when root writes
+    Export,    // mode 0600; whoever writes
+    Shipped    // mode and owner of the file before; mode 0644 for the first
 };
 
-// Writes the content beside the file under a temporary name, flushes it to disk, renames it over the file and
-// flushes the folder. Follows a symbolic link. On failure the old file stays, the temporary one goes, and the
-// reason is stored, in English. When only the folder could not be flushed the answer is true, with a reason.
-bool replace(const QString& path, const QByteArray& content, Access access, QString* reason);
+enum Placing {
+    OverOld,  // whether there is a file or not
+    OnlyNew   // replaces nothing
+};
 
-// Copies a damaged file to its name + ".damaged-" + the time in UTC, mode 0600, and stores the copy's path.
-bool keepDamaged(const QString& path, QString* copy, QString* reason);
+enum Outcome {
+    Done,
+    Missing,  // read: there is no such file
+    Taken,    // write of a new file: one is there by now
+    Failed    // the reason is stored
+};
 
-// The file that a path leads to, through symbolic links, whether it exists or not.
-QString target(const QString& path);
+// Reads a regular file whole: Done, Missing or Failed.
+Outcome read(const QString& path, QByteArray* content, QString* reason);
 
-// True when two paths lead to the same existing file, hard links included.
+// Writes the content beside the file under a temporary name, flushes it to disk, gives it the file's name and flushes
+// the folder: Done, Taken or Failed. When it is not done the old file stays and the temporary one goes. When only the
+// folder could not be flushed it is done, with a reason.
+Outcome write(const QString& path, const QByteArray& content, Purpose purpose, Placing placing, QString* reason);
+
+// True when two paths lead to the same file, hard links included, or would if it existed.
 bool isSameFile(const QString& one, const QString& other);
+
+// A copy of a damaged file's content beside it, under its name + ".damaged-" + the time in UTC. It goes again unless it
+// is kept.
+class DamagedCopy {
+public:
+    DamagedCopy() : m_bExists(false) {}
+    ~DamagedCopy();
+
+    bool make(const QString& path, const QByteArray& content, Purpose purpose, QString* reason);
+    QString path() const { return m_Place.path(); }
+    void keep() { m_bExists = false; }
+
+private:
+    Q_DISABLE_COPY(DamagedCopy)
+
+    FilePlace m_Place;
+    bool m_bExists;
+};
 
 }  // namespace FileReplacement
 

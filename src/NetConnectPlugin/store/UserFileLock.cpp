@@ -1,48 +1,84 @@
 #include "UserFileLock.h"
 
-#include <errno.h>
-#include <fcntl.h>
-#include <string.h>
 #include <sys/file.h>
-#include <unistd.h>
+#include <time.h>
 
 #include <QElapsedTimer>
-#include <QFile>
 
-static const int LongestWait = 5000;  // milliseconds
-static const int Pause = 300;         // microseconds; short, to get in between the writes of a busy process
+#include "FileReplacement.h"
 
-static QString systemError() { return QString::fromLocal8Bit(strerror(errno)); }
+static int longestWait = 2000;  // milliseconds
 
-UserFileLock::UserFileLock() : m_Fd(-1) {}
+void UserFileLock::setLongestWait(int milliseconds) { longestWait = milliseconds; }
 
-UserFileLock::~UserFileLock() { release(); }
-
-bool UserFileLock::acquire(const QString& path, QString* reason) {
-    release();
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (fd < 0) {
-        *reason = QLatin1String("can't be opened: ") + systemError();
-        return false;
-    }
-    QElapsedTimer timer;
-    timer.start();
-    while (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
-        const bool isBusy = errno == EWOULDBLOCK || errno == EINTR;
-        if (isBusy && timer.elapsed() < LongestWait) {
-            ::usleep(Pause);
-            continue;
-        }
-        *reason = isBusy ? QString::fromLatin1("another program keeps the profiles locked")
-                         : QLatin1String("can't be locked: ") + systemError();
-        ::close(fd);
-        return false;
-    }
-    m_Fd = fd;
-    return true;
+// Microseconds until the next attempt. The longer one has waited the oftener one looks, so that whoever waits longest
+// is most likely the next, even among processes that are busy writing; and at random, so that none keep step.
+static useconds_t pause(qint64 waited) {
+    const qint64 longest = 2000;
+    const qint64 shortest = 100;
+    const qint64 patience = 25;  // milliseconds after which the pause is half of the longest
+    timespec now;
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    const qint64 pause = qMax(shortest, longest * patience / (patience + waited));
+    return useconds_t(pause / 2 + now.tv_nsec % pause);
 }
 
-void UserFileLock::release() {
-    if (m_Fd >= 0) ::close(m_Fd);
-    m_Fd = -1;
+// A file that is no longer the one of its name locks out nobody.
+UserFileLock::Attempt UserFileLock::attempt(QString* reason) {
+    struct stat named;
+    if (!m_Place.look(&named)) {
+        if (errno == ENOENT) return Absent;
+        systemFailure("can't be looked at", reason);
+        return Failed;
+    }
+    if (!S_ISREG(named.st_mode)) {
+        *reason = QLatin1String("can't be locked: it is not a regular file");
+        return Failed;
+    }
+    // Locks of some network file systems need a file that can be written.
+    const char* const name = m_Place.name().constData();
+    Descriptor file(Descriptor::openAt(m_Place.folder(), name, O_RDWR));
+    if (!file.isOpen() && (errno == EACCES || errno == EROFS))
+        file.reset(Descriptor::openAt(m_Place.folder(), name, O_RDONLY));
+    if (!file.isOpen()) {
+        if (errno == ENOENT) return Busy;
+        systemFailure("can't be opened", reason);
+        return Failed;
+    }
+    if (::flock(file.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK || errno == EINTR) return Busy;
+        systemFailure("can't be locked", reason);
+        return Failed;
+    }
+    m_File.take(&file);
+    if (isInPlace()) return Locked;
+    release();
+    return Busy;
+}
+
+bool UserFileLock::isInPlace() const {
+    struct stat held;
+    struct stat named;
+    return isHeld() && ::fstat(m_File.get(), &held) == 0 && m_Place.look(&named) && isSameInode(held, named);
+}
+
+bool UserFileLock::wait(const QString& path, bool makesFile, QString* reason) {
+    release();
+    if (!m_Place.open(path, reason)) return false;
+    QElapsedTimer timer;
+    timer.start();
+    for (;;) {
+        const Attempt outcome = attempt(reason);
+        if (outcome == Locked || (outcome == Absent && !makesFile)) return true;
+        if (outcome == Failed) return false;
+        if (timer.elapsed() >= longestWait) break;
+        if (outcome == Busy) ::usleep(pause(timer.elapsed()));
+        if (outcome == Absent) {
+            const FileReplacement::Outcome made =
+                FileReplacement::write(path, QByteArray(), FileReplacement::UserFile, FileReplacement::OnlyNew, reason);
+            if (made == FileReplacement::Failed) return false;
+        }
+    }
+    *reason = QLatin1String("another program keeps it locked");
+    return false;
 }
