@@ -128,9 +128,19 @@ int UserStore::store() {
     return NetConnectStatus::Success;
 }
 
+// Whoever removes the lock file lets others lock a new one: what the user's file holds is then no longer known here.
+bool UserStore::isStillLocked() {
+    if (m_Lock.isInPlace()) return true;
+    m_pFiles->reportProblem(m_pFiles->userProfilePath() + QLatin1String(".lock"),
+                            QLatin1String("was removed while the profiles were being changed"));
+    return false;
+}
+
 int UserStore::write() {
     const NetConnectDefault value(*m_Members.defaultName, *m_Members.isUserSet);
-    const int status = m_pFiles->SaveProfileToXML(*m_Members.profiles, value.name, QString(), value.isUserSet);
+    int status = NetConnectStatus::FileNotOpened;
+    if (isStillLocked())
+        status = m_pFiles->SaveProfileToXML(*m_Members.profiles, value.name, QString(), value.isUserSet);
     if (status == NetConnectStatus::Success) {
         m_StoredDefault = value;
         m_Stamp = m_pFiles->userFileStamp();

@@ -93,6 +93,7 @@ private:
     bool acquireBeside(const QString& userFile);
     bool takeInChanges(const QString& userFile);
     void rememberFile(int status);
+    bool isStillLocked();
     int write();
     void takeSnapshot();
     void closeAction();
