@@ -68,6 +68,11 @@ void NetConnectXMLParse::reportProblem(const QString& file, const QString& reaso
     m_Problem.column = column;
 }
 
+void NetConnectXMLParse::reportOutOfMemory(const QString& path) {
+    qDebug("Error open file: ");
+    reportProblem(path, QLatin1String("there is not enough memory for it"));
+}
+
 void NetConnectXMLParse::clearProblem(const QString& file) {
     if (!m_bKeepProblem && m_Problem.file == file) m_Problem = NetConnectStorageProblem();
 }

@@ -179,6 +179,9 @@ private:
     static QList<ProfileDefaultEntry> defaultEntries(const NetConnectDefault& value,
                                                      const NetConnectRememberedDefaults& remembered);
     NetConnectRememberedDefaults withModeDefault(const NetConnectDefault& value) const;
+    int saveDocument(const QList<DialupProfile>& profiles, const NetConnectDefault& value, const QString& path,
+                     bool isUserFile, FileReplacement::Placing placing);
+    void reportOutOfMemory(const QString& path);
     bool prepareTarget(const QString& path, const KeptFile& kept, FileReplacement::Purpose purpose,
                        FileReplacement::DamagedCopy* copy);
 

@@ -5,6 +5,7 @@
 #include "CommandError.h"
 #include "NetConnectXMLParse.h"
 #include "Output.h"
+#include "UserFileLock.h"
 #include "vrks.h"
 
 namespace {
@@ -19,6 +20,7 @@ NetConnectStoreAction::Kind actionKind(ProfileSession::Kind kind) {
 
 ProfileSession::ProfileSession(Kind kind)
     : m_Kind(kind), m_Action(actionKind(kind)), m_pLogic(NetConnectSettingUILogic::GetInstance()) {
+    UserFileLock::setLongestWait(15000);  // as long as a person waits who sees no window
     m_ConfigurationProblem = configurationProblem();
     if (kind == Changing) {
         if (!m_ConfigurationProblem.isEmpty()) throw CommandError::failed(m_ConfigurationProblem);

@@ -1,5 +1,7 @@
 // Reading and writing of profile files.
 
+#include <new>
+
 #include "FileReplacement.h"
 #include "NetConnectXMLParse.h"
 #include "Trace.h"
@@ -20,7 +22,13 @@ int NetConnectXMLParse::GetAllProfileFromUserDataXML(QList<DialupProfile>* profi
                                                      QString fileName, bool* isUserSet) {
     const TraceScope trace(__FILE__, "GetAllProfileFromUserDataXML");
     ProfileDocument document;
-    const int status = loadDocument(profilePath(fileName), keptFile(fileName), &document);
+    const QString path = profilePath(fileName);
+    int status = 25;
+    try {
+        status = loadDocument(path, keptFile(fileName), &document);
+    } catch (const std::bad_alloc&) {
+        reportOutOfMemory(path);
+    }
     if (status == 23 || status == 25) return status;
     applyDocument(document, profiles, defaultName, isUserSet);
     return status;
@@ -119,6 +127,16 @@ int NetConnectXMLParse::SaveProfileToXML(QList<DialupProfile> profiles, QString 
         qDebug("Error open file: ");
         return 25;
     }
+    try {
+        return saveDocument(profiles, NetConnectDefault(defaultName, isUserSet), path, isUserFile, placing);
+    } catch (const std::bad_alloc&) {
+        reportOutOfMemory(path);
+        return 25;
+    }
+}
+
+int NetConnectXMLParse::saveDocument(const QList<DialupProfile>& profiles, const NetConnectDefault& value,
+                                     const QString& path, bool isUserFile, FileReplacement::Placing placing) {
     const FileReplacement::Purpose purpose = isUserFile ? FileReplacement::UserFile : FileReplacement::Export;
     FileReplacement::DamagedCopy damaged;
     if (!prepareTarget(path, isUserFile ? m_User : KeptFile(), purpose, &damaged)) return 25;
@@ -129,7 +147,6 @@ int NetConnectXMLParse::SaveProfileToXML(QList<DialupProfile> profiles, QString 
         document.clean();
         return writeOver(path, document.write(), purpose, placing, &damaged);
     }
-    const NetConnectDefault value(defaultName, isUserSet);
     const NetConnectRememberedDefaults remembered = withModeDefault(value);
     document.defaults = defaultEntries(value, remembered);
     document.clean();
