@@ -123,10 +123,11 @@ INTERPOSED ssize_t write(int fd, const void* data, size_t size) {
     return write(fd, data, strcmp(failing, "write in full") == 0 ? (size + 1) / 2 : size);
 }
 
+// What a test writes need not reach the disk, which would take most of its time.
 INTERPOSED int fsync(int fd) {
     struct stat info;
     const bool isFolder = next<decltype(fstat)>("fstat")(fd, &info) == 0 && S_ISDIR(info.st_mode);
-    return failsAt(isFolder ? "fsync folder" : "fsync") ? -1 : next<decltype(fsync)>("fsync")(fd);
+    return failsAt(isFolder ? "fsync folder" : "fsync") ? -1 : 0;
 }
 
 INTERPOSED int close(int fd) {

@@ -1,13 +1,33 @@
 // The logic in this process and orbisctl in others change the same file at the same time.
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "FaultsFixture.h"
+#include "UserFileLock.h"
 
 // A process takes far longer to start under a sanitizer.
 static const int AddedByEach = ORBISDIAL_SANITIZED ? 40 : 200;
 static const int Races = 20;
+static const int Writers = 8;
+static const int WritesByEach = ORBISDIAL_SANITIZED ? 10 : 40;
+
+// Processes that do the same at the same time, each told its number: how many of them ended with another status than 0.
+static int failuresOf(int processes, const std::function<int(int)>& work) {
+    for (int i = 0; i < processes; ++i) {
+        if (fork() != 0) continue;
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        _exit(work(i));
+    }
+    int failures = 0;
+    for (int status = 0; wait(&status) > 0;) failures += status != 0;
+    return failures;
+}
 
 class tst_processes : public QObject {
     Q_OBJECT
+
+    static NetConnectSettingUILogic* logic() { return NetConnectSettingUILogic::GetInstance(); }
 
 private slots:
     void bothAdd() {
@@ -37,6 +57,59 @@ private slots:
         QCOMPARE(names, expected);
         for (const QString& name : {expected.first(), expected.last()})
             QCOMPARE(fixture.show(name)["password"].toString(), QString("secret"));
+    }
+
+    void busyWritersAreAllServed() {
+        FaultsFixture fixture;
+        NetConnectSettingUILogic::Destroy();
+        UserFileLock::setLongestWait(15000);
+        QCOMPARE(failuresOf(Writers,
+                            [](int writer) {
+                                for (int i = 0; i < WritesByEach; ++i) {
+                                    const DialupProfile added =
+                                        LogicFixture::named(QString("%1 %2").arg(writer).arg(i));
+                                    if (logic()->AddDialUpProfile(added) != 0) return 1;
+                                }
+                                return 0;
+                            }),
+                 0);
+        QCOMPARE(FaultsFixture::userNames().size(), Writers * WritesByEach);
+    }
+
+    // Each has a data folder of its own, so that only the target itself can keep them apart.
+    void exportsIntoOneFileLoseNothing() {
+        FaultsFixture fixture;
+        NetConnectSettingUILogic::Destroy();
+        const QString file = fixture.path("exports/all.prof");
+        QDir().mkpath(fixture.path("exports"));
+        UserFileLock::setLongestWait(15000);
+        QCOMPARE(failuresOf(Writers,
+                            [&](int writer) {
+                                qputenv("ORBISDIAL_DATA_DIR", QFile::encodeName(fixture.path("data%1").arg(writer)));
+                                for (int i = 0; i < 5; ++i) {
+                                    const QString name = QString("%1 %2").arg(writer).arg(i);
+                                    if (logic()->AddDialUpProfile(LogicFixture::named(name)) != 0) return 1;
+                                    if (logic()->ExportChosenProfiles({name}, file) != 0) return 2;
+                                }
+                                return 0;
+                            }),
+                 0);
+        QCOMPARE(FaultsFixture::read(file).count("<Profile "), Writers * 5);
+        QCOMPARE(QDir(fixture.path("exports")).entryList(QDir::Files | QDir::Hidden), QStringList("all.prof"));
+    }
+
+    void aTargetThatOthersLockIsNotReplaced() {
+        FaultsFixture fixture;
+        const QString file = fixture.path("export.prof");
+        QCOMPARE(logic()->ExportChosenProfiles({"Alpha"}, file), 0);
+        const QByteArray before = FaultsFixture::read(file);
+        UserFileLock other;
+        QString reason;
+        QVERIFY(other.acquireIfThere(file, &reason) && other.isHeld());
+        UserFileLock::setLongestWait(100);
+        QCOMPARE(logic()->ExportChosenProfiles({"Beta"}, file), 25);
+        QVERIFY(logic()->LastStorageProblem().text().contains("locked"));
+        QCOMPARE(FaultsFixture::read(file), before);
     }
 
     // A program that ends clears a default that the configuration proposed, but not the one that the user chose

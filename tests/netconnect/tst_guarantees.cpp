@@ -3,8 +3,11 @@
 
 #include <sys/stat.h>
 
+#include <thread>
+
 #include "FileReplacement.h"
 #include "LogicFixture.h"
+#include "NetConnectStoreAction.h"
 #include "UserFileLock.h"
 
 class tst_guarantees : public LogicTest {
@@ -80,14 +83,72 @@ private slots:
     void whoeverKeepsTheLockIsWaitedForOnlySoLong() {
         QDir().mkpath(path("data"));
         UserFileLock other;
-        QString reason;
-        QVERIFY2(other.acquire(userFile() + ".lock", &reason), qPrintable(reason));
+        QVERIFY(acquire(&other));
+        UserFileLock::setLongestWait(200);
+        QElapsedTimer timer;
+        timer.start();
         QCOMPARE(logic()->SaveDialUpProfile(named("A")), 25);
+        QVERIFY(timer.elapsed() >= 200 && timer.elapsed() < 2000);
         QVERIFY(logic()->LastStorageProblem().reason.contains("locked"));
         QVERIFY(!QFile::exists(userFile()));
     }
 
+    // The lock file is removed while one holds it and another waits for it.
+    void aRemovedLockFileLocksNobody() {
+        QDir().mkpath(path("data"));
+        UserFileLock first;
+        QVERIFY(acquire(&first) && first.isInPlace());
+        std::thread remover([this] {
+            QThread::msleep(100);
+            QFile::remove(userFile() + ".lock");
+        });
+        UserFileLock::setLongestWait(5000);
+        UserFileLock second;
+        const bool isAcquired = acquire(&second);
+        remover.join();
+        QVERIFY(isAcquired && second.isInPlace());  // of the new file
+        QVERIFY(!first.isInPlace());
+        second.release();
+
+        NetConnectStoreAction action;
+        QCOMPARE(logic()->SaveDialUpProfile(named("A")), 0);
+        QVERIFY(QFile::remove(userFile() + ".lock"));
+        QCOMPARE(action.commit(), 25);
+        QVERIFY(logic()->LastStorageProblem().reason.contains("removed"));
+        QVERIFY(!QFile::exists(userFile()));
+    }
+
+    void whatCouldNotBeReadBackIsNotWritten() {
+        QCOMPARE(logic()->SaveDialUpProfile(named("A")), 0);
+        const QByteArray before = user();
+        DialupProfile huge = named("huge");
+        huge.user = QString(46 << 20, '"');  // six bytes each in the file
+        QCOMPARE(logic()->SaveDialUpProfile(huge), 25);
+        QVERIFY(logic()->LastStorageProblem().reason.contains("276 MB"));
+        QVERIFY(user() == before);
+    }
+
+    // A dead writer's files go, whatever they were to become; other files of a like name stay.
+    void leftoversGo() {
+        QDir().mkpath(path("data"));
+        const QStringList leftovers{".tmp-abcdef", ".lock.tmp-abcdef", ".damaged-20200101T000000Z-2.tmp-abcdef"};
+        const QStringList others{".tmp-abc", ".old.tmp-abcdef", ".damaged-20200101T000000Z"};
+        for (const QString& name : leftovers + others) {
+            QFile file(userFile() + name);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QVERIFY(file.setFileTime(QDateTime::fromSecsSinceEpoch(0), QFile::FileModificationTime));
+        }
+        QCOMPARE(logic()->SaveDialUpProfile(named("A")), 0);
+        for (const QString& name : leftovers) QVERIFY2(!QFile::exists(userFile() + name), qPrintable(name));
+        for (const QString& name : others) QVERIFY2(QFile::exists(userFile() + name), qPrintable(name));
+    }
+
 private:
+    bool acquire(UserFileLock* lock) const {
+        QString reason;
+        return lock->acquire(userFile() + ".lock", &reason);
+    }
+
     static int mode(const QString& path) {
         struct stat info;
         return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? int(info.st_mode & 07777) : -1;
