@@ -54,21 +54,24 @@ std::vector<IMSIINFO> readItems(const QByteArray& content) {
 }
 
 QByteArray write(const QList<DialupProfile>& profiles) {
-    QByteArray content;
+    // Into a string, since the writer encodes every piece by itself on its way into bytes.
+    QString content = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
     QXmlStreamWriter writer(&content);
     writer.setAutoFormatting(true);
-    writer.writeStartDocument();
     writer.writeStartElement("vrksdoc");
     writer.writeAttribute("type", "Profile");
     writer.writeStartElement("ProfileGroup");
     writer.writeAttribute("type", "Dailup");
+    QStringList attributes;
+    for (const DialupProfileField& field : DialupProfileFields) attributes.append(field.attribute);
+    const QString element = "Profile";
     for (const DialupProfile& profile : profiles) {
-        writer.writeEmptyElement(QLatin1String("Profile"));
-        for (const DialupProfileField& field : DialupProfileFields)
-            writer.writeAttribute(QLatin1String(field.attribute), profile.*field.member);
+        writer.writeEmptyElement(element);
+        for (int i = 0; i < DialupProfileFieldCount; ++i)
+            writer.writeAttribute(attributes.at(i), profile.*DialupProfileFields[i].member);
     }
     writer.writeEndDocument();
-    return content;
+    return content.toUtf8();
 }
 
 void save(const QString& path, const QList<DialupProfile>& profiles) {

@@ -51,23 +51,18 @@ NetConnectDefault readDefault(const QXmlStreamAttributes& attributes) {
                              attributes.value(QLatin1String("IsUserSet")) == QLatin1String("1"));
 }
 
-void writeUserSet(QXmlStreamWriter& xml, bool isUserSet) {
-    if (isUserSet) xml.writeAttribute(QLatin1String("IsUserSet"), QLatin1String("1"));
-}
-
 // Writes the plain default, which comes first, and the card's modes' defaults, if there are any.
-void writeDefaults(QXmlStreamWriter& xml, const QList<ProfileDefaultEntry>& defaults) {
+void writeDefaults(ProfileDocumentWriter& writer, const QList<ProfileDefaultEntry>& defaults) {
     for (int i = 0; i < defaults.size(); ++i) {
         const ProfileDefaultEntry& entry = defaults.at(i);
-        if (i == 1) xml.writeStartElement(QLatin1String("MultiModeDefaultProfile"));
-        xml.writeEmptyElement(QLatin1String(entry.kind == ProfileDefaultEntry::Plain ? "Default" : "item"));
-        xml.writeAttribute(QLatin1String("name"), entry.value.name);
+        if (i == 1) writer.startElement("MultiModeDefaultProfile");
+        writer.emptyElement(entry.kind == ProfileDefaultEntry::Plain ? "Default" : "item");
+        writer.attribute("name", entry.value.name);
         if (entry.kind != ProfileDefaultEntry::Plain)
-            xml.writeAttribute(QLatin1String("value"),
-                               QLatin1String(entry.kind == ProfileDefaultEntry::CDMA ? "CDMA" : "WCDMA"));
-        writeUserSet(xml, entry.value.isUserSet);
+            writer.attribute("value", QLatin1String(entry.kind == ProfileDefaultEntry::CDMA ? "CDMA" : "WCDMA"));
+        if (entry.value.isUserSet) writer.attribute("IsUserSet", QLatin1String("1"));
     }
-    if (defaults.size() > 1) xml.writeEndElement();
+    if (defaults.size() > 1) writer.endElement();
 }
 
 }  // namespace
@@ -103,8 +98,8 @@ QByteArray ProfileDocument::write() const {
     ProfileDocumentWriter writer;
     writer.startGroup();
     for (int i = 0; i < profiles.size(); ++i) writer.writeProfile(profiles.at(i));
-    writer.xml().writeEndElement();
-    writeDefaults(writer.xml(), defaults);
+    writer.endElement();
+    writeDefaults(writer, defaults);
     return writer.finish();
 }
 

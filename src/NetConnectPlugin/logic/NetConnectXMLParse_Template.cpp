@@ -26,16 +26,15 @@ void fillFromTemplate(const QXmlStreamAttributes& attributes, DialupProfile* pro
 
 QByteArray templateDocument(const QHash<QString, NetConnectXML>& templates) {
     ProfileDocumentWriter writer;
-    QXmlStreamWriter& xml = writer.xml();
-    xml.writeEmptyElement(QLatin1String("Default"));
-    xml.writeAttribute(QLatin1String("Default"), QLatin1String("kestra"));
-    xml.writeAttribute(QLatin1String("type"), QLatin1String("DialUp"));
+    writer.emptyElement("Default");
+    writer.attribute("Default", QLatin1String("kestra"));
+    writer.attribute("type", QLatin1String("DialUp"));
     writer.startGroup();
-    xml.writeEmptyElement(QLatin1String("Template"));
+    writer.emptyElement("Template");
     for (int i = 0; i < DialupProfileFieldCount; ++i) {
-        const QLatin1String attribute(DialupProfileFields[i].attribute);
-        if (isInTemplate(DialupProfileFields[i].attribute, true))
-            xml.writeAttribute(attribute, XmlText::clean(templates.value(attribute).value));
+        const char* const attribute = DialupProfileFields[i].attribute;
+        if (isInTemplate(attribute, true))
+            writer.attribute(attribute, XmlText::clean(templates.value(QLatin1String(attribute)).value));
     }
     return writer.finish();
 }
