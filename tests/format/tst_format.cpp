@@ -3,9 +3,9 @@
 #include <QRandomGenerator>
 #include <QXmlStreamWriter>
 
-#include "ProfileDocument.h"
 #include "ProfileDocumentWriter.h"
 #include "Rows.h"
+#include "ScannerOracle.h"
 
 class tst_format : public QObject {
     Q_OBJECT
@@ -46,7 +46,87 @@ private slots:
         }
     }
 
+    void scansWhatOurToolsWrite() {
+        QRandomGenerator random(2);
+        for (int round = 0; round < 300; ++round) {
+            ProfileDocument document = randomDocument(&random);
+            document.clean();
+            const QByteArray content = document.write();
+            QCOMPARE(ScannerOracle::answer<ProfileDocument>(content), ScannerOracle::Agrees);
+        }
+        for (const char* name : {"ProfileLib.prof", "NetConnectConfig.xml", "SysProfile.prof"}) {
+            const QByteArray content = shipped(name);
+            QVERIFY2(!content.isEmpty(), name);
+            QCOMPARE(ScannerOracle::answer<ProfileDocument>(content), ScannerOracle::Agrees);
+            QCOMPARE(ScannerOracle::answer<NetConnectConfigDocument>(content), ScannerOracle::Agrees);
+        }
+    }
+
+    // Each is well-formed or nearly so, and easily taken for our own form.
+    void leavesToTheReader_data() {
+        nameRows("content", {"",
+                             "<a/><b/>",
+                             "<a>text</a>",
+                             "<a></b>",
+                             "<a",
+                             "<a/",
+                             "<a><!-- -- --></a>",
+                             "<a><!-- --->",
+                             "<a b=\"1\" b=\"2\"/>",
+                             "<a b='1'/>",
+                             "<a b=\"<\"/>",
+                             "<a b=\"&apos;\"/>",
+                             "<a b=\"&#0;\"/>",
+                             "<a b=\"\t\"/>",
+                             "<a b=\"\x01\"/>",
+                             "<a b=\"\xff\"/>",
+                             "<a b=\"\xc0\xbc\"/>",
+                             "<a b=\"\xed\xa0\x80\"/>",
+                             "<a b=\"\xef\xbf\xbf\"/>",
+                             "<a b=\"\xf4\x90\x80\x80\"/>",
+                             "<a xmlns=\"n\"/>",
+                             "<n:a xmlns:n=\"n\"/>",
+                             "<!DOCTYPE a><a/>",
+                             "<?pi?><a/>",
+                             "<a/><![CDATA[]]>",
+                             "<?xml version=\"1.0\" encoding=\"latin1\"?><a/>",
+                             "\n<?xml version=\"1.0\" encoding=\"UTF-8\"?><a/>",
+                             "\xef\xbb\xbf<a/>"});
+    }
+    void leavesToTheReader() {
+        const QByteArray content = QTest::currentDataTag();
+        QCOMPARE(ScannerOracle::answer<ProfileDocument>(content), ScannerOracle::Unknown);
+        QCOMPARE(ScannerOracle::answer<NetConnectConfigDocument>(content), ScannerOracle::Unknown);
+    }
+
+    void neverDiffersFromTheReader() {
+        QRandomGenerator random(3);
+        int agreed = 0;
+        for (int round = 0; round < 3000; ++round) {
+            ProfileDocument document = randomDocument(&random);
+            document.clean();
+            QByteArray content = document.write();
+            for (int edits = random.bounded(4); edits > 0; --edits) edit(&content, &random);
+            const ScannerOracle::Answer answer = ScannerOracle::answer<ProfileDocument>(content);
+            QVERIFY2(answer != ScannerOracle::Differs, content);
+            agreed += answer == ScannerOracle::Agrees;
+        }
+        QVERIFY(agreed > 1000);
+    }
+
 private:
+    static QByteArray shipped(const QString& name) {
+        QFile file(ORBISDIAL_BUILD_DIR "/lib/orbisdial/plugins/NetConnectPlugin/" + name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    static void edit(QByteArray* content, QRandomGenerator* random) {
+        static const char Bytes[] = "<>/\"'&;= \n\tanx\x01\x7f\xc3\xa9\xef\xff";
+        const int at = random->bounded(content->size());
+        const int length = random->bounded(3);
+        content->replace(at, length, QByteArray(random->bounded(2), Bytes[random->bounded(int(sizeof(Bytes)))]));
+    }
+
     static QString randomText(QRandomGenerator* random) {
         static const QString kinds[] = {
             "",   "plain", "<",  ">", "&",  "\"",  "'",

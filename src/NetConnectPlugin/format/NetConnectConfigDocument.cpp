@@ -1,31 +1,40 @@
 #include "NetConnectConfigDocument.h"
 
+#include "XmlScanner.h"
 #include "XmlText.h"
 
-NetConnectConfigElement NetConnectConfigElement::of(const QXmlStreamReader& reader) {
+namespace {
+
+template <class Element>
+NetConnectConfigElement configElement(const Element& source) {
     const struct {
-        QLatin1String element;
-        Kind kind;
-        QLatin1String nameAttribute;
+        const char* element;
+        NetConnectConfigElement::Kind kind;
+        const char* nameAttribute;
     } kinds[] = {
-        {QLatin1String("item"), Item, QLatin1String("name")},
-        {QLatin1String("IMSIProfileList"), IMSISection, QLatin1String("imsi")},
-        {QLatin1String("ProfileList"), ProfileListSection, QLatin1String("name")},
-        {QLatin1String("Function"), FunctionSection, QLatin1String("name")},
-        {QLatin1String("ProfileTemplate"), TemplateSection, QLatin1String("name")},
-        {QLatin1String("MultiModeDefaultProfile"), ModeDefaultSection, QLatin1String("name")},
+        {"item", NetConnectConfigElement::Item, "name"},
+        {"IMSIProfileList", NetConnectConfigElement::IMSISection, "imsi"},
+        {"ProfileList", NetConnectConfigElement::ProfileListSection, "name"},
+        {"Function", NetConnectConfigElement::FunctionSection, "name"},
+        {"ProfileTemplate", NetConnectConfigElement::TemplateSection, "name"},
+        {"MultiModeDefaultProfile", NetConnectConfigElement::ModeDefaultSection, "name"},
     };
     NetConnectConfigElement element;
     for (size_t i = 0; i < sizeof(kinds) / sizeof(kinds[0]); ++i) {
-        if (reader.name() != kinds[i].element) continue;
-        const QXmlStreamAttributes attributes = reader.attributes();
+        if (!source.isNamed(kinds[i].element)) continue;
         element.kind = kinds[i].kind;
-        element.name = attributes.value(kinds[i].nameAttribute).toString();
-        element.value = attributes.value(QLatin1String("value")).toString();
-        element.type = attributes.value(QLatin1String("type")).toString();
+        element.name = source.value(kinds[i].nameAttribute);
+        element.value = source.value("value");
+        element.type = source.value("type");
         break;
     }
     return element;
+}
+
+}  // namespace
+
+NetConnectConfigElement NetConnectConfigElement::of(const QXmlStreamReader& reader) {
+    return configElement(XmlReaderElement(reader));
 }
 
 QString UserPrompt::*NetConnectConfigDocument::promptField(const QStringRef& name) {
@@ -43,31 +52,48 @@ QString UserPrompt::*NetConnectConfigDocument::promptField(const QStringRef& nam
     return 0;
 }
 
+bool NetConnectConfigDocument::scan(const QByteArray& content) {
+    NetConnectConfigDocument scanned;
+    Place place;
+    XmlScanner scanner(content);
+    for (XmlScanner::Token token = scanner.next(); token != XmlScanner::End; token = scanner.next()) {
+        if (token == XmlScanner::Unknown) return false;
+        if (token == XmlScanner::StartElement)
+            scanned.start(scanner, &place);
+        else if (scanner.isNamed("module"))
+            place.module.clear();
+    }
+    *this = scanned;
+    return true;
+}
+
 void NetConnectConfigDocument::read(QXmlStreamReader& reader) {
-    QString group;
-    QString module;
+    Place place;
     while (!reader.atEnd()) {
         reader.readNext();
         XmlText::refuseDeclarations(reader);
         if (reader.hasError()) return;
-        if (reader.isEndElement() && reader.name() == QLatin1String("module")) module.clear();
-        if (!reader.isStartElement()) continue;
-
-        const QXmlStreamAttributes attributes = reader.attributes();
-        const QStringRef name = attributes.value(QLatin1String("name"));
-        if (QString UserPrompt::*const field = promptField(name))
-            promptItems.append(PromptItem(field, attributes.value(QLatin1String("value")).toString()));
-        if (reader.name() == QLatin1String("group")) group = name.toString();
-        if (reader.name() == QLatin1String("module")) module = name.toString();
-        append(group, module, NetConnectConfigElement::of(reader));
+        if (reader.isStartElement())
+            start(XmlReaderElement(reader), &place);
+        else if (reader.isEndElement() && reader.name() == QLatin1String("module"))
+            place.module.clear();
     }
 }
 
-void NetConnectConfigDocument::append(const QString& group, const QString& module,
-                                      const NetConnectConfigElement& element) {
+template <class Element>
+void NetConnectConfigDocument::start(const Element& element, Place* place) {
+    const QString name = element.value("name");
+    if (QString UserPrompt::*const field = promptField(QStringRef(&name)))
+        promptItems.append(PromptItem(field, element.value("value")));
+    if (element.isNamed("group")) place->group = name;
+    if (element.isNamed("module")) place->module = name;
+    append(*place, configElement(element));
+}
+
+void NetConnectConfigDocument::append(const Place& place, const NetConnectConfigElement& element) {
     if (element.kind == NetConnectConfigElement::Other) return;
-    if (stretches.isEmpty() || stretches.last().group != group || stretches.last().module != module) {
-        const Stretch stretch = {group, module, QVector<NetConnectConfigElement>()};
+    if (stretches.isEmpty() || stretches.last().group != place.group || stretches.last().module != place.module) {
+        const Stretch stretch = {place.group, place.module, QVector<NetConnectConfigElement>()};
         stretches.append(stretch);
     }
     stretches.last().elements.append(element);

@@ -33,6 +33,9 @@ struct NetConnectConfigDocument {
     };
     typedef QPair<QString UserPrompt::*, QString> PromptItem;
 
+    // Becomes what a document in our own tools' form says; false, and nothing, for any other, which read() reads.
+    bool scan(const QByteArray& content);
+
     // Reads on to the end, or to the first error; what was read before it stays.
     void read(QXmlStreamReader& reader);
 
@@ -43,7 +46,15 @@ struct NetConnectConfigDocument {
     QList<PromptItem> promptItems;  // of the whole file
 
 private:
-    void append(const QString& group, const QString& module, const NetConnectConfigElement& element);
+    // The group and the module that an element stands in.
+    struct Place {
+        QString group;
+        QString module;
+    };
+
+    template <class Element>
+    void start(const Element& element, Place* place);
+    void append(const Place& place, const NetConnectConfigElement& element);
 };
 
 #endif

@@ -3,59 +3,109 @@
 #include <QHash>
 
 #include "ProfileDocumentWriter.h"
+#include "XmlScanner.h"
 #include "XmlText.h"
 
 namespace {
 
+const char ModeDefaults[] = "MultiModeDefaultProfile";
+
+// The text by which a pool knows a value again. A reader's value is gone with its element; a scanner's stays.
+void remember(const QStringRef&, const QString& text, QString* key) { *key = text; }
+void remember(const XmlPiece& value, const QString&, XmlPiece* key) { *key = value; }
+
 // Profile files repeat few values many times: a value equal to its field's last one, or to one that was seen not long
 // ago in any field, shares its text. Names do not repeat and would only crowd others out.
+template <class Value, class Key>
 class ValuePool {
 public:
-    QString shared(int field, const QStringRef& value) {
+    QString shared(int field, const Value& value) {
         if (field == NameField) return value.toString();
-        QString& last = m_Last[field];
-        if (value == last) return last;
-        QString& seen = m_Seen[qHash(value) % SeenCount];
-        if (value != seen) seen = value.toString();
+        Entry& last = m_Last[field];
+        if (value == last.key) return last.text;
+        Entry& seen = m_Seen[qHash(value) % SeenCount];
+        if (!(value == seen.key)) {
+            seen.text = value.toString();
+            remember(value, seen.text, &seen.key);
+        }
         last = seen;
-        return last;
+        return last.text;
     }
 
 private:
     enum { NameField = 0, SeenCount = 1024 };
-    QString m_Last[DialupProfileFieldCount];
-    QString m_Seen[SeenCount];
+    struct Entry {
+        Key key;
+        QString text;
+    };
+    Entry m_Last[DialupProfileFieldCount];
+    Entry m_Seen[SeenCount];
 };
 
+bool isField(const QStringRef& attribute, int field) {
+    return attribute == QLatin1String(DialupProfileFields[field].attribute);
+}
+bool isField(const XmlPiece& attribute, int field) { return attribute == DialupProfileFields[field].attribute; }
+
 // The field of an attribute; -1 for none. The writer's order is tried first.
-int fieldOf(const QStringRef& attribute, int expected) {
+template <class Name>
+int fieldOf(const Name& attribute, int expected) {
     for (int i = 0; i < DialupProfileFieldCount; ++i) {
         const int field = (expected + i) % DialupProfileFieldCount;
-        if (attribute == QLatin1String(DialupProfileFields[field].attribute)) return field;
+        if (isField(attribute, field)) return field;
     }
     return -1;
 }
 
-void readProfile(const QXmlStreamAttributes& attributes, ValuePool* pool, DialupProfile* profile) {
-    int expected = 0;
-    for (int i = 0; i < attributes.size(); ++i) {
-        const int field = fieldOf(attributes.at(i).qualifiedName(), expected);
-        if (field < 0) continue;
-        profile->*DialupProfileFields[field].member = pool->shared(field, attributes.at(i).value());
-        expected = field + 1;
-    }
-}
+// Takes elements, from Qt's reader or from the scanner, into a document.
+template <class Element, class Pool>
+class ProfileElements {
+public:
+    explicit ProfileElements(ProfileDocument* document) : m_Document(document), m_InModeDefaults(false) {}
 
-NetConnectDefault readDefault(const QXmlStreamAttributes& attributes) {
-    return NetConnectDefault(attributes.value(QLatin1String("name")).toString(),
-                             attributes.value(QLatin1String("IsUserSet")) == QLatin1String("1"));
-}
+    void start(const Element& element) {
+        if (element.isNamed("Profile")) {
+            m_Document->profiles.append(DialupProfile());
+            readProfile(element, &m_Document->profiles.last());
+        } else if (element.isNamed("Default")) {
+            readDefault(element, ProfileDefaultEntry::Plain);
+        } else if (element.isNamed(ModeDefaults)) {
+            m_InModeDefaults = true;
+        } else if (m_InModeDefaults && element.isNamed("item")) {
+            const bool isCDMA = element.value("value") == QLatin1String("CDMA");
+            readDefault(element, isCDMA ? ProfileDefaultEntry::CDMA : ProfileDefaultEntry::WCDMA);
+        }
+    }
+
+    void endModeDefaults() { m_InModeDefaults = false; }
+
+private:
+    void readProfile(const Element& element, DialupProfile* profile) {
+        int expected = 0;
+        for (int i = 0; i < element.attributeCount(); ++i) {
+            const int field = fieldOf(element.attributeName(i), expected);
+            if (field < 0) continue;
+            profile->*DialupProfileFields[field].member = m_Pool.shared(field, element.attributeValue(i));
+            expected = field + 1;
+        }
+    }
+
+    void readDefault(const Element& element, ProfileDefaultEntry::Kind kind) {
+        const bool isUserSet = element.value("IsUserSet") == QLatin1String("1");
+        const ProfileDefaultEntry entry = {kind, NetConnectDefault(element.value("name"), isUserSet)};
+        m_Document->defaults.append(entry);
+    }
+
+    ProfileDocument* m_Document;
+    Pool m_Pool;
+    bool m_InModeDefaults;
+};
 
 // Writes the plain default, which comes first, and the card's modes' defaults, if there are any.
 void writeDefaults(ProfileDocumentWriter& writer, const QList<ProfileDefaultEntry>& defaults) {
     for (int i = 0; i < defaults.size(); ++i) {
         const ProfileDefaultEntry& entry = defaults.at(i);
-        if (i == 1) writer.startElement("MultiModeDefaultProfile");
+        if (i == 1) writer.startElement(ModeDefaults);
         writer.emptyElement(entry.kind == ProfileDefaultEntry::Plain ? "Default" : "item");
         writer.attribute("name", entry.value.name);
         if (entry.kind != ProfileDefaultEntry::Plain)
@@ -67,30 +117,31 @@ void writeDefaults(ProfileDocumentWriter& writer, const QList<ProfileDefaultEntr
 
 }  // namespace
 
+bool ProfileDocument::scan(const QByteArray& content) {
+    ProfileDocument scanned;
+    XmlScanner scanner(content);
+    ProfileElements<XmlScanner, ValuePool<XmlPiece, XmlPiece> > elements(&scanned);
+    for (XmlScanner::Token token = scanner.next(); token != XmlScanner::End; token = scanner.next()) {
+        if (token == XmlScanner::Unknown) return false;
+        if (token == XmlScanner::StartElement)
+            elements.start(scanner);
+        else if (scanner.isNamed(ModeDefaults))
+            elements.endModeDefaults();
+    }
+    *this = scanned;
+    return true;
+}
+
 void ProfileDocument::read(QXmlStreamReader& reader) {
-    ValuePool pool;
-    bool inModeDefaults = false;
+    ProfileElements<XmlReaderElement, ValuePool<QStringRef, QString> > elements(this);
     while (!reader.atEnd()) {
         reader.readNext();
         XmlText::refuseDeclarations(reader);
         if (reader.hasError()) return;
-        if (reader.isEndElement() && reader.name() == QLatin1String("MultiModeDefaultProfile")) inModeDefaults = false;
-        if (!reader.isStartElement()) continue;
-
-        if (reader.name() == QLatin1String("Profile")) {
-            profiles.append(DialupProfile());
-            readProfile(reader.attributes(), &pool, &profiles.last());
-        } else if (reader.name() == QLatin1String("Default")) {
-            const ProfileDefaultEntry entry = {ProfileDefaultEntry::Plain, readDefault(reader.attributes())};
-            defaults.append(entry);
-        } else if (reader.name() == QLatin1String("MultiModeDefaultProfile")) {
-            inModeDefaults = true;
-        } else if (inModeDefaults && reader.name() == QLatin1String("item")) {
-            const bool isCDMA = reader.attributes().value(QLatin1String("value")) == QLatin1String("CDMA");
-            const ProfileDefaultEntry entry = {isCDMA ? ProfileDefaultEntry::CDMA : ProfileDefaultEntry::WCDMA,
-                                               readDefault(reader.attributes())};
-            defaults.append(entry);
-        }
+        if (reader.isStartElement())
+            elements.start(XmlReaderElement(reader));
+        else if (reader.isEndElement() && reader.name() == QLatin1String(ModeDefaults))
+            elements.endModeDefaults();
     }
 }
 

@@ -28,6 +28,9 @@ struct ProfileDefaultEntry {
 
 // A value; its texts are those of the file, names untranslated.
 struct ProfileDocument {
+    // Becomes what a document in our own writers' form says; false, and nothing, for any other, which read() reads.
+    bool scan(const QByteArray& content);
+
     // Reads on to the end, or to the first error, which the reader then has; what was read before it stays.
     void read(QXmlStreamReader& reader);
 

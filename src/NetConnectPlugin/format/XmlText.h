@@ -6,6 +6,21 @@
 #include <QString>
 #include <QXmlStreamReader>
 
+// The element that a reader stands on, asked as a scanner's is.
+class XmlReaderElement {
+public:
+    explicit XmlReaderElement(const QXmlStreamReader& reader) : m_Reader(reader), m_Attributes(reader.attributes()) {}
+    bool isNamed(const char* name) const { return m_Reader.name() == QLatin1String(name); }
+    QString value(const char* attribute) const { return m_Attributes.value(QLatin1String(attribute)).toString(); }
+    int attributeCount() const { return m_Attributes.size(); }
+    QStringRef attributeName(int index) const { return m_Attributes.at(index).qualifiedName(); }
+    QStringRef attributeValue(int index) const { return m_Attributes.at(index).value(); }
+
+private:
+    const QXmlStreamReader& m_Reader;
+    const QXmlStreamAttributes m_Attributes;
+};
+
 namespace XmlText {
 
 // The text without the characters that XML 1.0 forbids and without halves of surrogate pairs. The writer would

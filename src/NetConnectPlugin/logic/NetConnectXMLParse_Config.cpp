@@ -100,11 +100,13 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
     QByteArray content;
     if (readFile(path, &content) != 0) return 23;
 
-    QXmlStreamReader reader(content);
-    const QString refusal = XmlText::refusal(content);
-    if (!refusal.isEmpty()) reader.raiseError(refusal);
-    document->read(reader);
-    if (reader.hasError()) return readError(reader, path, "GetSettingsFromXML");
+    if (!document->scan(content)) {
+        QXmlStreamReader reader(content);
+        const QString refusal = XmlText::refusal(content);
+        if (!refusal.isEmpty()) reader.raiseError(refusal);
+        document->read(reader);
+        if (reader.hasError()) return readError(reader, path, "GetSettingsFromXML");
+    }
     clearProblem(path);
     m_Config.path = path;
     m_Config.stamp = stamp;

@@ -53,7 +53,7 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
         *document = kept->document;
         return 0;
     }
-    if (status == 0) {
+    if (status == 0 && !document->scan(content)) {
         const QString refusal = XmlText::refusal(content);
         QXmlStreamReader reader(content);
         if (!refusal.isEmpty()) reader.raiseError(refusal);
@@ -205,6 +205,7 @@ bool NetConnectXMLParse::prepareTarget(const QString& path, const KeptFile& kept
     const int status = readFile(path, &content);
     if (status != 0) return status == 23;
     ProfileDocument document;
+    if (document.scan(content)) return true;
     QXmlStreamReader reader(content);
     const QString refusal = XmlText::refusal(content);
     if (!refusal.isEmpty()) reader.raiseError(refusal);

@@ -1,0 +1,214 @@
+#include "XmlScanner.h"
+
+#include <string.h>
+
+#include "XmlText.h"
+
+namespace {
+
+enum CharacterKind { NameStart = 1, NamePart = 2, ValuePart = 4, CommentPart = 8, Blank = 16 };
+
+// What each byte may be part of. Bytes above ASCII are none of these: they are looked at one sequence at a time.
+struct CharacterKinds {
+    CharacterKinds() {
+        memset(kinds, 0, sizeof(kinds));
+        for (int c = 0x20; c < 0x80; ++c) kinds[c] = ValuePart | CommentPart;
+        kinds[int('"')] = kinds[int('<')] = kinds[int('&')] = CommentPart;
+        kinds[int('-')] = ValuePart;
+        for (int c = '0'; c <= '9'; ++c) kinds[c] |= NamePart;
+        for (int c = 'A'; c <= 'Z'; ++c) kinds[c] |= NameStart | NamePart;
+        for (int c = 'a'; c <= 'z'; ++c) kinds[c] |= NameStart | NamePart;
+        for (const char* c = " \t\n\r"; *c; ++c) kinds[int(*c)] |= Blank | CommentPart;
+    }
+    unsigned char kinds[256];
+};
+const CharacterKinds Characters;
+
+bool is(char c, int kind) { return Characters.kinds[static_cast<unsigned char>(c)] & kind; }
+
+const struct {
+    const char* text;
+    char character;
+} References[] = {{"&lt;", '<'},  {"&gt;", '>'},   {"&amp;", '&'}, {"&quot;", '"'},
+                  {"&#9;", '\t'}, {"&#10;", '\n'}, {"&#13;", '\r'}};
+const int ReferenceCount = int(sizeof(References) / sizeof(References[0]));
+
+// The reference that stands here; -1 for one that the writer does not make.
+int referenceAt(const char* at) {
+    for (int i = 0; i < ReferenceCount; ++i)
+        if (strncmp(at, References[i].text, strlen(References[i].text)) == 0) return i;
+    return -1;
+}
+
+bool isTail(char c) { return (c & 0xc0) == 0x80; }
+
+// The length of the UTF-8 sequence that stands here (RFC 3629); 0 for none, and for what no XML may hold or a byte
+// order mark, which is told apart by its place.
+int sequenceAt(const char* at) {
+    const unsigned char first = static_cast<unsigned char>(at[0]);
+    const unsigned char second = first ? static_cast<unsigned char>(at[1]) : 0;
+    if (first < 0xc2 || first > 0xf4 || !isTail(at[1])) return 0;
+    if (first < 0xe0) return 2;
+    if (!isTail(at[2])) return 0;
+    if (first < 0xf0) {
+        const unsigned char third = static_cast<unsigned char>(at[2]);
+        if ((first == 0xe0 && second < 0xa0) || (first == 0xed && second > 0x9f)) return 0;
+        const bool isMark = second == 0xbb && third == 0xbf;
+        const bool isForbidden = second == 0xbf && third >= 0xbe;
+        return first == 0xef && (isMark || isForbidden) ? 0 : 3;
+    }
+    if ((first == 0xf0 && second < 0x90) || (first == 0xf4 && second > 0x8f)) return 0;
+    return isTail(at[3]) ? 4 : 0;
+}
+
+}  // namespace
+
+bool XmlPiece::operator==(const XmlPiece& other) const {
+    return size == other.size && memcmp(begin, other.begin, size_t(size)) == 0;
+}
+
+bool XmlPiece::operator==(const char* name) const { return strncmp(begin, name, size_t(size)) == 0 && name[size] == 0; }
+
+QString XmlPiece::toString() const {
+    if (isPlain) return QString::fromLatin1(begin, size);
+    QByteArray text;
+    text.reserve(size);
+    for (const char* at = begin; at != begin + size;) {
+        const int reference = *at == '&' ? referenceAt(at) : -1;
+        text += reference < 0 ? *at : References[reference].character;
+        at += reference < 0 ? 1 : int(strlen(References[reference].text));
+    }
+    QString result = QString::fromUtf8(text.constData(), text.size());
+    result.squeeze();
+    return result;
+}
+
+// FNV-1a
+uint qHash(const XmlPiece& piece) {
+    uint hash = 2166136261u;
+    for (int i = 0; i < piece.size; ++i) hash = (hash ^ static_cast<unsigned char>(piece.begin[i])) * 16777619u;
+    return hash ^ hash >> 16;
+}
+
+XmlScanner::XmlScanner(const QByteArray& document)
+    : m_At(document.constData()),
+      m_End(m_At + document.size()),
+      m_Depth(0),
+      m_Elements(0),
+      m_IsEmptyElement(false),
+      m_AttributeCount(0),
+      m_AttributeMarks(0) {
+    skipIf("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
+}
+
+QString XmlScanner::value(const char* attribute) const {
+    for (int i = 0; i < m_AttributeCount; ++i)
+        if (m_AttributeNames[i] == attribute) return m_AttributeValues[i].toString();
+    return QString();
+}
+
+XmlScanner::Token XmlScanner::next() {
+    if (m_IsEmptyElement) return endElement();
+    for (;;) {
+        while (is(*m_At, Blank)) ++m_At;
+        if (m_At == m_End) return m_Depth == 0 && m_Elements > 0 ? End : Unknown;
+        if (skipIf("<!--")) {
+            if (!skipComment()) return Unknown;
+        } else if (skipIf("</")) {
+            return scanEndTag();
+        } else if (skipIf("<")) {
+            return scanStartTag();
+        } else {
+            return Unknown;
+        }
+    }
+}
+
+bool XmlScanner::skipIf(const char* text) {
+    const size_t size = strlen(text);
+    if (strncmp(m_At, text, size) != 0) return false;
+    m_At += size;
+    return true;
+}
+
+bool XmlScanner::skipComment() {
+    for (;;) {
+        while (is(*m_At, CommentPart)) ++m_At;
+        if (skipIf("--")) return skipIf(">");
+        const int length = *m_At == '-' ? 1 : sequenceAt(m_At);
+        if (length == 0) return false;
+        m_At += length;
+    }
+}
+
+XmlScanner::Token XmlScanner::scanStartTag() {
+    if (m_Depth == MostDepth || (m_Depth == 0 && m_Elements > 0) || ++m_Elements > XmlText::MostElements)
+        return Unknown;
+    if (!scanName(&m_Name)) return Unknown;
+    m_Open[m_Depth++] = m_Name;
+    m_AttributeCount = 0;
+    m_AttributeMarks = 0;
+    while (*m_At == ' ')
+        if (!scanAttribute()) return Unknown;
+    m_IsEmptyElement = skipIf("/");
+    return skipIf(">") ? StartElement : Unknown;
+}
+
+XmlScanner::Token XmlScanner::scanEndTag() {
+    if (m_Depth == 0 || !scanName(&m_Name) || !(m_Name == m_Open[m_Depth - 1]) || !skipIf(">")) return Unknown;
+    return endElement();
+}
+
+XmlScanner::Token XmlScanner::endElement() {
+    m_IsEmptyElement = false;
+    m_Name = m_Open[--m_Depth];
+    m_AttributeCount = 0;
+    return EndElement;
+}
+
+// Names that begin with "xml" mean something to a reader.
+bool XmlScanner::scanName(XmlPiece* name) {
+    const int longest = 64;  // bytes
+    name->begin = m_At;
+    if (!is(*m_At, NameStart)) return false;
+    while (is(*m_At, NamePart)) ++m_At;
+    name->size = int(m_At - name->begin);
+    return name->size <= longest && strncmp(name->begin, "xml", 3) != 0;
+}
+
+bool XmlScanner::scanAttribute() {
+    if (m_AttributeCount == MostAttributes) return false;
+    ++m_At;
+    XmlPiece* const name = &m_AttributeNames[m_AttributeCount];
+    if (!scanName(name) || !isNewAttribute(*name)) return false;
+    if (m_At[0] != '=' || m_At[1] != '"') return false;
+    m_At += 2;
+    return scanValue(&m_AttributeValues[m_AttributeCount++]);
+}
+
+bool XmlScanner::isNewAttribute(const XmlPiece& name) {
+    const int sum = name.begin[0] + 5 * name.begin[name.size - 1] + 11 * name.size;
+    const quint64 mark = quint64(1) << (sum & 63);
+    if (m_AttributeMarks & mark)
+        for (int i = 0; i < m_AttributeCount; ++i)
+            if (m_AttributeNames[i] == name) return false;
+    m_AttributeMarks |= mark;
+    return true;
+}
+
+bool XmlScanner::scanValue(XmlPiece* value) {
+    value->begin = m_At;
+    value->isPlain = true;
+    for (;;) {
+        while (is(*m_At, ValuePart)) ++m_At;
+        if (*m_At == '"') break;
+        const int reference = *m_At == '&' ? referenceAt(m_At) : -1;
+        const int length = reference < 0 ? sequenceAt(m_At) : int(strlen(References[reference].text));
+        if (length == 0) return false;
+        value->isPlain = false;
+        m_At += length;
+    }
+    value->size = int(m_At - value->begin);
+    ++m_At;
+    return true;
+}
