@@ -3,6 +3,7 @@
 // Its source is spread over topics:
 //   NetConnectSettingUILogic.cpp           life, loading, device events
 //   logic/NetConnectSettingUILogic_Store.cpp     list, fetch, add, delete, replace, template
+//   logic/NetConnectSettingUILogic_Merge.cpp     edits that meet another program's
 //   logic/NetConnectSettingUILogic_Default.cpp   the default profile
 //   logic/NetConnectSettingUILogic_Lists.cpp     presets by IMSI and by configuration
 //   logic/NetConnectSettingUILogic_Config.cpp    function configuration
@@ -35,6 +36,13 @@ struct NetConnectIMSISelection {
     QString prefix;          // the IMSI prefix that matched; empty when none did
     QStringList names;       // the presets, as shown
     QString defaultProfile;  // the proposed default; empty when no row is marked
+};
+
+// An edit of a profile by somebody to whom a window showed it. Passwords are in plain text.
+struct NetConnectProfileEdit {
+    DialupProfile begun;    // what was stored when the edit began
+    DialupProfile shown;    // the same in the form that the window gives it
+    DialupProfile entered;  // what it has become
 };
 
 // Answers an import's question whether a profile of this name may be replaced.
@@ -111,6 +119,10 @@ public:
     // Puts a profile in the place of a user's profile, in one write: the default moves along with the flag
     // that it had, and a new name loses the langid. 114 when the new name is another profile's (nothing changes).
     int ReplaceDialUpProfile(const QString& oldName, const DialupProfile& profile);
+
+    // ReplaceDialUpProfile for an edit that took its time: a field in which what was entered differs from what was
+    // shown takes the entered value, every other one what the file holds now.
+    int MergeDialUpProfile(const QString& name, const NetConnectProfileEdit& edit);
 
     int NewDialUpProfileTemplate(DialupProfile* profile);
     int updateProfileTemplate();

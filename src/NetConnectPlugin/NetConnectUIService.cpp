@@ -131,10 +131,11 @@ QString CNetConnectUIService::defaultMark() const {
     return QLatin1Char(' ') + (mirrored ? CommonUtils::ParanthesisCorrection(mark) : mark);
 }
 
-QString CNetConnectUIService::withoutMark(const QString& text) const {
+// For a name from outside: a profile of that very name comes first.
+QString CNetConnectUIService::withoutMark(const QString& name) const {
     const QString mark = defaultMark();
-    if (mark.isEmpty() || text.indexOf(mark) <= 0) return text;
-    return QString(text).remove(mark);
+    if (mark.isEmpty() || name.indexOf(mark) <= 0 || findProfile(name) >= 0) return name;
+    return QString(name).remove(mark);
 }
 
 void CNetConnectUIService::tell(const QString& message, QWidget* parent) const {

@@ -122,9 +122,10 @@ private:
     // The edit that is open, from New or Edit to Save or Undo.
     struct OpenEdit {
         bool open = false;
-        QString name;       // the bare name, as stored now, of the profile that is edited or was on show at New
-        QString shownName;  // what the name field was filled with
-        QString langid;     // of the edited profile: its name follows the language
+        QString name;         // the bare name, as stored now, of the profile that is edited or was on show at New
+        QString shownName;    // what the name field was filled with
+        DialupProfile begun;  // the edited profile as it was stored when the edit began
+        DialupProfile shown;  // the same as the page shows it
     };
 
     CNetConnectUIService();
@@ -142,9 +143,10 @@ private:
     INotifyService* notifyService() const;
     void notifyProfilesChanged(const char* clsid) const;
 
-    // The default mark, with the blank before it; empty when the language has none.
+    // The default mark, with the blank before it; empty when the language has none. It belongs to the entry at
+    // m_nDefaultIndex alone: any other text that contains it is a profile's name.
     QString defaultMark() const;
-    QString withoutMark(const QString& text) const;
+    QString withoutMark(const QString& name) const;
 
     // Message boxes. After either, the service or its page may be gone.
     void tell(const QString& message, QWidget* parent) const;
@@ -180,8 +182,11 @@ private:
     void selectDefaultProfile();
     void rebuildList();
     void markDefaultProfile(const QString& name);
+    void unmarkDefaultProfile();
+    void selectProfile(const QString& name);
     void selectEditedProfile();
-    int findProfile(const QString& bareName) const;
+    QString profileName(int index) const;
+    int findProfile(const QString& name) const;
     QString currentProfileName() const;
     void showAPNSetting();
     void showAuthenticationSetting();
@@ -199,6 +204,7 @@ private:
 
     // --- editing ---
     void beginEdit(Operation operation, const QString& shownName);
+    DialupProfile enteredProfile();
     void endEdit();
     void showTemplate(DialupProfile* profile);
     QString enteredName() const;
@@ -210,6 +216,8 @@ private:
 
     // --- validation ---
     bool isValidProfile();
+    int findMarked(const QString& name) const;
+    int findShown(const QString& text) const;
     bool isProfileExist(int markedIndex, int plainIndex);
     bool refuse(const QString& message) const;  // tells why; always false
 
@@ -283,6 +291,7 @@ private:
     AdvanceSetting m_AdvanceSetting;       // for the advanced dialog, which nothing opens from the page
     QString m_strProfileType;
     int m_nDefaultIndex = -1;
+    QString m_strMarkedName;  // the bare name of the entry that carries the mark
     bool m_bActive = false;
     QString m_strReadOnly;
     QString m_strDefaultRemember;

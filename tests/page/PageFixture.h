@@ -69,10 +69,8 @@ public:
     QString storedDefault() const {
         return (attributes(userFile(), "Default", "name") + attributes(userFile(), "Default", "IsUserSet")).join('/');
     }
-    // Another process on the same files: "add NAME" or "delete NAME".
-    static void otherProcess(const QString& command, const QString& name) {
-        QCOMPARE(QProcess::execute(ORBISCTL, {command, name}), 0);
-    }
+    // Another process on the same files: a command of orbisctl with its arguments.
+    static void otherProcess(const QStringList& command) { QCOMPARE(QProcess::execute(ORBISCTL, command), 0); }
 
     // --- the plug-in ---
 

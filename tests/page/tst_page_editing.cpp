@@ -192,7 +192,7 @@ private slots:
         F::type(f->edit("LineEditProfileName"), "Taken");
         F::type(f->edit("AccessNumberlineEdit"), "12345");
         const QStringList typed = f->editState();
-        const auto take = [] { F::otherProcess("add", "Taken"); };
+        const auto take = [] { F::otherProcess({"add", "Taken"}); };
         inQuestion ? f->answers.yes(take) : take();
         f->answers.ok();
         inQuestion ? void(f->setting->OnClickSettingOkButton()) : f->click("BtnsaveProfile");
@@ -207,13 +207,102 @@ private slots:
         QCOMPARE(f->stored(), expected);
     }
 
+    // What the user did not touch is the other program's; "autoapn" and "apn" count as one, "password" with its method
+    // too.
+    void editMeetsEdit_data() {
+        const Rows<QString, QString, QString> row("typed", "others", "stored");
+        row("another field", "UsernamelineEdit=me", "apn=theirs password=new", "*99#|me|new|false|theirs|r");
+        row("the same field", "ApnlineEdit=mine", "apn=theirs", "*99#|u|p|false|mine|r");
+        row("one of two that go together", "ApnlineEdit=mine", "autoapn=true", "*99#|u|p|false|mine|r");
+        row("both were theirs", "AccessNumberlineEdit=1", "autoapn=true apn=", "1|u|p|true||r");
+        row("not on the page", "AccessNumberlineEdit=1", "Remember=true dns=9.9.9.9", "1|u|p|false|net|true");
+        row("emptied", "AccessNumberlineEdit=1", "user=", "1||p|false|net|r");
+        row("renamed by the user", "LineEditProfileName=New", "apn=theirs", "*99#|u|p|false|theirs|r");
+    }
+    void editMeetsEdit() {
+        f->functions += "<item name='ENCRYPT' value='true'/>";
+        f->start(F::profile("Home", QByteArray(Full).replace("'p'", "'cA=='")), "<Default name='Home' IsUserSet='1'/>");
+        f->click("BtnEditProfile");
+        const QStringList typed = cell("typed").split('=');
+        F::type(f->edit(qPrintable(typed[0])), typed[1]);
+        F::otherProcess(QStringList({"set", "Home"}) + cell("others").split(' '));
+        f->click("BtnsaveProfile");
+        const QString name = typed[0] == "LineEditProfileName" ? typed[1] : "Home";
+        QCOMPARE(f->stored(), QStringList(name));
+        const DialupProfile now = profileOf(name);
+        const QStringList fields = {now.phonenumber, now.user, now.password, now.autoapn, now.apn, now.Remember};
+        QTEST(fields.join('|'), "stored");
+        QCOMPARE(f->storedDefault(), name + "/1");
+    }
+
+    // The page shows less than is stored: an access name that is not used, a text longer than can be typed.
+    void savingKeepsWhatIsShownOtherwise() {
+        const QByteArray longUser(60, 'u');
+        f->start(F::profile("Home", "phonenumber='1' autoapn='true' apn='net' user='" + longUser + "'"));
+        f->click("BtnEditProfile");
+        F::type(f->edit("AccessNumberlineEdit"), "2");
+        f->click("BtnsaveProfile");
+        QCOMPARE(f->stored("Home", "phonenumber autoapn apn chap user"), "2|true|net|false|" + QString(longUser));
+    }
+
+    // Two entries may read alike: the default with its mark, and a profile whose name is just that text.
+    void markBelongsToOneEntry() {
+        f->start();
+        f->stop();
+        const QByteArray mark = ' ' + text("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT").toUtf8();
+        const QString alike = "Alpha" + QString::fromUtf8(mark);
+        f->start(F::profile("Alpha", "phonenumber='1'") + F::profile("Alpha" + mark, "phonenumber='2'"),
+                 "<Default name='Alpha' IsUserSet='1'/>");
+        QCOMPARE(f->listed(), QStringList({alike, alike}));
+        f->combo()->setCurrentIndex(1);
+        QCOMPARE(f->edit("AccessNumberlineEdit")->text(), QString("2"));
+        f->click("BtnSetDefaultProfile");
+        QCOMPARE(f->storedDefault(), alike + "/1");
+        QCOMPARE(f->listed(), QStringList({"Alpha", alike + QString::fromUtf8(mark)}));
+        QCOMPARE(f->profiles->SetDefaultDialUpProfileName("Alpha"), 0);
+        QCOMPARE(f->profiles->SetDefaultDialUpProfileName(alike), 0);  // a name, as it stands
+        QCOMPARE(f->storedDefault(), alike + "/1");
+        QCOMPARE(f->profiles->SetDefaultDialUpProfileName("Alpha"), 0);
+        f->combo()->setCurrentIndex(1);
+        f->dialup.connected = alike;
+        f->show();
+        f->combo()->setCurrentIndex(1);
+        QVERIFY(!f->enabled("BtnDeleteProfile"));
+        f->dialup.connected = QString();
+        f->combo()->setCurrentIndex(0);
+        f->combo()->setCurrentIndex(1);
+        f->answers.yes();
+        f->click("BtnDeleteProfile");
+        QCOMPARE(f->stored(), QStringList("Alpha"));
+        QCOMPARE(f->storedDefault(), QString("Alpha/1"));
+    }
+
+    void editBesideAnAlikeName() {
+        f->start(F::profile("Alpha") + F::profile("Alpha (Default)"));
+        f->select("Alpha");
+        f->click("BtnEditProfile");
+        F::type(f->edit("AccessNumberlineEdit"), "7");
+        f->click("BtnsaveProfile");
+        QCOMPARE(f->stored("Alpha", "phonenumber"), QString("7"));
+    }
+
+    void emptyNameCanBeDeleted() {
+        f->start(F::profile("", "phonenumber='1'") + F::profile("Work"));
+        QCOMPARE(f->listed(), QStringList({"", "Work"}));
+        f->combo()->setCurrentIndex(0);
+        QCOMPARE(f->edit("AccessNumberlineEdit")->text(), QString("1"));
+        f->answers.yes();
+        f->click("BtnDeleteProfile");
+        QCOMPARE(f->stored(), QStringList("Work"));
+    }
+
     // Saving brings back what another process has deleted.
     void anotherProcessDeletesTheEdited() {
         f->start(F::profile("Home") + F::profile("Work", "phonenumber='2'"));
         for (const char* button : {"BtnUndoProfile", "BtnsaveProfile"}) {
             f->select("Home");
             f->click("BtnEditProfile");
-            F::otherProcess("delete", "Home");
+            F::otherProcess({"delete", "Home"});
             F::changeCard();
             f->click(button);
             const bool undone = !f->stored().contains("Home");
@@ -221,7 +310,7 @@ private slots:
             if (!undone) break;
             QCOMPARE(f->combo()->currentText(), QString("Work"));
             QCOMPARE(f->edit("AccessNumberlineEdit")->text(), QString("2"));
-            F::otherProcess("add", "Home");
+            F::otherProcess({"add", "Home"});
             F::changeCard();
         }
         QCOMPARE(f->stored(), QStringList({"Home", "Work"}));
@@ -269,6 +358,12 @@ private slots:
     }
 
 private:
+    DialupProfile profileOf(const QString& name) const {
+        DialupProfile profile;
+        f->profiles->GetDialUpProfile(name, &profile);
+        return profile;
+    }
+
     void interrupt(const QString& what) {
         if (what == "card") F::changeCard();
         if (what == "language") f->language(TestFolder::language() == "ar" ? "en" : "ar");
@@ -277,7 +372,7 @@ private:
         if (what == "default") f->profiles->SetDefaultDialUpProfileName("Zulu");
         if (what == "show") f->show();
         if (what == "other process") {
-            F::otherProcess("add", "Other");
+            F::otherProcess({"add", "Other"});
             F::changeCard();
         }
     }

@@ -253,7 +253,7 @@ int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const
 
     DialupProfile stored = profile;
     if (isRenamed) stored.langid = QLatin1String("");
-    if (m_strDefaultProfile == oldName) SetDefaultDialUpProfileName(profile.name, m_bIsUserSet);
+    if (m_strDefaultProfile == oldName && !oldName.isEmpty()) SetDefaultDialUpProfileName(profile.name, m_bIsUserSet);
     const int index = m_Store.find(oldName);
     if (index >= 0) DelDialUpProfile(oldName);
     int status = AddDialUpProfile(stored);

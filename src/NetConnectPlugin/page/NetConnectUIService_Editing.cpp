@@ -7,7 +7,6 @@
 void CNetConnectUIService::beginEdit(Operation operation, const QString& shownName) {
     m_Edit.open = true;
     m_Edit.name = currentProfileName();
-    m_Edit.langid = operation == EditingExisting ? m_CurrentProfile.langid : QString();
     m_bEditExisting = operation == EditingExisting;
     m_Page.profiles->hide();
     m_Page.name->setText(shownName);
@@ -45,13 +44,14 @@ void CNetConnectUIService::onClickEditButton() {
     if (!m_Page.profiles || !m_pLogic || m_Edit.open) return;
     const QString name = currentProfileName();
     rebuildList();  // another program may have changed the profile, or a connection have come up
-    const int index = findProfile(name);
-    if (index >= 0) m_Page.profiles->setCurrentIndex(index);
+    selectProfile(name);
     applyProfileLocks();
-    if (index < 0 || !m_Page.edit->isEnabled()) return;
+    if (currentProfileName() != name || !m_Page.edit->isEnabled()) return;
     m_strEditProfileName = m_Page.profiles->currentText();
     beginEdit(EditingExisting, name);
     enableDisableUiWidget(true);
+    m_Edit.begun = m_CurrentProfile;
+    m_Edit.shown = enteredProfile();
 }
 
 // The stored name when what was shown is unchanged: the stored one may have followed the language meanwhile,
@@ -69,8 +69,7 @@ bool CNetConnectUIService::onClickSaveButton() {
         if (self) m_nOperation = Idle;
         return false;
     }
-    DialupProfile profile = m_CurrentProfile;
-    putProfileData(&profile);
+    const DialupProfile profile = enteredProfile();
     const int status = storeProfile(profile);
     if (status == 0)
         finishSave(profile.name);
@@ -79,10 +78,17 @@ bool CNetConnectUIService::onClickSaveButton() {
     return status == 0;
 }
 
+DialupProfile CNetConnectUIService::enteredProfile() {
+    DialupProfile profile = m_CurrentProfile;
+    putProfileData(&profile);
+    return profile;
+}
+
 int CNetConnectUIService::storeProfile(const DialupProfile& profile) {
     if (!m_bEditExisting) return m_pLogic->AddDialUpProfile(profile);
-    m_strEditProfileName = withoutMark(m_strEditProfileName);
-    return m_pLogic->ReplaceDialUpProfile(m_strEditProfileName, profile);
+    m_strEditProfileName = m_Edit.name;  // without its mark
+    const NetConnectProfileEdit edit = {m_Edit.begun, m_Edit.shown, profile};
+    return m_pLogic->MergeDialUpProfile(m_strEditProfileName, edit);
 }
 
 // What was typed stays; the list is read again, since another program may have changed it.
@@ -102,8 +108,7 @@ void CNetConnectUIService::finishSave(const QString& name) {
     m_Page.profiles->show();
     m_Page.name->hide();
     m_Page.profiles->setFocus();
-    const int saved = m_Page.profiles->findText(name);
-    if (saved >= 0) m_Page.profiles->setCurrentIndex(saved);
+    selectProfile(name);
     enableDisableUiWidget(false);
     endEdit();
     m_bHiddenWhileOpen = false;
@@ -145,7 +150,8 @@ void CNetConnectUIService::deleteProfile(const QString& name) {
         m_pLogic->DelDialUpProfile(name);  // first, since it takes in a default that another program has set
         QString defaultName;
         m_pLogic->GetDefaultDialUpProfileName(&defaultName);
-        if (defaultName == name) m_pLogic->SetDefaultDialUpProfileName(QString::fromLatin1(""), false);
+        if (!name.isEmpty() && defaultName == name)
+            m_pLogic->SetDefaultDialUpProfileName(QString::fromLatin1(""), false);
         action.commit();
     }
     rebuildList();
@@ -159,7 +165,8 @@ void CNetConnectUIService::deleteProfile(const QString& name) {
 void CNetConnectUIService::onClickDefaultButton() {
     if (!m_Page.profiles || !notifyService()) return;
     INetConnectSetting* const profiles = this;
-    if (profiles->SetDefaultDialUpProfileName(m_Page.profiles->currentText()) == 0)
+    const bool isMarked = m_Page.profiles->currentIndex() == m_nDefaultIndex;  // it is the default already
+    if (isMarked || profiles->SetDefaultDialUpProfileName(currentProfileName()) == 0)
         notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
 }
 

@@ -33,10 +33,7 @@ int CNetConnectUIService::ShowSettingDialog(QWidget* parent, QRect& rect) {
     return 1;
 }
 
-void CNetConnectUIService::refreshDefaultItem() {
-    m_Page.profiles->setItemText(m_nDefaultIndex, withoutMark(m_Page.profiles->itemText(m_nDefaultIndex)));
-    selectDefaultProfile();
-}
+void CNetConnectUIService::refreshDefaultItem() { selectDefaultProfile(); }
 
 void CNetConnectUIService::showDefaultButton() {
     const QString load =

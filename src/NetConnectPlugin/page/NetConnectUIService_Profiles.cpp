@@ -21,8 +21,7 @@ int CNetConnectUIService::SaveDialUpProfile(DialupProfile profile) {
     }
     rebuildList();
     if (m_Edit.open || !m_Page.profiles) return 0;
-    const int saved = m_Page.profiles->findText(profile.name);
-    if (saved >= 0) m_Page.profiles->setCurrentIndex(saved);
+    selectProfile(profile.name);
     enableDisableUiWidget(false);
     return 0;
 }
@@ -40,8 +39,6 @@ int CNetConnectUIService::GetDefaultDialUpProfileName(QString* name) {
 int CNetConnectUIService::SetDefaultDialUpProfileName(QString name) {
     if (!logic(true) || !m_Page.profiles) return StatusNoLogic;
     if (name.isEmpty() || withoutMark(name) != name) return 0;
-    if (m_nDefaultIndex != -1)
-        m_Page.profiles->setItemText(m_nDefaultIndex, withoutMark(m_Page.profiles->itemText(m_nDefaultIndex)));
     m_pLogic->SetDefaultDialUpProfileName(name, true);
     selectDefaultProfile();
     return 0;

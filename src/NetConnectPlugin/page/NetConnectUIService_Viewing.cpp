@@ -22,7 +22,7 @@ void CNetConnectUIService::showAllProfiles() {
     if (!m_Page.profiles || !m_pLogic || !m_Page.deleteProfile || !m_Page.edit || !m_Page.setDefault) return;
     m_bListAwaited = false;
     m_nDefaultIndex = -1;
-    m_Page.profiles->clear();
+    m_Page.profiles->clear();  // the mark goes along
     m_DefaultAPNProfileList.clear();
     QList<QString> names;
     if (m_pLogic->GetAllDialUpProfile(&names) == 0 && !names.isEmpty()) {
@@ -37,39 +37,65 @@ void CNetConnectUIService::showAllProfiles() {
 void CNetConnectUIService::selectDefaultProfile() {
     QString name;
     if (!m_pLogic || m_pLogic->GetDefaultDialUpProfileName(&name) != 0 || !m_Page.profiles) return;
-    m_nDefaultIndex = m_Page.profiles->findText(name);
-    if (m_nDefaultIndex >= 0) markDefaultProfile(name);
+    unmarkDefaultProfile();
+    const int index = name.isEmpty() ? -1 : findProfile(name);  // an empty name stands for no default
+    if (index >= 0) {
+        m_nDefaultIndex = index;
+        markDefaultProfile(name);
+    }
     selectEditedProfile();
 }
 
 void CNetConnectUIService::markDefaultProfile(const QString& name) {
+    m_strMarkedName = name;
     m_Page.profiles->setItemText(m_nDefaultIndex, name + defaultMark());
     m_Page.profiles->setCurrentIndex(m_nDefaultIndex);
     onSelectProfile(name);
     qDebug("%s : %s : %s Default profile has been set", traceTime().constData(), __FILE__, "selectDefaultProfile");
 }
 
+void CNetConnectUIService::unmarkDefaultProfile() {
+    if (m_nDefaultIndex >= 0) m_Page.profiles->setItemText(m_nDefaultIndex, m_strMarkedName);
+    m_nDefaultIndex = -1;
+}
+
+void CNetConnectUIService::selectProfile(const QString& name) {
+    const int index = findProfile(name);
+    if (index >= 0) m_Page.profiles->setCurrentIndex(index);
+}
+
 void CNetConnectUIService::selectEditedProfile() {
     if (!m_Edit.open) return;
-    const QString translation = m_Edit.langid.isEmpty() ? QString() : tr(m_Edit.langid);
-    if (findProfile(m_Edit.name) < 0 && findProfile(translation) >= 0) m_Edit.name = translation;
+    const QString langid = m_Edit.begun.langid;  // a name that follows the language
+    const QString translation = langid.isEmpty() ? QString() : tr(langid);
+    if (!translation.isEmpty() && findProfile(m_Edit.name) < 0 && findProfile(translation) >= 0)
+        m_Edit.name = translation;
     const int index = findProfile(m_Edit.name);
     // Deleted by another program: without a current profile, every name in the list is another one's.
     if (index >= 0 || m_bEditExisting) m_Page.profiles->setCurrentIndex(index);
     if (m_bEditExisting) m_strEditProfileName = index < 0 ? m_Edit.name : m_Page.profiles->itemText(index);
 }
 
-int CNetConnectUIService::findProfile(const QString& bareName) const {
-    if (bareName.isEmpty()) return -1;
-    const int plain = m_Page.profiles->findText(bareName);
-    return plain >= 0 ? plain : m_Page.profiles->findText(bareName + defaultMark());
+QString CNetConnectUIService::profileName(int index) const {
+    return index == m_nDefaultIndex ? m_strMarkedName : m_Page.profiles->itemText(index);
 }
 
-QString CNetConnectUIService::currentProfileName() const { return withoutMark(m_Page.profiles->currentText()); }
+int CNetConnectUIService::findProfile(const QString& name) const {
+    for (int i = 0; m_Page.profiles && i < m_Page.profiles->count(); ++i)
+        if (profileName(i) == name) return i;
+    return -1;
+}
 
+QString CNetConnectUIService::currentProfileName() const {
+    const int index = m_Page.profiles->currentIndex();
+    return index < 0 ? QString() : profileName(index);
+}
+
+// The list says which of two entries that read alike is meant; from elsewhere a name may come with its mark.
 void CNetConnectUIService::onSelectProfile(QString strProfile) {
     if (!m_pLogic || m_Edit.open || m_nOperation == EnteringNew || m_nOperation == EditingExisting) return;
-    m_pLogic->GetDialUpProfile(withoutMark(strProfile), &m_CurrentProfile);
+    const bool fromList = m_Page.profiles && strProfile == m_Page.profiles->currentText();
+    m_pLogic->GetDialUpProfile(fromList ? currentProfileName() : withoutMark(strProfile), &m_CurrentProfile);
     m_strProfileType = m_CurrentProfile.type;
     m_strReadOnly = m_CurrentProfile.readonly;
     showAPNSetting();
