@@ -130,6 +130,15 @@ public:
     // True when the user's file holds a profile of that name, as last read.
     bool HasUserProfile(const QString& name);
 
+    // Counts how often the user's file was found as another program had left it.
+    int UserFileRevision() const;
+
+    // True when the user's file no longer is what it was at that revision, but for what was written here.
+    bool IsUserFileNewer(int revision);
+
+    // The user's file; empty when its folder can't be had.
+    QString UserFilePath() const;
+
     // True while the user's profiles are still to be read.
     bool AreProfilesAwaited() const;
 

@@ -6,6 +6,8 @@
 #include "Change.h"
 #include "CommonUtils.h"
 #include "NetConnectAdvancedSettingDlg.h"
+#include "NetConnectPageWatch.h"
+#include "NetConnectReloadGate.h"
 #include "NetConnectSettingUILogic.h"
 #include "Startup.h"
 #include "Trace.h"
@@ -21,7 +23,10 @@ CNetConnectUIService* CNetConnectUIService::instance() {
     return m_pInstance;
 }
 
-CNetConnectUIService::CNetConnectUIService() { CallTrace trace(__FILE__, "CNetConnectUIService"); }
+CNetConnectUIService::CNetConnectUIService() : m_pReloadGate(new NetConnectReloadGate(this)) {
+    CallTrace trace(__FILE__, "CNetConnectUIService");
+    connect(m_pReloadGate, SIGNAL(reload()), this, SLOT(onDeviceInitailize()));
+}
 
 CNetConnectUIService::~CNetConnectUIService() {}
 
@@ -32,6 +37,7 @@ void CNetConnectUIService::Destroy() {
 }
 
 void CNetConnectUIService::OnDestroy() {
+    m_pReloadGate->close();
     NetConnectSettingUILogic::Destroy();
     NetConnectAdvancedSettingDlg::Destroy();
     m_pLogic = 0;
@@ -43,7 +49,7 @@ void CNetConnectUIService::OnDestroy() {
     m_pNotifyServicePlugin = 0;
     m_pNotifyService = 0;
     m_bActive = m_bHiddenWhileOpen = m_bClosedByButton = false;
-    m_bImporting = m_bReloadPending = m_bListAwaited = false;
+    m_bImporting = m_bReloadPending = m_bListAwaited = m_bBrowsed = false;
 }
 
 void CNetConnectUIService::forgetPage() {
@@ -67,7 +73,7 @@ bool CNetConnectUIService::Init() {
     if (m_pNetConnectWidget) return true;
     m_pLogic = NetConnectSettingUILogic::GetInstance(NetConnectSettingUILogic::WhenNeeded);
     if (!m_pLogic) return false;
-    connect(m_pLogic, SIGNAL(DeviceInit()), this, SLOT(onDeviceInitailize()), Qt::UniqueConnection);
+    connect(m_pLogic, SIGNAL(DeviceInit()), m_pReloadGate, SLOT(request()), Qt::UniqueConnection);
     connect(this, SIGNAL(SysModeChangedSignal()), this, SLOT(onDeviceInitailize()), Qt::UniqueConnection);
     m_pLogic->PublishStatus(this);
     m_pLogic->RegisterDevice();
@@ -143,9 +149,11 @@ void CNetConnectUIService::tell(const QString& message, QWidget* parent) const {
                              QString::fromLatin1("IDS_OK"));
 }
 
-bool CNetConnectUIService::ask(QMessageBox::Icon icon, const QString& question, QWidget* parent) const {
-    return CommonUtils::ShowMessage(icon, parent, text("IDS_PROMPT_CAPTION"), question, QString::fromLatin1("IDS_YES"),
-                                    QString::fromLatin1("IDS_NO")) == CommonUtils::FirstButton;
+int CNetConnectUIService::question(QMessageBox::Icon icon, const QString& message, QWidget* parent,
+                                   CommonUtils::MessageAnswer defaultAnswer) const {
+    return CommonUtils::ShowMessage(icon, parent, text("IDS_PROMPT_CAPTION"), message, QString::fromLatin1("IDS_YES"),
+                                    QString::fromLatin1("IDS_NO"), QString(), QString(), true,
+                                    Qt::WindowCloseButtonHint, defaultAnswer);
 }
 
 IDialupUIService* CNetConnectUIService::GetDialUpPlugin() {
@@ -177,6 +185,7 @@ void CNetConnectUIService::findNotifyService() {
                                                                   NotifyServicePluginKind)
                                  : 0;
     m_pNotifyService = qobject_cast<INotifyService*>(m_pNotifyServicePlugin.data());
+    if (m_pPageWatch) m_pPageWatch->listenTo(m_pNotifyServicePlugin);
 }
 
 INotifyService* CNetConnectUIService::notifyService() const { return m_pNotifyServicePlugin ? m_pNotifyService : 0; }

@@ -28,6 +28,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "CommonUtils.h"
 #include "ExtendDialog.h"
 #include "ExtendLineEdit.h"
 #include "IDialupUIService.h"
@@ -38,6 +39,8 @@
 #include "NetConnectPasswordHint.h"
 
 class NetConnectAdvancedSettingDlg;
+class NetConnectPageWatch;
+class NetConnectReloadGate;
 class NetConnectSettingUILogic;
 
 // One instance per process, made on first use. Everything is for the GUI thread.
@@ -148,9 +151,11 @@ private:
     QString defaultMark() const;
     QString withoutMark(const QString& name) const;
 
-    // Message boxes. After either, the service or its page may be gone.
+    // Message boxes. After any of them, the service or its page may be gone. question answers yes (1024), no, or
+    // nothing at all (0).
     void tell(const QString& message, QWidget* parent) const;
-    bool ask(QMessageBox::Icon icon, const QString& question, QWidget* parent) const;
+    int question(QMessageBox::Icon icon, const QString& message, QWidget* parent,
+                 CommonUtils::MessageAnswer defaultAnswer = CommonUtils::FirstButton) const;
 
     // --- the host's settings dialog ---
     bool settleOpenEdit();
@@ -181,6 +186,8 @@ private:
     void showAllProfiles();
     void selectDefaultProfile();
     void rebuildList();
+    void rebuildListUnderSelection();
+    void followUserFile();
     void markDefaultProfile(const QString& name);
     void unmarkDefaultProfile();
     void selectProfile(const QString& name);
@@ -197,6 +204,8 @@ private:
     void enableDisableDefaultButton(bool enable);
     void applyProfileLocks();
     const char* profileLock();
+    const char* defaultLock();
+    bool tellLock(const char* reason);
     void lockButton(QPushButton* button, const char* reason);
     void applySettingsFromConfigFile();
     bool isAPNGroupWanted();
@@ -223,6 +232,7 @@ private:
 
     // --- import and export ---
     void openTransferDialog(bool import);
+    void finishTransfer();
     void initImportExportDialog();
     void createTransferWidgets();
     void initImportExportTree();
@@ -313,9 +323,13 @@ private:
     int m_nOperation = Idle;
 
     OpenEdit m_Edit;
-    bool m_bImporting = false;      // a clash question may be on screen
-    bool m_bReloadPending = false;  // a reload that came meanwhile
-    bool m_bListAwaited = false;    // the list is filled after the page's first paint
+    NetConnectReloadGate* m_pReloadGate;         // before onDeviceInitailize(), for the device's events
+    QPointer<NetConnectPageWatch> m_pPageWatch;  // the page's
+    int m_nShownRevision = 0;                    // of the user's file, as the list shows it
+    bool m_bBrowsed = false;                     // a file that may be imported from left its default in the logic
+    bool m_bImporting = false;                   // a clash question may be on screen
+    bool m_bReloadPending = false;               // a reload that came meanwhile
+    bool m_bListAwaited = false;                 // the list is filled after the page's first paint
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "Host.h"
 
+#include <QApplication>
 #include <QEvent>
 
 #include "Change.h"
@@ -18,6 +19,8 @@ Host::Host() : m_Plugins(&m_NotifyService) {
     connect(&m_Refresh, &QTimer::timeout, &m_Window, &MainWindow::refresh);
     connect(&m_SettingsPage, &HostSettingsPage::languageChosen, this, &Host::changeLanguage);
     connectModemPanel();
+    // A session that ends waits for no answer; a signal ends the event loop, and the pages go with what is open.
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { m_Window.pages()->abandon(); });
 
     m_Plugins.start(CommonUtils::GetPluginLibraryPath() + QStringLiteral("/plugins"));
     m_Window.pages()->setPages(m_Plugins.pages() + QVector<SettingsPage>{{&m_SettingsPage, &m_SettingsPage, "Host"}});

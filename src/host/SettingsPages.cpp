@@ -76,6 +76,8 @@ QStringList SettingsPages::pageNames() const {
 
 bool SettingsPages::finish() { return ask(&ISettingUIPlugin::OnClickSettingOkButton); }
 
+void SettingsPages::abandon() { onClickCancel(); }
+
 void SettingsPages::retranslate() {
     const QSignalBlocker quiet(m_List);
     m_List->clear();

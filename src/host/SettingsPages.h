@@ -36,6 +36,9 @@ public:
     // Asks the present page as OK does; false when it refuses to go.
     bool finish();
 
+    // Undoes what is being edited, without a question: the session ends.
+    void abandon();
+
     // Sets every text again.
     void retranslate();
 

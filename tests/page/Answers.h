@@ -68,6 +68,16 @@ public:
     void yes(Step meanwhile = Step()) { box(CommonUtils::FirstButton, meanwhile); }
     void no(Step meanwhile = Step()) { box(CommonUtils::SecondButton, meanwhile); }
 
+    // A message box that is closed without one of its buttons.
+    void dismiss(Qt::Key key = Qt::Key_unknown) {
+        m_Steps.append([this, key] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            texts.append(box->text());
+            key == Qt::Key_unknown ? void(box->close()) : QTest::keyClick(box, key);
+        });
+    }
+
     // A file dialog: types the path and accepts, or rejects when the path is empty.
     void file(const QString& path) {
         m_Steps.append([path] {

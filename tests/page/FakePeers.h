@@ -39,14 +39,22 @@ public:
     }
     ~FakeNotifyService() override { Startup::GetPluginContainer()->RemovePlugin(this); }
 
-    void AddListener(QString, INotify*) override {}
-    void RemoveListener(INotify*) override {}
+    void AddListener(QString clsid, INotify* listener) override {
+        if (clsid == ORBISDIAL_HOST_LISTENER_CLSID) hostListeners.append(listener);
+    }
+    void RemoveListener(INotify* listener) override { hostListeners.removeAll(listener); }
     int SendNotify(QString clsid, unsigned int event, unsigned int param1, unsigned int param2) override {
         sent.append(QString("%1 %2 %3 %4").arg(clsid).arg(event).arg(param1).arg(param2));
         return 0;
     }
 
+    // As the dialler tells the host.
+    void connectionChanged() {
+        for (INotify* listener : hostListeners) listener->Notify(NotifyConnectionChanged, 0, 0);
+    }
+
     QStringList sent;
+    QList<INotify*> hostListeners;
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include <QPluginLoader>
 #include <QProcess>
 #include <QXmlStreamReader>
+#include <cstdio>
 #include <memory>
 
 #include "Answers.h"
@@ -57,6 +58,11 @@ public:
         QStringList sorted = names(userFile());
         sorted.sort();
         return sorted;
+    }
+    // As careful programs replace a file: by a rename.
+    static bool replaceFile(const QString& file, const QByteArray& content) {
+        TestFolder::write(file + ".new", content);
+        return std::rename(QFile::encodeName(file + ".new").data(), QFile::encodeName(file).data()) == 0;
     }
     // Attributes of a stored profile, with bars between.
     QString stored(const QString& name, const QString& wanted) const {

@@ -80,6 +80,19 @@ private slots:
         QCOMPARE(taken.join(' '), QString("4.4.4.4 false true 1.1.1.1 223.255.255.255  "));
     }
 
+    void beginsAnewAfterItsWindowWent() {
+        dialog()->InitAdvanceUI(nullptr);
+        show();
+        delete frame();
+        DialupProfile profile;
+        profile.dns = "1.1.1.1";
+        dialog()->InitAdvanceUI(nullptr);
+        dialog()->SetProfileAdvanceSetting(profile, "NEW");
+        show();
+        QCOMPARE(find<QLineEdit>("LineEditPrimaryDNS", "GroupBoxDNSSetting")->text(), QString("1.1.1.1"));
+        click("ButtonOkAdvance");
+    }
+
     void pageBringsItToLife() {
         CNetConnectUIService* service = CNetConnectUIService::instance();
         NetConnectUIServiceTestAccess::giveAdvancedDialog(service);

@@ -1,4 +1,6 @@
 // The page's widgets, texts and locks, and what the host's settings dialog asks of it.
+#include <QElapsedTimer>
+
 #include "CommonUtils.h"
 #include "PageFixture.h"
 
@@ -94,6 +96,98 @@ private slots:
         QCOMPARE(f->enabled("BtnSetDefaultProfile"), connected.isNull());
     }
 
+    // A connection that comes up while the pointer rests on a button, and one that the dialler tells of.
+    void connectionUnderThePointer_data() {
+        nameRows("what", {"BtnDeleteProfile", "in the question", "BtnSetDefaultProfile", "BtnEditProfile", "told"});
+    }
+    void connectionUnderThePointer() {
+        f->start(F::profile("Home") + F::profile("Work"), "<Default name='Work' IsUserSet='1'/>");
+        f->select("Home");
+        const QByteArray what = cell("what").toLatin1();
+        const bool isTold = what == "told", isDefault = what == "BtnSetDefaultProfile";
+        const char* const clicked = what.startsWith("Btn") ? what.data() : "BtnDeleteProfile";
+        QTest::mouseMove(f->find(clicked), QPoint(8, f->find(clicked)->height() / 2));
+        QCoreApplication::processEvents();
+        if (what == "in the question")
+            f->answers.yes([this] { f->dialup.connected = "Home"; });
+        else
+            f->dialup.connected = "Home";
+        const char* reason =
+            isDefault ? "IDS_NETCONNECT_TIP_DEFAULT_CONNECTED" : "IDS_NETCONNECT_TIP_PROFILE_CONNECTED";
+        if (!isTold) f->answers.ok();
+        isTold ? f->notify->connectionChanged() : f->click(clicked);
+        QVERIFY(f->answers.allGiven());
+        if (!isTold) QCOMPARE(f->answers.texts.last(), Change::tr(reason, "NetConnectPlugin"));
+        const QWidget* button = f->find(isDefault ? "BtnSetDefaultProfile" : "BtnDeleteProfile");
+        QVERIFY(!button->isEnabled());
+        QCOMPARE(button->accessibleDescription(), Change::tr(reason, "NetConnectPlugin"));
+        QCOMPARE(f->stored(), QStringList({"Home", "Work"}));
+        QCOMPARE(f->storedDefault(), QString("Work/1"));
+        QVERIFY(f->notify->sent.isEmpty());
+    }
+
+    // --- other programs ---
+
+    void followsOtherPrograms_data() {
+        nameRows("how", {"replaced", "written in place", "folder moved away and made anew", "removed"});
+    }
+    void followsOtherPrograms() {
+        f->start(F::profile("Home") + F::profile("Work") + F::profile("Zulu"), "<Default name='Home' IsUserSet='1'/>");
+        f->select("Work");
+        const QByteArray theirs = F::document(F::profile("New") + F::profile("Work", "phonenumber='5'"));
+        const QString how = cell("how"), folder = QFileInfo(f->userFile()).path();
+        const auto write = [&] { TestFolder::write(f->userFile(), theirs); };
+        if (how == "replaced") QVERIFY(F::replaceFile(f->userFile(), theirs));
+        if (how == "written in place") write();
+        if (how == "removed") QVERIFY(QFile::remove(f->userFile()));
+        if (how.startsWith("folder")) {
+            QVERIFY(QDir().rename(folder, folder + ".old"));
+            write();
+        }
+        const QStringList expected = how == "removed" ? QStringList() : QStringList({"New", "Work"});
+        QElapsedTimer timer;
+        timer.start();
+        QTRY_COMPARE(f->listed(), expected);
+        QVERIFY(timer.elapsed() < 1000);
+        QCOMPARE(f->notify->sent, QStringList({"92804312-432E-401F-96BB-1C20D852815D 512 0 0",
+                                               "DF986A92-844C-42b6-A03C-26B837BF1C53 512 0 0"}));
+        if (how == "removed") return;
+        QCOMPARE(f->combo()->currentText(), QString("Work"));
+        QCOMPARE(f->edit("AccessNumberlineEdit")->text(), QString("5"));
+        QCOMPARE(TestFolder::read(f->userFile()), theirs);  // nothing was stored
+        // What the page stores itself is no news to it, and the next change of another program is.
+        QCOMPARE(f->save("Mine"), 0);
+        QTest::qWait(400);
+        QCOMPARE(f->notify->sent.size(), 2);
+        QVERIFY(F::replaceFile(f->userFile(), theirs));
+        QTRY_COMPARE(f->listed(), expected);
+    }
+
+    // An open edit meets what came meanwhile at its end.
+    void anOpenEditDoesNotFollow() {
+        f->start(F::profile("Home"));
+        f->click("BtnEditProfile");
+        QVERIFY(F::replaceFile(f->userFile(), F::document(F::profile("Home") + F::profile("New"))));
+        QTest::qWait(400);
+        QCOMPARE(f->listed(), QStringList("Home"));
+        f->click("BtnUndoProfile");
+        QCOMPARE(f->listed(), QStringList({"Home", "New"}));
+    }
+
+    // Events that come faster than lists are read leave the window alive.
+    void burstOfEvents() {
+        f->start(F::profile("Home"));
+        enum { Events = 400 };
+        for (int i = 0; i < Events; ++i) vrks_simulated_raise_event(VRKS_EVENT_DEV_CARD_CHANGED);
+        vrks_simulated_wait_events();
+        F::replaceFile(f->userFile(), F::document(F::profile("Home") + F::profile("Last")));
+        f->changeCard();
+        QTRY_COMPARE(f->listed(), QStringList({"Home", "Last"}));
+        QTest::qWait(50);
+        QVERIFY2(f->notify->sent.size() < 10, qPrintable(QString::number(f->notify->sent.size())));
+        QVERIFY(QMetaObject::invokeMethod(dynamic_cast<QObject*>(f->profiles), "onDeviceInitailize"));  // at once
+    }
+
     void configuration() {
         const QByteArray on = "' value='true'/>", ask = "<item name='PromptPwd" + on + "<item name='UserCheck" + on;
         const struct {
@@ -149,10 +243,12 @@ private slots:
     }
 
     void okAsksAboutAnOpenEdit_data() {
-        const Rows<bool, QString, bool, QString> row("yes", "number", "goes", "stored");
-        row("yes", true, "*99#", true, "Mine");
-        row("no", false, "*99#", true, "");
-        row("yes, but it can't be saved", true, "", false, "");
+        const Rows<int, QString, bool, QString> row("answer", "number", "goes", "stored");
+        row("yes", 1024, "*99#", true, "Mine");
+        row("no", 4194304, "*99#", true, "");
+        row("yes, but it can't be saved", 1024, "", false, "");
+        row("the box's cross", 0, "*99#", false, "");
+        row("Escape", 1, "*99#", false, "");
     }
     void okAsksAboutAnOpenEdit() {
         QFETCH(bool, goes);
@@ -160,11 +256,17 @@ private slots:
         f->click("pBtnnewProfile");
         F::type(f->edit("LineEditProfileName"), "Mine");
         F::type(f->edit("AccessNumberlineEdit"), cell("number"));
-        f->answers.box(cell<bool>("yes") ? CommonUtils::FirstButton : CommonUtils::SecondButton);
-        if (!goes) f->answers.ok();
+        const int answer = cell<int>("answer");
+        if (answer > 1)
+            f->answers.box(CommonUtils::MessageAnswer(answer));
+        else
+            f->answers.dismiss(answer == 1 ? Qt::Key_Escape : Qt::Key_unknown);
+        const QStringList typed = f->editState();
+        if (!goes && answer > 1) f->answers.ok();
         QCOMPARE(f->setting->HideSetting(), int(goes));
         QVERIFY(f->answers.allGiven());
         QTEST(f->stored().join(','), "stored");
+        if (!goes) QCOMPARE(f->editState(), typed);
         QCOMPARE(f->setting->IsActiveSetting(), !goes);
         f->show();
         QCOMPARE(f->edit("LineEditProfileName")->isVisible(), !goes);

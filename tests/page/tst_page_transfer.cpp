@@ -66,6 +66,30 @@ private slots:
         QCOMPARE(f->combo()->currentText(), QString("Home (Default)"));
     }
 
+    // The opening reads everything again and tells the dialler; an import tells dialler and host. Nothing else does.
+    void notifications_data() {
+        const Rows<int> row("sent");
+        row("export", 1);
+        row("import", 3);
+        row("import, nothing ticked", 1);
+        row("nothing browsed", 1);
+    }
+    void notifications() {
+        const QByteArray what = QTest::currentDataTag();
+        f->start(F::profile("Home"));
+        if (what == "export") {
+            f->answers.file(f->path("out.prof"));
+            exportName("Home");
+        } else {
+            f->click("ButtonImportProfile");
+            if (what.startsWith("import")) browse(F::profile("X"));
+            if (what == "import") tickName("X");
+            f->click("ButtonImportOK");
+        }
+        QTest::qWait(300);  // what was imported is no news either
+        QCOMPARE(f->notify->sent.size(), cell<int>("sent"));
+    }
+
     void eventInTheClashQuestion() {
         for (bool yes : {true, false}) {
             init();

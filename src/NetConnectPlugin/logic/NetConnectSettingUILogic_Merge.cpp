@@ -3,6 +3,7 @@
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectStoreAction.h"
 #include "TruthText.h"
+#include "UserStore.h"
 
 namespace {
 
@@ -53,4 +54,14 @@ int NetConnectSettingUILogic::MergeDialUpProfile(const QString& name, const NetC
     if (HasUserProfile(name)) GetDialUpProfile(name, &stored);
     const int status = ReplaceDialUpProfile(name, merged(edit, stored));
     return status == Success ? action.commit() : status;
+}
+
+int NetConnectSettingUILogic::UserFileRevision() const { return m_Store.revision(); }
+
+bool NetConnectSettingUILogic::IsUserFileNewer(int revision) {
+    return revision != m_Store.revision() || !m_Store.isUpToDate();
+}
+
+QString NetConnectSettingUILogic::UserFilePath() const {
+    return m_pXMLParse ? m_pXMLParse->userProfilePath() : QString();
 }

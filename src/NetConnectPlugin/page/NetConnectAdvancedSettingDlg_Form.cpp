@@ -16,6 +16,9 @@ void traceMissing(const char* format) { qDebug(format, __FILE__, "createProtocol
 
 void NetConnectAdvancedSettingDlg::InitAdvanceUI(QWidget*) {
     if (m_pMainWidget) return;
+    m_IP = m_DNS = m_WINS = AddressGroup();  // the widgets of an earlier time went with their window
+    m_pProtocolGroup = nullptr;
+    m_pChap = m_pPap = nullptr;
     m_pMainWidget = new QWidget;
     m_pMainLayout = new QVBoxLayout(m_pMainWidget);
     m_pMainLayout->setContentsMargins(10, 10, 10, 10);

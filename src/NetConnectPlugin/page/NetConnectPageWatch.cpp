@@ -10,13 +10,30 @@
 static const int LongestWait = 250;
 
 NetConnectPageWatch::NetConnectPageWatch(QWidget* page, CNetConnectUIService* service)
-    : QObject(page), m_pService(service), m_pPage(page) {
+    : QObject(page), m_pService(service), m_pPage(page), m_FileWatch(this) {
     page->installEventFilter(this);
     QTimer::singleShot(LongestWait, this, SLOT(fillAwaitedList()));
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
+    connect(&m_FileWatch, SIGNAL(changed()), this, SLOT(onFileChanged()));
 }
 
-NetConnectPageWatch::~NetConnectPageWatch() { m_pService->forgetPage(); }
+NetConnectPageWatch::~NetConnectPageWatch() {
+    listenTo(nullptr);
+    m_pService->forgetPage();
+}
+
+void NetConnectPageWatch::listenTo(QObject* notifyService) {
+    if (notifyService == m_pNotifyService) return;
+    if (INotifyService* before = qobject_cast<INotifyService*>(m_pNotifyService.data())) before->RemoveListener(this);
+    m_pNotifyService = notifyService;
+    if (INotifyService* now = qobject_cast<INotifyService*>(notifyService))
+        now->AddListener(QString::fromLatin1(ORBISDIAL_HOST_LISTENER_CLSID), this);
+}
+
+int NetConnectPageWatch::Notify(unsigned int event, unsigned int, unsigned int) {
+    if (event == NotifyConnectionChanged) m_pService->applyProfileLocks();
+    return 0;
+}
 
 bool NetConnectPageWatch::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Enter) m_pService->applyProfileLocks();
@@ -25,10 +42,17 @@ bool NetConnectPageWatch::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
+// Not between the press and the release of a mouse button: the click would be lost without a word, where the button's
+// own slot looks again and tells why.
 void NetConnectPageWatch::onFocusChanged(QWidget*, QWidget* now) {
+    if (QApplication::mouseButtons() != Qt::NoButton) return;
     if (now && m_pPage->isAncestorOf(now)) m_pService->applyProfileLocks();
 }
 
 void NetConnectPageWatch::fillAwaitedList() {
     if (m_pService->m_bListAwaited) m_pService->rebuildList();
 }
+
+void NetConnectPageWatch::onTransferClosed() { m_pService->finishTransfer(); }
+
+void NetConnectPageWatch::onFileChanged() { m_pService->followUserFile(); }

@@ -45,8 +45,7 @@ void CNetConnectUIService::onClickEditButton() {
     const QString name = currentProfileName();
     rebuildList();  // another program may have changed the profile, or a connection have come up
     selectProfile(name);
-    applyProfileLocks();
-    if (currentProfileName() != name || !m_Page.edit->isEnabled()) return;
+    if (tellLock(profileLock()) || currentProfileName() != name) return;
     m_strEditProfileName = m_Page.profiles->currentText();
     beginEdit(EditingExisting, name);
     enableDisableUiWidget(true);
@@ -132,15 +131,19 @@ void CNetConnectUIService::onClickUndoButton() {
     if (!marked && dynamic && m_Page.apn->text().isEmpty()) m_Page.apnDynamic->setChecked(true);
     m_Page.name->hide();
     endEdit();
+    followUserFile();  // what came meanwhile
 }
 
 void CNetConnectUIService::onClickDeleteButton() {
-    if (!m_Page.profiles) return;
+    if (!m_Page.profiles || tellLock(profileLock())) return;
     const QString name = currentProfileName();  // an event during the question may move the selection
     const QPointer<CNetConnectUIService> self(this);
-    const bool confirmed = ask(QMessageBox::Question, text("IDS_SMSUI_DRAFT_DEL"), m_pNetConnectWidget);
-    if (!self || !confirmed || !m_Page.profiles || !m_pLogic || m_Edit.open) return;
-    if (findProfile(name) >= 0 && !isProfileConnected(name)) deleteProfile(name);
+    const int answer =
+        question(QMessageBox::Question, text("IDS_SMSUI_DRAFT_DEL"), m_pNetConnectWidget, CommonUtils::SecondButton);
+    if (!self || answer != CommonUtils::FirstButton || !m_Page.profiles || !m_pLogic || m_Edit.open) return;
+    if (findProfile(name) < 0) return;  // another program was faster
+    if (isProfileConnected(name)) return void(tellLock("IDS_NETCONNECT_TIP_PROFILE_CONNECTED"));
+    deleteProfile(name);
 }
 
 void CNetConnectUIService::deleteProfile(const QString& name) {
@@ -163,7 +166,7 @@ void CNetConnectUIService::deleteProfile(const QString& name) {
 }
 
 void CNetConnectUIService::onClickDefaultButton() {
-    if (!m_Page.profiles || !notifyService()) return;
+    if (!m_Page.profiles || !notifyService() || tellLock(defaultLock())) return;
     INetConnectSetting* const profiles = this;
     const bool isMarked = m_Page.profiles->currentIndex() == m_nDefaultIndex;  // it is the default already
     if (isMarked || profiles->SetDefaultDialUpProfileName(currentProfileName()) == 0)

@@ -63,9 +63,10 @@ int CNetConnectUIService::OnClickSettingOkButton() {
 
 bool CNetConnectUIService::settleOpenEdit() {
     const QPointer<CNetConnectUIService> self(this);
-    const bool save = ask(QMessageBox::Information, text("IDS_SETTING_QUERY_USER_TO_SAVE"), m_pNetConnectWidget);
-    if (!self) return true;
-    if (save && m_Edit.open) return onClickSaveButton();
+    const int answer = question(QMessageBox::Information, text("IDS_SETTING_QUERY_USER_TO_SAVE"), m_pNetConnectWidget);
+    if (!self || !m_Page.save) return true;
+    if (answer == CommonUtils::NoAnswer) return !m_Edit.open;  // nobody decided: the edit stays
+    if (answer == CommonUtils::FirstButton && m_Edit.open) return onClickSaveButton();
     onClickUndoButton();
     return true;
 }

@@ -47,7 +47,7 @@ void CNetConnectUIService::initailizeUI() {
 
 void CNetConnectUIService::createLayouts() {
     m_pNetConnectWidget = named(new QWidget, "netConnectwdg");
-    new NetConnectPageWatch(m_pNetConnectWidget, this);
+    m_pPageWatch = new NetConnectPageWatch(m_pNetConnectWidget, this);
     m_pNetConnectWidget->setAttribute(Qt::WA_QuitOnClose, false);
     m_pTabWidget = named(new QTabWidget(m_pNetConnectWidget), "tabWidget");
     m_pDialupTabWidget = named(new QWidget, "DialuptabWdg");

@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 
-#include "CommonUtils.h"
+#include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectUIService.h"
 #include "Trace.h"
@@ -32,6 +32,16 @@ void CNetConnectUIService::openTransferDialog(bool import) {
     m_bImport = import;
     initImportExportDialog();
     setLanguage();
+    m_bBrowsed = false;  // what the opening read is forgotten
+}
+
+// Reading a file to import from leaves its default name in the logic: reading everything again puts the user's back.
+void CNetConnectUIService::finishTransfer() {
+    if (!m_bBrowsed || !m_pLogic) return;
+    m_bBrowsed = false;
+    m_pLogic->Init();
+    applySettingsFromConfigFile();
+    rebuildListUnderSelection();
 }
 
 void CNetConnectUIService::initImportExportDialog() {
@@ -46,8 +56,7 @@ void CNetConnectUIService::initImportExportDialog() {
     connect(m_pBtnImportExportOk, SIGNAL(clicked()), this, SLOT(onClickImportExportOkButton()));
     connect(m_pBtnImportExportCancel, SIGNAL(clicked()), this, SLOT(onClickImportExportCancelButton()));
     connect(m_pBtnImportExportBrowse, SIGNAL(clicked()), this, SLOT(onClickImportExportBrowseButton()));
-    // Reading a file to import from leaves its default name in the logic: a reload puts the user's back.
-    connect(m_pImportExportDialog, SIGNAL(rejected()), this, SLOT(onDeviceInitailize()));
+    connect(m_pImportExportDialog, SIGNAL(rejected()), m_pPageWatch, SLOT(onTransferClosed()));
     CommonUtils::MoveCentre(m_pImportExportDialog);
     m_pImportExportDialog->show();
 }
@@ -99,6 +108,7 @@ void CNetConnectUIService::readProfileFromFile(QString path) {
     createTransferRoot();
     m_pProfileRootItem->setExpanded(true);
     QList<QString> names;
+    m_bBrowsed = m_bImport;
     if (m_bImport)
         m_pLogic->GetDialUpProfileFromFile(&names, path);
     else
@@ -173,8 +183,9 @@ QString CNetConnectUIService::chooseExportFile() {
             tell(text("IDS_NETCONNECT_MSG_EXPORT_WILDCARD"), parent);
             continue;
         }
-        const QString question = file.fileName() + QLatin1Char(' ') + text("IDS_NETCONNECT_MSG_EXPORT_MERGE");
-        if (!file.exists() || ask(QMessageBox::Question, question, parent)) return parent ? path : QString();
+        const QString message = file.fileName() + QLatin1Char(' ') + text("IDS_NETCONNECT_MSG_EXPORT_MERGE");
+        if (!file.exists() || question(QMessageBox::Question, message, parent) == CommonUtils::FirstButton)
+            return parent ? path : QString();
     }
     return QString();
 }
@@ -193,9 +204,11 @@ void CNetConnectUIService::importSelectedProfiles(QStringList* names) {
     if (!self) return;
     m_bImporting = false;
     if (status == 0) {
+        m_bBrowsed = false;
         rebuildList();
         notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
         notifyProfilesChanged(ORBISDIAL_HOST_LISTENER_CLSID);
     }
-    if (m_bReloadPending) onDeviceInitailize();
+    if (m_bReloadPending) return onDeviceInitailize();
+    followUserFile();  // what came meanwhile
 }

@@ -1,5 +1,7 @@
 #include "CallTrace.h"
+#include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"
+#include "NetConnectStoreAction.h"
 #include "NetConnectUIService.h"
 #include "Trace.h"
 #include "TruthText.h"
@@ -18,6 +20,24 @@ void CNetConnectUIService::rebuildList() {
     selectDefaultProfile();
 }
 
+void CNetConnectUIService::rebuildListUnderSelection() {
+    const QString name = currentProfileName();
+    rebuildList();
+    if (!m_Edit.open) selectProfile(name);
+}
+
+// Shows what another program stored, and stores nothing itself. An open edit meets it when it is saved.
+void CNetConnectUIService::followUserFile() {
+    if (!m_pLogic || !m_Page.profiles || m_bListAwaited || m_bImporting || m_Edit.open) return;
+    if (!m_pLogic->IsUserFileNewer(m_nShownRevision)) return;
+    {
+        const NetConnectStoreAction browse(NetConnectStoreAction::Browse);
+        rebuildListUnderSelection();
+    }
+    notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
+    notifyProfilesChanged(ORBISDIAL_HOST_LISTENER_CLSID);
+}
+
 void CNetConnectUIService::showAllProfiles() {
     if (!m_Page.profiles || !m_pLogic || !m_Page.deleteProfile || !m_Page.edit || !m_Page.setDefault) return;
     m_bListAwaited = false;
@@ -30,6 +50,8 @@ void CNetConnectUIService::showAllProfiles() {
         m_Page.profiles->addItems(QStringList(names));
         m_Page.profiles->setCurrentIndex(0);
     }
+    m_nShownRevision = m_pLogic->UserFileRevision();
+    if (m_pPageWatch) m_pPageWatch->watchFile(m_pLogic->UserFilePath());
     selectEditedProfile();
     applyProfileLocks();
 }
@@ -179,14 +201,20 @@ void CNetConnectUIService::enableDisableUIButtons(bool editing) {
 
 void CNetConnectUIService::enableDisableDefaultButton(bool enable) {
     if (!m_Page.setDefault || !m_Page.profiles) return;
-    const char* reason = 0;
-    if (!enable)
-        reason = "IDS_NETCONNECT_TIP_EDIT_OPEN";
-    else if (m_Page.profiles->count() == 0)
-        reason = "IDS_NETCONNECT_TIP_NO_PROFILE";
-    else if (isConnectionUp())
-        reason = "IDS_NETCONNECT_TIP_DEFAULT_CONNECTED";
-    lockButton(m_Page.setDefault, reason);
+    lockButton(m_Page.setDefault, enable ? defaultLock() : "IDS_NETCONNECT_TIP_EDIT_OPEN");
+}
+
+const char* CNetConnectUIService::defaultLock() {
+    if (m_Edit.open) return "IDS_NETCONNECT_TIP_EDIT_OPEN";
+    if (m_Page.profiles->count() == 0) return "IDS_NETCONNECT_TIP_NO_PROFILE";
+    return isConnectionUp() ? "IDS_NETCONNECT_TIP_DEFAULT_CONNECTED" : 0;
+}
+
+// For a button that a connection locked under the pointer. Afterwards the service may be gone.
+bool CNetConnectUIService::tellLock(const char* reason) {
+    applyProfileLocks();
+    if (reason) tell(text(reason), m_pNetConnectWidget);
+    return reason;
 }
 
 void CNetConnectUIService::applyProfileLocks() {
@@ -207,8 +235,10 @@ const char* CNetConnectUIService::profileLock() {
 }
 
 void CNetConnectUIService::lockButton(QPushButton* button, const char* reason) {
+    const QString why = reason ? text(reason) : QString();
     button->setEnabled(!reason);
-    button->setToolTip(reason ? text(reason) : QString());
+    button->setToolTip(why);
+    button->setAccessibleDescription(why);
 }
 
 void CNetConnectUIService::applySettingsFromConfigFile() {

@@ -10,6 +10,7 @@ UserStore& UserStore::instance() {
 
 UserStore::UserStore()
     : m_pFiles(0),
+      m_nRevision(0),
       m_bAwaited(false),
       m_nActions(0),
       m_nOperations(0),
@@ -62,9 +63,13 @@ int UserStore::find(const QString& name) {
 
 // A file that could not be read is read again before anything is written over it, though it did not change.
 void UserStore::rememberFile(int status) {
-    m_Stamp = m_pFiles->userFileStamp();
+    const FileStamp stamp = m_pFiles->userFileStamp();
+    if (stamp != m_Stamp) ++m_nRevision;
+    m_Stamp = stamp;
     if (status == NetConnectStatus::FileNotOpened) m_Stamp.settled = false;
 }
+
+bool UserStore::isUpToDate() const { return !isAttached() || FileStamp::of(m_pFiles->userProfilePath()) == m_Stamp; }
 
 // --- locking ---
 

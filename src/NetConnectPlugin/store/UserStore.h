@@ -54,6 +54,12 @@ public:
     // The default as last read from or written to the user's file.
     NetConnectDefault storedDefault() const { return m_StoredDefault; }
 
+    // How often the file was found as another program had left it.
+    int revision() const { return m_nRevision; }
+
+    // Whether the file still is as it was last read or written here.
+    bool isUpToDate() const;
+
     // --- for the scope objects ---
 
     void beginOperation();
@@ -104,6 +110,7 @@ private:
     std::function<void()> m_Changed;
 
     FileStamp m_Stamp;  // of the user's file as the profiles were read or written
+    int m_nRevision;
     NetConnectDefault m_StoredDefault;
     bool m_bAwaited;
     ProfileIndex m_Index;
