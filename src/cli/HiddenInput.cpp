@@ -1,6 +1,7 @@
 #include "HiddenInput.h"
 
 #include <poll.h>
+#include <pthread.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -16,8 +17,13 @@ namespace {
 // The signal that came; 0 when none did. To be woken is the least of what can come.
 volatile std::sig_atomic_t caught = 0;
 
+pthread_t asking;  // the thread that waits for input
+
 extern "C" void keepSignal(int signal) {
-    if (signal != SIGCONT || caught == 0) caught = signal;
+    if (!pthread_equal(pthread_self(), asking))
+        pthread_kill(asking, signal);  // the device SDK's thread has taken it
+    else if (signal != SIGCONT || caught == 0)
+        caught = signal;
 }
 
 // All but those that do nothing where nobody asked for them.
@@ -28,6 +34,7 @@ class KeptSignals {
 public:
     KeptSignals() {
         caught = 0;
+        asking = pthread_self();
         sigset_t all;
         sigfillset(&all);
         sigprocmask(SIG_BLOCK, &all, &m_MaskBefore);
