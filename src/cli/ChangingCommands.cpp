@@ -98,15 +98,18 @@ void setFields(const Invocation& invocation, Output& output) {
     output.result({{"changed", profile.name}}, {});
 }
 
-void deleteProfile(const Invocation& invocation, Output& output) {
-    const QString name = invocation.arguments().first();
+void deleteProfiles(const Invocation& invocation, Output& output) {
+    QStringList names = invocation.arguments();
+    names.removeDuplicates();
     ProfileSession session(ProfileSession::Changing);
-    session.requireOwn(session.profile(name));
-    if (!name.isEmpty() && session.defaultName() == name)
-        session.require(session->SetDefaultDialUpProfileName(QString(""), false), "the default can't be cleared");
-    session.require(session->DelDialUpProfile(name), "the profile can't be deleted");
+    for (const QString& name : names) session.requireOwn(session.profile(name));
+    for (const QString& name : names) {
+        if (!name.isEmpty() && session.defaultName() == name)
+            session.require(session->SetDefaultDialUpProfileName(QString(""), false), "the default can't be cleared");
+        session.require(session->DelDialUpProfile(name), "the profile can't be deleted");
+    }
     session.finish();
-    output.result({{"deleted", name}}, {});
+    for (const QString& name : names) output.result({{"deleted", name}}, {});
 }
 
 void defaultProfile(const Invocation& invocation, Output& output) {

@@ -15,11 +15,11 @@ constexpr int Any = Command::AnyNumber;
 
 const Command Commands[] = {
     {"list", "", 0, 0, NoOption, "List all profiles; * marks the default.", listProfiles},
-    {"show", "NAME", 1, 1, Secrets, "Show a profile's fields.", showProfile},
+    {"show", "NAME...", 1, Any, Secrets, "Show the fields of profiles.", showProfiles},
     {"add", "NAME [FIELD=VALUE...]", 1, Any, Like, "Add a profile. password=- reads the password from standard input.",
      addProfile},
     {"set", "NAME FIELD=VALUE...", 2, Any, NoOption, "Change fields of a profile; name=NEW renames it.", setFields},
-    {"delete", "NAME", 1, 1, NoOption, "Delete a profile.", deleteProfile},
+    {"delete", "NAME...", 1, Any, NoOption, "Delete profiles: all of them, or none.", deleteProfiles},
     {"default", "[NAME]", 0, 1, Clear, "Show the default profile, or choose it.", defaultProfile},
     {"import", "FILE [NAME...]", 1, Any, Replace, "Import all profiles of a file, or the named ones.", importProfiles},
     {"export", "FILE NAME...", 2, Any, NoOption, "Export profiles into a file; others that it holds stay.",
@@ -66,15 +66,24 @@ const Command* commandOf(const QStringList& commandLine) {
     throw CommandError::usage("no command is given; see orbisctl --help");
 }
 
+// "help COMMAND" is another way to say "COMMAND --help".
+QStringList withHelpAsOption(QStringList commandLine) {
+    if (commandLine.value(1) != "help") return commandLine;
+    commandLine.removeAt(1);
+    return commandLine << "--help";
+}
+
 QString overview() {
     QString text = "Command-line client of the OrbisDial connection manager.\n\nCommands:\n";
     for (const Command& command : Commands) text += QString("  %1 %2\n").arg(command.name, -8).arg(command.help);
-    return text.trimmed();
+    return text + "  help     Show this help, or that of a command.";
 }
 
 }  // namespace
 
-Invocation::Invocation(const QStringList& commandLine) : m_pCommand(commandOf(commandLine)) {
+Invocation::Invocation(const QStringList& words) {
+    const QStringList commandLine = withHelpAsOption(words);
+    m_pCommand = commandOf(commandLine);
     describe();
     parse(&m_Parser, commandLine);
     m_Arguments = m_Parser.positionalArguments().mid(1);

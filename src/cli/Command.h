@@ -30,8 +30,8 @@ struct Command {
 // One reading of the command line.
 class Invocation {
 public:
-    // Throws a CommandError for a command line that makes no sense.
-    explicit Invocation(const QStringList& commandLine);
+    // Takes the program's name and what follows. Throws a CommandError for a command line that makes no sense.
+    explicit Invocation(const QStringList& words);
 
     // Null when only help or the version is wanted.
     const Command* command() const { return m_pCommand; }
@@ -49,7 +49,7 @@ private:
     void describe();
     void checkArguments() const;
 
-    const Command* m_pCommand;
+    const Command* m_pCommand = nullptr;
     QStringList m_Arguments;
     QCommandLineParser m_Parser;
 };

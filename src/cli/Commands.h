@@ -7,13 +7,13 @@ class Output;
 
 // ReadingCommands.cpp
 void listProfiles(const Invocation& invocation, Output& output);
-void showProfile(const Invocation& invocation, Output& output);
+void showProfiles(const Invocation& invocation, Output& output);
 void showConfiguration(const Invocation& invocation, Output& output);
 
 // ChangingCommands.cpp
 void addProfile(const Invocation& invocation, Output& output);
 void setFields(const Invocation& invocation, Output& output);
-void deleteProfile(const Invocation& invocation, Output& output);
+void deleteProfiles(const Invocation& invocation, Output& output);
 void defaultProfile(const Invocation& invocation, Output& output);
 
 // TransferCommands.cpp

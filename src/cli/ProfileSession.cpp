@@ -16,6 +16,11 @@ NetConnectStoreAction::Kind actionKind(ProfileSession::Kind kind) {
     return kind == ProfileSession::Reading ? NetConnectStoreAction::Browse : NetConnectStoreAction::Change;
 }
 
+// How to get a profile that may be changed from one that may not.
+QString copyAdvice(const QString& name) {
+    return "; make one of your own from it: orbisctl add \"new name\" --like " + name;
+}
+
 }  // namespace
 
 ProfileSession::ProfileSession(Kind kind)
@@ -71,15 +76,6 @@ std::optional<DialupProfile> ProfileSession::fetch(const QString& name) const {
     const bool isFound = name.isEmpty() ? m_pLogic->HasUserProfile(name) : profile.name == name;
     return isFound ? std::optional(profile) : std::nullopt;
 }
-
-namespace {
-
-// How to get a profile that may be changed from one that may not.
-QString copyAdvice(const QString& name) {
-    return "; make one of your own from it: orbisctl add \"new name\" --like " + name;
-}
-
-}  // namespace
 
 void ProfileSession::requireOwn(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);

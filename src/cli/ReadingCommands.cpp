@@ -8,6 +8,22 @@
 #include "Output.h"
 #include "ProfileSession.h"
 
+namespace {
+
+// A profile's fields, as an object and as lines.
+QJsonObject describe(const DialupProfile& profile, bool showsSecrets, QStringList* lines) {
+    QJsonObject object;
+    for (const DialupProfileField& field : DialupProfileFields) {
+        const QString value = profile.*field.member;
+        const bool isHidden = field.member == &DialupProfile::password && !value.isEmpty() && !showsSecrets;
+        object[field.attribute] = isHidden ? QJsonValue() : QJsonValue(value);
+        lines->append(QString("%1 %2").arg(field.attribute, -12).arg(isHidden ? "(hidden)" : value));
+    }
+    return object;
+}
+
+}  // namespace
+
 void listProfiles(const Invocation&, Output& output) {
     ProfileSession session(ProfileSession::Reading);
     const QString defaultName = session.defaultName();
@@ -23,19 +39,16 @@ void listProfiles(const Invocation&, Output& output) {
     session.finish();
 }
 
-void showProfile(const Invocation& invocation, Output& output) {
+void showProfiles(const Invocation& invocation, Output& output) {
     ProfileSession session(ProfileSession::Reading);
-    const DialupProfile profile = session.profile(invocation.arguments().first());
-    QJsonObject object;
-    QStringList lines;
-    for (const DialupProfileField& field : DialupProfileFields) {
-        const QString value = profile.*field.member;
-        const bool isHidden =
-            field.member == &DialupProfile::password && !value.isEmpty() && !invocation.isSet("secrets");
-        object[field.attribute] = isHidden ? QJsonValue() : QJsonValue(value);
-        lines.append(QString("%1 %2").arg(field.attribute, -12).arg(isHidden ? "(hidden)" : value));
+    QList<DialupProfile> profiles;
+    for (const QString& name : invocation.arguments()) profiles.append(session.profile(name));
+    for (int i = 0; i < profiles.size(); ++i) {
+        QStringList lines;
+        if (i > 0) lines.append(QString());
+        const QJsonObject object = describe(profiles.at(i), invocation.isSet("secrets"), &lines);
+        output.result(object, lines);
     }
-    output.result(object, lines);
     session.finish();
 }
 

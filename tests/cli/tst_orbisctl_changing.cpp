@@ -138,6 +138,19 @@ private slots:
         COMPARE_REFUSED(fixture.run({"delete", cell("name")}), 1, "there is no profile");
     }
 
+    void deletesAllOrNone() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='A'/><Profile name='-B'/><Profile name='C'/>", "<Default name='A'/>");
+        const QByteArray before = TestFolder::read(fixture.userFile());
+        COMPARE_REFUSED(fixture.run({"delete", "A", "Nope"}), 1, "Nope");
+        COMPARE_REFUSED(fixture.run({"delete", "A", "Alpha"}), 1, "preset");
+        QCOMPARE(TestFolder::read(fixture.userFile()), before);
+        const Outcome deleted = fixture.run({"--json", "delete", "--", "A", "-B", "A"});
+        COMPARE_DONE(deleted);
+        QCOMPARE(deleted.out, QByteArray("{\"deleted\":\"A\"}\n{\"deleted\":\"-B\"}\n"));
+        QCOMPARE(TestFolder::read(fixture.userFile()).count("<Profile name"), 1);
+    }
+
     void configurationIsReadOnce_data() {
         const Rows<QStringList> row("command");
         row("add", {"add", "New"});

@@ -14,6 +14,27 @@ private slots:
             COMPARE_DONE(fixture.run(arguments));
     }
 
+    void helpIsACommandToo() {
+        for (const QStringList& command : {QStringList{}, QStringList{"show"}}) {
+            const Outcome help = OrbisctlFixture::run(QStringList("help") + command);
+            COMPARE_DONE(help);
+            QCOMPARE(help.out, OrbisctlFixture::run(command + QStringList("--help")).out);
+        }
+        COMPARE_REFUSED(OrbisctlFixture::run({"help", "frob"}), 2, "frob");
+    }
+
+    void severalProfiles() {
+        const OrbisctlFixture fixture;
+        const Outcome shown = fixture.run({"--json", "show", "Beta", "Alpha"});
+        COMPARE_DONE(shown);
+        const QList<QByteArray> lines = shown.out.trimmed().split('\n');
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(lines.first().contains("Beta") && lines.last().contains("Alpha"));
+        const Outcome unknown = fixture.run({"show", "Beta", "Nope"});
+        COMPARE_REFUSED(unknown, 1, "Nope");
+        QCOMPARE(unknown.out, QByteArray());
+    }
+
     void json_data() {
         const Rows<QStringList, QByteArray> row("arguments", "expected");
         row("list", {"list"},
@@ -115,8 +136,10 @@ private slots:
         fixture.writeUser("<Profile name='My own'/>");
         const QString script =
             "source \"$0\"; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _orbisctl; echo \"${COMPREPLY[*]}\"";
-        const QPair<QStringList, QByteArray> rows[] = {
-            {{"ex"}, "export explain"}, {{"show", "My\\ o"}, "My\\ own"}, {{"set", "X", "chap", "=", "f"}, "false"}};
+        const QPair<QStringList, QByteArray> rows[] = {{{"ex"}, "export explain"},
+                                                       {{"delete", "X", "Al"}, "Alpha"},
+                                                       {{"show", "My\\ o"}, "My\\ own"},
+                                                       {{"set", "X", "chap", "=", "f"}, "false"}};
         for (const auto& [words, expected] : rows) {
             const QStringList source = {"-c", script, ORBISDIAL_SOURCE_DIR "/data/completions/orbisctl", ORBISCTL};
             QCOMPARE(runProgram("bash", source + words).out.trimmed(), expected);
