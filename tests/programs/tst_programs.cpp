@@ -168,7 +168,7 @@ private slots:
             if (outcome.status == 127) break;  // not even the libraries can be loaded
             if (outcome.status == 0) continue;
             hasRunOut = true;
-            QCOMPARE(outcome.err, QByteArray("orbisctl: out of memory\n"));
+            QVERIFY2(outcome.err.count('\n') == 1 && outcome.err.contains("memory"), outcome.err);
             QCOMPARE(outcome.status, 1);
             QVERIFY(TestFolder::read(folder.userFile()) == before);
             const QStringList files = QDir(folder.path("data")).entryList(QDir::Files | QDir::Hidden);
