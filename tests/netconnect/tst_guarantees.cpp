@@ -118,14 +118,20 @@ private slots:
         QVERIFY(!QFile::exists(userFile()));
     }
 
+    // The logic would be locked out of its own file.
     void whatCouldNotBeReadBackIsNotWritten() {
-        QCOMPARE(logic()->SaveDialUpProfile(named("A")), 0);
-        const QByteArray before = user();
-        DialupProfile huge = named("huge");
-        huge.user = QString(46 << 20, '"');  // six bytes each in the file
-        QCOMPARE(logic()->SaveDialUpProfile(huge), 25);
-        QVERIFY(logic()->LastStorageProblem().reason.contains("276 MB"));
-        QVERIFY(user() == before);
+        const QString file = path("large");
+        QFile large(file);
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(FileReplacement::LargestFile + 1));  // takes no space
+        QByteArray content;
+        QString reason;
+        QCOMPARE(FileReplacement::read(file, &content, &reason), FileReplacement::Failed);
+        QVERIFY(reason.contains("too large"));
+        const QByteArray larger(int(FileReplacement::LargestFile) + 1, Qt::Uninitialized);
+        QCOMPARE(FileReplacement::write(file, larger, FileReplacement::Export, FileReplacement::OverOld, &reason),
+                 FileReplacement::Failed);
+        QVERIFY(reason.contains("too large to be read again"));
+        QCOMPARE(large.size(), FileReplacement::LargestFile + 1);
     }
 
     // A dead writer's files go, whatever they were to become; other files of a like name stay.
