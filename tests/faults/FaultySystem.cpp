@@ -31,12 +31,31 @@ Function* next(const char* name) {
     return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
+// What to do before which call.
+struct Interlude {
+    const char* call = "";
+    std::function<void()> action;
+};
+
+Interlude& interlude() {
+    static Interlude interlude;
+    return interlude;
+}
+
+void playInterlude(const char* call) {
+    if (!interlude().action || strcmp(call, interlude().call) != 0) return;
+    const std::function<void()> action = std::move(interlude().action);
+    interlude() = Interlude();
+    action();
+}
+
 bool isLook(const char* call) {
     return strcmp(call, "stat") == 0 || strcmp(call, "read") == 0 || strcmp(call, "open to read") == 0;
 }
 
 // Counts a call; true when it is to fail, errno then being set.
 bool failsAt(const char* call) {
+    playInterlude(call);
     if (callsLeft > 0 && !isLook(call) && --callsLeft == 0) raise(SIGKILL);
     if (strcmp(call, failing) != 0 || passing < 0) return false;
     if (!failsAll && passing-- > 0) return false;
@@ -67,6 +86,8 @@ void FaultySystem::fail(const char* call, int error, int n) {
     failsAll = n == 0;
     failed = false;
 }
+
+void FaultySystem::before(const char* call, const std::function<void()>& action) { interlude() = {call, action}; }
 
 bool FaultySystem::hasFailed() { return failed; }
 

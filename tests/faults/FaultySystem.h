@@ -2,6 +2,8 @@
 #ifndef ORBISDIAL_TESTS_FAULTYSYSTEM_H
 #define ORBISDIAL_TESTS_FAULTYSYSTEM_H
 
+#include <functional>
+
 namespace FaultySystem {
 
 // Kills the process at the n-th call from now on that may change something, counted from one; a write is half done by
@@ -14,6 +16,9 @@ void killAt(int n);
 // data and "write anything" for one that takes nothing. $ORBISDIAL_TEST_FAULT ("name=errno@n") does the same from the
 // program's start.
 void fail(const char* call, int error, int n = 0);
+
+// Does something once, just before the next call of a name.
+void before(const char* call, const std::function<void()>& action);
 
 // Whether any call has failed since.
 bool hasFailed();

@@ -98,6 +98,31 @@ private slots:
         QCOMPARE(QDir(fixture.path("exports")).entryList(QDir::Files | QDir::Hidden), QStringList("all.prof"));
     }
 
+    void aTargetThatAppearsMeanwhileIsAddedTo() {
+        FaultsFixture fixture;
+        const QString file = fixture.path("export.prof");
+        QCOMPARE(logic()->AddDialUpProfile(LogicFixture::named("Mine")), 0);  // makes the lock file, too
+        FaultySystem::before(
+            "rename", [&] { FaultsFixture::write(file, LogicFixture::document(LogicFixture::profile("Theirs"))); });
+        QCOMPARE(logic()->ExportChosenProfiles({"Alpha"}, file), 0);
+        const QByteArray content = FaultsFixture::read(file);
+        QVERIFY2(content.contains("Theirs") && content.contains("Alpha"), content);
+    }
+
+    // Between the opening and the locking: what is locked then guards nothing.
+    void aFileReplacedBeforeItWasLockedIsLockedAnew() {
+        const TestFolder folder;
+        const QString file = folder.path("file");
+        TestFolder::write(file, "old");
+        FaultySystem::before("flock", [&] {
+            TestFolder::write(file + ".new", "new");
+            QVERIFY(::rename(qPrintable(file + ".new"), qPrintable(file)) == 0);
+        });
+        UserFileLock lock;
+        QString reason;
+        QVERIFY(lock.acquire(file, &reason) && lock.isInPlace());
+    }
+
     void aTargetThatOthersLockIsNotReplaced() {
         FaultsFixture fixture;
         const QString file = fixture.path("export.prof");
