@@ -61,6 +61,14 @@ QByteArray BenchFolder::configuration(int presets, const QList<DialupProfile>& l
     return result + "</module></group></NetConnect>";
 }
 
+void BenchFolder::shipPresets() const {
+    for (const char* name : {"NetConnectConfig.xml", "ProfileLib.prof", "SysProfile.prof"}) {
+        const QByteArray content = read(QString(SHIPPED_DIR "/") + name);
+        Measure::require(!content.isEmpty(), name);
+        ship(name, content);
+    }
+}
+
 void BenchFolder::writeUser(const QList<DialupProfile>& profiles) const {
     write(userFile(), Reference::write(profiles));
 }

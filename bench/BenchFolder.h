@@ -21,6 +21,9 @@ public:
     // A configuration whose sections by IMSI name the first presets of a library.
     static QByteArray configuration(int presets, const QList<DialupProfile>& library);
 
+    // The library, configuration and template that everyone has. A program is measured with these.
+    void shipPresets() const;
+
     void writeUser(const QList<DialupProfile>& profiles) const;
     void shipLibrary(const QList<DialupProfile>& profiles) const;
     void shipConfiguration(int presets, const QList<DialupProfile>& library) const;

@@ -17,6 +17,8 @@
 
 namespace {
 
+const double Milliseconds = 1e3;
+
 double seconds(const std::function<void()>& action) {
     const auto start = std::chrono::steady_clock::now();
     action();
@@ -38,12 +40,6 @@ int runProgram(const std::vector<QByteArray>& command) {
         ::waitpid(child, &status, 0);
     ::posix_spawn_file_actions_destroy(&output);
     return status;
-}
-
-Measure::Side program(const QStringList& command) {
-    std::vector<QByteArray> arguments;
-    for (const QString& argument : command) arguments.push_back(QFile::encodeName(argument));
-    return {[arguments] { Measure::require(runProgram(arguments) == 0, arguments.front().constData()); }};
 }
 
 }  // namespace
@@ -72,10 +68,27 @@ void compare(benchmark::State& state, const Side& ours, const Side& reference) {
         first = 1 - first;
         state.SetIterationTime(times[0].back());
     }
-    const double milliseconds = 1e3;
     state.counters["ratio"] = median(times[0]) / median(times[1]);
-    state.counters["ours_ms"] = median(times[0]) * milliseconds;
-    state.counters["reference_ms"] = median(times[1]) * milliseconds;
+    state.counters["ours_ms"] = median(times[0]) * Milliseconds;
+    state.counters["reference_ms"] = median(times[1]) * Milliseconds;
+}
+
+Side program(const QStringList& command) {
+    std::vector<QByteArray> arguments;
+    for (const QString& argument : command) arguments.push_back(QFile::encodeName(argument));
+    return {[arguments] { require(runProgram(arguments) == 0, arguments.front().constData()); }};
+}
+
+void time(benchmark::State& state, const Side& ours) {
+    std::vector<double> times;
+    ours.prepare();
+    ours.run();
+    for (auto _ : state) {
+        ours.prepare();
+        times.push_back(seconds(ours.run));
+        state.SetIterationTime(times.back());
+    }
+    state.counters["ours_ms"] = median(times) * Milliseconds;
 }
 
 void comparePrograms(benchmark::State& state, const QStringList& ours, const QStringList& reference) {

@@ -22,7 +22,13 @@ struct Side {
 // "ratio" of the medians, "ours_ms" and "reference_ms".
 void compare(benchmark::State& state, const Side& ours, const Side& reference);
 
-// The same, each side being a program that runs to its end.
+// Times one side alone: "ours_ms".
+void time(benchmark::State& state, const Side& ours);
+
+// A program that runs to its end.
+Side program(const QStringList& command);
+
+// The same as compare(), each side being a program that runs to its end.
 void comparePrograms(benchmark::State& state, const QStringList& ours, const QStringList& reference);
 
 double median(std::vector<double> values);

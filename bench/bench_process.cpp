@@ -7,12 +7,11 @@ namespace {
 
 void orbisctlList(benchmark::State& state) {
     const BenchFolder folder;
-    for (const char* name : {"NetConnectConfig.xml", "ProfileLib.prof", "SysProfile.prof"})
-        folder.ship(name, TestFolder::read(QString(SHIPPED_DIR "/") + name));
+    folder.shipPresets();
     folder.writeUser(BenchFolder::profiles(int(state.range(0))));
     Measure::settle();
     Measure::comparePrograms(state, {ORBISCTL, "list"}, {EMPTY_APPLICATION});
 }
-BENCHMARK(orbisctlList)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(50)->Iterations(61);
+BENCHMARK(orbisctlList)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(20)->Iterations(61);
 
 }  // namespace

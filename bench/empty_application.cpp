@@ -1,8 +1,8 @@
-// The least that a program with windows costs.
+// The least that a program on Qt's core costs.
 
-#include <QApplication>
+#include <QCoreApplication>
 
 int main(int argc, char** argv) {
-    const QApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     return 0;
 }

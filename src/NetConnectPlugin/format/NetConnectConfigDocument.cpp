@@ -5,25 +5,26 @@
 
 namespace {
 
+// The element; its attribute "name" was read already.
 template <class Element>
-NetConnectConfigElement configElement(const Element& source) {
+NetConnectConfigElement configElement(const Element& source, const QString& name) {
     const struct {
         const char* element;
         NetConnectConfigElement::Kind kind;
-        const char* nameAttribute;
+        bool isNamedByIMSI;
     } kinds[] = {
-        {"item", NetConnectConfigElement::Item, "name"},
-        {"IMSIProfileList", NetConnectConfigElement::IMSISection, "imsi"},
-        {"ProfileList", NetConnectConfigElement::ProfileListSection, "name"},
-        {"Function", NetConnectConfigElement::FunctionSection, "name"},
-        {"ProfileTemplate", NetConnectConfigElement::TemplateSection, "name"},
-        {"MultiModeDefaultProfile", NetConnectConfigElement::ModeDefaultSection, "name"},
+        {"item", NetConnectConfigElement::Item, false},
+        {"IMSIProfileList", NetConnectConfigElement::IMSISection, true},
+        {"ProfileList", NetConnectConfigElement::ProfileListSection, false},
+        {"Function", NetConnectConfigElement::FunctionSection, false},
+        {"ProfileTemplate", NetConnectConfigElement::TemplateSection, false},
+        {"MultiModeDefaultProfile", NetConnectConfigElement::ModeDefaultSection, false},
     };
     NetConnectConfigElement element;
     for (size_t i = 0; i < sizeof(kinds) / sizeof(kinds[0]); ++i) {
         if (!source.isNamed(kinds[i].element)) continue;
         element.kind = kinds[i].kind;
-        element.name = source.value(kinds[i].nameAttribute);
+        element.name = kinds[i].isNamedByIMSI ? source.value("imsi") : name;
         element.value = source.value("value");
         element.type = source.value("type");
         break;
@@ -34,7 +35,8 @@ NetConnectConfigElement configElement(const Element& source) {
 }  // namespace
 
 NetConnectConfigElement NetConnectConfigElement::of(const QXmlStreamReader& reader) {
-    return configElement(XmlReaderElement(reader));
+    const XmlReaderElement element(reader);
+    return configElement(element, element.value("name"));
 }
 
 QString UserPrompt::*NetConnectConfigDocument::promptField(const QStringRef& name) {
@@ -87,7 +89,7 @@ void NetConnectConfigDocument::start(const Element& element, Place* place) {
         promptItems.append(PromptItem(field, element.value("value")));
     if (element.isNamed("group")) place->group = name;
     if (element.isNamed("module")) place->module = name;
-    append(*place, configElement(element));
+    append(*place, configElement(element, name));
 }
 
 void NetConnectConfigDocument::append(const Place& place, const NetConnectConfigElement& element) {

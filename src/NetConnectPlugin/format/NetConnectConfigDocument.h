@@ -23,6 +23,7 @@ struct NetConnectConfigElement {
     QString value;
     QString type;
 };
+Q_DECLARE_TYPEINFO(NetConnectConfigElement, Q_MOVABLE_TYPE);
 
 struct NetConnectConfigDocument {
     // Elements that follow one another in the same module of the same group.

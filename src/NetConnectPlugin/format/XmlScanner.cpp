@@ -64,10 +64,8 @@ int sequenceAt(const char* at) {
 }  // namespace
 
 bool XmlPiece::operator==(const XmlPiece& other) const {
-    return size == other.size && memcmp(begin, other.begin, size_t(size)) == 0;
+    return size == other.size && (begin == other.begin || memcmp(begin, other.begin, size_t(size)) == 0);
 }
-
-bool XmlPiece::operator==(const char* name) const { return strncmp(begin, name, size_t(size)) == 0 && name[size] == 0; }
 
 QString XmlPiece::toString() const {
     if (isPlain) return QString::fromLatin1(begin, size);

@@ -10,7 +10,11 @@
 struct XmlPiece {
     XmlPiece() : begin(""), size(0), isPlain(true) {}
     bool operator==(const XmlPiece& other) const;
-    bool operator==(const char* name) const;
+    bool operator==(const char* name) const {
+        int i = 0;
+        while (i < size && begin[i] == name[i]) ++i;
+        return i == size && name[i] == 0;
+    }
     QString toString() const;
 
     const char* begin;
