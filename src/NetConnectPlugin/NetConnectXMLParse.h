@@ -134,7 +134,7 @@ private:
     struct KeptFile {
         KeptFile() : isComplete(false), revision(0) {}
         bool isCurrent(const QString& file, const FileStamp& now) const {
-            return (isComplete || !damage.isNull()) && path == file && stamp.settled && stamp == now;
+            return (isComplete || !damage.isNull()) && path == file && stamp.settled && stamp.exists() && stamp == now;
         }
         // Whether the document is that of these bytes, which were just read from the file.
         bool isOf(const QString& file, const QByteArray& bytes) const {

@@ -80,6 +80,34 @@ private slots:
         QCOMPARE(fetch("New").password, QString("theirs"));
     }
 
+    // tests/faults lets single looks fail.
+    void aListingThatCannotReadKeepsWhatItHad_data() {
+        const Rows<QByteArray, bool, bool> row("damage", "isKept", "isStored");
+        row("not a file", "", true, false);
+        row("torn", document(profile("A")).replace("</vrksdoc>", "<Profile name='B'"), true, true);
+        row("empty", " ", true, true);
+        row("gone", QByteArray(), false, true);
+    }
+    void aListingThatCannotReadKeepsWhatItHad() {
+        QFETCH(QByteArray, damage);
+        setUser(profile("A") + profile("B"), "<Default name='B' IsUserSet='1'/>");
+        restart();
+        QCOMPARE(names(), QStringList({"A", "B"}));
+        QVERIFY(QFile::remove(userFile()));
+        if (damage.isEmpty() && !damage.isNull())
+            QVERIFY(QDir().mkpath(userFile()));
+        else if (!damage.isNull())
+            write(userFile(), damage);
+
+        const bool isKept = cell<bool>("isKept");
+        QCOMPARE(names(), isKept ? QStringList({"A", "B"}) : QStringList());
+        QCOMPARE(defaultName(), QString("B"));
+        QVERIFY(logic()->IsDefaultUserSet());
+        QCOMPARE(logic()->LastStorageProblem().isNull(), !isKept);
+        QCOMPARE(logic()->SaveDialUpProfile(named("C")), cell<bool>("isStored") ? 0 : 25);
+        if (cell<bool>("isStored")) QCOMPARE(names(), isKept ? QStringList({"A", "B", "C"}) : QStringList("C"));
+    }
+
     void whoeverKeepsTheLockIsWaitedForOnlySoLong() {
         QDir().mkpath(path("data"));
         UserFileLock other;

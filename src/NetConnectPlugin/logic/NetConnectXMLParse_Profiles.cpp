@@ -46,6 +46,8 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     }
     QByteArray content;
     int status = readFile(path, &content);
+    // One failed look is no proof.
+    if (status == 23 && FileStamp::of(path).exists()) status = readFile(path, &content);
     if (status == 0 && kept && kept->isOf(path, content)) {
         kept->stamp = stamp;
         if (stamp.settled) kept->content.clear();

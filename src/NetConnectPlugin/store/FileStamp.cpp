@@ -16,8 +16,11 @@ FileStamp FileStamp::of(const QString& path) {
     struct stat info;
     if (path.isEmpty()) return stamp;
     if (::stat(QFile::encodeName(path).constData(), &info) != 0) {
-        // A file that can't be looked at may be there all the same.
-        if (errno != ENOENT && errno != ENOTDIR) stamp.size = 0;
+        // A file that can't be looked at may be there all the same, and change unseen.
+        if (errno != ENOENT && errno != ENOTDIR) {
+            stamp.size = 0;
+            stamp.settled = false;
+        }
         return stamp;
     }
     stamp.regular = S_ISREG(info.st_mode);

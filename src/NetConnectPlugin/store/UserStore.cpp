@@ -1,5 +1,6 @@
 #include "UserStore.h"
 
+#include "NetConnectOperation.h"
 #include "NetConnectStatus.h"
 #include "NetConnectXMLParse.h"
 
@@ -12,6 +13,7 @@ UserStore::UserStore()
     : m_pFiles(0),
       m_nRevision(0),
       m_bAwaited(false),
+      m_bWhole(false),
       m_nActions(0),
       m_nOperations(0),
       m_Kind(Change),
@@ -31,7 +33,7 @@ void UserStore::detach() {
     m_Changed = std::function<void()>();
     m_Stamp = FileStamp();
     m_StoredDefault = NetConnectDefault();
-    m_bAwaited = false;
+    m_bAwaited = m_bWhole = false;
     if (m_bPending && m_Kind == Change) m_bFailed = true;
     m_Index = ProfileIndex();
     m_Snapshot = Snapshot();
@@ -45,14 +47,44 @@ void UserStore::readAwaited() {
 
 int UserStore::read() {
     m_bAwaited = false;
-    m_Members.profiles->clear();
-    *m_Members.isUserSet = false;
-    const int status = m_pFiles->GetAllProfileFromUserDataXML(m_Members.profiles, m_Members.defaultName, QString(),
-                                                              m_Members.isUserSet);
-    m_StoredDefault = NetConnectDefault(*m_Members.defaultName, *m_Members.isUserSet);
-    rememberFile(status);
+    QList<DialupProfile> profiles;
+    NetConnectDefault value = defaultInMemory();
+    const int status = load(&profiles, &value);
+    if (status == NetConnectStatus::FileMissing && !m_Members.profiles->isEmpty()) {
+        m_Stamp.settled = false;
+        const NetConnectOperation secondLook;
+    } else if (isWorthMore(status)) {
+        *m_Members.profiles = profiles;
+        setDefaultInMemory(value);
+        m_StoredDefault = value;
+    }
     m_Changed();
     return status;
+}
+
+// Reads the user's file: default and flag keep their values where the file says nothing.
+int UserStore::load(QList<DialupProfile>* profiles, NetConnectDefault* value) {
+    const int status = m_pFiles->GetAllProfileFromUserDataXML(profiles, &value->name, QString(), &value->isUserSet);
+    rememberFile(status);
+    return status;
+}
+
+// Whether what was read just now counts for more than what is in memory: a part does only while there is nothing whole.
+bool UserStore::isWorthMore(int status) {
+    if (status == NetConnectStatus::FileNotOpened) return false;
+    const bool isPart = status == NetConnectStatus::ReadError;
+    if (isPart && m_bWhole && !m_Members.profiles->isEmpty()) return false;
+    m_bWhole = !isPart;
+    return true;
+}
+
+NetConnectDefault UserStore::defaultInMemory() const {
+    return NetConnectDefault(*m_Members.defaultName, *m_Members.isUserSet);
+}
+
+void UserStore::setDefaultInMemory(const NetConnectDefault& value) {
+    *m_Members.defaultName = value.name;
+    *m_Members.isUserSet = value.isUserSet;
 }
 
 int UserStore::find(const QString& name) {
@@ -98,19 +130,13 @@ bool UserStore::takeInChanges(const QString& userFile) {
     const FileStamp stamp = FileStamp::of(userFile);
     if (m_Stamp.settled && stamp == m_Stamp) return true;
     QList<DialupProfile> profiles;
-    QString defaultName = m_StoredDefault.name;
-    bool isUserSet = false;
-    const int status = m_pFiles->GetAllProfileFromUserDataXML(&profiles, &defaultName, QString(), &isUserSet);
-    rememberFile(status);
-    if (status != NetConnectStatus::Success && status != NetConnectStatus::FileMissing)
-        return status != NetConnectStatus::FileNotOpened;  // what was read before is better than a part
-
+    NetConnectDefault value = m_StoredDefault;
+    const int status = load(&profiles, &value);
+    if (!isWorthMore(status)) return status != NetConnectStatus::FileNotOpened;
     *m_Members.profiles = profiles;
-    const NetConnectDefault stored(defaultName, isUserSet);
-    if (stored == m_StoredDefault) return true;
-    m_StoredDefault = stored;
-    *m_Members.defaultName = stored.name;
-    *m_Members.isUserSet = stored.isUserSet;
+    if (value == m_StoredDefault) return true;
+    m_StoredDefault = value;
+    setDefaultInMemory(value);
     return true;
 }
 
@@ -142,11 +168,12 @@ bool UserStore::isStillLocked() {
 }
 
 int UserStore::write() {
-    const NetConnectDefault value(*m_Members.defaultName, *m_Members.isUserSet);
+    const NetConnectDefault value = defaultInMemory();
     int status = NetConnectStatus::FileNotOpened;
     if (isStillLocked())
         status = m_pFiles->SaveProfileToXML(*m_Members.profiles, value.name, QString(), value.isUserSet);
     if (status == NetConnectStatus::Success) {
+        m_bWhole = true;
         m_StoredDefault = value;
         m_Stamp = m_pFiles->userFileStamp();
     } else {
@@ -179,7 +206,7 @@ void UserStore::takeSnapshot() {
     if (m_nActions == 0 || m_Snapshot.isTaken) return;
     m_Snapshot.isTaken = true;
     m_Snapshot.profiles = *m_Members.profiles;
-    m_Snapshot.defaultProfile = NetConnectDefault(*m_Members.defaultName, *m_Members.isUserSet);
+    m_Snapshot.defaultProfile = defaultInMemory();
 }
 
 void UserStore::alsoUndo(const std::function<void()>& undo) {
@@ -205,8 +232,7 @@ void UserStore::dropAction() {
     while (!m_Snapshot.undo.isEmpty()) m_Snapshot.undo.takeLast()();
     if (m_Snapshot.isTaken) {
         *m_Members.profiles = m_Snapshot.profiles;
-        *m_Members.defaultName = m_Snapshot.defaultProfile.name;
-        *m_Members.isUserSet = m_Snapshot.defaultProfile.isUserSet;
+        setDefaultInMemory(m_Snapshot.defaultProfile);
     }
     m_bPending = false;
     closeAction();

@@ -45,7 +45,8 @@ public:
     bool isAwaited() const { return m_bAwaited; }
     void readAwaited();
 
-    // Reads the user's file into the members.
+    // Reads the user's file into the members. What was read before stays when the file can't be read now, or not to
+    // its end; that the file is missing is believed only when it is still missing once it is locked.
     int read();
 
     // The first place of a name among the user's profiles; -1 when there is none.
@@ -98,8 +99,12 @@ private:
     bool lockFile();
     bool acquireBeside(const QString& userFile);
     bool takeInChanges(const QString& userFile);
+    int load(QList<DialupProfile>* profiles, NetConnectDefault* value);
+    bool isWorthMore(int status);
     void rememberFile(int status);
     bool isStillLocked();
+    NetConnectDefault defaultInMemory() const;
+    void setDefaultInMemory(const NetConnectDefault& value);
     int write();
     void takeSnapshot();
     void closeAction();
@@ -113,6 +118,7 @@ private:
     int m_nRevision;
     NetConnectDefault m_StoredDefault;
     bool m_bAwaited;
+    bool m_bWhole;  // the profiles in memory are all that a file held
     ProfileIndex m_Index;
 
     int m_nActions;     // open actions, one inside the other
