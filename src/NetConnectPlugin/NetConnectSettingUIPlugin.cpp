@@ -1,6 +1,7 @@
 #include "NetConnectSettingUIPlugin.h"
 
 #include "CallTrace.h"
+#include "NetConnectStatus.h"
 #include "NetConnectUIService.h"
 
 ORBISDIAL_EXPORT_PLUGIN(CNetConnectSettingUIPlugin)
@@ -50,6 +51,7 @@ bool CNetConnectSettingUIPlugin::IsAllowRelease() { return false; }
 int CNetConnectSettingUIPlugin::QueryInterface(int id, QObject** out) {
     CallTrace trace(__FILE__, "QueryInterface");
     if (id != SettingPageInterface && id != NetConnectSettingInterface) return 0;
+    if (!out) return NetConnectStatus::FileMissing;
     try {
         m_pNetConnectUIService = CNetConnectUIService::instance();
         *out = m_pNetConnectUIService;

@@ -90,8 +90,9 @@ int NetConnectXMLParse::readFile(const QString& path, QByteArray* content) {
     return 25;
 }
 
-int NetConnectXMLParse::readError(const QXmlStreamReader& reader, const QString& path, const char* function) {
-    qDebug("%s: %s: Read Error: n", __FILE__, function);
+void NetConnectXMLParse::traceReadError(const char* function) { qDebug("%s: %s: Read Error: n", __FILE__, function); }
+
+int NetConnectXMLParse::reportReadError(const QXmlStreamReader& reader, const QString& path) {
     reportProblem(path, reader.errorString(), reader.lineNumber(), reader.columnNumber());
     return 6;
 }

@@ -58,7 +58,7 @@ public:
 
     // Appends a file's profiles and stores its default. An empty name means the user's file, the bare name
     // "ProfileLib.prof" the shipped library, any other is a path. defaultName keeps its value when the file names
-    // no default; isUserSet may be null.
+    // no default; isUserSet may be null. 23 also for a null list or default.
     int GetAllProfileFromUserDataXML(QList<DialupProfile>* profiles, QString* defaultName, QString fileName,
                                      bool* isUserSet);
 
@@ -73,18 +73,18 @@ public:
 
     // --- configuration ---
 
-    // Adds the items of one group and module to the containers; 23 also for a null group or module. A null
-    // prompt leaves the prompt items aside.
+    // Adds the items of one group and module to the containers; 23 also for a null argument, but a
+    // null prompt leaves the prompt items aside.
     int GetSettingsFromXML(QString* group, QString* module, QHash<QString, NetConnectXML>* templates,
                            QHash<QString, NetConnectXML>* functions, QHash<QString, NetConnectXML>* profileList,
                            QMultiHash<QString, IMSIINFO>* imsiProfiles, UserPrompt* prompt);
 
-    // Files the reader's current element; always 0.
+    // Files the reader's current element: 0, or 23 for a null container.
     int getConfigData(QXmlStreamReader& reader, QHash<QString, NetConnectXML>* templates,
                       QHash<QString, NetConnectXML>* functions, QHash<QString, NetConnectXML>* profileList,
                       QMultiHash<QString, IMSIINFO>* imsiProfiles);
 
-    // Takes the reader's current element as a prompt item, if it is one; always 0.
+    // Takes the reader's current element as a prompt item, if it is one: 0, or 23 for a null prompt.
     int getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt);
 
     // --- profile template ---
@@ -165,15 +165,15 @@ private:
         QMultiHash<QString, IMSIINFO>* imsiProfiles;
     };
 
-    NetConnectXMLParse() : m_bKeepProblem(false) {}
+    NetConnectXMLParse() : m_bUserFileRead(false), m_bKeepProblem(false) {}
     ~NetConnectXMLParse() {}
     Q_DISABLE_COPY(NetConnectXMLParse)
 
     QString profilePath(const QString& fileName);
     KeptFile* keptFile(const QString& fileName);
     int loadDocument(const QString& path, KeptFile* kept, ProfileDocument* document);
-    void applyDocument(const ProfileDocument& document, QList<DialupProfile>* profiles, QString* defaultName,
-                       bool* isUserSet);
+    void applyDocument(const ProfileDocument& document, bool isComplete, QList<DialupProfile>* profiles,
+                       QString* defaultName, bool* isUserSet);
     void applyDefault(const ProfileDefaultEntry& entry, const NetConnectCardMode& card, QString* defaultName,
                       bool* isUserSet);
     static QList<ProfileDefaultEntry> defaultEntries(const NetConnectDefault& value,
@@ -196,8 +196,9 @@ private:
     // Opens and reads a file whole: 0, 23 or 25, traced and reported.
     int readFile(const QString& path, QByteArray* content);
 
-    // Traces and reports a reader's error: 6.
-    int readError(const QXmlStreamReader& reader, const QString& path, const char* function);
+    // Reports a reader's error: 6. The trace comes where the reading meets it.
+    int reportReadError(const QXmlStreamReader& reader, const QString& path);
+    static void traceReadError(const char* function);
 
     // Writes a file: 0 or 25, traced and reported, or TargetAppeared.
     int writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
@@ -205,6 +206,7 @@ private:
 
     KeptFile m_User;
     KeptFile m_Library;
+    bool m_bUserFileRead;
     KeptConfig m_Config;
     NetConnectRememberedDefaults m_Remembered;
     QString m_strSection;

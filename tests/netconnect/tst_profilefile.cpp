@@ -48,9 +48,9 @@ private slots:
         row("only 1 counts", "<Default name='P' IsUserSet='true'/>", "0", "0", "P", false);
         row("CDMA mode", all, "1", "2", "C", false);
         row("WCDMA mode", all, "1", "1", "W", true);
-        row("no mode keeps the flag", all, "1", "0", "P", false);
+        row("no mode keeps the flag", all, "1", "0", "P", true);
         row("failing query", all, failing, "2", "P", true);
-        row("none", "", "0", "0", "before", false);
+        row("none", "", "0", "0", "before", true);
     }
     void defaults() {
         QFETCH(QString, after);
@@ -250,7 +250,94 @@ private slots:
         QVERIFY(QFile::permissions(path) & QFile::ReadOther);
     }
 
+    // A packaged file says the same in other bytes: root must not rewrite it.
+    void aTemplateThatSaysTheSameStays_data() {
+        const Rows<QByteArray, bool> row("attributes", "stays");
+        row("other order, empty ones left out", "phonenumber='*99#' name='N' type=''", true);
+        row("another value", "phonenumber='*98#' name='N'", false);
+        row("a value that is never written", "phonenumber='*99#' name='N' device='d'", false);
+        row("a profile besides", "phonenumber='*99#' name='N'/><Profile name='P'", false);
+        row("damaged", "phonenumber='*99#' name='N'><", false);
+    }
+    void aTemplateThatSaysTheSameStays() {
+        const QByteArray content =
+            "<vrksdoc type='Profile'><!-- packaged --><Default Default='kestra' type='DialUp'/>"
+            "<ProfileGroup type='Dailup'><Template " +
+            cell<QByteArray>("attributes") + "/></ProfileGroup></vrksdoc>";
+        ship("SysProfile.prof", content);
+        QHash<QString, NetConnectXML> items;
+        items["name"].value = "N";
+        items["phonenumber"].value = "*99#";
+        QCOMPARE(xml()->ModifyProfileTemplateToSysXML(&items), 0);
+        QCOMPARE(read(pluginDir() + "/SysProfile.prof") == content, cell<bool>("stays"));
+    }
+
+    void nullsAreRefused() {
+        QHash<QString, NetConnectXML> items;
+        QMultiHash<QString, IMSIINFO> rows;
+        QString text = "common";
+        m_Profiles.clear();
+        QXmlStreamReader reader(QByteArray("<x/>"));
+        QCOMPARE(xml()->GetAllProfileFromUserDataXML(nullptr, &m_Default, QString(), nullptr), 23);
+        QCOMPARE(xml()->GetAllProfileFromUserDataXML(&m_Profiles, nullptr, QString(), nullptr), 23);
+        QCOMPARE(xml()->readXML(reader, nullptr, &m_Default, nullptr), 23);
+        QCOMPARE(xml()->readXML(reader, &m_Profiles, nullptr, nullptr), 23);
+        QCOMPARE(xml()->GetProfileTemplateFromSysXML(nullptr), 23);
+        shipConfig(section("Function", {"A=true"}));
+        for (int missing = 0; missing < 6; ++missing) {
+            const auto given = [&](int place, auto* value) { return place == missing ? nullptr : value; };
+            QCOMPARE(xml()->GetSettingsFromXML(given(0, &text), given(1, &text), given(2, &items), given(3, &items),
+                                               given(4, &items), given(5, &rows), nullptr),
+                     23);
+            if (missing < 2) continue;
+            QCOMPARE(
+                xml()->getConfigData(reader, given(2, &items), given(3, &items), given(4, &items), given(5, &rows)),
+                23);
+        }
+        QCOMPARE(xml()->getUserPasswdPromptInfo(reader, nullptr), 23);
+        QCOMPARE(m_Profiles.size() + items.size() + rows.size(), 0);
+    }
+
+    // The card is asked before the walk, the error comes where the walk meets it.
+    void anErrorIsTracedWhereItIsMet() {
+        useCard("1", "2");
+        write(userFile(), document(profile("A"), "<MultiModeDefaultProfile><item name='C' value='CDMA'/><"));
+        shipConfig("<MultiModeDefaultProfile/><");
+        QHash<QString, NetConnectXML> items;
+        QMultiHash<QString, IMSIINFO> rows;
+        QString common = "common";
+        QStringList expected{"Entered", "Get MultiMode", "Using Multi Mode", "Read Error", "Exit. Default", "Exit"};
+        QCOMPARE(traced(expected, [&] { load(); }), expected);
+        expected = QStringList{"Entered", "Get MultiMode", "Found MultiMode", "Read Error", "Exit"};
+        const auto readConfig = [&] {
+            xml()->GetSettingsFromXML(&common, &common, &items, &items, &items, &rows, nullptr);
+        };
+        QCOMPARE(traced(expected, readConfig), expected);
+        QFile::remove(pluginDir() + "/NetConnectConfig.xml");
+        expected = QStringList{"Entered", "does not exist", "Exit"};
+        QCOMPARE(traced(expected, readConfig), QStringList({"Entered", "Exit"}));
+    }
+
 private:
+    // Which of the texts the traces of an operation held, in their order.
+    template <class Operation>
+    static QStringList traced(const QStringList& texts, Operation operation) {
+        static QStringList lines;
+        lines.clear();
+        const QtMessageHandler handler = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext&, const QString& line) { lines.append(line); });
+        operation();
+        qInstallMessageHandler(handler);
+        QStringList found;
+        for (const QString& line : lines)
+            for (const QString& text : texts)
+                if (line.contains(text)) {
+                    found.append(text);
+                    break;
+                }
+        return found;
+    }
+
     static NetConnectXMLParse* xml() { return NetConnectXMLParse::GetInstance(); }
     int load(const QString& path = QString()) {
         m_Profiles.clear();

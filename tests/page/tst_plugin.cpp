@@ -104,6 +104,7 @@ private slots:
         QVERIFY(!f->plugin()->ChangeLang("") && f->plugin()->ChangeLang("xx"));
         QObject* service = &f->dialup;
         QCOMPARE(f->plugin()->QueryInterface(1, &service), 0);
+        QCOMPARE(f->plugin()->QueryInterface(4098, nullptr), 23);
         QCOMPARE(service, &f->dialup);
         QCOMPARE(f->plugin()->QueryInterface(28689, &service), 1);
         QCOMPARE(service->qt_metacast("INetConnectSetting"), static_cast<void*>(f->profiles));

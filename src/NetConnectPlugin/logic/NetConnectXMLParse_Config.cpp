@@ -60,7 +60,7 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
                                            QMultiHash<QString, IMSIINFO>* imsiProfiles, UserPrompt* prompt) {
     const TraceScope trace(__FILE__, "GetSettingsFromXML");
     m_strCurrentIMSI = QLatin1String("");
-    if (!group || !module) {
+    if (!group || !module || !templates || !functions || !profileList || !imsiProfiles) {
         qDebug("Error in xml parsing");
         return 23;
     }
@@ -84,6 +84,7 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
         for (int j = 0; j < stretch.elements.size(); ++j)
             fileModeElement(stretch.elements.at(j), targets, card, &modeDefault);
     }
+    if (status != 0) traceReadError("GetSettingsFromXML");
     if (card.isMultiMode) markModeDefault(modeDefault, profileList);
     return status;
 }
@@ -98,14 +99,14 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
     }
     m_Config = KeptConfig();
     QByteArray content;
-    if (readFile(path, &content) != 0) return 23;
+    if (!stamp.exists() || readFile(path, &content) != 0) return 23;
 
     if (!document->scan(content)) {
         QXmlStreamReader reader(content);
         const QString refusal = XmlText::refusal(content);
         if (!refusal.isEmpty()) reader.raiseError(refusal);
         document->read(reader);
-        if (reader.hasError()) return readError(reader, path, "GetSettingsFromXML");
+        if (reader.hasError()) return reportReadError(reader, path);
     }
     clearProblem(path);
     m_Config.path = path;
@@ -135,6 +136,7 @@ int NetConnectXMLParse::getConfigData(QXmlStreamReader& reader, QHash<QString, N
                                       QHash<QString, NetConnectXML>* functions,
                                       QHash<QString, NetConnectXML>* profileList,
                                       QMultiHash<QString, IMSIINFO>* imsiProfiles) {
+    if (!templates || !functions || !profileList || !imsiProfiles) return 23;
     const ConfigTargets targets = {templates, functions, profileList, imsiProfiles};
     if (reader.isEndElement() && reader.name() == QLatin1String(IMSISection)) m_strSpare.clear();
     if (reader.isStartElement()) fileElement(NetConnectConfigElement::of(reader), targets);
@@ -165,6 +167,7 @@ void NetConnectXMLParse::fileElement(const NetConnectConfigElement& element, con
 }
 
 int NetConnectXMLParse::getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt) {
+    if (!prompt) return 23;
     if (!reader.isStartElement()) return 0;
     const QXmlStreamAttributes attributes = reader.attributes();
     if (QString UserPrompt::*const field =

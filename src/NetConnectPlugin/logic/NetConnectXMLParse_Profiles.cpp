@@ -21,6 +21,7 @@ NetConnectXMLParse::KeptFile* NetConnectXMLParse::keptFile(const QString& fileNa
 int NetConnectXMLParse::GetAllProfileFromUserDataXML(QList<DialupProfile>* profiles, QString* defaultName,
                                                      QString fileName, bool* isUserSet) {
     const TraceScope trace(__FILE__, "GetAllProfileFromUserDataXML");
+    if (!profiles || !defaultName) return 23;
     ProfileDocument document;
     const QString path = profilePath(fileName);
     int status = 25;
@@ -30,7 +31,8 @@ int NetConnectXMLParse::GetAllProfileFromUserDataXML(QList<DialupProfile>* profi
         reportOutOfMemory(path);
     }
     if (status == 23 || status == 25) return status;
-    applyDocument(document, profiles, defaultName, isUserSet);
+    applyDocument(document, status == 0, profiles, defaultName, isUserSet);
+    if (fileName.isEmpty()) m_bUserFileRead = true;
     return status;
 }
 
@@ -40,7 +42,6 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     if (kept && kept->isCurrent(path, stamp)) {
         *document = kept->document;
         if (kept->isComplete) return 0;
-        qDebug("%s: %s: Read Error: n", __FILE__, "readXML");
         reportProblem(path, kept->damage.reason, kept->damage.line, kept->damage.column);
         return 6;
     }
@@ -60,7 +61,7 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
         QXmlStreamReader reader(content);
         if (!refusal.isEmpty()) reader.raiseError(refusal);
         document->read(reader);
-        if (reader.hasError()) status = readError(reader, path, "readXML");
+        if (reader.hasError()) status = reportReadError(reader, path);
     }
     if (status == 0 || status == 23) clearProblem(path);
     if (!kept) return status;
@@ -76,27 +77,28 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
 
 int NetConnectXMLParse::readXML(QXmlStreamReader& reader, QList<DialupProfile>* profiles, QString* defaultName,
                                 bool* isUserSet) {
+    if (!profiles || !defaultName) return 23;
     ProfileDocument document;
     document.read(reader);
-    const int status = reader.hasError() ? readError(reader, QString(), "readXML") : 0;
-    applyDocument(document, profiles, defaultName, isUserSet);
+    const int status = reader.hasError() ? reportReadError(reader, QString()) : 0;
+    applyDocument(document, status == 0, profiles, defaultName, isUserSet);
     return status;
 }
 
-void NetConnectXMLParse::applyDocument(const ProfileDocument& document, QList<DialupProfile>* profiles,
+void NetConnectXMLParse::applyDocument(const ProfileDocument& document, bool isComplete, QList<DialupProfile>* profiles,
                                        QString* defaultName, bool* isUserSet) {
     bool answered = false;
     const NetConnectCardMode card = NetConnectCardMode::current(&answered);
     if (answered && card.mode != NetConnectCardMode::None)
         qDebug("%s : %s: %s: Get MultiMode Status Success! dwCardMode: %d", traceTime().constData(), __FILE__,
                "readXML", int(card.mode));
-    if (isUserSet) *isUserSet = false;
     if (profiles->isEmpty())
         *profiles = document.profiles;
     else
         *profiles += document.profiles;
     for (int i = 0; i < document.defaults.size(); ++i)
         applyDefault(document.defaults.at(i), card, defaultName, isUserSet);
+    if (!isComplete) traceReadError("readXML");
     qDebug("%s : %s: %s: Exit. DefaultProfile: %s UserSet: %d.", traceTime().constData(), __FILE__, "readXML",
            qPrintable(*defaultName), isUserSet && *isUserSet ? 1 : 0);
 }
@@ -108,7 +110,8 @@ void NetConnectXMLParse::applyDefault(const ProfileDefaultEntry& entry, const Ne
         *defaultName = entry.value.name;
         if (!entry.value.name.isEmpty()) m_Remembered.plain.name = entry.value.name;
         m_Remembered.plain.isUserSet = entry.value.isUserSet;
-        if (isUserSet && !card.isMultiMode) *isUserSet = entry.value.isUserSet;
+        // Where the file has no item for a card's mode the flag stays what it was; at first it was nothing.
+        if (isUserSet && (!card.isMultiMode || !m_bUserFileRead)) *isUserSet = entry.value.isUserSet;
         return;
     }
     const bool isCDMA = entry.kind == ProfileDefaultEntry::CDMA;

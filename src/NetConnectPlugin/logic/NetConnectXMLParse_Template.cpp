@@ -1,6 +1,8 @@
 // The template for new profiles, in the system profile file.
 
 #include <QFile>
+#include <QMap>
+#include <QPair>
 
 #include "NetConnectXMLParse.h"
 #include "ProfileDocumentWriter.h"
@@ -39,10 +41,34 @@ QByteArray templateDocument(const QHash<QString, NetConnectXML>& templates) {
     return writer.finish();
 }
 
+// A start element: its name, and its attributes but the empty ones.
+typedef QPair<QString, QMap<QString, QString> > Element;
+
+// What a document says, however it is written; nothing when it is damaged.
+QList<Element> elementsOf(const QByteArray& content) {
+    QList<Element> elements;
+    QXmlStreamReader reader(content);
+    const QString refusal = XmlText::refusal(content);
+    if (!refusal.isEmpty()) reader.raiseError(refusal);
+    while (!reader.atEnd()) {
+        reader.readNext();
+        XmlText::refuseDeclarations(reader);
+        if (!reader.isStartElement()) continue;
+        Element element(reader.name().toString(), QMap<QString, QString>());
+        const QXmlStreamAttributes attributes = reader.attributes();
+        for (int i = 0; i < attributes.size(); ++i)
+            if (!attributes.at(i).value().isEmpty())
+                element.second.insert(attributes.at(i).name().toString(), attributes.at(i).value().toString());
+        elements.append(element);
+    }
+    return reader.hasError() ? QList<Element>() : elements;
+}
+
 }  // namespace
 
 int NetConnectXMLParse::GetProfileTemplateFromSysXML(DialupProfile* profile) {
     const TraceScope trace(__FILE__, "GetProfileTemplateFromSysXML");
+    if (!profile) return 23;
     const QString path = shippedPath("SysProfile.prof");
     QByteArray content;
     const int status = readFile(path, &content);
@@ -54,12 +80,15 @@ int NetConnectXMLParse::GetProfileTemplateFromSysXML(DialupProfile* profile) {
     while (!reader.atEnd()) {
         reader.readNext();
         XmlText::refuseDeclarations(reader);
-        if (reader.hasError()) return readError(reader, path, "GetProfileTemplateFromSysXML");
+        if (reader.hasError()) break;
         if (!reader.isStartElement() || reader.name() != QLatin1String("Template")) continue;
         fillFromTemplate(reader.attributes(), profile);
         break;
     }
-    if (reader.hasError()) return readError(reader, path, "GetProfileTemplateFromSysXML");
+    if (reader.hasError()) {
+        traceReadError("GetProfileTemplateFromSysXML");
+        return reportReadError(reader, path);
+    }
     clearProblem(path);
     return 0;
 }
@@ -72,6 +101,7 @@ int NetConnectXMLParse::ModifyProfileTemplateToSysXML(QHash<QString, NetConnectX
 
     // The file lies where many users may read but few may write: leave one alone that is right already.
     QFile present(path);
-    if (!content.isEmpty() && present.open(QIODevice::ReadOnly) && present.readAll() == content) return 0;
+    const bool isReadable = !content.isEmpty() && present.open(QIODevice::ReadOnly);
+    if (isReadable && elementsOf(present.readAll()) == elementsOf(content)) return 0;
     return writeFile(path, content, FileReplacement::Shipped, FileReplacement::OverOld);
 }
