@@ -39,6 +39,8 @@ NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
       m_bIsUserSet(false),
       m_Mutex(QMutex::Recursive),
       m_bIMSIDefaultForgotten(false),
+      m_nConfigStatus(FileMissing),
+      m_bIMSIRead(false),
       m_bForeignDefault(false),
       m_nLibraryRevision(-1),
       m_nHolds(0) {
@@ -48,7 +50,7 @@ NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
 
 NetConnectSettingUILogic::~NetConnectSettingUILogic() {
     try {
-        clearAutomaticDefault();
+        ClearAutomaticDefault();
     } catch (...) {
         // The rest of the end must not depend on the user's file.
     }
@@ -60,23 +62,6 @@ NetConnectSettingUILogic::~NetConnectSettingUILogic() {
     m_Store.detach();
     while (m_nHolds > 0) letGo();
     NetConnectXMLParse::Destroy();
-}
-
-bool NetConnectSettingUILogic::isAutomaticDefault() {
-    m_Store.readAwaited();
-    if (m_strDefaultProfile.isEmpty()) return false;
-    bool followsIMSI = false;
-    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
-    const bool isIMSIListInForce = !m_IMSIProfileList.isEmpty() && followsIMSI;
-    return m_strDefaultProfile == (isIMSIListInForce ? imsiProposal() : m_strAPNDefaultProfile);
-}
-
-// A default that the configuration proposed is not left in the user's file.
-void NetConnectSettingUILogic::clearAutomaticDefault() {
-    if (!isAutomaticDefault()) return;
-    const NetConnectOperation operation;
-    // The user may have chosen one in another process meanwhile.
-    if (isAutomaticDefault()) SetDefaultDialUpProfileName(QLatin1String(""), false);
 }
 
 int NetConnectSettingUILogic::Init() {
@@ -101,10 +86,9 @@ int NetConnectSettingUILogic::Init() {
 
     m_IMSIProfileList.clear();
     m_strMatchedPrefix.clear();
-    bool followsIMSI = false;
-    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
+    m_bIMSIRead = false;
     int deviceStatus = 0;
-    if (followsIMSI && VRKS_DevSrv_GetDevStatus(&deviceStatus) == 0 && deviceStatus == VRKS_DEV_STATUS_READY)
+    if (followsIMSI() && VRKS_DevSrv_GetDevStatus(&deviceStatus) == 0 && deviceStatus == VRKS_DEV_STATUS_READY)
         result = getIMSIProfileList();
     return result;
 }
@@ -134,6 +118,10 @@ int NetConnectSettingUILogic::getConfigData() {
     }
 
     int result = readConfigPair("common", "common", &m_UserPrompt);
+    m_nConfigStatus = result;
+    m_ConfigProblem = LastStorageProblem();
+    if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath("NetConnectConfig.xml"))
+        m_ConfigProblem = NetConnectStorageProblem();
     const QString deviceName = customizeName();
     if (!deviceName.isEmpty() && deviceName != QLatin1String("common")) {
         m_pIMSIHash->clear();

@@ -89,6 +89,10 @@ public:
     // Reads the configuration into the caches.
     int getConfigData();
 
+    // How that went last, and what was wrong with the file; no problem when it was just missing.
+    int ConfigurationStatus() const { return m_nConfigStatus; }
+    NetConnectStorageProblem ConfigurationProblem() const { return m_ConfigProblem; }
+
     static void RegisterDevice();
     static void UnRegisterDevice();
 
@@ -146,6 +150,10 @@ public:
 
     int GetDefaultDialUpProfileName(QString* name);
     int SetDefaultDialUpProfileName(QString name, bool isUserSet);
+
+    // Takes a default that the configuration proposed out of the user's file, as Destroy() does. In an action of its
+    // own, which then stores once, Destroy() finds nothing more to do.
+    void ClearAutomaticDefault();
 
     // Whether the user chose the default.
     bool IsDefaultUserSet();
@@ -236,8 +244,8 @@ private:
     void readLibrary(QString* defaultName);
     int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);
     void forgetForeignDefault();
-    bool isAutomaticDefault();
-    void clearAutomaticDefault();
+    bool isOn(const char* key);
+    bool followsIMSI();
     static QString translated(const QString& langid);
     static bool translateName(QList<DialupProfile>* profiles, int index);
 
@@ -248,10 +256,18 @@ private:
     void openPassword(DialupProfile* profile);
     void fillFromDevice(DialupProfile* profile, const char* function);
     void removePreset(const QString& name);
+    void undoWithAction();
 
     // the default profile
     QString imsiProposal() const;
     QString replacementDefault(const QSet<QString>& otherNames);
+    void replaceDefault(const QString& proposal, bool isFileRead);
+    void renameDefault(const QString& name);
+    bool isProposed(const QString& name);
+    bool isAutomaticDefault();
+    bool isCardAwaited();
+    bool waitsForCard();
+    bool isOfAwaitedCard();
 
     // presets
     void refreshLibraryNames();
@@ -293,9 +309,13 @@ private:
     // The device's event makes the IMSI's proposal void on its own thread, where the text must not be touched.
     std::atomic<bool> m_bIMSIDefaultForgotten;
 
+    int m_nConfigStatus;
+    NetConnectStorageProblem m_ConfigProblem;
     QString m_strMatchedPrefix;
-    bool m_bForeignDefault;          // m_strDefaultProfile came from a file that was browsed
-    NetConnectDefault m_OwnDefault;  // what it was before
+    bool m_bIMSIRead;                 // from the card that is there now
+    QString m_strCardDefaultProfile;  // the proposal that was last stored for a card
+    bool m_bForeignDefault;           // m_strDefaultProfile came from a file that was browsed
+    NetConnectDefault m_OwnDefault;   // what it was before
 
     QList<QString> m_UnsortedNames;  // what sortProfileNames was last given, and what it made of it
     QList<QString> m_SortedNames;

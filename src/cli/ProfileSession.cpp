@@ -96,6 +96,7 @@ void ProfileSession::require(int status, const QString& what) const {
 
 void ProfileSession::finish() {
     if (m_Kind == Changing) {
+        m_pLogic->ClearAutomaticDefault();  // or the logic's end would write once more
         require(m_Action.commit(), "the profiles can't be stored");
         if (!problem().isEmpty()) printWarning(problem());
         return;
@@ -104,15 +105,10 @@ void ProfileSession::finish() {
     if (!m_Problem.isEmpty()) throw CommandError::failed(m_Problem);
 }
 
-// The logic has read the configuration already, but keeps only the last problem. Only when that is another file's is
-// the configuration read once more.
 QString ProfileSession::configurationProblem() const {
-    const QString path = NetConnectXMLParse::shippedPath("NetConnectConfig.xml");
-    if (!QFileInfo::exists(path)) return missingText(path);
-    const auto last = [this] { return m_pLogic->LastStorageProblem(); };
-    const bool isHidden = !last().isNull() && last().file != path;
-    if (isHidden && m_pLogic->getConfigData() == NetConnectSettingUILogic::Success) return QString();
-    return last().text();
+    if (m_pLogic->ConfigurationStatus() == NetConnectSettingUILogic::Success) return QString();
+    const NetConnectStorageProblem problem = m_pLogic->ConfigurationProblem();
+    return problem.isNull() ? missingText(NetConnectXMLParse::shippedPath("NetConnectConfig.xml")) : problem.text();
 }
 
 QString ProfileSession::problem() const {

@@ -54,7 +54,10 @@ public:
 
 private:
     struct LogicLife {
-        ~LogicLife() { NetConnectSettingUILogic::Destroy(); }
+        ~LogicLife() {
+            const NetConnectStoreAction nothing(NetConnectStoreAction::Browse);  // the command has stored, or failed
+            NetConnectSettingUILogic::Destroy();
+        }
     };
 
     QString configurationProblem() const;

@@ -38,6 +38,18 @@ private slots:
         QCOMPARE(fixture.show(name), before);
     }
 
+    // Neither the listing's proposal nor its end writes beside it.
+    void aCommandReadsOnceAndWritesOnce() {
+        const OrbisctlFixture fixture;
+        COMPARE_DONE(fixture.run({"add", "Mine", "apn=a", "phonenumber=*99#"}));
+        QVERIFY(TestFolder::read(fixture.userFile()).contains("<Default name=\"\"/>"));
+        const Outcome outcome = fixture.run({"--trace", "set", "Mine", "apn=b"});
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.err.count(" SaveProfileToXML: Entered"), 1);
+        QCOMPARE(outcome.err.count(" GetSettingsFromXML: Entered"), 1);
+        QVERIFY(TestFolder::read(fixture.userFile()).contains("<Default name=\"\"/>"));
+    }
+
     void refusal_data() {
         const Rows<QStringList, int, QByteArray> row("arguments", "status", "words");
         row("no command", {}, 2, "--help");

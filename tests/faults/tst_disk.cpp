@@ -99,21 +99,21 @@ private slots:
         QCOMPARE(FaultsFixture::userNames(), QStringList({"New", "Old"}));
     }
 
-    // A choice that could not be stored is not undone by what another process writes, as long as that is no choice.
-    void aChoiceThatCouldNotBeStoredStays() {
+    // A choice that could not be stored must not look stored, neither now nor after the next save.
+    void aChoiceThatCouldNotBeStoredIsNone() {
         FaultsFixture fixture;
         COMPARE_DONE(fixture.run({"add", "Mine"}));
+        COMPARE_DONE(fixture.run({"add", "Other"}));
+        COMPARE_DONE(fixture.run({"default", "Mine"}));
         FaultsFixture::restart();
         FaultsFixture::userNames();
         {
             const Failing failing({"write", ENOSPC});
-            QCOMPARE(fixture.logic()->SetDefaultDialUpProfileName("Mine", true), 25);
+            QCOMPARE(fixture.logic()->SetDefaultDialUpProfileName("Other", false), 25);
+            QCOMPARE(LogicFixture::defaultName(), QString("Mine"));
+            QVERIFY(fixture.logic()->IsDefaultUserSet());
         }
-        const QByteArray file = FaultsFixture::read(fixture.userFile());
-        FaultsFixture::write(fixture.userFile(), QByteArray(file).replace("name=\"Mine\"", "name=\"Theirs\""));
-        QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("Mine")), 0);
-        QCOMPARE(FaultsFixture::userNames(), QStringList({"Mine", "Theirs"}));
-        QCOMPARE(LogicFixture::defaultName(), QString("Mine"));
+        QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("Third")), 0);
         QVERIFY(FaultsFixture::read(fixture.userFile()).contains("<Default name=\"Mine\" IsUserSet=\"1\"/>"));
     }
 

@@ -262,6 +262,21 @@ private slots:
         QCOMPARE(user(), before);
     }
 
+    void nullsAreRefused() {
+        restart();
+        const QStringList one("A");
+        QCOMPARE(logic()->GetAllDialUpProfile(nullptr), 23);
+        QCOMPARE(logic()->sortProfileNames(nullptr), 23);
+        QCOMPARE(logic()->GetDialUpProfile("A", nullptr), 23);
+        QCOMPARE(logic()->NewDialUpProfileTemplate(nullptr), 23);
+        QCOMPARE(logic()->GetDefaultDialUpProfileName(nullptr), 23);
+        QCOMPARE(logic()->GetFunctionConfigValue("A", nullptr), 23);
+        QCOMPARE(logic()->GetFunctionConfigStringValues("A", nullptr), 23);
+        QCOMPARE(logic()->GetDialUpProfileFromFile(nullptr, QString()), 23);
+        QCOMPARE(logic()->ImportChosenProfiles(one, nullptr), 23);
+        QCOMPARE(logic()->ExportSelectedProfilesToFile(nullptr, path("export.prof")), 23);
+    }
+
     void browsingStoresNothing() {
         shipConfig(section("ProfileList", {"Preset=default"}));
         setUser(profile("Mine"), "<Default name='Preset'/>");

@@ -9,6 +9,12 @@ int NetConnectSettingUILogic::GetFunctionConfigValue(QString key, bool* on) {
     return Success;
 }
 
+bool NetConnectSettingUILogic::isOn(const char* key) {
+    bool on = false;
+    GetFunctionConfigValue(QLatin1String(key), &on);
+    return on;
+}
+
 int NetConnectSettingUILogic::GetFunctionConfigValue(QString key, int& value, int defaultValue) {
     const int configured = m_pFunctionHash ? m_pFunctionHash->value(key).value.toInt() : 0;
     value = configured != 0 ? configured : defaultValue;

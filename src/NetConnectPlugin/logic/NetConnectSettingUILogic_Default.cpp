@@ -7,6 +7,7 @@
 
 int NetConnectSettingUILogic::GetDefaultDialUpProfileName(QString* name) {
     const TraceScope trace(__FILE__, "GetDefaultDialUpProfileName", "%s : %s: %s: enter", "%s : %s: %s: exit");
+    if (!name) return FileMissing;
     m_Store.readAwaited();
     *name = m_strDefaultProfile;
     return Success;
@@ -20,18 +21,58 @@ bool NetConnectSettingUILogic::IsDefaultUserSet() {
 int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isUserSet) {
     const Hold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
+    forgetForeignDefault();
     NetConnectOperation operation;
-    m_bForeignDefault = false;
-    m_strDefaultProfile = name;
-    m_bIsUserSet = isUserSet;
-    bool followsIMSI = false;
-    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
+    return operation.storeDefault(NetConnectDefault(name, isUserSet && !isProposed(name)));
+}
 
-    // To choose what the configuration proposes is no choice: the configuration may replace it later.
-    const bool isIMSIListEmpty = m_IMSIProfileList.isEmpty();
-    if (!isIMSIListEmpty && followsIMSI && name == imsiProposal()) m_bIsUserSet = false;
-    if (isIMSIListEmpty && name == m_strAPNDefaultProfile) m_bIsUserSet = false;
-    return operation.store();
+// To choose what the configuration proposes is no choice: the configuration may replace it later.
+bool NetConnectSettingUILogic::isProposed(const QString& name) {
+    if (m_IMSIProfileList.isEmpty()) return name == m_strAPNDefaultProfile;
+    return followsIMSI() && name == imsiProposal();
+}
+
+// Whether presets are to be selected by a card that is not there yet, or no longer.
+bool NetConnectSettingUILogic::isCardAwaited() { return followsIMSI() && HasIMSIPresets() && !m_bIMSIRead; }
+
+// Whether the stored default waits for its card: the user chose it, and it is no profile of the user's.
+bool NetConnectSettingUILogic::waitsForCard() {
+    const NetConnectDefault stored = m_Store.storedDefault();
+    return stored.isUserSet && isCardAwaited() && !HasUserProfile(stored.name);
+}
+
+// Whether the stored default is what the configuration proposed for the card that was there before: it will be again
+// when the card comes back, so that a modem that comes and goes leaves the file alone.
+bool NetConnectSettingUILogic::isOfAwaitedCard() {
+    return isCardAwaited() && m_Store.storedDefault() == NetConnectDefault(m_strCardDefaultProfile, false) &&
+           !m_strCardDefaultProfile.isEmpty();
+}
+
+// Makes the configuration's proposal the default. It is not stored over what another process has set meanwhile, nor
+// into a file that may hold another one, for all we know.
+void NetConnectSettingUILogic::replaceDefault(const QString& proposal, bool isFileRead) {
+    if (waitsForCard() || isOfAwaitedCard()) return m_Store.proposeForNow(proposal);
+    const NetConnectDefault stored = m_Store.storedDefault();
+    const NetConnectOperation operation;
+    if (m_Store.storedDefault() != stored) return;
+    m_strDefaultProfile = proposal;
+    if (!isFileRead || SetDefaultDialUpProfileName(proposal, false) != Success) return;
+    m_strCardDefaultProfile = isCardAwaited() ? QString() : proposal;
+}
+
+bool NetConnectSettingUILogic::isAutomaticDefault() {
+    m_Store.readAwaited();
+    if (m_strDefaultProfile.isEmpty() || waitsForCard()) return false;
+    const bool isIMSIListInForce = !m_IMSIProfileList.isEmpty() && followsIMSI();
+    return m_strDefaultProfile == (isIMSIListInForce ? imsiProposal() : m_strAPNDefaultProfile);
+}
+
+void NetConnectSettingUILogic::ClearAutomaticDefault() {
+    forgetForeignDefault();
+    if (!isAutomaticDefault()) return;
+    const NetConnectOperation operation;
+    // The user may have chosen one in another process meanwhile.
+    if (isAutomaticDefault()) SetDefaultDialUpProfileName(QLatin1String(""), false);
 }
 
 // The default that the configuration puts in the place of the stored one; null when that stays. The other names are

@@ -11,6 +11,7 @@
 namespace {
 
 const char DefaultValue[] = "default";
+const uint ShortestIMSI = 5;  // the country and network code
 
 // The longest key that an IMSI begins with; null when there is none. An empty key stands for no network.
 QString longestPrefix(const QString& imsi, const QMultiHash<QString, IMSIINFO>& rows) {
@@ -40,6 +41,7 @@ int NetConnectSettingUILogic::getIMSIProfileList() {
     if (VRKS_DevSrv_GetImsiInfo(imsi) != 0) return FileMissing;
     if (!m_pIMSIHash || m_pIMSIHash->isEmpty()) return FileMissing;
     imsi[VRKS_IMSI_SIZE - 1] = 0;
+    m_bIMSIRead = qstrlen(imsi) >= ShortestIMSI;
 
     const NetConnectIMSISelection selection = SelectByIMSI(QString::fromLatin1(imsi));
     m_strMatchedPrefix = selection.prefix;
@@ -49,9 +51,8 @@ int NetConnectSettingUILogic::getIMSIProfileList() {
 }
 
 NetConnectIMSISelection NetConnectSettingUILogic::SelectByIMSI(const QString& imsi) {
-    const int shortestIMSI = 5;  // the country and network code
     NetConnectIMSISelection selection;
-    if (!m_pIMSIHash || imsi.size() < shortestIMSI) return selection;
+    if (!m_pIMSIHash || uint(imsi.size()) < ShortestIMSI) return selection;
     selection.prefix = longestPrefix(imsi, *m_pIMSIHash);
     if (selection.prefix.isEmpty()) return selection;
 
@@ -83,18 +84,14 @@ QStringList NetConnectSettingUILogic::getAPNListFromHash() {
 }
 
 QStringList NetConnectSettingUILogic::getDefaultOrIMSIProfileList() {
-    bool followsIMSI = false;
-    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
-    return followsIMSI && !m_IMSIProfileList.isEmpty() ? m_IMSIProfileList : m_APNProfileList;
+    return followsIMSI() && !m_IMSIProfileList.isEmpty() ? m_IMSIProfileList : m_APNProfileList;
 }
 
 QStringList NetConnectSettingUILogic::GetDefaultAPNProfileList() { return m_IMSIProfileList + m_APNProfileList; }
 
-bool NetConnectSettingUILogic::IsIMSIROAMSettingEnable() {
-    bool on = false;
-    GetFunctionConfigValue("IMSIROAM", &on);
-    return on;
-}
+bool NetConnectSettingUILogic::IsIMSIROAMSettingEnable() { return isOn("IMSIROAM"); }
+
+bool NetConnectSettingUILogic::followsIMSI() { return isOn("IMSIAPN"); }
 
 bool NetConnectSettingUILogic::IsEhrpdSubMode() {
     const int modeOffset = 4;

@@ -32,6 +32,7 @@ private:
 
 int NetConnectSettingUILogic::ImportDialupProfiles(QStringList* names, QWidget* parent) {
     if (!parent || !m_pXMLParse) return ObjectMissing;
+    if (!names) return FileMissing;
     AskUser policy(parent);
     const int status = ImportChosenProfiles(*names, &policy);
     return status == NothingImported || status == ObjectMissing ? status : int(Success);

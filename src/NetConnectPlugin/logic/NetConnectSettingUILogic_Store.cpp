@@ -16,6 +16,7 @@ static const char Base64Method[] = "1";
 
 int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
     const Hold hold(this);
+    if (!names) return FileMissing;
     if (!m_pXMLParse) {
         m_UserProfileList.clear();
         return ObjectMissing;
@@ -41,13 +42,7 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
     m_ProfileNameList = QStringList(*names);
 
     const QString replacement = replacementDefault(otherNames);
-    if (!replacement.isNull()) {
-        const NetConnectDefault stored = m_Store.storedDefault();
-        const NetConnectOperation operation;
-        // Not over what another process has set meanwhile; nor into a file that may hold another, for all we know.
-        if (m_Store.storedDefault() == stored) m_strDefaultProfile = replacement;
-        if (m_Store.storedDefault() == stored && isReadable) SetDefaultDialUpProfileName(replacement, false);
-    }
+    if (!replacement.isNull()) replaceDefault(replacement, isReadable);
     sortProfileNames(names);
     return Success;
 }
@@ -102,6 +97,7 @@ private:
 }  // namespace
 
 int NetConnectSettingUILogic::sortProfileNames(QList<QString>* names) {
+    if (!names) return FileMissing;
     if (*names != m_UnsortedNames) {
         std::vector<int> places(size_t(names->size()), 0);
         for (int i = 0; i < names->size(); ++i) places[size_t(i)] = i;
@@ -128,14 +124,13 @@ int NetConnectSettingUILogic::findLibraryProfile(const QString& name) {
 }
 
 int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* profile) {
+    if (!profile) return FileMissing;
     *profile = DialupProfile();
     for (int i = 0; i < DialupProfileFieldCount; ++i) profile->*DialupProfileFields[i].member = QLatin1String("");
 
     // A preset that is shown under its translated name may be kept under the stored one or under the shown one.
-    bool followsIMSI = false;
-    GetFunctionConfigValue("IMSIAPN", &followsIMSI);
     QStringList candidates(name);
-    if (followsIMSI && m_StoredNames.contains(name)) candidates.prepend(m_StoredNames.value(name));
+    if (followsIMSI() && m_StoredNames.contains(name)) candidates.prepend(m_StoredNames.value(name));
 
     for (int i = 0; i < candidates.size(); ++i) {
         const int index = m_Store.find(candidates.at(i));
@@ -156,9 +151,7 @@ int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* prof
 
 // Turns a stored password into a plain one.
 void NetConnectSettingUILogic::openPassword(DialupProfile* profile) {
-    bool encrypts = false;
-    GetFunctionConfigValue("ENCRYPT", &encrypts);
-    if (!encrypts) return;
+    if (!isOn("ENCRYPT")) return;
     if (profile->encrypttype == QLatin1String("0") || profile->encrypttype.isEmpty())
         profile->encrypttype = QLatin1String(Base64Method);
     const QString stored = profile->password;
@@ -172,9 +165,7 @@ void NetConnectSettingUILogic::openPassword(DialupProfile* profile) {
 
 // Seals a plain password when the configuration says so; false when it can't be sealed.
 bool NetConnectSettingUILogic::sealPassword(DialupProfile* profile) {
-    bool encrypts = false;
-    GetFunctionConfigValue("ENCRYPT", &encrypts);
-    if (!encrypts) return true;
+    if (!isOn("ENCRYPT")) return true;
     profile->encrypttype = QLatin1String(KeyedMethod);
     const bool hasPassword = !profile->password.isEmpty();
     profile->password = XorEncrypt(profile->password, profile->encrypttype);
@@ -235,12 +226,27 @@ int NetConnectSettingUILogic::DelDialUpProfile(QString name) {
 
 // Takes a preset out of every list in memory; it comes back when the configuration is read again.
 void NetConnectSettingUILogic::removePreset(const QString& name) {
+    undoWithAction();
     m_IMSIProfileList.removeOne(name);
     m_APNProfileList.removeOne(name);
     if (!m_pProfileListHash) return;
     QStringList items = m_ProfileHash.keys(name);
     items.sort();
     m_pProfileListHash->remove(items.isEmpty() ? name : items.first());
+}
+
+// An action that is dropped, since the profile that was to take the preset's place could not be stored, leaves the
+// preset.
+void NetConnectSettingUILogic::undoWithAction() {
+    const QStringList fromIMSI = m_IMSIProfileList;
+    const QStringList fromConfiguration = m_APNProfileList;
+    const QHash<QString, NetConnectXML> items =
+        m_pProfileListHash ? *m_pProfileListHash : QHash<QString, NetConnectXML>();
+    m_Store.alsoUndo([this, fromIMSI, fromConfiguration, items] {
+        m_IMSIProfileList = fromIMSI;
+        m_APNProfileList = fromConfiguration;
+        if (m_pProfileListHash) *m_pProfileListHash = items;
+    });
 }
 
 int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const DialupProfile& profile) {
@@ -253,7 +259,7 @@ int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const
 
     DialupProfile stored = profile;
     if (isRenamed) stored.langid = QLatin1String("");
-    if (m_strDefaultProfile == oldName && !oldName.isEmpty()) SetDefaultDialUpProfileName(profile.name, m_bIsUserSet);
+    if (m_strDefaultProfile == oldName && !oldName.isEmpty()) renameDefault(profile.name);
     const int index = m_Store.find(oldName);
     if (index >= 0) DelDialUpProfile(oldName);
     int status = AddDialUpProfile(stored);
@@ -266,11 +272,19 @@ int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const
     return action.commit();
 }
 
+void NetConnectSettingUILogic::renameDefault(const QString& name) {
+    if (m_Store.isProposalForNow())
+        m_strDefaultProfile = name;
+    else
+        SetDefaultDialUpProfileName(name, m_bIsUserSet);
+}
+
 int NetConnectSettingUILogic::updateProfileTemplate() {
     return m_pXMLParse ? m_pXMLParse->ModifyProfileTemplateToSysXML(m_pProfileTemplateHash) : int(ObjectMissing);
 }
 
 int NetConnectSettingUILogic::NewDialUpProfileTemplate(DialupProfile* profile) {
+    if (!profile) return FileMissing;
     // Where the shipped files can't be written the template stands as it was shipped: no problem to report.
     const NetConnectStorageProblem before = LastStorageProblem();
     if (updateProfileTemplate() == FileNotOpened)

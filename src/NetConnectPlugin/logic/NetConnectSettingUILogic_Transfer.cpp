@@ -24,6 +24,7 @@ private:
 int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QString path) {
     const Hold hold(this);
     m_ImportList.clear();
+    if (!names) return FileMissing;
     if (!m_pXMLParse) return ObjectMissing;
     m_Store.readAwaited();
     const QString file = path.isEmpty() ? QString(QLatin1String("ProfileLib.prof")) : path;
@@ -46,6 +47,7 @@ QList<DialupProfile> NetConnectSettingUILogic::ImportCandidates() const { return
 int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, NetConnectClashPolicy* policy) {
     const Hold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
+    if (!policy) return FileMissing;
     if (names.isEmpty()) return NothingImported;
 
     // Every question comes before the first change: while one is on screen events run that look at the lists, and
@@ -76,7 +78,9 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
         for (int i = 0; i < names.size(); ++i)
             if (!decided.contains(names.at(i)) || replaced.contains(names.at(i))) accepted.append(names.at(i));
         if (!addCandidates(accepted, replaced)) return NothingImported;
-        return operation.store();
+        const int status = operation.store();
+        if (status == Success) m_bForeignDefault = false;  // it is the user's now
+        return status;
     }
 }
 
@@ -104,6 +108,7 @@ bool NetConnectSettingUILogic::addCandidates(const QStringList& names, const QSe
 }
 
 int NetConnectSettingUILogic::ExportSelectedProfilesToFile(QStringList* names, QString path) {
+    if (!names) return FileMissing;
     const int status = ExportChosenProfiles(*names, path);
     return status == ObjectMissing ? status : int(Success);
 }

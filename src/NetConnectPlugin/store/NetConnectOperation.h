@@ -16,6 +16,7 @@ public:
 
     // Writes the user's profiles and default, or leaves that to the open NetConnectStoreAction: 0 or 25.
     int store() { return UserStore::instance().store(); }
+    int storeDefault(const NetConnectDefault& value) { return UserStore::instance().storeDefault(value); }
 
 private:
     Q_DISABLE_COPY(NetConnectOperation)

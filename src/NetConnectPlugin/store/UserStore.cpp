@@ -12,13 +12,16 @@ UserStore& UserStore::instance() {
 UserStore::UserStore()
     : m_pFiles(0),
       m_nRevision(0),
+      m_bStoredKnown(false),
+      m_bKeepsDefault(false),
       m_bAwaited(false),
       m_bWhole(false),
       m_nActions(0),
       m_nOperations(0),
       m_Kind(Change),
       m_bFailed(false),
-      m_bPending(false) {}
+      m_bPending(false),
+      m_bListPending(false) {}
 
 void UserStore::attach(const UserStoreMembers& members, NetConnectXMLParse* files,
                        const std::function<void()>& changed) {
@@ -33,7 +36,8 @@ void UserStore::detach() {
     m_Changed = std::function<void()>();
     m_Stamp = FileStamp();
     m_StoredDefault = NetConnectDefault();
-    m_bAwaited = m_bWhole = false;
+    m_StoredProfiles.clear();
+    m_bAwaited = m_bWhole = m_bStoredKnown = m_bKeepsDefault = false;
     if (m_bPending && m_Kind == Change) m_bFailed = true;
     m_Index = ProfileIndex();
     m_Snapshot = Snapshot();
@@ -48,7 +52,7 @@ void UserStore::readAwaited() {
 int UserStore::read() {
     m_bAwaited = false;
     QList<DialupProfile> profiles;
-    NetConnectDefault value = defaultInMemory();
+    NetConnectDefault value = defaultToStore();
     const int status = load(&profiles, &value);
     if (status == NetConnectStatus::FileMissing && !m_Members.profiles->isEmpty()) {
         m_Stamp.settled = false;
@@ -66,6 +70,8 @@ int UserStore::read() {
 int UserStore::load(QList<DialupProfile>* profiles, NetConnectDefault* value) {
     const int status = m_pFiles->GetAllProfileFromUserDataXML(profiles, &value->name, QString(), &value->isUserSet);
     rememberFile(status);
+    m_bStoredKnown = status == NetConnectStatus::Success;
+    if (m_bStoredKnown) m_StoredProfiles = *profiles;
     return status;
 }
 
@@ -82,10 +88,15 @@ NetConnectDefault UserStore::defaultInMemory() const {
     return NetConnectDefault(*m_Members.defaultName, *m_Members.isUserSet);
 }
 
-void UserStore::setDefaultInMemory(const NetConnectDefault& value) {
+void UserStore::setDefaultInMemory(const NetConnectDefault& value, bool keepsStored) {
     *m_Members.defaultName = value.name;
     *m_Members.isUserSet = value.isUserSet;
+    m_bKeepsDefault = keepsStored;
 }
+
+NetConnectDefault UserStore::defaultToStore() const { return m_bKeepsDefault ? m_StoredDefault : defaultInMemory(); }
+
+void UserStore::proposeForNow(const QString& name) { setDefaultInMemory(NetConnectDefault(name, false), true); }
 
 int UserStore::find(const QString& name) {
     if (!isAttached()) return -1;
@@ -155,7 +166,7 @@ int UserStore::store() {
         return NetConnectStatus::FileNotOpened;
     }
     if (m_nActions == 0) return write();
-    m_bPending = true;
+    m_bPending = m_bListPending = true;
     return NetConnectStatus::Success;
 }
 
@@ -168,12 +179,13 @@ bool UserStore::isStillLocked() {
 }
 
 int UserStore::write() {
-    const NetConnectDefault value = defaultInMemory();
+    const NetConnectDefault value = defaultToStore();
     int status = NetConnectStatus::FileNotOpened;
     if (isStillLocked())
         status = m_pFiles->SaveProfileToXML(*m_Members.profiles, value.name, QString(), value.isUserSet);
     if (status == NetConnectStatus::Success) {
-        m_bWhole = true;
+        m_bWhole = m_bStoredKnown = true;
+        m_StoredProfiles = *m_Members.profiles;
         m_StoredDefault = value;
         m_Stamp = m_pFiles->userFileStamp();
     } else {
@@ -181,6 +193,25 @@ int UserStore::write() {
     }
     m_Changed();
     return status;
+}
+
+int UserStore::storeDefault(const NetConnectDefault& value) {
+    const NetConnectDefault former = defaultInMemory();
+    const bool keptStored = m_bKeepsDefault;
+    const bool isListPending = m_bListPending;
+    setDefaultInMemory(value);
+    const int status = store();
+    m_bListPending = isListPending;
+    if (status != NetConnectStatus::Success) setDefaultInMemory(former, keptStored);
+    return status;
+}
+
+// Whether writing is due: a default that was proposed and taken back again leaves the file as it is.
+bool UserStore::isWriteDue() const {
+    const NetConnectDefault value = defaultToStore();
+    const bool isStored = m_bStoredKnown && m_StoredDefault == value && m_pFiles->isModeDefault(value) &&
+                          m_StoredProfiles.isSharedWith(*m_Members.profiles);
+    return m_bPending && m_Kind == Change && (m_bListPending || !isStored);
 }
 
 NetConnectStorageProblem UserStore::lastProblem() const {
@@ -207,6 +238,7 @@ void UserStore::takeSnapshot() {
     m_Snapshot.isTaken = true;
     m_Snapshot.profiles = *m_Members.profiles;
     m_Snapshot.defaultProfile = defaultInMemory();
+    m_Snapshot.keepsDefault = m_bKeepsDefault;
 }
 
 void UserStore::alsoUndo(const std::function<void()>& undo) {
@@ -220,7 +252,7 @@ void UserStore::beginAction(Kind kind) {
 int UserStore::commitAction() {
     int status = m_bFailed ? NetConnectStatus::FileNotOpened : NetConnectStatus::Success;
     const bool isOutermost = m_nActions == 1;
-    if (isOutermost && m_bPending && m_Kind == Change && status == NetConnectStatus::Success) status = write();
+    if (isOutermost && isWriteDue() && status == NetConnectStatus::Success) status = write();
     if (isOutermost && status != NetConnectStatus::Success)
         dropAction();  // memory holds what the file holds, or a repeated change would find itself done
     else
@@ -232,15 +264,15 @@ void UserStore::dropAction() {
     while (!m_Snapshot.undo.isEmpty()) m_Snapshot.undo.takeLast()();
     if (m_Snapshot.isTaken) {
         *m_Members.profiles = m_Snapshot.profiles;
-        setDefaultInMemory(m_Snapshot.defaultProfile);
+        setDefaultInMemory(m_Snapshot.defaultProfile, m_Snapshot.keepsDefault);
     }
-    m_bPending = false;
+    m_bPending = m_bListPending = false;
     closeAction();
 }
 
 void UserStore::closeAction() {
     if (--m_nActions > 0) return;
-    m_bPending = false;
+    m_bPending = m_bListPending = false;
     m_Snapshot = Snapshot();
     releaseLock();
 }

@@ -61,6 +61,11 @@ public:
     // Whether the file still is as it was last read or written here.
     bool isUpToDate() const;
 
+    // Makes a profile the default in memory alone: what is stored keeps the one that it has, until another one is
+    // stored or the file is read.
+    void proposeForNow(const QString& name);
+    bool isProposalForNow() const { return m_bKeepsDefault; }
+
     // --- for the scope objects ---
 
     void beginOperation();
@@ -76,17 +81,21 @@ public:
     // Writes profiles and default, or leaves that to the open action: 0 or 25.
     int store();
 
+    // Stores another default; the former one comes back when that fails.
+    int storeDefault(const NetConnectDefault& value);
+
     // An open action that is dropped calls this, too. Without one nothing is kept.
     void alsoUndo(const std::function<void()>& undo);
 
 private:
     // What a dropped action puts back.
     struct Snapshot {
-        Snapshot() : isTaken(false) {}
+        Snapshot() : isTaken(false), keepsDefault(false) {}
 
         bool isTaken;
         QList<DialupProfile> profiles;
         NetConnectDefault defaultProfile;
+        bool keepsDefault;
         QList<std::function<void()> > undo;
     };
 
@@ -104,7 +113,9 @@ private:
     void rememberFile(int status);
     bool isStillLocked();
     NetConnectDefault defaultInMemory() const;
-    void setDefaultInMemory(const NetConnectDefault& value);
+    void setDefaultInMemory(const NetConnectDefault& value, bool keepsStored = false);
+    NetConnectDefault defaultToStore() const;
+    bool isWriteDue() const;
     int write();
     void takeSnapshot();
     void closeAction();
@@ -116,7 +127,10 @@ private:
 
     FileStamp m_Stamp;  // of the user's file as the profiles were read or written
     int m_nRevision;
+    QList<DialupProfile> m_StoredProfiles;
     NetConnectDefault m_StoredDefault;
+    bool m_bStoredKnown;   // the two are what the file holds
+    bool m_bKeepsDefault;  // the default in memory is for now: m_StoredDefault is to be written
     bool m_bAwaited;
     bool m_bWhole;  // the profiles in memory are all that a file held
     ProfileIndex m_Index;
@@ -125,8 +139,9 @@ private:
     int m_nOperations;  // running operations of the logic
     Kind m_Kind;        // of the outermost action
     UserFileLock m_Lock;
-    bool m_bFailed;   // no lock, a file that can't be taken in, or a logic that went with what was gathered
-    bool m_bPending;  // something is to be written when the outermost action commits
+    bool m_bFailed;       // no lock, a file that can't be taken in, or a logic that went with what was gathered
+    bool m_bPending;      // something is to be written when the outermost action commits
+    bool m_bListPending;  // that is more than the default
     Snapshot m_Snapshot;
 };
 
