@@ -215,6 +215,10 @@
         <translation>موجود بالفعل. هل تريد استبدال ملف التعريف هذا؟</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_MSG_SAME_FOR_REMAINING</source>
+        <translation>تطبيق الإجابة نفسها على ملفات التعريف المتبقية</translation>
+    </message>
+    <message>
         <source>IDS_SETTING_PROMPT_APN_IP</source>
         <translation>عنوان IP غير صالح. الرجاء إدخال عنوان مثل 192.0.2.1.</translation>
     </message>

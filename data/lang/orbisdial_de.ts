@@ -215,6 +215,10 @@
         <translation>ist bereits vorhanden. Möchten Sie dieses Profil ersetzen?</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_MSG_SAME_FOR_REMAINING</source>
+        <translation>Diese Antwort für die übrigen Profile übernehmen</translation>
+    </message>
+    <message>
         <source>IDS_SETTING_PROMPT_APN_IP</source>
         <translation>Die IP-Adresse ist ungültig. Bitte geben Sie eine Adresse wie 192.0.2.1 ein.</translation>
     </message>

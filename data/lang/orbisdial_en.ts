@@ -267,6 +267,11 @@
         <translation>already exists. Do you want to replace this profile?</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_MSG_SAME_FOR_REMAINING</source>
+        <extracomment>Box to tick below the question of an import, when more of its names exist.</extracomment>
+        <translation>Do the same for the remaining profiles</translation>
+    </message>
+    <message>
         <source>IDS_SETTING_PROMPT_APN_IP</source>
         <extracomment>Message of the advanced dialog: the IP address is not valid.</extracomment>
         <translation>The IP address is not valid. Please enter one such as 192.0.2.1.</translation>

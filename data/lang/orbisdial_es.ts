@@ -215,6 +215,10 @@
         <translation>ya existe. ¿Desea reemplazar este perfil?</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_MSG_SAME_FOR_REMAINING</source>
+        <translation>Aplicar la misma respuesta a los perfiles restantes</translation>
+    </message>
+    <message>
         <source>IDS_SETTING_PROMPT_APN_IP</source>
         <translation>La dirección IP no es válida. Escriba una como 192.0.2.1.</translation>
     </message>

@@ -215,6 +215,10 @@
         <translation>existe déjà. Voulez-vous remplacer ce profil&#xa0;?</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_MSG_SAME_FOR_REMAINING</source>
+        <translation>Appliquer la même réponse aux profils restants</translation>
+    </message>
+    <message>
         <source>IDS_SETTING_PROMPT_APN_IP</source>
         <translation>L’adresse IP n’est pas valide. Veuillez en saisir une comme 192.0.2.1.</translation>
     </message>

@@ -215,6 +215,10 @@
         <translation>уже существует. Заменить этот профиль?</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_MSG_SAME_FOR_REMAINING</source>
+        <translation>Применить этот ответ к остальным профилям</translation>
+    </message>
+    <message>
         <source>IDS_SETTING_PROMPT_APN_IP</source>
         <translation>Недопустимый IP-адрес. Введите адрес вида 192.0.2.1.</translation>
     </message>

@@ -215,6 +215,10 @@
         <translation>已存在。是否替换此配置文件？</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_MSG_SAME_FOR_REMAINING</source>
+        <translation>对其余配置文件执行相同操作</translation>
+    </message>
+    <message>
         <source>IDS_SETTING_PROMPT_APN_IP</source>
         <translation>IP 地址无效。请输入形如 192.0.2.1 的地址。</translation>
     </message>

@@ -50,6 +50,9 @@ class NetConnectClashPolicy {
 public:
     virtual ~NetConnectClashPolicy() {}
     virtual bool replace(const QString& name) = 0;
+
+    // The same, knowing how many names are still to be asked about, this one included: one may answer for all of them.
+    virtual bool replaceFirstOf(const QString& name, int) { return replace(name); }
 };
 
 // One instance per process, made on first use. Everything is for the GUI thread, but OnDevInitEvent and
@@ -275,7 +278,10 @@ private:
 
     // import and export
     int refuseExportTo(const QString& path);
-    bool addCandidates(const QStringList& names, const QSet<QString>& replaced);
+    struct ImportChoice;
+    static QList<ImportChoice> importChoices(const QStringList& names);
+    QList<int> openClashes(const QList<ImportChoice>& choices, const QSet<QString>& listed);
+    bool addCandidates(const QList<ImportChoice>& choices);
     class ProfilesByName;
     int exportInto(const QString& path, const QStringList& names, const ProfilesByName& users,
                    const ProfilesByName& shipped);

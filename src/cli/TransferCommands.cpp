@@ -17,15 +17,15 @@ public:
     explicit SameAnswer(bool replaces) : m_bReplaces(replaces) {}
 
     bool replace(const QString& name) override {
-        m_Clashes.append(name);
+        m_Clashes.insert(name);
         return m_bReplaces;
     }
 
-    const QStringList& clashes() const { return m_Clashes; }
+    bool hasClashed(const QString& name) const { return m_Clashes.contains(name); }
 
 private:
     const bool m_bReplaces;
-    QStringList m_Clashes;
+    QSet<QString> m_Clashes;
 };
 
 struct ImportResult {
@@ -64,9 +64,10 @@ QStringList readCandidates(const ProfileSession& session, const QString& file) {
 }
 
 QStringList chosenOf(const QStringList& candidates, const QStringList& wanted, const QString& file) {
+    const QSet<QString> offered(candidates.begin(), candidates.end());
     QStringList unknown;
     for (const QString& name : wanted)
-        if (!candidates.contains(name)) unknown.append(name);
+        if (!offered.contains(name)) unknown.append(name);
     if (!unknown.isEmpty()) throw CommandError::failed(file + " holds no profile " + quotedAll(unknown));
     return wanted.isEmpty() ? candidates : wanted;
 }
@@ -78,7 +79,7 @@ ImportResult importChosen(const ProfileSession& session, const QString& file, co
     if (status != NetConnectSettingUILogic::NothingImported) session.require(status, "the profiles can't be imported");
     ImportResult result{file, {}, {}, {}};
     for (const QString& name : chosen) {
-        const bool clashed = policy.clashes().contains(name);
+        const bool clashed = policy.hasClashed(name);
         (!clashed ? result.imported : replaces ? result.replaced : result.skipped).append(name);
     }
     return result;
@@ -95,8 +96,9 @@ bool isUnreadable(const DialupProfile& profile) {
 
 void warnOfUnreadablePasswords(const ProfileSession& session, const QStringList& names) {
     if (!session.isOn("ENCRYPT")) return;
+    const QSet<QString> imported(names.begin(), names.end());
     for (const DialupProfile& profile : session->ImportCandidates())
-        if (names.contains(profile.name) && isUnreadable(profile))
+        if (imported.contains(profile.name) && isUnreadable(profile))
             printWarning("the password of " + quoted(profile.name) +
                          " is not base64, as its encrypttype says; set it again");
 }

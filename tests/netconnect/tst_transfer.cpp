@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <QElapsedTimer>
+
 #include "LogicFixture.h"
 
 // Answers every clash alike, and may do something at the first question.
@@ -45,6 +47,50 @@ private slots:
         QTEST(policy.asked.join(","), "asked");
         QTEST(apns(), "apns");
         if (status == 113) QCOMPARE(user(), before);
+    }
+
+    // Compared as they will be stored, once each, and also when nobody listed the user's profiles before.
+    void clashes_data() {
+        const QString long1(50, 'n'), long2 = QString(49, 'n') + "m", stored(48, 'n');
+        const Rows<QString, QStringList, bool, QStringList, int> row("offered", "chosen", "answer", "asked", "count");
+        row("ticked twice", "X,Y", {"X", "X"}, true, {}, 3);
+        row("cut, yes", long1, {long1}, true, {long1}, 2);
+        row("cut, no", long1, {long1}, false, {long1}, 2);
+        row("two become one, yes", long1 + "," + long2, {long1, long2}, true, {long1, long2}, 2);
+        row("not listed", "A", {"A"}, true, {"A"}, 2);
+        row("in the order of the choice", "A,X," + stored, {"A", "X", stored}, false, {"A", stored}, 3);
+    }
+    void clashes() {
+        QFETCH(QStringList, chosen);
+        setUser(profile("A") + profile(QByteArray(48, 'n')));
+        restart();
+        QByteArray profiles;
+        for (const QString& name : cell("offered").split(',')) profiles += profile(name.toUtf8());
+        offer(document(profiles));
+        FixedPolicy policy(cell<bool>("answer"));
+        logic()->ImportChosenProfiles(chosen, &policy);
+        QTEST(policy.asked, "asked");
+        QCOMPARE(names().size(), cell<int>("count"));
+    }
+
+    // With ten times as many names it takes ten times as long, not a hundred times.
+    void manyNames() {
+        QByteArray profiles;
+        QStringList names;
+        const int count = 20000;
+        for (int i = 0; i < count; ++i) {
+            names.append(QString("name %1").arg(i));
+            profiles += profile(names.last().toUtf8());
+        }
+        setUser(profiles);
+        restart();
+        offer(document(profiles));
+        FixedPolicy policy(true);
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(logic()->ImportChosenProfiles(names, &policy), 0);
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(policy.asked.size(), count);
     }
 
     void aProfileThatAppearsDuringAQuestionRaisesAnother() {

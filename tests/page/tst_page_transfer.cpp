@@ -1,4 +1,6 @@
 // The import/export dialog: its tree, its file dialogs, its questions.
+#include <QCheckBox>
+
 #include "ExtendDialog.h"
 #include "PageFixture.h"
 
@@ -104,6 +106,33 @@ private slots:
             QCOMPARE(f->stored("Home", "phonenumber"), QString(yes ? "new" : "own"));
             QCOMPARE(f->listed(), QStringList({"Home", "Work", "X"}));
         }
+    }
+
+    void oneAnswerForTheRemainingClashes_data() {
+        const Rows<bool, int> row("ticked", "questions");
+        row("ticked", true, 1);
+        row("one by one", false, 3);
+    }
+    void oneAnswerForTheRemainingClashes() {
+        QFETCH(bool, ticked);
+        QFETCH(int, questions);
+        const QByteArray own = "phonenumber='own'", theirs = "phonenumber='new'";
+        f->start(F::profile("A", own) + F::profile("B", own) + F::profile("C", own));
+        f->click("ButtonImportProfile");
+        browse(F::profile("A", theirs) + F::profile("B", theirs) + F::profile("C", theirs));
+        tickItem(root());
+        QStringList boxes;
+        for (int i = 0; i < questions; ++i)
+            f->answers.yes([&boxes, ticked] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->checkBox();
+                boxes.append(box ? box->text() : QString("none"));
+                if (box) box->setChecked(ticked);
+            });
+        f->click("ButtonImportOK");
+        QVERIFY(f->answers.allGiven());
+        QVERIFY(boxes[0].contains("remaining"));
+        if (!ticked) QCOMPARE(boxes, QStringList({boxes[0], boxes[0], "none"}));
+        for (const char* name : {"A", "B", "C"}) QCOMPARE(f->stored(name, "phonenumber"), QString("new"));
     }
 
     void exporting() {

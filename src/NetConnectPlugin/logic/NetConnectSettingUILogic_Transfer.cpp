@@ -44,6 +44,43 @@ int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QS
 
 QList<DialupProfile> NetConnectSettingUILogic::ImportCandidates() const { return m_ImportList; }
 
+// A name that was chosen for an import.
+struct NetConnectSettingUILogic::ImportChoice {
+    QString name;
+    QString storedName;  // which is cut to length
+    bool isAsked;
+    bool isTaken;
+};
+
+// A name that is chosen twice is one name.
+QList<NetConnectSettingUILogic::ImportChoice> NetConnectSettingUILogic::importChoices(const QStringList& names) {
+    QList<ImportChoice> choices;
+    QSet<QString> known;
+    for (int i = 0; i < names.size(); ++i) {
+        if (known.contains(names.at(i))) continue;
+        known.insert(names.at(i));
+        const QString stored =
+            NetConnectProfileRules::cutToLength(names.at(i), NetConnectProfileRules::DefaultNameLength);
+        const ImportChoice choice = {names.at(i), stored, false, true};
+        choices.append(choice);
+    }
+    return choices;
+}
+
+// The choices that were not asked about yet though a profile of their name is listed, is the user's or comes before
+// them.
+QList<int> NetConnectSettingUILogic::openClashes(const QList<ImportChoice>& choices, const QSet<QString>& listed) {
+    QList<int> clashes;
+    QSet<QString> earlier;
+    for (int i = 0; i < choices.size(); ++i) {
+        const QString& name = choices.at(i).storedName;
+        const bool isTwice = earlier.contains(name);
+        earlier.insert(name);
+        if (!choices.at(i).isAsked && (isTwice || listed.contains(name) || HasUserProfile(name))) clashes.append(i);
+    }
+    return clashes;
+}
+
 int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, NetConnectClashPolicy* policy) {
     const Hold hold(this);
     if (!m_pXMLParse) return ObjectMissing;
@@ -53,31 +90,22 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
     // Every question comes before the first change: while one is on screen events run that look at the lists, and
     // other processes must not wait. A profile that one of them adds meanwhile raises a question of its own.
     const QList<DialupProfile> candidates = m_ImportList;
-    QSet<QString> clashing;
-    for (int i = 0; i < m_ProfileNameList.size(); ++i) clashing.insert(m_ProfileNameList.at(i));
-    QSet<QString> decided;
-    QSet<QString> replaced;
+    QList<ImportChoice> choices = importChoices(names);
+    QSet<QString> listed;
+    for (int i = 0; i < m_ProfileNameList.size(); ++i) listed.insert(m_ProfileNameList.at(i));
     for (;;) {
-        for (int i = 0; i < names.size(); ++i) {
-            if (!clashing.contains(names.at(i)) || decided.contains(names.at(i))) continue;
-            decided.insert(names.at(i));
-            if (policy->replace(names.at(i))) replaced.insert(names.at(i));
+        const QList<int> clashes = openClashes(choices, listed);
+        for (int i = 0; i < clashes.size(); ++i) {
+            ImportChoice& choice = choices[clashes.at(i)];
+            choice.isAsked = true;
+            choice.isTaken = policy->replaceFirstOf(choice.name, clashes.size() - i);
             if (hold.isLogicGone()) return ObjectMissing;
         }
         NetConnectOperation operation;
-        bool isSettled = true;
-        for (int i = 0; i < names.size(); ++i) {
-            if (decided.contains(names.at(i)) || !HasUserProfile(names.at(i))) continue;
-            clashing.insert(names.at(i));
-            isSettled = false;
-        }
-        if (!isSettled) continue;
+        if (!openClashes(choices, listed).isEmpty()) continue;
 
         m_ImportList = candidates;
-        QStringList accepted;
-        for (int i = 0; i < names.size(); ++i)
-            if (!decided.contains(names.at(i)) || replaced.contains(names.at(i))) accepted.append(names.at(i));
-        if (!addCandidates(accepted, replaced)) return NothingImported;
+        if (!addCandidates(choices)) return NothingImported;
         const int status = operation.store();
         if (status == Success) m_bForeignDefault = false;  // it is the user's now
         return status;
@@ -85,25 +113,30 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
 }
 
 // Adds the chosen candidates; a replaced profile goes only when one of its name comes. False when none came.
-bool NetConnectSettingUILogic::addCandidates(const QStringList& names, const QSet<QString>& replaced) {
+bool NetConnectSettingUILogic::addCandidates(const QList<ImportChoice>& choices) {
     const ProfilesByName candidates(m_ImportList);
+    QHash<QString, int> last;  // of the choices that will have one name, the last one takes the place of the others
     QSet<QString> leaving;
-    QList<DialupProfile> coming;
-    for (int i = 0; i < names.size(); ++i) {
-        const QList<int> found = candidates.places(names.at(i));
-        if (!found.isEmpty() && replaced.contains(names.at(i))) leaving.insert(names.at(i));
+    for (int i = 0; i < choices.size(); ++i) {
+        const ImportChoice& choice = choices.at(i);
+        if (!choice.isTaken || candidates.places(choice.name).isEmpty()) continue;
+        last.insert(choice.storedName, i);
+        if (choice.isAsked) leaving.insert(choice.storedName);
+    }
+    if (last.isEmpty()) return false;
+
+    QList<DialupProfile> result;
+    for (int i = 0; i < m_UserProfileList.size(); ++i)
+        if (!leaving.contains(m_UserProfileList.at(i).name)) result.append(m_UserProfileList.at(i));
+    for (int i = 0; i < choices.size(); ++i) {
+        if (last.value(choices.at(i).storedName, -1) != i) continue;
+        const QList<int> found = candidates.places(choices.at(i).name);
         for (int j = 0; j < found.size(); ++j) {
-            coming.append(candidates.at(found.at(j)));
-            coming.last().name =
-                NetConnectProfileRules::cutToLength(names.at(i), NetConnectProfileRules::DefaultNameLength);
+            result.append(candidates.at(found.at(j)));
+            result.last().name = choices.at(i).storedName;
         }
     }
-    if (coming.isEmpty()) return false;
-
-    QList<DialupProfile> staying;
-    for (int i = 0; i < m_UserProfileList.size(); ++i)
-        if (!leaving.contains(m_UserProfileList.at(i).name)) staying.append(m_UserProfileList.at(i));
-    m_UserProfileList = staying + coming;
+    m_UserProfileList = result;
     return true;
 }
 

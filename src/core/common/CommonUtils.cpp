@@ -1,6 +1,7 @@
 #include "CommonUtils.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -69,7 +70,18 @@ protected:
     }
 };
 
-bool canShowWidgets() { return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr; }
+bool canShowWidgets() {
+    if (qobject_cast<QApplication*>(QCoreApplication::instance())) return true;
+    qWarning("CommonUtils::ShowMessage: there is no QApplication to show a message");
+    return false;
+}
+
+// Shows the box until it is answered. QDialog's own results are no button's.
+int answerOf(QMessageBox* box) {
+    box->setObjectName("CommonUtils_MessageBox");
+    const int answer = box->exec();
+    return answer > QDialog::Accepted ? answer : int(CommonUtils::NoAnswer);
+}
 
 // Where a window is to be centred; empty when there is no screen.
 QRect centringArea(const QWidget* widget) {
@@ -104,20 +116,30 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QStr
                              const QString& button1, const QString& button2, const QString& button3,
                              const QString& informativeText, bool modal, Qt::WindowFlags flags,
                              MessageAnswer defaultButton) {
-    if (!canShowWidgets()) {
-        qWarning("CommonUtils::ShowMessage: there is no QApplication to show a message");
-        return NoAnswer;
-    }
-
+    if (!canShowWidgets()) return NoAnswer;
     const QPointer<QMessageBox> box = new MessageBox(icon, caption, QString(), QMessageBox::NoButton, parent, flags);
-    box->setObjectName("CommonUtils_MessageBox");
     box->setWindowModality(modal ? Qt::ApplicationModal : Qt::WindowModal);
     setPlainTexts(box, text, informativeText);
     addButtons(box, shownButtons({button1, button2, button3}), defaultButton);
+    const int answer = answerOf(box);
+    delete box;  // null when the parent took the box along
+    return answer;
+}
 
-    const int answer = box->exec();
-    delete box;                                             // null when the parent took the box along
-    return answer > QDialog::Accepted ? answer : NoAnswer;  // QDialog's own results are no button's
+int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QString& caption, const QString& text,
+                             const QString& button1, const QString& button2, const QString& checkBox, bool* ticked) {
+    if (ticked) *ticked = false;
+    if (!canShowWidgets()) return NoAnswer;
+    const QPointer<QMessageBox> box =
+        new MessageBox(icon, caption, QString(), QMessageBox::NoButton, parent, Qt::WindowCloseButtonHint);
+    box->setWindowModality(Qt::ApplicationModal);
+    setPlainTexts(box, text, QString());
+    addButtons(box, shownButtons({button1, button2}), FirstButton);
+    box->setCheckBox(new QCheckBox(labelText(checkBox)));
+    const int answer = answerOf(box);
+    if (ticked && box && answer != NoAnswer) *ticked = box->checkBox()->isChecked();
+    delete box;
+    return answer;
 }
 
 void CommonUtils::MoveCentre(QWidget* widget) {

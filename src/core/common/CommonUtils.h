@@ -32,6 +32,11 @@ public:
                            bool modal = true, Qt::WindowFlags flags = Qt::WindowCloseButtonHint,
                            MessageAnswer defaultButton = FirstButton);
 
+    // A modal question with a box to tick below it, whose label is a string ID, too. Stores whether the box was ticked
+    // when a button was pressed; without an answer it counts as not ticked.
+    static int ShowMessage(QMessageBox::Icon icon, QWidget* parent, const QString& caption, const QString& text,
+                           const QString& button1, const QString& button2, const QString& checkBox, bool* ticked);
+
     // Moves a window to the centre of its parent's window, or of the screen when that one is not shown; never
     // off the screen. Null and a widget that is no window are left alone.
     static void MoveCentre(QWidget* widget);
