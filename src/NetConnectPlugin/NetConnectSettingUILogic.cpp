@@ -5,6 +5,7 @@
 
 #include "Change.h"
 #include "INetConnectSetting.h"
+#include "NetConnectDevice.h"
 #include "NetConnectLogicHold.h"
 #include "NetConnectOperation.h"
 #include "Trace.h"
@@ -39,6 +40,7 @@ NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
       m_bIsUserSet(false),
       m_Mutex(QMutex::Recursive),
       m_bIMSIDefaultForgotten(false),
+      m_bLoading(false),
       m_nConfigStatus(FileMissing),
       m_bIMSIRead(false),
       m_bForeignDefault(false),
@@ -82,14 +84,14 @@ int NetConnectSettingUILogic::Init() {
     forgetForeignDefault();
     readLibrary(&m_strDefaultProfile);
     if (!m_Store.isAwaited()) m_Store.read();
+    m_bLoading = true;  // the two lists need the library
     m_APNProfileList = getAPNListFromHash();
 
     m_IMSIProfileList.clear();
     m_strMatchedPrefix.clear();
     m_bIMSIRead = false;
-    int deviceStatus = 0;
-    if (followsIMSI() && VRKS_DevSrv_GetDevStatus(&deviceStatus) == 0 && deviceStatus == VRKS_DEV_STATUS_READY)
-        result = getIMSIProfileList();
+    if (followsIMSI() && NetConnectDevice::isReady()) result = getIMSIProfileList();
+    m_bLoading = false;
     return result;
 }
 
@@ -122,44 +124,19 @@ int NetConnectSettingUILogic::getConfigData() {
     m_ConfigProblem = LastStorageProblem();
     if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath("NetConnectConfig.xml"))
         m_ConfigProblem = NetConnectStorageProblem();
-    const QString deviceName = customizeName();
-    if (!deviceName.isEmpty() && deviceName != QLatin1String("common")) {
+    const NetConnectDevice::Caller caller = {__FILE__, "getConfigData"};
+    const QString deviceName = NetConnectDevice::customizeName(caller);
+    if (NetConnectDevice::isCustomized(deviceName)) {
         m_pIMSIHash->clear();
         result = readConfigPair("customize", deviceName, 0);
     }
-    if (isCDMAProduct()) result = readConfigPair("common", "CDMA", 0);
+    if (NetConnectDevice::isCDMAProduct(caller)) result = readConfigPair("common", "CDMA", 0);
     return result;
 }
 
 int NetConnectSettingUILogic::readConfigPair(QString group, QString module, UserPrompt* prompt) {
     return m_pXMLParse->GetSettingsFromXML(&group, &module, m_pProfileTemplateHash, m_pFunctionHash, m_pProfileListHash,
                                            m_pIMSIHash, prompt);
-}
-
-// The device's customisation name; empty when it has none.
-QString NetConnectSettingUILogic::customizeName() {
-    char name[VRKS_CUSTOMIZE_NAME_SIZE] = {0};
-    const char* const function = "getConfigData";
-    qDebug("%s : %s: %s:VRKS_DevSrv_GetCustomizeName() Calling:", traceTime().constData(), __FILE__, function);
-    const long retVal = VRKS_DevSrv_GetCustomizeName(name);
-    qDebug("%s : %s: %s:VRKS_DevSrv_GetCustomizeName() Return: %li ", traceTime().constData(), __FILE__, function,
-           retVal);
-    if (retVal != 0) return QString();
-    name[VRKS_CUSTOMIZE_NAME_SIZE - 1] = 0;
-    qDebug("%s : %s: %s:VRKS_DevSrv_GetCustomizeName() Return: %s ", traceTime().constData(), __FILE__, function, name);
-    qDebug("Device Name %s ==", name);
-    return QString::fromUtf8(name);
-}
-
-bool NetConnectSettingUILogic::isCDMAProduct() {
-    const int unknownType = 3;
-    int type = unknownType;
-    const char* const function = "getConfigData";
-    qDebug("%s : %s: %s:VRKS_DevSrv_GetProductType() Calling: %d ", traceTime().constData(), __FILE__, function, type);
-    const long retVal = VRKS_DevSrv_GetProductType(&type);
-    if (retVal == -1)
-        qDebug("%s : %s: %s:VRKS_DevSrv_GetProductType() Return FAILURE ", traceTime().constData(), __FILE__, function);
-    return retVal == 0 && type == VRKS_PRODUCT_TYPE_CDMA;
 }
 
 QString NetConnectSettingUILogic::translated(const QString& langid) {
@@ -181,6 +158,7 @@ void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
     const QList<DialupProfile> before = m_ProfileLibList;
     m_ProfileLibList.clear();
     readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(LibraryName));
+    collectLangids(m_ProfileLibList);
     for (int i = 0; i < m_ProfileLibList.size(); ++i) translateName(&m_ProfileLibList, i);
     if (m_ProfileLibList.isSharedWith(before)) return;
 
@@ -242,8 +220,7 @@ int NetConnectSettingUILogic::OnDevInitEvent(int event, void*) {
     bool isReady = event == VRKS_EVENT_DEV_CARD_CHANGED;
     if (event == VRKS_EVENT_DEV_DEVICE_INIT_FINISH) {
         qDebug("%s: %s: %s: VRKS_EVENT_DEV_DEVICE_INIT_FINISH ", traceTime().constData(), __FILE__, function);
-        int status = 0;
-        isReady = VRKS_DevSrv_GetDevStatus(&status) == 0 && status == VRKS_DEV_STATUS_READY;
+        isReady = NetConnectDevice::isReady();
     }
     if (isReady) {
         logic->ResetFlags();

@@ -66,14 +66,14 @@ class NetConnectSettingUILogic : public QObject {
 
 public:
     enum Status {
-        Success = 0,
-        NoXMLParse = 1,
-        ReadError = 6,
-        ObjectMissing = 13,
-        FileMissing = 23,
-        FileNotOpened = 25,
-        NothingImported = 113,
-        NameTaken = 114  // AddDialUpProfile and ReplaceDialUpProfile: another profile has the name
+        Success = NetConnectStatus::Success,
+        NoXMLParse = NetConnectStatus::NoXMLParse,
+        ReadError = NetConnectStatus::ReadError,
+        ObjectMissing = NetConnectStatus::ObjectMissing,
+        FileMissing = NetConnectStatus::FileMissing,
+        FileNotOpened = NetConnectStatus::FileNotOpened,
+        NothingImported = NetConnectStatus::NothingImported,
+        NameTaken = NetConnectStatus::NameTaken  // AddDialUpProfile and ReplaceDialUpProfile
     };
 
     // When a new instance reads the user's profiles. WhenNeeded postpones that for a file so large that reading it
@@ -241,8 +241,6 @@ private:
     // loading
     void attachStore();
     int readConfigPair(QString group, QString module, UserPrompt* prompt);
-    static QString customizeName();
-    static bool isCDMAProduct();
     static bool isUserFileLarge();
     void readLibrary(QString* defaultName);
     int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);
@@ -274,6 +272,7 @@ private:
 
     // presets
     void refreshLibraryNames();
+    void collectLangids(const QList<DialupProfile>& library);
     QString translatedLibraryName(const QString& name);
 
     // import and export
@@ -315,6 +314,7 @@ private:
     // The device's event makes the IMSI's proposal void on its own thread, where the text must not be touched.
     std::atomic<bool> m_bIMSIDefaultForgotten;
 
+    bool m_bLoading;  // Init has just read the library
     int m_nConfigStatus;
     NetConnectStorageProblem m_ConfigProblem;
     QString m_strMatchedPrefix;

@@ -3,7 +3,6 @@
 #include "CommonUtilsBase.h"
 #include "Trace.h"
 #include "XmlText.h"
-#include "vrks.h"
 
 #ifndef ORBISDIAL_BUILD_TIME
 #define ORBISDIAL_BUILD_TIME "unknown build time"
@@ -21,30 +20,15 @@ void NetConnectXMLParse::Destroy() {
     m_pNetConnectXMLParse = 0;
 }
 
-NetConnectCardMode NetConnectCardMode::current(bool* answered) {
-    unsigned char isMultiMode = 0;
-    unsigned int mode = 0;
-    NetConnectCardMode card;
-    const bool success = VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, 0, 0, &mode) == 0;
-    if (answered) *answered = success;
-    if (!success) return card;
-    card.isMultiMode = isMultiMode != 0;
-    card.mode = mode;
-    return card;
-}
-
 NetConnectDeviceInfo* NetConnectXMLParse::GetCurrentDeviceInfo() { return &m_DeviceInfo; }
 
 QString NetConnectXMLParse::getUserDataDirectory() {
     qDebug("%s: %s: %s before caling VRKS_GetUserDataDirectory()", ORBISDIAL_BUILD_TIME, __FILE__,
            "getUserDataDirectory");
-    unsigned short* directory = 0;
-    const long retVal = VRKS_GetUserDataDirectory(&directory);
+    long retVal = 0;
+    const QString result = NetConnectDevice::userDataDirectory(&retVal);
     qDebug("%s: %s: %s after caling VRKS_GetUserDataDirectory(), retVal=%ld", ORBISDIAL_BUILD_TIME, __FILE__,
            "getUserDataDirectory", retVal);
-    QString result;
-    if (retVal == 0 && directory) result = QString::fromUtf16(directory);
-    delete[] directory;
     return result;
 }
 
@@ -83,18 +67,18 @@ int NetConnectXMLParse::readFile(const QString& path, QByteArray* content) {
     if (outcome == FileReplacement::Done) return 0;
     if (outcome == FileReplacement::Missing) {
         qDebug("File %s does not exist", qPrintable(path));
-        return 23;
+        return NetConnectStatus::FileMissing;
     }
     qDebug("Error open file: ");
     reportProblem(path, QLatin1String("can't be read: ") + reason);
-    return 25;
+    return NetConnectStatus::FileNotOpened;
 }
 
 void NetConnectXMLParse::traceReadError(const char* function) { qDebug("%s: %s: Read Error: n", __FILE__, function); }
 
 int NetConnectXMLParse::reportReadError(const QXmlStreamReader& reader, const QString& path) {
     reportProblem(path, reader.errorString(), reader.lineNumber(), reader.columnNumber());
-    return 6;
+    return NetConnectStatus::ReadError;
 }
 
 int NetConnectXMLParse::writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
@@ -106,7 +90,7 @@ int NetConnectXMLParse::writeFile(const QString& path, const QByteArray& content
     if (outcome != FileReplacement::Done) {
         qDebug("Error open file: ");
         reportProblem(path, reason);
-        return 25;
+        return NetConnectStatus::FileNotOpened;
     }
     clearProblem(path);
     if (!reason.isEmpty()) reportProblem(path, reason);

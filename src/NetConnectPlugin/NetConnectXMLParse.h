@@ -18,25 +18,11 @@
 #include "FileReplacement.h"
 #include "FileStamp.h"
 #include "NetConnectConfigDocument.h"
+#include "NetConnectDevice.h"
 #include "NetConnectRecords.h"
+#include "NetConnectStatus.h"
 #include "NetConnectStorageProblem.h"
 #include "ProfileDocument.h"
-
-// Whether the SIM card serves CDMA and WCDMA, and in which mode it is now.
-struct NetConnectCardMode {
-    enum Mode { None = 0, CDMA = 2 };  // every other mode is a WCDMA one
-
-    NetConnectCardMode() : isMultiMode(false), mode(None) {}
-
-    bool isCDMA() const { return isMultiMode && mode == CDMA; }
-    bool isWCDMA() const { return isMultiMode && mode != None && mode != CDMA; }
-
-    // Asks the device SDK; a query that fails gives a card that is not multi-mode.
-    static NetConnectCardMode current(bool* answered = 0);
-
-    bool isMultiMode;
-    unsigned int mode;
-};
 
 // What the file layer remembers between calls of the defaults in the user's file.
 struct NetConnectRememberedDefaults {

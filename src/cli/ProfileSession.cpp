@@ -6,7 +6,6 @@
 #include "NetConnectXMLParse.h"
 #include "Output.h"
 #include "UserFileLock.h"
-#include "vrks.h"
 
 namespace {
 
@@ -54,10 +53,9 @@ bool ProfileSession::isOn(const QString& function) const {
 
 QString ProfileSession::presetsNote() const {
     if (m_pLogic->HasIMSIPresets() || !isOn("IMSIAPN")) return QString();
-    char name[VRKS_CUSTOMIZE_NAME_SIZE] = {0};
-    const bool isCustomised = VRKS_DevSrv_GetCustomizeName(name) == 0 && *name && qstrcmp(name, "common") != 0;
-    if (!isCustomised) return "the configuration has no presets by IMSI";
-    return "the configuration customised for " + quoted(QString::fromUtf8(name)) + " leaves no presets by IMSI";
+    const QString name = NetConnectDevice::customizeName();
+    if (!NetConnectDevice::isCustomized(name)) return "the configuration has no presets by IMSI";
+    return "the configuration customised for " + quoted(name) + " leaves no presets by IMSI";
 }
 
 bool ProfileSession::hasProfile(const QString& name) const { return fetch(name).has_value(); }

@@ -45,10 +45,14 @@ QString NetConnectSettingUILogic::isLangidDefine(QString name) {
 
 // Collects the langids of the shipped library anew when that was read anew.
 void NetConnectSettingUILogic::refreshLibraryNames() {
-    if (!m_pXMLParse) return;
+    if (!m_pXMLParse || m_bLoading) return;
     QList<DialupProfile> library;
     QString ignoredDefault;
     readForeignFile(&library, &ignoredDefault, QLatin1String("ProfileLib.prof"));
+    collectLangids(library);
+}
+
+void NetConnectSettingUILogic::collectLangids(const QList<DialupProfile>& library) {
     if (m_nLibraryRevision == m_pXMLParse->libraryRevision()) return;
     m_nLibraryRevision = m_pXMLParse->libraryRevision();
     m_LibraryLangids.clear();

@@ -1,17 +1,14 @@
 // The presets that the SIM's IMSI or the configuration selects.
 
-#include <string.h>
-
 #include <algorithm>
 
 #include "NetConnectSettingUILogic.h"
 #include "Trace.h"
-#include "vrks.h"
 
 namespace {
 
 const char DefaultValue[] = "default";
-const uint ShortestIMSI = 5;  // the country and network code
+const int ShortestIMSI = 5;  // the country and network code
 
 // The longest key that an IMSI begins with; null when there is none. An empty key stands for no network.
 QString longestPrefix(const QString& imsi, const QMultiHash<QString, IMSIINFO>& rows) {
@@ -22,13 +19,6 @@ QString longestPrefix(const QString& imsi, const QMultiHash<QString, IMSIINFO>& 
     return QString();
 }
 
-// A 32-bit value of the device's system information.
-unsigned int valueAt(const unsigned char* record, int offset) {
-    unsigned int value = 0;
-    memcpy(&value, record + offset, sizeof(value));
-    return value;
-}
-
 }  // namespace
 
 int NetConnectSettingUILogic::getIMSIProfileList() {
@@ -37,13 +27,12 @@ int NetConnectSettingUILogic::getIMSIProfileList() {
     if (m_bIMSIDefaultForgotten.exchange(false)) m_strIMSIDefaultProfile = QLatin1String("");
 
     qDebug("%s: %s: in Net Connect VRKS_DevSrv_GetImsiInfo called", __FILE__, "getIMSIProfileList");
-    char imsi[VRKS_IMSI_SIZE] = {0};
-    if (VRKS_DevSrv_GetImsiInfo(imsi) != 0) return FileMissing;
+    const QString imsi = NetConnectDevice::imsi();
+    if (imsi.isNull()) return FileMissing;
     if (!m_pIMSIHash || m_pIMSIHash->isEmpty()) return FileMissing;
-    imsi[VRKS_IMSI_SIZE - 1] = 0;
-    m_bIMSIRead = qstrlen(imsi) >= ShortestIMSI;
+    m_bIMSIRead = imsi.size() >= ShortestIMSI;
 
-    const NetConnectIMSISelection selection = SelectByIMSI(QString::fromLatin1(imsi));
+    const NetConnectIMSISelection selection = SelectByIMSI(imsi);
     m_strMatchedPrefix = selection.prefix;
     m_IMSIProfileList = selection.names;
     if (!selection.defaultProfile.isNull()) m_strIMSIDefaultProfile = selection.defaultProfile;
@@ -52,7 +41,7 @@ int NetConnectSettingUILogic::getIMSIProfileList() {
 
 NetConnectIMSISelection NetConnectSettingUILogic::SelectByIMSI(const QString& imsi) {
     NetConnectIMSISelection selection;
-    if (!m_pIMSIHash || uint(imsi.size()) < ShortestIMSI) return selection;
+    if (!m_pIMSIHash || imsi.size() < ShortestIMSI) return selection;
     selection.prefix = longestPrefix(imsi, *m_pIMSIHash);
     if (selection.prefix.isEmpty()) return selection;
 
@@ -94,19 +83,8 @@ bool NetConnectSettingUILogic::IsIMSIROAMSettingEnable() { return isOn("IMSIROAM
 bool NetConnectSettingUILogic::followsIMSI() { return isOn("IMSIAPN"); }
 
 bool NetConnectSettingUILogic::IsEhrpdSubMode() {
-    const int modeOffset = 4;
-    const int subModeOffset = 20;
-    const unsigned int cdmaMode = 2;
-    const unsigned int firstEhrpd = 31;
-    const unsigned int lastEhrpd = 36;
-    unsigned char record[VRKS_SYSINFO_SIZE] = {0};
-    if (VRKS_NetSrv_GetSysInfoEx(record) != 0) {
-        qDebug("<======== %s: %s: %s:\tVRKS_NetSrv_GetSysInfoEx Failed", traceTime().constData(), __FILE__,
-               "IsEhrpdSubMode");
-        return false;
-    }
-    const unsigned int subMode = valueAt(record, subModeOffset);
-    return valueAt(record, modeOffset) == cdmaMode && subMode >= firstEhrpd && subMode <= lastEhrpd;
+    const NetConnectDevice::Caller caller = {__FILE__, "IsEhrpdSubMode"};
+    return NetConnectDevice::isEhrpd(caller);
 }
 
 QString NetConnectSettingUILogic::imsiProposal() const {

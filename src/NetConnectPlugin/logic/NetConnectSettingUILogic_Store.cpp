@@ -9,7 +9,6 @@
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectStoreAction.h"
 #include "Trace.h"
-#include "vrks.h"
 
 static const char KeyedMethod[] = "2";
 static const char Base64Method[] = "1";
@@ -175,16 +174,8 @@ bool NetConnectSettingUILogic::sealPassword(DialupProfile* profile) {
 // Takes user name and password from the device's data-service profile, when the configuration says so.
 void NetConnectSettingUILogic::fillFromDevice(DialupProfile* profile, const char* function) {
     if (!m_pFunctionHash || m_pFunctionHash->value("Auto Get Profile").value != QLatin1String("true")) return;
-    const int passwordOffset = 256;
-    const int textSize = 256;
-    char record[VRKS_DSPROFILE_SIZE] = {0};
-    qDebug("%s : %s: %s:VRKS_NetConnectSrv_DSGetProfile() Calling:", traceTime().constData(), __FILE__, function);
-    const long retVal = VRKS_NetConnectSrv_DSGetProfile(record);
-    qDebug("%s : %s: %s:VRKS_NetConnectSrv_DSGetProfile() return: %li", traceTime().constData(), __FILE__, function,
-           retVal);
-    if (retVal != 0) return;
-    profile->user = QString::fromUtf8(record, int(qstrnlen(record, textSize)));
-    profile->password = QString::fromUtf8(record + passwordOffset, int(qstrnlen(record + passwordOffset, textSize)));
+    const NetConnectDevice::Caller caller = {__FILE__, function};
+    NetConnectDevice::credentials(&profile->user, &profile->password, caller);
 }
 
 int NetConnectSettingUILogic::SaveDialUpProfile(DialupProfile profile) {

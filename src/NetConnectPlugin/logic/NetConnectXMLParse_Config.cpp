@@ -62,17 +62,14 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
     m_strCurrentIMSI = QLatin1String("");
     if (!group || !module || !templates || !functions || !profileList || !imsiProfiles) {
         qDebug("Error in xml parsing");
-        return 23;
+        return NetConnectStatus::FileMissing;
     }
     NetConnectConfigDocument document;
     const int status = loadConfig(&document);
-    if (status == 23) return status;
+    if (status == NetConnectStatus::FileMissing) return status;
 
-    bool answered = false;
-    const NetConnectCardMode card = NetConnectCardMode::current(&answered);
-    if (answered && card.mode != NetConnectCardMode::None)
-        qDebug("%s : %s: %s: Get MultiMode Status Success! dwCardMode: %d", traceTime().constData(), __FILE__,
-               "GetSettingsFromXML", int(card.mode));
+    const NetConnectDevice::Caller caller = {__FILE__, "GetSettingsFromXML"};
+    const NetConnectCardMode card = NetConnectDevice::cardMode(caller);
 
     for (int i = 0; prompt && i < document.promptItems.size(); ++i)
         prompt->*document.promptItems.at(i).first = document.promptItems.at(i).second;
@@ -99,7 +96,7 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
     }
     m_Config = KeptConfig();
     QByteArray content;
-    if (!stamp.exists() || readFile(path, &content) != 0) return 23;
+    if (!stamp.exists() || readFile(path, &content) != 0) return NetConnectStatus::FileMissing;
 
     if (!document->scan(content)) {
         QXmlStreamReader reader(content);
@@ -136,7 +133,7 @@ int NetConnectXMLParse::getConfigData(QXmlStreamReader& reader, QHash<QString, N
                                       QHash<QString, NetConnectXML>* functions,
                                       QHash<QString, NetConnectXML>* profileList,
                                       QMultiHash<QString, IMSIINFO>* imsiProfiles) {
-    if (!templates || !functions || !profileList || !imsiProfiles) return 23;
+    if (!templates || !functions || !profileList || !imsiProfiles) return NetConnectStatus::FileMissing;
     const ConfigTargets targets = {templates, functions, profileList, imsiProfiles};
     if (reader.isEndElement() && reader.name() == QLatin1String(IMSISection)) m_strSpare.clear();
     if (reader.isStartElement()) fileElement(NetConnectConfigElement::of(reader), targets);
@@ -167,7 +164,7 @@ void NetConnectXMLParse::fileElement(const NetConnectConfigElement& element, con
 }
 
 int NetConnectXMLParse::getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt) {
-    if (!prompt) return 23;
+    if (!prompt) return NetConnectStatus::FileMissing;
     if (!reader.isStartElement()) return 0;
     const QXmlStreamAttributes attributes = reader.attributes();
     if (QString UserPrompt::*const field =

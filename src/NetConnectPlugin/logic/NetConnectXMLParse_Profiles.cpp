@@ -21,16 +21,16 @@ NetConnectXMLParse::KeptFile* NetConnectXMLParse::keptFile(const QString& fileNa
 int NetConnectXMLParse::GetAllProfileFromUserDataXML(QList<DialupProfile>* profiles, QString* defaultName,
                                                      QString fileName, bool* isUserSet) {
     const TraceScope trace(__FILE__, "GetAllProfileFromUserDataXML");
-    if (!profiles || !defaultName) return 23;
+    if (!profiles || !defaultName) return NetConnectStatus::FileMissing;
     ProfileDocument document;
     const QString path = profilePath(fileName);
-    int status = 25;
+    int status = NetConnectStatus::FileNotOpened;
     try {
         status = loadDocument(path, keptFile(fileName), &document);
     } catch (const std::bad_alloc&) {
         reportOutOfMemory(path);
     }
-    if (status == 23 || status == 25) return status;
+    if (status == NetConnectStatus::FileMissing || status == NetConnectStatus::FileNotOpened) return status;
     applyDocument(document, status == 0, profiles, defaultName, isUserSet);
     if (fileName.isEmpty()) m_bUserFileRead = true;
     return status;
@@ -43,12 +43,12 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
         *document = kept->document;
         if (kept->isComplete) return 0;
         reportProblem(path, kept->damage.reason, kept->damage.line, kept->damage.column);
-        return 6;
+        return NetConnectStatus::ReadError;
     }
     QByteArray content;
     int status = readFile(path, &content);
     // One failed look is no proof.
-    if (status == 23 && FileStamp::of(path).exists()) status = readFile(path, &content);
+    if (status == NetConnectStatus::FileMissing && FileStamp::of(path).exists()) status = readFile(path, &content);
     if (status == 0 && kept && kept->isOf(path, content)) {
         kept->stamp = stamp;
         if (stamp.settled) kept->content.clear();
@@ -63,13 +63,13 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
         document->read(reader);
         if (reader.hasError()) status = reportReadError(reader, path);
     }
-    if (status == 0 || status == 23) clearProblem(path);
+    if (status == 0 || status == NetConnectStatus::FileMissing) clearProblem(path);
     if (!kept) return status;
     kept->path = path;
     kept->stamp = stamp;
     kept->isComplete = status == 0;
     kept->document = *document;
-    kept->damage = status == 6 ? m_Problem : NetConnectStorageProblem();
+    kept->damage = status == NetConnectStatus::ReadError ? m_Problem : NetConnectStorageProblem();
     kept->content = status == 0 && !stamp.settled ? content : QByteArray();
     ++kept->revision;
     return status;
@@ -77,7 +77,7 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
 
 int NetConnectXMLParse::readXML(QXmlStreamReader& reader, QList<DialupProfile>* profiles, QString* defaultName,
                                 bool* isUserSet) {
-    if (!profiles || !defaultName) return 23;
+    if (!profiles || !defaultName) return NetConnectStatus::FileMissing;
     ProfileDocument document;
     document.read(reader);
     const int status = reader.hasError() ? reportReadError(reader, QString()) : 0;
@@ -87,11 +87,8 @@ int NetConnectXMLParse::readXML(QXmlStreamReader& reader, QList<DialupProfile>* 
 
 void NetConnectXMLParse::applyDocument(const ProfileDocument& document, bool isComplete, QList<DialupProfile>* profiles,
                                        QString* defaultName, bool* isUserSet) {
-    bool answered = false;
-    const NetConnectCardMode card = NetConnectCardMode::current(&answered);
-    if (answered && card.mode != NetConnectCardMode::None)
-        qDebug("%s : %s: %s: Get MultiMode Status Success! dwCardMode: %d", traceTime().constData(), __FILE__,
-               "readXML", int(card.mode));
+    const NetConnectDevice::Caller caller = {__FILE__, "readXML"};
+    const NetConnectCardMode card = NetConnectDevice::cardMode(caller);
     if (profiles->isEmpty())
         *profiles = document.profiles;
     else
@@ -130,13 +127,13 @@ int NetConnectXMLParse::SaveProfileToXML(QList<DialupProfile> profiles, QString 
     const QString path = isUserFile ? userProfilePath() : fileName;
     if (path.isEmpty()) {
         qDebug("Error open file: ");
-        return 25;
+        return NetConnectStatus::FileNotOpened;
     }
     try {
         return saveDocument(profiles, NetConnectDefault(defaultName, isUserSet), path, isUserFile, placing);
     } catch (const std::bad_alloc&) {
         reportOutOfMemory(path);
-        return 25;
+        return NetConnectStatus::FileNotOpened;
     }
 }
 
@@ -144,7 +141,8 @@ int NetConnectXMLParse::saveDocument(const QList<DialupProfile>& profiles, const
                                      const QString& path, bool isUserFile, FileReplacement::Placing placing) {
     const FileReplacement::Purpose purpose = isUserFile ? FileReplacement::UserFile : FileReplacement::Export;
     FileReplacement::DamagedCopy damaged;
-    if (!prepareTarget(path, isUserFile ? m_User : KeptFile(), purpose, &damaged)) return 25;
+    if (!prepareTarget(path, isUserFile ? m_User : KeptFile(), purpose, &damaged))
+        return NetConnectStatus::FileNotOpened;
 
     ProfileDocument document;
     document.profiles = profiles;
@@ -172,7 +170,7 @@ int NetConnectXMLParse::saveDocument(const QList<DialupProfile>& profiles, const
 // The remembered defaults after this one was saved under the card mode of the moment.
 NetConnectRememberedDefaults NetConnectXMLParse::withModeDefault(const NetConnectDefault& value) const {
     NetConnectRememberedDefaults remembered = m_Remembered;
-    const NetConnectCardMode card = NetConnectCardMode::current();
+    const NetConnectCardMode card = NetConnectDevice::cardMode();
     if (!card.isCDMA() && !card.isWCDMA()) return remembered;
     (card.isCDMA() ? remembered.cdma : remembered.wcdma) = value;
     qDebug("%s : %s: %s: Using Multi Mode Card, set %s to %s default. UserSet: %d.", traceTime().constData(), __FILE__,
@@ -181,7 +179,7 @@ NetConnectRememberedDefaults NetConnectXMLParse::withModeDefault(const NetConnec
 }
 
 bool NetConnectXMLParse::isModeDefault(const NetConnectDefault& value) const {
-    const NetConnectCardMode card = NetConnectCardMode::current();
+    const NetConnectCardMode card = NetConnectDevice::cardMode();
     if (card.isCDMA()) return m_Remembered.cdma == value;
     return !card.isWCDMA() || m_Remembered.wcdma == value;
 }
@@ -208,7 +206,7 @@ bool NetConnectXMLParse::prepareTarget(const QString& path, const KeptFile& kept
 
     QByteArray content;
     const int status = readFile(path, &content);
-    if (status != 0) return status == 23;
+    if (status != 0) return status == NetConnectStatus::FileMissing;
     ProfileDocument document;
     if (document.scan(content)) return true;
     QXmlStreamReader reader(content);

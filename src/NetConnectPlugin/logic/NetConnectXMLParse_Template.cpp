@@ -68,7 +68,7 @@ QList<Element> elementsOf(const QByteArray& content) {
 
 int NetConnectXMLParse::GetProfileTemplateFromSysXML(DialupProfile* profile) {
     const TraceScope trace(__FILE__, "GetProfileTemplateFromSysXML");
-    if (!profile) return 23;
+    if (!profile) return NetConnectStatus::FileMissing;
     const QString path = shippedPath("SysProfile.prof");
     QByteArray content;
     const int status = readFile(path, &content);
@@ -95,7 +95,7 @@ int NetConnectXMLParse::GetProfileTemplateFromSysXML(DialupProfile* profile) {
 
 int NetConnectXMLParse::ModifyProfileTemplateToSysXML(QHash<QString, NetConnectXML>* templates) {
     const TraceScope trace(__FILE__, "ModifyProfileTemplateToSysXML");
-    if (!templates || templates->isEmpty()) return 23;
+    if (!templates || templates->isEmpty()) return NetConnectStatus::FileMissing;
     const QString path = shippedPath("SysProfile.prof");
     const QByteArray content = templateDocument(*templates);
 
