@@ -311,6 +311,22 @@
         <translation>يجري تحرير ملف تعريف. اضغط «حفظ» أو «تراجع» أولاً.</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
+        <translation>لا يجري تحرير أي ملف تعريف. اضغط «جديد» أو «تحرير» أولاً.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_READONLY</source>
+        <translation>ملف التعريف هذا للقراءة فقط.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_PRESET</source>
+        <translation>ملف التعريف هذا معدّ مسبقًا.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_CONNECTED</source>
+        <translation>ملف التعريف هذا متصل.</translation>
+    </message>
+    <message>
         <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
         <translation>تعذّر حفظ ملف التعريف. لم يُفقد شيء: عالج المشكلة ثم اضغط «حفظ» مرة أخرى.</translation>
     </message>

@@ -311,6 +311,22 @@
         <translation>Ein Profil wird gerade bearbeitet. Drücken Sie zuerst „Speichern“ oder „Verwerfen“.</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
+        <translation>Es wird kein Profil bearbeitet. Drücken Sie zuerst „Neu“ oder „Bearbeiten“.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_READONLY</source>
+        <translation>Dieses Profil ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_PRESET</source>
+        <translation>Dieses Profil ist vorgegeben.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_CONNECTED</source>
+        <translation>Dieses Profil ist verbunden.</translation>
+    </message>
+    <message>
         <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
         <translation>Das Profil konnte nicht gespeichert werden. Nichts ist verloren: Beheben Sie das Problem und drücken Sie erneut „Speichern“.</translation>
     </message>

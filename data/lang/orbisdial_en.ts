@@ -387,6 +387,26 @@
         <translation>A profile is being edited. Press Save or Undo first.</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
+        <extracomment>Tool tip of the disabled buttons Save and Undo: nothing is being edited. Names the buttons New and Edit as they are written there.</extracomment>
+        <translation>No profile is being edited. Press New or Edit first.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_READONLY</source>
+        <extracomment>Line in the page while a read-only profile is shown.</extracomment>
+        <translation>This profile is read-only.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_PRESET</source>
+        <extracomment>Line in the page while a preset is shown.</extracomment>
+        <translation>This profile is a preset.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_CONNECTED</source>
+        <extracomment>Line in the page while the profile in use is shown.</extracomment>
+        <translation>This profile is connected.</translation>
+    </message>
+    <message>
         <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
         <extracomment>Tool tip of the button Save after a failed write. The storage problem follows in the next line. Names the button Save as it is written there.</extracomment>
         <translation>The profile could not be stored. Nothing is lost: put the problem right and press Save again.</translation>

@@ -311,6 +311,22 @@
         <translation>Se está modificando un perfil. Pulse primero «Guardar» o «Deshacer».</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
+        <translation>No se está modificando ningún perfil. Pulse primero «Nuevo» o «Modificar».</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_READONLY</source>
+        <translation>Este perfil es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_PRESET</source>
+        <translation>Este perfil está predefinido.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_CONNECTED</source>
+        <translation>Este perfil está conectado.</translation>
+    </message>
+    <message>
         <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
         <translation>No se pudo guardar el perfil. No se ha perdido nada: corrija el problema y vuelva a pulsar «Guardar».</translation>
     </message>

@@ -311,6 +311,22 @@
         <translation>Un profil est en cours de modification. Appuyez d’abord sur «&#xa0;Enregistrer&#xa0;» ou «&#xa0;Abandonner&#xa0;».</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
+        <translation>Aucun profil n’est en cours de modification. Appuyez d’abord sur «&#xa0;Nouveau&#xa0;» ou «&#xa0;Modifier&#xa0;».</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_READONLY</source>
+        <translation>Ce profil est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_PRESET</source>
+        <translation>Ce profil est prédéfini.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_CONNECTED</source>
+        <translation>Ce profil est connecté.</translation>
+    </message>
+    <message>
         <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
         <translation>Le profil n’a pas pu être enregistré. Rien n’est perdu&#xa0;: corrigez le problème et appuyez de nouveau sur «&#xa0;Enregistrer&#xa0;».</translation>
     </message>

@@ -311,6 +311,22 @@
         <translation>Профиль редактируется. Сначала нажмите «Сохранить» или «Отменить».</translation>
     </message>
     <message>
+        <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
+        <translation>Ни один профиль не редактируется. Сначала нажмите «Создать» или «Изменить».</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_READONLY</source>
+        <translation>Этот профиль доступен только для чтения.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_PRESET</source>
+        <translation>Это готовый профиль оператора.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_CONNECTED</source>
+        <translation>Этот профиль подключён.</translation>
+    </message>
+    <message>
         <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>
         <translation>Не удалось сохранить профиль. Ничего не потеряно: устраните проблему и снова нажмите «Сохранить».</translation>
     </message>

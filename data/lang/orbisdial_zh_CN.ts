@@ -296,7 +296,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
-        <translation>此配置文件正在连接中。请先断开连接。</translation>
+        <translation>此配置文件已连接。请先断开连接。</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_DEFAULT_CONNECTED</source>
@@ -309,6 +309,22 @@
     <message>
         <source>IDS_NETCONNECT_TIP_EDIT_OPEN</source>
         <translation>正在编辑配置文件。请先点击“保存”或“撤销”。</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
+        <translation>当前没有正在编辑的配置文件。请先点击“新建”或“编辑”。</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_READONLY</source>
+        <translation>此配置文件为只读。</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_PRESET</source>
+        <translation>此配置文件为预设。</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_LOCKED_CONNECTED</source>
+        <translation>此配置文件已连接。</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_SAVE_FAILED</source>

@@ -58,10 +58,10 @@ bool NetConnectAdvancedSettingDlg::createHostDialog() {
     m_pDialog->AddMainWidget(m_pMainWidget);
     m_pDialog->setWindowModality(Qt::WindowModal);
     m_pDialog->setObjectName(QString::fromLatin1("NetConnectAdvancedSettingDlg_DialogAdvanceSetting"));
-    m_pDialog->setFixedSize(Change::GetLangName() == QLatin1String("ru") ? 460 : 434, 463);
     m_pMainWidget->setLayout(m_pMainLayout);  // takes the layout and every widget in it from the previous one
     delete previous;
     SetLanguage();
+    fitSizes();
     return m_pDialog && m_pMainWidget;
 }
 

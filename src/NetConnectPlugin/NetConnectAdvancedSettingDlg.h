@@ -98,6 +98,7 @@ private:
     void createAddressRadios(AddressGroup* group, const char* kind);
     void createAddressRow(AddressGroup* group, int row, const char* labelRole, const char* editRole);
     QPushButton* createButton(const char* role);
+    void fitSizes();
 
     // --- showing ---
     bool createHostDialog();

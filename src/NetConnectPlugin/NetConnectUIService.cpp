@@ -9,6 +9,7 @@
 #include "NetConnectPageWatch.h"
 #include "NetConnectReloadGate.h"
 #include "NetConnectSettingUILogic.h"
+#include "NetConnectWipe.h"
 #include "Startup.h"
 #include "Trace.h"
 
@@ -42,6 +43,7 @@ void CNetConnectUIService::OnDestroy() {
     NetConnectAdvancedSettingDlg::Destroy();
     m_pLogic = 0;
     m_pAdvancedDlg = 0;
+    if (m_Page.password) wipeText(m_Page.password);
     delete m_pImportExportDialog;
     delete m_pNetConnectWidget;
     forgetPage();

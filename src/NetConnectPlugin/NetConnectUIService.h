@@ -173,6 +173,7 @@ private:
     void createProfileSettingButtons();
     void assemblePage();
     void setTabOrders();
+    void fitHeights();
     ExtendLineEdit* createEdit(const char* name, int maximumLength);
 
     // --- texts ---
@@ -207,6 +208,7 @@ private:
     const char* defaultLock();
     bool tellLock(const char* reason);
     void lockButton(QPushButton* button, const char* reason);
+    void showLock(const char* reason);
     void applySettingsFromConfigFile();
     bool isAPNGroupWanted();
     bool isFunctionOn(const char* key);
@@ -215,6 +217,7 @@ private:
     void beginEdit(Operation operation, const QString& shownName);
     DialupProfile enteredProfile();
     void endEdit();
+    void forgetEdit();
     void showTemplate(DialupProfile* profile);
     QString enteredName() const;
     void putProfileData(DialupProfile* profile);
@@ -273,7 +276,9 @@ private:
         ExtendLineEdit* accessNumber = 0;
         ExtendLineEdit* user = 0;
         ExtendLineEdit* password = 0;
+        QWidget* noticePlace = 0;  // kept free for either of the next two, so that nothing moves
         NetConnectPasswordHint* passwordHint = 0;
+        QLabel* lockNotice = 0;
         QCheckBox* askUserName = 0;
         QGroupBox* protocolGroup = 0;
         QCheckBox* chap = 0;

@@ -1,5 +1,6 @@
 // The page's widgets, texts and locks, and what the host's settings dialog asks of it.
 #include <QElapsedTimer>
+#include <QLabel>
 
 #include "CommonUtils.h"
 #include "PageFixture.h"
@@ -232,6 +233,70 @@ private slots:
         QVERIFY(!f->find("PasswordHint")->isVisible());
         f->edit("PasswordlineEdit")->insert(QString::fromUtf8("\xd0\xbf"));  // can't be sealed
         QVERIFY(f->find("PasswordHint")->isVisible());
+    }
+
+    // At ordinary fonts the fixed heights stand; with larger ones nothing is cut.
+    void heightsGrowWithTheFont() {
+        const QMap<const char*, int> fixed = {{"ProfilegroupBox", 60},  {"ApngroupBox", 80},
+                                              {"AuthgroupBox", 115},    {"ApnlineEdit", 22},
+                                              {"UsernamelineEdit", 22}, {"LineEditProfileName", 22}};
+        f->start(F::profile("Home"));
+        for (bool large : {false, true, false}) {
+            QFont font = f->window->font();
+            font.setPixelSize(large ? 32 : 13);
+            f->window->setFont(font);
+            QCoreApplication::processEvents();
+            for (auto it = fixed.begin(); it != fixed.end(); ++it) {
+                const QWidget* widget = f->find(it.key());
+                QCOMPARE(widget->minimumHeight(), widget->maximumHeight());
+                QCOMPARE(widget->minimumHeight(), large ? qMax(it.value(), widget->sizeHint().height()) : it.value());
+                if (large) QVERIFY2(widget->minimumHeight() > it.value(), it.key());
+            }
+        }
+    }
+
+    // What a press leaves behind when the page goes is no click.
+    void pressedButtonOfAHiddenPage() {
+        f->start(F::profile("Home"));
+        auto* button = f->find<QAbstractButton>("ButtonExportProfile");
+        button->animateClick(20);  // as a mnemonic does
+        QVERIFY(button->isDown());
+        QCOMPARE(f->setting->HideSetting(), 1);
+        QTest::qWait(60);
+        QVERIFY(!button->isDown());
+        f->show();
+        QTest::qWait(60);
+        QVERIFY(!f->find("DialogImportExport"));
+        f->click("ButtonExportProfile");
+        QVERIFY(f->find("DialogImportExport")->isVisible());
+    }
+
+    // Every disabled button says why, and a locked profile looks locked; nothing moves when it does.
+    void reasons() {
+        f->presets = "<item name='Preset' value=''/>";
+        f->library = F::profile("Preset");
+        f->start(F::profile("Home") + F::profile("Locked", "readonly='true'"));
+        const int place = f->find("CheckBoxAskUserName")->y();
+        const struct {
+            const char *name, *notice;
+        } rows[] = {
+            {"Home", ""}, {"Locked", "IDS_NETCONNECT_LOCKED_READONLY"}, {"Preset", "IDS_NETCONNECT_LOCKED_PRESET"}};
+        for (const auto& row : rows) {
+            f->select(row.name);
+            QCOMPARE(f->find<QLabel>("LockNotice")->text(), Change::tr(row.notice, "NetConnectPlugin"));
+            QCOMPARE(f->find("LockNotice")->isVisible(), *row.notice != 0);
+        }
+        for (bool editing : {false, true, false}) {
+            if (editing) f->click("pBtnnewProfile");
+            for (const QPushButton* button : f->find("netConnectwdg")->findChildren<QPushButton*>()) {
+                QCOMPARE(button->toolTip().isEmpty(), button->isEnabled());
+                QCOMPARE(button->accessibleDescription(), button->toolTip());
+            }
+            if (editing) f->click("BtnUndoProfile");
+            QCOMPARE(f->find("CheckBoxAskUserName")->y(), place);
+        }
+        f->language("de");
+        QCOMPARE(f->find("BtnsaveProfile")->toolTip(), Change::tr("IDS_NETCONNECT_TIP_NO_EDIT", "NetConnectPlugin"));
     }
 
     // --- the host's settings dialog ---

@@ -14,6 +14,30 @@ QString text(const char* id) { return Change::tr(id, "NetConnectPlugin"); }
 // A name of a list, with the default mark in the current language.
 QString shown(QString name) { return name.replace("(Default)", text("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT")); }
 
+// A password that stands nowhere in this program as a whole.
+enum { SecretLength = 24 };
+char secretAt(int place) { return char('a' + (place * 7 + 3) % 26); }
+
+// Looks through everything that the process may write to.
+bool isSecretInMemory() {
+    QFile maps("/proc/self/maps"), memory("/proc/self/mem");
+    if (!maps.open(QIODevice::ReadOnly) || !memory.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return false;
+    for (const QByteArray& line : maps.readAll().split('\n')) {
+        const QList<QByteArray> range = line.left(line.indexOf(' ')).split('-');
+        if (range.size() != 2 || !line.contains(" rw-p ")) continue;
+        const qint64 start = range[0].toLongLong(nullptr, 16);
+        if (!memory.seek(start)) continue;
+        const QByteArray bytes = memory.read(range[1].toLongLong(nullptr, 16) - start);
+        const auto* units = reinterpret_cast<const ushort*>(bytes.constData());
+        for (int i = 0; i + SecretLength <= bytes.size() / 2; ++i) {
+            int same = 0;
+            while (same < SecretLength && units[i + same] == secretAt(same)) ++same;
+            if (same == SecretLength) return true;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 class TestPageEditing : public PageTest {
@@ -28,6 +52,8 @@ private slots:
         f->click("pBtnnewProfile");
         QCOMPARE(f->edit("LineEditProfileName")->text(), QString("New Profile1"));
         QVERIFY(f->focused("LineEditProfileName") && !f->combo()->isVisible());
+        QCOMPARE(f->edit("LineEditProfileName")->selectedText(), QString("New Profile1"));  // typing replaces it
+        QCOMPARE(f->edit("LineEditProfileName")->cursorPosition(), 0);
         QCOMPARE(f->edit("ApnlineEdit")->text(), QString("start"));
         F::type(f->edit("LineEditProfileName"), "Mine & yours");
         F::type(f->edit("UsernamelineEdit"), "me");
@@ -72,6 +98,25 @@ private slots:
         f->click("BtnEditProfile");
         f->click("BtnsaveProfile");
         QCOMPARE(f->stored("Home", "type readonly Remember"), QString("of Home||"));
+    }
+
+    // Nothing of what was typed stays in memory when the edit ends.
+    void passwordIsWiped_data() { nameRows("by", {"BtnUndoProfile", "the plug-in's end"}); }
+    void passwordIsWiped() {
+        f->start(F::profile("Home"));
+        f->click("BtnEditProfile");
+        for (int i = 0; i < SecretLength; ++i) QTest::keyClick(f->edit("PasswordlineEdit"), secretAt(i));
+        QVERIFY(isSecretInMemory());
+        const QString by = cell("by");
+        by.startsWith("Btn") ? f->click(qPrintable(by)) : f->plugin()->OnDestroy();
+        QVERIFY(!isSecretInMemory());
+    }
+
+    void returnDoesNotDelete() {
+        f->start(F::profile("Home"));
+        f->answers.dismiss(Qt::Key_Return);
+        f->click("BtnDeleteProfile");
+        QCOMPARE(f->stored(), QStringList("Home"));
     }
 
     void validation() {

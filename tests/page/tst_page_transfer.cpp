@@ -155,6 +155,14 @@ private slots:
         f->answers.file(QString());
         exportName("A");
         QCOMPARE(QDir(f->path("")).entryList({"*.prof"}), QStringList("out.prof"));
+        // A name without a suffix gets one, and it is that file that is asked about.
+        f->answers.file(f->path("out"));
+        f->answers.no();
+        f->answers.file(f->path("new"));
+        exportName("A");
+        QVERIFY(f->answers.allGiven());
+        QCOMPARE(QDir(f->path("")).entryList({"*.prof", "new", "out"}, QDir::Files),
+                 QStringList({"new.prof", "out.prof"}));
     }
 
     void endInTheFileDialog() {

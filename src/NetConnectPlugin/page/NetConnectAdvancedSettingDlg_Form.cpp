@@ -1,6 +1,8 @@
 #include <new>
 
+#include "Change.h"
 #include "NetConnectAdvancedSettingDlg.h"
+#include "NetConnectLeastSize.h"
 
 namespace {
 
@@ -39,6 +41,7 @@ void NetConnectAdvancedSettingDlg::InitAdvanceUI(QWidget*) {
     connect(m_pBtnOk, SIGNAL(clicked()), this, SLOT(onClickOkAdvanceSetting()));
     connect(m_pBtnCancel, SIGNAL(clicked()), this, SLOT(onClickCancelAdvanceSetting()));
     SetLanguage();
+    fitSizes();
 }
 
 QPushButton* NetConnectAdvancedSettingDlg::createButton(const char* role) {
@@ -50,7 +53,6 @@ QPushButton* NetConnectAdvancedSettingDlg::createButton(const char* role) {
 void NetConnectAdvancedSettingDlg::createIPSettingUI() {
     m_IP.grid = new QGridLayout;
     m_IP.box = createBox("AuthgroupBox", m_IP.grid);
-    m_IP.box->setFixedHeight(77);
     m_IP.grid->setVerticalSpacing(0);  // the height is just that of two rows
     createAddressRadios(&m_IP, "IP");
     m_IP.dynamicRadio->setChecked(true);
@@ -65,7 +67,6 @@ void NetConnectAdvancedSettingDlg::createProtocolSettingUI() {
     m_pProtocolGroup = new (std::nothrow) QGroupBox(m_pMainWidget);
     if (!m_pProtocolGroup) return traceMissing("%s: %s: m_pGroupBoxTxtMsgHandle intialising is Failed: ");
     m_pProtocolGroup->setObjectName(named("ProtocolGroupBox"));
-    m_pProtocolGroup->setFixedHeight(60);
     m_pProtocolGroup->setLayout(m_pProtocolLayout);
     m_pMainLayout->addWidget(m_pProtocolGroup);
 
@@ -129,9 +130,19 @@ void NetConnectAdvancedSettingDlg::createAddressRow(AddressGroup* group, int row
     edit = new ExtendLineEdit(group->box);
     edit->setObjectName(named(editRole));
     edit->setValidator(m_pValidator);
-    edit->setFixedSize(182, 22);
     edit->setMaxLength(LongestAddress);
     label->setBuddy(edit);
     group->grid->addWidget(label, row, 1, Qt::AlignLeft);
     group->grid->addWidget(edit, row, 3, Qt::AlignLeft);
+}
+
+void NetConnectAdvancedSettingDlg::fitSizes() {
+    QLineEdit* const edits[] = {m_IP.primary, m_DNS.primary, m_DNS.secondary, m_WINS.primary, m_WINS.secondary};
+    for (QLineEdit* edit : edits) {
+        setLeastHeight(edit, 22);
+        edit->setFixedWidth(isFontLarge(edit) ? qMax(182, edit->sizeHint().width()) : 182);
+    }
+    setLeastHeight(m_IP.box, 77);
+    if (m_pProtocolGroup) setLeastHeight(m_pProtocolGroup, 60);
+    if (m_pDialog) setLeastSize(m_pDialog, QSize(Change::GetLangName() == QLatin1String("ru") ? 460 : 434, 463));
 }

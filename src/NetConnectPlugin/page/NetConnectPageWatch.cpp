@@ -1,5 +1,6 @@
 #include "NetConnectPageWatch.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QTimer>
@@ -36,10 +37,26 @@ int NetConnectPageWatch::Notify(unsigned int event, unsigned int, unsigned int) 
 }
 
 bool NetConnectPageWatch::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_pPage) return isLostClick(watched, event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        QTimer::singleShot(0, this, SLOT(fitHeights()));
     if (event->type() == QEvent::Enter) m_pService->applyProfileLocks();
     if (event->type() == QEvent::Paint && m_pService->m_bListAwaited)
         QTimer::singleShot(0, this, SLOT(fillAwaitedList()));
     return QObject::eventFilter(watched, event);
+}
+
+// A button that is down while the page goes is released without a click, also where a mnemonic pressed it: its own
+// timer would click it, and open a dialog under another page.
+bool NetConnectPageWatch::isLostClick(QObject* watched, QEvent* event) {
+    QAbstractButton* const button = qobject_cast<QAbstractButton*>(watched);
+    if (!button) return false;
+    if (event->type() == QEvent::Hide) button->setDown(false);
+    if (event->type() != QEvent::Timer || button->isVisible()) return false;
+    button->blockSignals(true);
+    watched->event(event);
+    button->blockSignals(false);
+    return true;
 }
 
 // Not between the press and the release of a mouse button: the click would be lost without a word, where the button's
@@ -54,5 +71,7 @@ void NetConnectPageWatch::fillAwaitedList() {
 }
 
 void NetConnectPageWatch::onTransferClosed() { m_pService->finishTransfer(); }
+
+void NetConnectPageWatch::fitHeights() { m_pService->fitHeights(); }
 
 void NetConnectPageWatch::onFileChanged() { m_pService->followUserFile(); }

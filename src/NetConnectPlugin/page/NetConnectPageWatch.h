@@ -36,8 +36,11 @@ private slots:
     void fillAwaitedList();
     void onTransferClosed();
     void onFileChanged();
+    void fitHeights();
 
 private:
+    static bool isLostClick(QObject* button, QEvent* event);
+
     CNetConnectUIService* m_pService;
     QWidget* m_pPage;
     QPointer<QObject> m_pNotifyService;

@@ -2,6 +2,7 @@
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectStoreAction.h"
 #include "NetConnectUIService.h"
+#include "NetConnectWipe.h"
 #include "TruthText.h"
 
 void CNetConnectUIService::beginEdit(Operation operation, const QString& shownName) {
@@ -13,12 +14,18 @@ void CNetConnectUIService::beginEdit(Operation operation, const QString& shownNa
     m_Edit.shownName = m_Page.name->text();
     m_Page.name->show();
     m_Page.name->setFocus(Qt::OtherFocusReason);
-    m_Page.name->setCursorPosition(0);
+    m_Page.name->setSelection(m_Page.name->text().size(), -m_Page.name->text().size());  // the cursor is at 0
     m_nOperation = operation;
 }
 
-void CNetConnectUIService::endEdit() {
+void CNetConnectUIService::forgetEdit() {
+    wipeText(&m_Edit.shown.password);
+    wipeText(&m_Edit.begun.password);
     m_Edit = OpenEdit();
+}
+
+void CNetConnectUIService::endEdit() {
+    forgetEdit();
     m_bEditExisting = false;
     m_strEditProfileName = QString();
     m_nOperation = Idle;
@@ -38,6 +45,8 @@ void CNetConnectUIService::onClickNewProfileButton() {
     m_Page.askUserName->setChecked(isTrue(profile.popusername));
     enableDisableUiWidget(true);
     setProtocolSettings(&profile);
+    wipeText(&profile.password);
+    wipeText(&m_CurrentProfile.password);
 }
 
 void CNetConnectUIService::onClickEditButton() {
@@ -49,7 +58,7 @@ void CNetConnectUIService::onClickEditButton() {
     m_strEditProfileName = m_Page.profiles->currentText();
     beginEdit(EditingExisting, name);
     enableDisableUiWidget(true);
-    m_Edit.begun = m_CurrentProfile;
+    m_pLogic->GetDialUpProfile(name, &m_Edit.begun);
     m_Edit.shown = enteredProfile();
 }
 
@@ -68,8 +77,9 @@ bool CNetConnectUIService::onClickSaveButton() {
         if (self) m_nOperation = Idle;
         return false;
     }
-    const DialupProfile profile = enteredProfile();
+    DialupProfile profile = enteredProfile();
     const int status = storeProfile(profile);
+    wipeText(&profile.password);
     if (status == 0)
         finishSave(profile.name);
     else
@@ -102,7 +112,8 @@ void CNetConnectUIService::refuseSave(int status) {
 }
 
 void CNetConnectUIService::finishSave(const QString& name) {
-    m_Edit = OpenEdit();
+    forgetEdit();
+    wipeText(m_Page.password);
     rebuildList();
     m_Page.profiles->show();
     m_Page.name->hide();
@@ -120,7 +131,8 @@ void CNetConnectUIService::onClickUndoButton() {
     if (!m_Page.profiles || !m_Page.deleteProfile || !m_Page.edit || !m_Page.apnDynamic || !m_Page.setDefault) return;
     const bool dynamic = m_Page.apnDynamic->isChecked();
     if (m_Edit.open && !m_bEditExisting) m_strDefaultRemember = QString();
-    m_Edit = OpenEdit();
+    forgetEdit();
+    wipeText(m_Page.password);
     m_nOperation = Undoing;
     enableDisableUiWidget(false);
     if (m_Page.profiles->currentIndex() < 0) m_Page.profiles->setCurrentIndex(qMax(m_nDefaultIndex, 0));

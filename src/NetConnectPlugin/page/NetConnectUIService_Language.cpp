@@ -20,7 +20,7 @@ void CNetConnectUIService::setLanguage() {
     setLabelLanguage();
     setButtonLanguage();
     onDeviceInitailize();
-    applyProfileLocks();
+    if (m_Page.save) enableDisableUIButtons(m_Edit.open);  // their reasons
 }
 
 void CNetConnectUIService::setGroupBoxLanguage() {

@@ -2,6 +2,7 @@
 #include <QRegExpValidator>
 
 #include "CallTrace.h"
+#include "NetConnectLeastSize.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"
@@ -9,19 +10,20 @@
 
 namespace {
 
+// Pixels.
 const int LineEditHeight = 22;
+const int ProfileGroupHeight = 60;
+const int APNGroupHeight = 80;
+const int AuthenticationGroupHeight = 115;
+const int ProtocolGroupHeight = 50;
+
+const int NoticeLines = 2;
 const int LongestVisibleName = 20;  // in average characters; longer names show whole in the open list
 
 template <class W>
 W* named(W* widget, const char* role) {
     widget->setObjectName(QString::fromLatin1("NetConnectSettingUIPlugin_") + QString::fromLatin1(role));
     return widget;
-}
-
-QGroupBox* createGroup(QWidget* parent, const char* role, int height) {
-    QGroupBox* group = named(new QGroupBox(parent), role);
-    group->setFixedHeight(height);
-    return group;
 }
 
 // The groups have fixed heights, which leave little room above and below what they hold.
@@ -43,6 +45,7 @@ void CNetConnectUIService::initailizeUI() {
     setLabelLanguage();
     setButtonLanguage();
     applySettingsFromConfigFile();
+    fitHeights();
 }
 
 void CNetConnectUIService::createLayouts() {
@@ -57,9 +60,9 @@ void CNetConnectUIService::createLayouts() {
     m_pDialuptabLayout = named(new QVBoxLayout(m_pDialupTabWidget), "DialuptabLayout");
     m_pBtnOtherLayout = named(new QVBoxLayout, "BtnOtherLayout");
     m_pGroupBoxLayout = named(new QVBoxLayout, "GroupBoxLayout");
-    m_Page.profileGroup = createGroup(m_pDialupTabWidget, "ProfilegroupBox", 60);
-    m_Page.apnGroup = createGroup(m_pDialupTabWidget, "ApngroupBox", 80);
-    m_Page.authGroup = createGroup(m_pDialupTabWidget, "AuthgroupBox", 115);
+    m_Page.profileGroup = named(new QGroupBox(m_pDialupTabWidget), "ProfilegroupBox");
+    m_Page.apnGroup = named(new QGroupBox(m_pDialupTabWidget), "ApngroupBox");
+    m_Page.authGroup = named(new QGroupBox(m_pDialupTabWidget), "AuthgroupBox");
     m_pProfileNameLayout = named(new QHBoxLayout(m_Page.profileGroup), "ProfileNameLayout");
     m_pApngrpLayout = named(new QFormLayout(m_Page.apnGroup), "ApngrpLayout");
     m_pSMSCgrpLayout = named(new QFormLayout(m_Page.authGroup), "SMSCgrpLayout");
@@ -67,7 +70,6 @@ void CNetConnectUIService::createLayouts() {
 
 ExtendLineEdit* CNetConnectUIService::createEdit(const char* role, int maximumLength) {
     ExtendLineEdit* edit = named(new ExtendLineEdit(m_pDialupTabWidget), role);
-    edit->setFixedHeight(LineEditHeight);
     edit->setMaxLength(maximumLength);
     edit->setContextMenuPolicy(Qt::NoContextMenu);
     return edit;
@@ -133,13 +135,21 @@ void CNetConnectUIService::createAuthenticationUI() {
     m_Page.userLabel->setBuddy(m_Page.user);
     m_Page.passwordLabel->setBuddy(m_Page.password);
 
-    m_Page.passwordHint = named(new NetConnectPasswordHint(m_Page.password, m_pDialupTabWidget), "PasswordHint");
+    m_Page.noticePlace = named(new QWidget(m_pDialupTabWidget), "NoticePlace");
+    m_Page.passwordHint = named(new NetConnectPasswordHint(m_Page.password, m_Page.noticePlace), "PasswordHint");
+    m_Page.lockNotice = named(new QLabel(m_Page.noticePlace), "LockNotice");
+    m_Page.lockNotice->setTextFormat(Qt::PlainText);
+    m_Page.lockNotice->setWordWrap(true);
+    m_Page.lockNotice->hide();
+    QVBoxLayout* notices = new QVBoxLayout(m_Page.noticePlace);
+    notices->setContentsMargins(0, 0, 0, 0);
+    notices->addWidget(m_Page.passwordHint);
+    notices->addWidget(m_Page.lockNotice);
     m_Page.askUserName = named(new QCheckBox(m_pDialupTabWidget), "CheckBoxAskUserName");
 }
 
 void CNetConnectUIService::createProtocolUI() {
     m_Page.protocolGroup = new QGroupBox(m_pDialupTabWidget);
-    m_Page.protocolGroup->setFixedHeight(50);
     m_Page.chap = new QCheckBox(m_Page.protocolGroup);
     m_Page.pap = new QCheckBox(m_Page.protocolGroup);
     QHBoxLayout* boxes = new QHBoxLayout(m_Page.protocolGroup);
@@ -165,6 +175,7 @@ void CNetConnectUIService::createProfileSettingButtons() {
         QPushButton* button = named(new QPushButton(m_pNetConnectWidget), row.role);
         m_Page.*row.member = button;
         m_pBtnOtherLayout->addWidget(button);
+        button->installEventFilter(m_pPageWatch);
         connect(button, SIGNAL(clicked()), this, row.slot);
     }
     m_pBtnOtherLayout->setSpacing(7);
@@ -177,13 +188,32 @@ void CNetConnectUIService::assemblePage() {
     m_pGroupBoxLayout->addWidget(m_Page.profileGroup);
     m_pGroupBoxLayout->addWidget(m_Page.apnGroup);
     m_pGroupBoxLayout->addWidget(m_Page.authGroup);
-    m_pGroupBoxLayout->addWidget(m_Page.passwordHint);
+    m_pGroupBoxLayout->addWidget(m_Page.noticePlace);
     m_pGroupBoxLayout->addWidget(m_Page.askUserName);
     m_pGroupBoxLayout->addWidget(m_Page.protocolGroup);
     m_pGroupBoxLayout->addStretch();
     m_pDialuptabLayout->addLayout(m_pGroupBoxLayout);
     m_pNetConectLayout->addWidget(m_pTabWidget);
     m_pNetConectLayout->addLayout(m_pBtnOtherLayout);
+}
+
+// Of the fields first, since their groups follow them.
+void CNetConnectUIService::fitHeights() {
+    const struct {
+        QWidget* widget;
+        int least;
+    } heights[] = {{m_Page.name, LineEditHeight},
+                   {m_Page.apn, LineEditHeight},
+                   {m_Page.accessNumber, LineEditHeight},
+                   {m_Page.user, LineEditHeight},
+                   {m_Page.password, LineEditHeight},
+                   {m_Page.profileGroup, ProfileGroupHeight},
+                   {m_Page.apnGroup, APNGroupHeight},
+                   {m_Page.authGroup, AuthenticationGroupHeight},
+                   {m_Page.protocolGroup, ProtocolGroupHeight}};
+    if (!m_Page.noticePlace) return;
+    for (const auto& row : heights) setLeastHeight(row.widget, row.least);
+    m_Page.noticePlace->setFixedHeight(NoticeLines * m_Page.noticePlace->fontMetrics().lineSpacing());
 }
 
 void CNetConnectUIService::setTabOrders() {

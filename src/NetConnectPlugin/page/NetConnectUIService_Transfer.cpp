@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 
+#include "NetConnectLeastSize.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectUIService.h"
@@ -32,6 +33,9 @@ void CNetConnectUIService::openTransferDialog(bool import) {
     m_bImport = import;
     initImportExportDialog();
     setLanguage();
+    setLeastSize(m_pImportExportDialog, QSize(456, 373));
+    CommonUtils::MoveCentre(m_pImportExportDialog);
+    m_pImportExportDialog->show();
     m_bBrowsed = false;  // what the opening read is forgotten
 }
 
@@ -49,7 +53,6 @@ void CNetConnectUIService::initImportExportDialog() {
     m_pImportExportDialog = new ExtendDialog(m_pNetConnectWidget, Qt::WindowCloseButtonHint, FrameType);
     m_pImportExportWidget = new QWidget(m_pImportExportDialog);
     m_pImportExportDialog->AddMainWidget(m_pImportExportWidget);
-    m_pImportExportDialog->setFixedSize(456, 373);
     m_pImportExportDialog->setWindowModality(Qt::WindowModal);
     createTransferWidgets();
     initImportExportTree();
@@ -57,8 +60,6 @@ void CNetConnectUIService::initImportExportDialog() {
     connect(m_pBtnImportExportCancel, SIGNAL(clicked()), this, SLOT(onClickImportExportCancelButton()));
     connect(m_pBtnImportExportBrowse, SIGNAL(clicked()), this, SLOT(onClickImportExportBrowseButton()));
     connect(m_pImportExportDialog, SIGNAL(rejected()), m_pPageWatch, SLOT(onTransferClosed()));
-    CommonUtils::MoveCentre(m_pImportExportDialog);
-    m_pImportExportDialog->show();
 }
 
 void CNetConnectUIService::createTransferWidgets() {
@@ -175,8 +176,9 @@ QString CNetConnectUIService::chooseImportFile() {
 QString CNetConnectUIService::chooseExportFile() {
     const QPointer<QWidget> parent(m_pImportExportWidget);
     while (parent) {
-        const QString path = QFileDialog::getSaveFileName(parent, QString::fromLatin1("Save As"), startingFile(),
-                                                          fileFilter(), 0, QFileDialog::DontConfirmOverwrite);
+        QString path = QFileDialog::getSaveFileName(parent, QString::fromLatin1("Save As"), startingFile(),
+                                                    fileFilter(), nullptr, QFileDialog::DontConfirmOverwrite);
+        if (!path.isNull() && QFileInfo(path).suffix().isEmpty()) path += QString::fromLatin1(".prof");
         if (path.isNull() || !parent) break;
         const QFileInfo file(path);
         if (file.fileName().contains(QLatin1Char('*'))) {

@@ -3,6 +3,7 @@
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectStoreAction.h"
 #include "NetConnectUIService.h"
+#include "NetConnectWipe.h"
 #include "Trace.h"
 #include "TruthText.h"
 
@@ -125,6 +126,7 @@ void CNetConnectUIService::onSelectProfile(QString strProfile) {
     applyProfileLocks();
     showAuthenticationSetting();
     setProtocolSettings(&m_CurrentProfile);
+    wipeText(&m_CurrentProfile.password);  // its field holds it
 }
 
 void CNetConnectUIService::showAPNSetting() {
@@ -192,10 +194,9 @@ void CNetConnectUIService::enableDisableNamePasswordEdits(bool editing) {
 
 void CNetConnectUIService::enableDisableUIButtons(bool editing) {
     QPushButton* const viewing[] = {m_Page.newProfile, m_Page.importProfiles, m_Page.exportProfiles};
-    for (QPushButton* button : viewing) button->setEnabled(!editing);
-    m_Page.save->setEnabled(editing);
-    m_Page.save->setToolTip(QString());
-    m_Page.undo->setEnabled(editing);
+    for (QPushButton* button : viewing) lockButton(button, editing ? "IDS_NETCONNECT_TIP_EDIT_OPEN" : 0);
+    QPushButton* const ending[] = {m_Page.save, m_Page.undo};
+    for (QPushButton* button : ending) lockButton(button, editing ? 0 : "IDS_NETCONNECT_TIP_NO_EDIT");
     applyProfileLocks();
 }
 
@@ -222,6 +223,7 @@ void CNetConnectUIService::applyProfileLocks() {
     const char* const reason = profileLock();
     lockButton(m_Page.edit, reason);
     lockButton(m_Page.deleteProfile, reason);
+    showLock(reason);
     enableDisableDefaultButton(!m_Edit.open);
 }
 
@@ -239,6 +241,21 @@ void CNetConnectUIService::lockButton(QPushButton* button, const char* reason) {
     button->setEnabled(!reason);
     button->setToolTip(why);
     button->setAccessibleDescription(why);
+}
+
+// A locked profile looks locked, also where no pointer brings the tips up.
+void CNetConnectUIService::showLock(const char* reason) {
+    const struct {
+        const char* reason;
+        const char* notice;
+    } rows[] = {{"IDS_NETCONNECT_TIP_PROFILE_READONLY", "IDS_NETCONNECT_LOCKED_READONLY"},
+                {"IDS_NETCONNECT_TIP_PROFILE_PRESET", "IDS_NETCONNECT_LOCKED_PRESET"},
+                {"IDS_NETCONNECT_TIP_PROFILE_CONNECTED", "IDS_NETCONNECT_LOCKED_CONNECTED"}};
+    const char* notice = 0;
+    for (const auto& row : rows)
+        if (qstrcmp(reason, row.reason) == 0) notice = row.notice;
+    m_Page.lockNotice->setText(notice ? text(notice) : QString());
+    m_Page.lockNotice->setVisible(notice);
 }
 
 void CNetConnectUIService::applySettingsFromConfigFile() {
