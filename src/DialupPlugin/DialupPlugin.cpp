@@ -33,13 +33,11 @@ const Outcome& outcomeNamed(const QString& name) {
 }
 
 INetConnectSetting* netConnectSetting() {
-    return qobject_cast<INetConnectSetting*>(
-        Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind));
+    return findPeer<INetConnectSetting>(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
 }
 
 INotifyService* notifyService() {
-    return qobject_cast<INotifyService*>(
-        Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_NOTIFYSERVICE_CLSID, NotifyServicePluginKind));
+    return findPeer<INotifyService>(ORBISDIAL_NOTIFYSERVICE_CLSID, NotifyServicePluginKind);
 }
 
 bool isTrue(const QString& flag) { return flag == QLatin1String("true"); }

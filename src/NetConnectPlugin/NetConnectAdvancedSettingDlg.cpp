@@ -5,7 +5,7 @@
 #include "Change.h"
 #include "CommonUtils.h"
 
-NetConnectAdvancedSettingDlg* NetConnectAdvancedSettingDlg::m_pNetConnectAdvancedSettingDlg = 0;
+NetConnectAdvancedSettingDlg* NetConnectAdvancedSettingDlg::m_pNetConnectAdvancedSettingDlg = nullptr;
 
 NetConnectAdvancedSettingDlg* NetConnectAdvancedSettingDlg::GetInstance() {
     if (!m_pNetConnectAdvancedSettingDlg) m_pNetConnectAdvancedSettingDlg = new NetConnectAdvancedSettingDlg;
@@ -14,20 +14,11 @@ NetConnectAdvancedSettingDlg* NetConnectAdvancedSettingDlg::GetInstance() {
 
 void NetConnectAdvancedSettingDlg::Destroy() {
     delete m_pNetConnectAdvancedSettingDlg;
-    m_pNetConnectAdvancedSettingDlg = 0;
+    m_pNetConnectAdvancedSettingDlg = nullptr;
 }
 
 NetConnectAdvancedSettingDlg::NetConnectAdvancedSettingDlg()
-    : m_pMainLayout(0),
-      m_pProtocolLayout(0),
-      m_pButtonLayout(0),
-      m_pProtocolGroup(0),
-      m_pChap(0),
-      m_pPap(0),
-      m_pBtnOk(0),
-      m_pBtnCancel(0),
-      m_pValidator(new QRegExpValidator(QRegExp(QString::fromLatin1("[.0-9]*")), this)),
-      m_bArmed(true) {
+    : m_pValidator(new QRegExpValidator(QRegExp(QString::fromLatin1("[.0-9]*")), this)) {
     QString AdvanceSetting::*const fields[] = {&AdvanceSetting::ip,     &AdvanceSetting::pap,    &AdvanceSetting::chap,
                                                &AdvanceSetting::dns,    &AdvanceSetting::dnsalt, &AdvanceSetting::wins,
                                                &AdvanceSetting::winsalt};
@@ -69,10 +60,10 @@ bool NetConnectAdvancedSettingDlg::createHostDialog() {
 void NetConnectAdvancedSettingDlg::closeHostDialog() {
     if (!m_pDialog) return;
     m_pDialog->close();
-    m_pMainWidget->setParent(0);
+    m_pMainWidget->setParent(nullptr);
     m_pDialog->setObjectName(QString());
     m_pDialog->deleteLater();
-    m_pDialog = 0;
+    m_pDialog = nullptr;
 }
 
 void NetConnectAdvancedSettingDlg::onClickCancelAdvanceSetting() { closeHostDialog(); }

@@ -63,14 +63,14 @@ private slots:
 private:
     // The widgets of one address group. The IP group has no secondary address.
     struct AddressGroup {
-        QGroupBox* box = 0;
-        QGridLayout* grid = 0;
-        QRadioButton* dynamicRadio = 0;
-        QRadioButton* staticRadio = 0;
-        QLabel* primaryLabel = 0;
-        ExtendLineEdit* primary = 0;
-        QLabel* secondaryLabel = 0;
-        ExtendLineEdit* secondary = 0;
+        QGroupBox* box = nullptr;
+        QGridLayout* grid = nullptr;
+        QRadioButton* dynamicRadio = nullptr;
+        QRadioButton* staticRadio = nullptr;
+        QLabel* primaryLabel = nullptr;
+        ExtendLineEdit* primary = nullptr;
+        QLabel* secondaryLabel = nullptr;
+        ExtendLineEdit* secondary = nullptr;
     };
 
     // Which address of the result and of the profile a field holds.
@@ -80,7 +80,7 @@ private:
     };
 
     NetConnectAdvancedSettingDlg();
-    virtual ~NetConnectAdvancedSettingDlg();
+    ~NetConnectAdvancedSettingDlg() override;
 
     // --- texts ---
     QString tr(QString key) const;
@@ -123,21 +123,21 @@ private:
 
     QPointer<ExtendDialog> m_pDialog;  // while shown
     QPointer<QWidget> m_pMainWidget;   // holds all widgets below; null when they are not built, or are gone
-    QVBoxLayout* m_pMainLayout;
-    QHBoxLayout* m_pProtocolLayout;
-    QHBoxLayout* m_pButtonLayout;
+    QVBoxLayout* m_pMainLayout = nullptr;
+    QHBoxLayout* m_pProtocolLayout = nullptr;
+    QHBoxLayout* m_pButtonLayout = nullptr;
     AddressGroup m_IP;
     AddressGroup m_DNS;
     AddressGroup m_WINS;
-    QGroupBox* m_pProtocolGroup;
-    QCheckBox* m_pChap;
-    QCheckBox* m_pPap;
-    QPushButton* m_pBtnOk;
-    QPushButton* m_pBtnCancel;
+    QGroupBox* m_pProtocolGroup = nullptr;
+    QCheckBox* m_pChap = nullptr;
+    QCheckBox* m_pPap = nullptr;
+    QPushButton* m_pBtnOk = nullptr;
+    QPushButton* m_pBtnCancel = nullptr;
     QRegExpValidator* m_pValidator;
     AdvanceSetting m_AdvanceSetting;
     DialupProfile m_Profile;
-    bool m_bArmed;  // static radios may enable and focus the primary field
+    bool m_bArmed = true;  // static radios may enable and focus the primary field
 };
 
 #endif

@@ -13,7 +13,7 @@
 #include "Startup.h"
 #include "Trace.h"
 
-CNetConnectUIService* CNetConnectUIService::m_pInstance = 0;
+CNetConnectUIService* CNetConnectUIService::m_pInstance = nullptr;
 
 CNetConnectUIService* CNetConnectUIService::instance() {
     try {
@@ -34,38 +34,38 @@ CNetConnectUIService::~CNetConnectUIService() {}
 void CNetConnectUIService::Destroy() {
     if (m_pInstance) m_pInstance->OnDestroy();
     delete m_pInstance;
-    m_pInstance = 0;
+    m_pInstance = nullptr;
 }
 
 void CNetConnectUIService::OnDestroy() {
     m_pReloadGate->close();
     NetConnectSettingUILogic::Destroy();
     NetConnectAdvancedSettingDlg::Destroy();
-    m_pLogic = 0;
-    m_pAdvancedDlg = 0;
+    m_pLogic = nullptr;
+    m_pAdvancedDlg = nullptr;
     if (m_Page.password) wipeText(m_Page.password);
     delete m_pImportExportDialog;
     delete m_pNetConnectWidget;
     forgetPage();
-    m_pPluginContainer = 0;
-    m_pNotifyServicePlugin = 0;
-    m_pNotifyService = 0;
+    m_pPluginContainer = nullptr;
+    m_pNotifyServicePlugin = nullptr;
+    m_pNotifyService = nullptr;
     m_bActive = m_bHiddenWhileOpen = m_bClosedByButton = false;
     m_bImporting = m_bReloadPending = m_bListAwaited = m_bBrowsed = false;
 }
 
 void CNetConnectUIService::forgetPage() {
-    m_pNetConectLayout = m_pProfileNameLayout = 0;
-    m_pDialuptabLayout = m_pBtnOtherLayout = m_pGroupBoxLayout = 0;
-    m_pApngrpLayout = m_pSMSCgrpLayout = 0;
-    m_pNetConnectWidget = m_pDialupTabWidget = 0;
-    m_pTabWidget = 0;
+    m_pNetConectLayout = m_pProfileNameLayout = nullptr;
+    m_pDialuptabLayout = m_pBtnOtherLayout = m_pGroupBoxLayout = nullptr;
+    m_pApngrpLayout = m_pSMSCgrpLayout = nullptr;
+    m_pNetConnectWidget = m_pDialupTabWidget = nullptr;
+    m_pTabWidget = nullptr;
     m_Page = PageWidgets();
-    m_pImportExportDialog = 0;
-    m_pImportExportWidget = 0;
-    m_pImportExportTree = 0;
-    m_pProfileRootItem = m_pCurrentItem = 0;
-    m_pBtnImportExportOk = m_pBtnImportExportCancel = m_pBtnImportExportBrowse = 0;
+    m_pImportExportDialog = nullptr;
+    m_pImportExportWidget = nullptr;
+    m_pImportExportTree = nullptr;
+    m_pProfileRootItem = m_pCurrentItem = nullptr;
+    m_pBtnImportExportOk = m_pBtnImportExportCancel = m_pBtnImportExportBrowse = nullptr;
     m_nDefaultIndex = -1;
     endEdit();
 }
@@ -159,10 +159,7 @@ int CNetConnectUIService::question(QMessageBox::Icon icon, const QString& messag
 }
 
 IDialupUIService* CNetConnectUIService::GetDialUpPlugin() {
-    IPluginContainer* container = Startup::GetPluginContainer();
-    if (!container) return 0;
-    QObject* plugin = container->FindPlugin(QString::fromLatin1(ORBISDIAL_DIALUP_CLSID), DialupPluginKind);
-    IDialupUIService* service = qobject_cast<IDialupUIService*>(plugin);
+    IDialupUIService* service = findPeer<IDialupUIService>(ORBISDIAL_DIALUP_CLSID, DialupPluginKind);
     if (!service)
         qDebug("Failed to get plugin IDialupUIService %s: %s: %s:", traceTime().constData(), __FILE__,
                "GetDialUpPlugin");
@@ -182,15 +179,14 @@ bool CNetConnectUIService::isConnectionUp() {
 
 void CNetConnectUIService::findNotifyService() {
     m_pPluginContainer = Startup::GetPluginContainer();
-    m_pNotifyServicePlugin = m_pPluginContainer
-                                 ? m_pPluginContainer->FindPlugin(QString::fromLatin1(ORBISDIAL_NOTIFYSERVICE_CLSID),
-                                                                  NotifyServicePluginKind)
-                                 : 0;
+    m_pNotifyServicePlugin = findPeer<QObject>(ORBISDIAL_NOTIFYSERVICE_CLSID, NotifyServicePluginKind);
     m_pNotifyService = qobject_cast<INotifyService*>(m_pNotifyServicePlugin.data());
     if (m_pPageWatch) m_pPageWatch->listenTo(m_pNotifyServicePlugin);
 }
 
-INotifyService* CNetConnectUIService::notifyService() const { return m_pNotifyServicePlugin ? m_pNotifyService : 0; }
+INotifyService* CNetConnectUIService::notifyService() const {
+    return m_pNotifyServicePlugin ? m_pNotifyService : nullptr;
+}
 
 void CNetConnectUIService::notifyProfilesChanged(const char* clsid) const {
     if (INotifyService* service = notifyService())

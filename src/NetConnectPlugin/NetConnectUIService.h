@@ -76,21 +76,21 @@ public:
     int Notify(unsigned int event, unsigned int param1, unsigned int param2);
     void setLanguage();
 
-    virtual int OnClickSettingOkButton();
-    virtual int OnClickSettingCancelButton();
-    virtual int ShowSettingDialog(QWidget* parent, QRect& rect);
-    virtual QString GetModuleName();
-    virtual int HideSetting();
-    virtual bool IsActiveSetting();
+    int OnClickSettingOkButton() override;
+    int OnClickSettingCancelButton() override;
+    int ShowSettingDialog(QWidget* parent, QRect& rect) override;
+    QString GetModuleName() override;
+    int HideSetting() override;
+    bool IsActiveSetting() override;
 
-    virtual int IsIMSIROAMEnable();
-    virtual int GetAllDialUpProfile(QList<QString>* names);
-    virtual int GetDialUpProfile(QString name, DialupProfile* profile);
-    virtual int SaveDialUpProfile(DialupProfile profile);
-    virtual int GetDefaultDialUpProfileName(QString* name);
-    virtual int SetDefaultDialUpProfileName(QString name);
-    virtual UserPrompt GetUserPromptInfo();
-    virtual int GetFunctionConfigStringValues(QString key, QString* values);
+    int IsIMSIROAMEnable() override;
+    int GetAllDialUpProfile(QList<QString>* names) override;
+    int GetDialUpProfile(QString name, DialupProfile* profile) override;
+    int SaveDialUpProfile(DialupProfile profile) override;
+    int GetDefaultDialUpProfileName(QString* name) override;
+    int SetDefaultDialUpProfileName(QString name) override;
+    UserPrompt GetUserPromptInfo() override;
+    int GetFunctionConfigStringValues(QString key, QString* values) override;
 
 signals:
     void SysModeChangedSignal();
@@ -132,7 +132,7 @@ private:
     };
 
     CNetConnectUIService();
-    virtual ~CNetConnectUIService();
+    ~CNetConnectUIService() override;
 
     // --- life, texts, peers ---
     void forgetPage();
@@ -248,62 +248,62 @@ private:
 
     static CNetConnectUIService* m_pInstance;
 
-    QHBoxLayout* m_pNetConectLayout = 0;
-    QVBoxLayout* m_pDialuptabLayout = 0;
-    QVBoxLayout* m_pBtnOtherLayout = 0;
-    QVBoxLayout* m_pGroupBoxLayout = 0;
-    QHBoxLayout* m_pProfileNameLayout = 0;
-    QFormLayout* m_pApngrpLayout = 0;
-    QFormLayout* m_pSMSCgrpLayout = 0;
-    QWidget* m_pNetConnectWidget = 0;  // the page; owned, unless the host destroys its parent first
-    QTabWidget* m_pTabWidget = 0;
-    QWidget* m_pDialupTabWidget = 0;
+    QHBoxLayout* m_pNetConectLayout = nullptr;
+    QVBoxLayout* m_pDialuptabLayout = nullptr;
+    QVBoxLayout* m_pBtnOtherLayout = nullptr;
+    QVBoxLayout* m_pGroupBoxLayout = nullptr;
+    QHBoxLayout* m_pProfileNameLayout = nullptr;
+    QFormLayout* m_pApngrpLayout = nullptr;
+    QFormLayout* m_pSMSCgrpLayout = nullptr;
+    QWidget* m_pNetConnectWidget = nullptr;  // the page; owned, unless the host destroys its parent first
+    QTabWidget* m_pTabWidget = nullptr;
+    QWidget* m_pDialupTabWidget = nullptr;
 
     // The page's widgets, owned by the page.
     struct PageWidgets {
-        QGroupBox* profileGroup = 0;
-        QComboBox* profiles = 0;
-        ExtendLineEdit* name = 0;
-        QGroupBox* apnGroup = 0;
-        QRadioButton* apnDynamic = 0;
-        QRadioButton* apnStatic = 0;
-        QLabel* apnLabel = 0;
-        ExtendLineEdit* apn = 0;
-        QGroupBox* authGroup = 0;
-        QLabel* accessNumberLabel = 0;
-        QLabel* userLabel = 0;
-        QLabel* passwordLabel = 0;
-        ExtendLineEdit* accessNumber = 0;
-        ExtendLineEdit* user = 0;
-        ExtendLineEdit* password = 0;
-        QWidget* noticePlace = 0;  // kept free for either of the next two, so that nothing moves
-        NetConnectPasswordHint* passwordHint = 0;
-        QLabel* lockNotice = 0;
-        QCheckBox* askUserName = 0;
-        QGroupBox* protocolGroup = 0;
-        QCheckBox* chap = 0;
-        QCheckBox* pap = 0;
-        QPushButton* newProfile = 0;
-        QPushButton* deleteProfile = 0;
-        QPushButton* edit = 0;
-        QPushButton* save = 0;
-        QPushButton* undo = 0;
-        QPushButton* setDefault = 0;
-        QPushButton* importProfiles = 0;
-        QPushButton* exportProfiles = 0;
-        QPushButton* advanced = 0;  // never made: the advanced dialog can't be opened from the page
+        QGroupBox* profileGroup = nullptr;
+        QComboBox* profiles = nullptr;
+        ExtendLineEdit* name = nullptr;
+        QGroupBox* apnGroup = nullptr;
+        QRadioButton* apnDynamic = nullptr;
+        QRadioButton* apnStatic = nullptr;
+        QLabel* apnLabel = nullptr;
+        ExtendLineEdit* apn = nullptr;
+        QGroupBox* authGroup = nullptr;
+        QLabel* accessNumberLabel = nullptr;
+        QLabel* userLabel = nullptr;
+        QLabel* passwordLabel = nullptr;
+        ExtendLineEdit* accessNumber = nullptr;
+        ExtendLineEdit* user = nullptr;
+        ExtendLineEdit* password = nullptr;
+        QWidget* noticePlace = nullptr;  // kept free for either of the next two, so that nothing moves
+        NetConnectPasswordHint* passwordHint = nullptr;
+        QLabel* lockNotice = nullptr;
+        QCheckBox* askUserName = nullptr;
+        QGroupBox* protocolGroup = nullptr;
+        QCheckBox* chap = nullptr;
+        QCheckBox* pap = nullptr;
+        QPushButton* newProfile = nullptr;
+        QPushButton* deleteProfile = nullptr;
+        QPushButton* edit = nullptr;
+        QPushButton* save = nullptr;
+        QPushButton* undo = nullptr;
+        QPushButton* setDefault = nullptr;
+        QPushButton* importProfiles = nullptr;
+        QPushButton* exportProfiles = nullptr;
+        QPushButton* advanced = nullptr;  // never made: the advanced dialog can't be opened from the page
     };
     PageWidgets m_Page;
 
     bool m_bEditExisting = false;
-    QString m_strEditProfileName;                      // the edited profile's item text, mark included
-    NetConnectSettingUILogic* m_pLogic = 0;            // not owned
-    NetConnectAdvancedSettingDlg* m_pAdvancedDlg = 0;  // not owned; nothing sets it
-    IPluginContainer* m_pPluginContainer = 0;
+    QString m_strEditProfileName;                            // the edited profile's item text, mark included
+    NetConnectSettingUILogic* m_pLogic = nullptr;            // not owned
+    NetConnectAdvancedSettingDlg* m_pAdvancedDlg = nullptr;  // not owned; nothing sets it
+    IPluginContainer* m_pPluginContainer = nullptr;
     QPointer<QObject> m_pNotifyServicePlugin;
-    INotifyService* m_pNotifyService = 0;  // of m_pNotifyServicePlugin; see notifyService()
-    DialupProfile m_CurrentProfile;        // on show, or what the edit began with
-    AdvanceSetting m_AdvanceSetting;       // for the advanced dialog, which nothing opens from the page
+    INotifyService* m_pNotifyService = nullptr;  // of m_pNotifyServicePlugin; see notifyService()
+    DialupProfile m_CurrentProfile;              // on show, or what the edit began with
+    AdvanceSetting m_AdvanceSetting;             // for the advanced dialog, which nothing opens from the page
     QString m_strProfileType;
     int m_nDefaultIndex = -1;
     QString m_strMarkedName;  // the bare name of the entry that carries the mark
@@ -312,14 +312,14 @@ private:
     QString m_strDefaultRemember;
     bool m_bHiddenWhileOpen = false;
 
-    ExtendDialog* m_pImportExportDialog = 0;
-    QWidget* m_pImportExportWidget = 0;
-    QTreeWidget* m_pImportExportTree = 0;
-    QTreeWidgetItem* m_pProfileRootItem = 0;
-    QTreeWidgetItem* m_pCurrentItem = 0;
-    QPushButton* m_pBtnImportExportOk = 0;
-    QPushButton* m_pBtnImportExportCancel = 0;
-    QPushButton* m_pBtnImportExportBrowse = 0;
+    ExtendDialog* m_pImportExportDialog = nullptr;
+    QWidget* m_pImportExportWidget = nullptr;
+    QTreeWidget* m_pImportExportTree = nullptr;
+    QTreeWidgetItem* m_pProfileRootItem = nullptr;
+    QTreeWidgetItem* m_pCurrentItem = nullptr;
+    QPushButton* m_pBtnImportExportOk = nullptr;
+    QPushButton* m_pBtnImportExportCancel = nullptr;
+    QPushButton* m_pBtnImportExportBrowse = nullptr;
 
     bool m_bClosedByButton = false;
     QStringList m_DefaultAPNProfileList;

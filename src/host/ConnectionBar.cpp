@@ -14,14 +14,9 @@
 
 namespace {
 
-IDialupUIService* dialer() {
-    return qobject_cast<IDialupUIService*>(
-        Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_DIALUP_CLSID, DialupPluginKind));
-}
+IDialupUIService* dialer() { return findPeer<IDialupUIService>(ORBISDIAL_DIALUP_CLSID, DialupPluginKind); }
 
-QObject* profilesObject() {
-    return Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
-}
+QObject* profilesObject() { return findPeer<QObject>(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind); }
 
 QString cardImsi() {
     char imsi[VRKS_IMSI_SIZE] = "";

@@ -56,7 +56,7 @@ bool Host::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Host::watchSettings() {
-    QObject* settings = Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
+    QObject* settings = findPeer<QObject>(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
     if (settings) settings->installEventFilter(this);
 }
 

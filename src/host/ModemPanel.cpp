@@ -80,7 +80,7 @@ void retranslateBox(QComboBox* box, const QVector<Choice>& choices) {
 
 void select(QComboBox* box, const QVariant& value) { box->setCurrentIndex(qMax(0, box->findData(value))); }
 
-QObject* dialer() { return Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_DIALUP_CLSID, DialupPluginKind); }
+QObject* dialer() { return findPeer<QObject>(ORBISDIAL_DIALUP_CLSID, DialupPluginKind); }
 
 int numberAt(const char* record, int offset) {
     qint32 number = 0;

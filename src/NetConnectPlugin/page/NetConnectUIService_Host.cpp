@@ -97,6 +97,6 @@ void CNetConnectUIService::Hide() {
 
 void CNetConnectUIService::detachPage() {
     if (!m_pNetConnectWidget) return;
-    m_pNetConnectWidget->setParent(0);
+    m_pNetConnectWidget->setParent(nullptr);
     m_pNetConnectWidget->setAttribute(Qt::WA_QuitOnClose, false);  // a page is never the application's last window
 }

@@ -1,7 +1,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHeaderView>
 
 #include "NetConnectLeastSize.h"
 #include "NetConnectPageWatch.h"
@@ -89,7 +88,7 @@ void CNetConnectUIService::createTransferWidgets() {
 }
 
 void CNetConnectUIService::initImportExportTree() {
-    m_pProfileRootItem = 0;
+    m_pProfileRootItem = nullptr;
     if (!m_bImport || (m_pLogic && isFunctionOn("ALLLIB"))) return readProfileFromFile(QString());
     createTransferRoot();
     m_pImportExportTree->setRootIsDecorated(false);
@@ -105,7 +104,7 @@ void CNetConnectUIService::readProfileFromFile(QString path) {
     if (!m_pLogic || !m_pImportExportTree) return;
     m_pImportExportTree->disconnect(this);
     m_pImportExportTree->clear();
-    m_pCurrentItem = 0;
+    m_pCurrentItem = nullptr;
     createTransferRoot();
     m_pProfileRootItem->setExpanded(true);
     QList<QString> names;

@@ -194,9 +194,9 @@ void CNetConnectUIService::enableDisableNamePasswordEdits(bool editing) {
 
 void CNetConnectUIService::enableDisableUIButtons(bool editing) {
     QPushButton* const viewing[] = {m_Page.newProfile, m_Page.importProfiles, m_Page.exportProfiles};
-    for (QPushButton* button : viewing) lockButton(button, editing ? "IDS_NETCONNECT_TIP_EDIT_OPEN" : 0);
+    for (QPushButton* button : viewing) lockButton(button, editing ? "IDS_NETCONNECT_TIP_EDIT_OPEN" : nullptr);
     QPushButton* const ending[] = {m_Page.save, m_Page.undo};
-    for (QPushButton* button : ending) lockButton(button, editing ? 0 : "IDS_NETCONNECT_TIP_NO_EDIT");
+    for (QPushButton* button : ending) lockButton(button, editing ? nullptr : "IDS_NETCONNECT_TIP_NO_EDIT");
     applyProfileLocks();
 }
 
@@ -208,7 +208,7 @@ void CNetConnectUIService::enableDisableDefaultButton(bool enable) {
 const char* CNetConnectUIService::defaultLock() {
     if (m_Edit.open) return "IDS_NETCONNECT_TIP_EDIT_OPEN";
     if (m_Page.profiles->count() == 0) return "IDS_NETCONNECT_TIP_NO_PROFILE";
-    return isConnectionUp() ? "IDS_NETCONNECT_TIP_DEFAULT_CONNECTED" : 0;
+    return isConnectionUp() ? "IDS_NETCONNECT_TIP_DEFAULT_CONNECTED" : nullptr;
 }
 
 // For a button that a connection locked under the pointer. Afterwards the service may be gone.
@@ -233,7 +233,7 @@ const char* CNetConnectUIService::profileLock() {
     const QString name = currentProfileName();
     if (isProfileConnected(name)) return "IDS_NETCONNECT_TIP_PROFILE_CONNECTED";
     if (m_DefaultAPNProfileList.contains(name)) return "IDS_NETCONNECT_TIP_PROFILE_PRESET";
-    return isTrue(m_CurrentProfile.readonly) ? "IDS_NETCONNECT_TIP_PROFILE_READONLY" : 0;
+    return isTrue(m_CurrentProfile.readonly) ? "IDS_NETCONNECT_TIP_PROFILE_READONLY" : nullptr;
 }
 
 void CNetConnectUIService::lockButton(QPushButton* button, const char* reason) {
@@ -251,7 +251,7 @@ void CNetConnectUIService::showLock(const char* reason) {
     } rows[] = {{"IDS_NETCONNECT_TIP_PROFILE_READONLY", "IDS_NETCONNECT_LOCKED_READONLY"},
                 {"IDS_NETCONNECT_TIP_PROFILE_PRESET", "IDS_NETCONNECT_LOCKED_PRESET"},
                 {"IDS_NETCONNECT_TIP_PROFILE_CONNECTED", "IDS_NETCONNECT_LOCKED_CONNECTED"}};
-    const char* notice = 0;
+    const char* notice = nullptr;
     for (const auto& row : rows)
         if (qstrcmp(reason, row.reason) == 0) notice = row.notice;
     m_Page.lockNotice->setText(notice ? text(notice) : QString());

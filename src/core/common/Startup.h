@@ -11,4 +11,12 @@ public:
     static IPluginContainer* GetPluginContainer();
 };
 
+// The plug-in under a class identifier and a kind as the interface that is asked for; null when there is none, or it
+// does not offer that.
+template <class T>
+T* findPeer(const char* clsid, int kind) {
+    IPluginContainer* container = Startup::GetPluginContainer();
+    return container ? qobject_cast<T*>(container->FindPlugin(QString::fromLatin1(clsid), kind)) : nullptr;
+}
+
 #endif
