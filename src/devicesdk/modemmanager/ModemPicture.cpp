@@ -151,8 +151,11 @@ bool isRegistered(int registration) {
     return registration == VRKS_REGISTRATION_HOME || registration == VRKS_REGISTRATION_ROAMING;
 }
 
-// The first of its networks on which it is registered; or else what is known of the search.
+// The first of its networks on which it is registered; or else what is known of the search. A modem that is switched
+// off may still tell where it was registered before.
 int registrationOf(const KnownModem& modem) {
+    if (modem.state < MM_MODEM_STATE_DISABLED) return VRKS_REGISTRATION_UNKNOWN;
+    if (modem.state < MM_MODEM_STATE_ENABLED) return VRKS_REGISTRATION_IDLE;
     const int of3gpp = modem.registration3gpp ? registrationOf(*modem.registration3gpp) : VRKS_REGISTRATION_UNKNOWN;
     if (isRegistered(of3gpp)) return of3gpp;
     for (const auto& state : {modem.registrationEvdo, modem.registrationCdma1x})
