@@ -1,0 +1,45 @@
+/* A program in C, without any event loop, that lives with real modems: prints the modem's status, or "?" when nothing
+ * can tell it, at first and at each change, and ends when its input does. "fork" prints how many calls succeed in a
+ * child instead; "exit" ends within an event. */
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "vrks.h"
+
+static void printStatus(void) {
+    int status;
+    if (VRKS_DevSrv_GetDevStatus(&status) == 0)
+        printf("%d\n", status);
+    else
+        puts("?");
+    fflush(stdout);
+}
+
+static void onEvent(int event, void* exits) {
+    if (exits) exit(0);
+    if (event == VRKS_EVENT_MODEM_CHANGED) printStatus();
+}
+
+static int successesInChild(void) {
+    int status = 0;
+    const pid_t child = fork();
+    if (child == 0) _exit((VRKS_DevSrv_GetDevStatus(&status) == 0) + (VRKS_NetSrv_SendUssd("*100#") == 0));
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+int main(int count, char** arguments) {
+    const char* task = count > 1 ? arguments[1] : "";
+    printStatus();
+    VRKS_DevSrv_RegisterEventCallback(onEvent, strcmp(task, "exit") == 0 ? &task : 0);
+    if (strcmp(task, "fork") == 0) {
+        printf("%d\n", successesInChild());
+        return 0;
+    }
+    while (getchar() != EOF) {
+    }
+    return 0;
+}

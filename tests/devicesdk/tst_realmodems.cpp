@@ -1,0 +1,461 @@
+// The device SDK beside the real ModemManager and scripted modems.
+#include <QElapsedTimer>
+#include <QLocalServer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <mutex>
+
+#include "Stack.h"
+#include "vrks.h"
+
+namespace {
+
+constexpr int Patience = 10000;     // milliseconds; a modem is there after one second on an idle machine
+constexpr int Silence = 300;        // in which nothing more may come
+constexpr int WithoutWaiting = 50;  // an answer that waits for a daemon would take longer
+
+// All events since it was cleared.
+class EventLog {
+public:
+    EventLog() {
+        s_Log = this;
+        VRKS_DevSrv_RegisterDevInitEventCallback(onDevice);
+        VRKS_DevSrv_RegisterEventCallback(onOther, this);
+    }
+    ~EventLog() {
+        VRKS_DevSrv_UnRegisterDevInitEventCallback(onDevice);
+        VRKS_DevSrv_UnRegisterEventCallback(onOther, this);
+    }
+
+    void clear() {
+        const std::lock_guard lock(m_Mutex);
+        m_Device.clear();
+        m_Others.clear();
+    }
+    QVector<int> device() {
+        const std::lock_guard lock(m_Mutex);
+        return m_Device;
+    }
+    bool has(int event) {
+        const std::lock_guard lock(m_Mutex);
+        return m_Others.contains(event);
+    }
+
+private:
+    static int onDevice(int event, void*) {
+        const std::lock_guard lock(s_Log->m_Mutex);
+        s_Log->m_Device << event;
+        return 1;
+    }
+    static void onOther(int event, void* log) {
+        auto* self = static_cast<EventLog*>(log);
+        const std::lock_guard lock(self->m_Mutex);
+        self->m_Others << event;
+    }
+
+    static EventLog* s_Log;
+    std::mutex m_Mutex;
+    QVector<int> m_Device;
+    QSet<int> m_Others;
+};
+
+EventLog* EventLog::s_Log = nullptr;
+
+int status() {
+    int status = -1;
+    VRKS_DevSrv_GetDevStatus(&status);
+    return status;
+}
+
+VRKS_ModemInfo info() {
+    VRKS_ModemInfo info{};
+    info.size = sizeof info;
+    VRKS_DevSrv_GetModemInfo(&info);
+    return info;
+}
+
+VRKS_Ussd ussd() {
+    VRKS_Ussd ussd{};
+    ussd.size = sizeof ussd;
+    VRKS_NetSrv_GetUssd(&ussd);
+    return ussd;
+}
+
+QByteArray imsi() {
+    char imsi[VRKS_IMSI_SIZE] = "";
+    VRKS_DevSrv_GetImsiInfo(imsi);
+    return imsi;
+}
+
+int productType() {
+    int type = -1;
+    VRKS_DevSrv_GetProductType(&type);
+    return type;
+}
+
+// 10 for a multi-mode card, and its mode.
+int multiMode() {
+    unsigned char isMultiMode = 0;
+    unsigned int mode = 0;
+    VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, nullptr, nullptr, &mode);
+    return isMultiMode * 10 + static_cast<int>(mode);
+}
+
+bool isRegistered() { return info().registration == VRKS_REGISTRATION_HOME && info().generation != 0; }
+
+// Passes bytes between programs and the real bus, so that a bus can go and come back.
+class BusRelay : public QObject {
+public:
+    BusRelay() : m_Name(m_Folder.filePath("bus")) {}
+
+    QString address() const { return "unix:path=" + m_Name; }
+    void open() {
+        QVERIFY(m_Server.listen(m_Name));
+        connect(&m_Server, &QLocalServer::newConnection, this, [this] { relay(m_Server.nextPendingConnection()); });
+    }
+    void close() {
+        m_Server.close();
+        m_Server.disconnect(this);
+        qDeleteAll(m_Server.findChildren<QLocalSocket*>(QString(), Qt::FindDirectChildrenOnly));
+    }
+
+private:
+    void relay(QLocalSocket* near) {
+        auto* far = new QLocalSocket(near);
+        far->connectToServer(qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS").section('=', 1).section(',', 0, 0));
+        connect(near, &QLocalSocket::readyRead, far, [=] { far->write(near->readAll()); });
+        connect(far, &QLocalSocket::readyRead, near, [=] { near->write(far->readAll()); });
+        if (near->bytesAvailable()) far->write(near->readAll());
+    }
+
+    QTemporaryDir m_Folder;
+    QString m_Name;
+    QLocalServer m_Server;
+};
+
+class Probe : public QProcess {
+public:
+    explicit Probe(const QStringList& arguments = {}, const QProcessEnvironment& environment = ownEnvironment()) {
+        setProcessEnvironment(environment);
+        setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        start(MODEM_PROBE, arguments);
+    }
+    ~Probe() override {
+        closeWriteChannel();
+        waitForFinished();
+    }
+
+    static QProcessEnvironment ownEnvironment() { return QProcessEnvironment::systemEnvironment(); }
+
+    // The last line so far.
+    QByteArray line() {
+        while (canReadLine()) m_Line = readLine().trimmed();
+        return m_Line;
+    }
+
+private:
+    QByteArray m_Line;
+};
+
+}  // namespace
+
+class tst_RealModems : public QObject {
+    Q_OBJECT
+
+private:
+    Stack m_Stack;
+    std::unique_ptr<EventLog> m_Log;
+    QByteArray m_Unplugging;
+
+    bool areAllUnplugged() {
+        char id[VRKS_MODEM_ID_SIZE];
+        if (VRKS_DevSrv_GetModemAt(0, id) != 0) return status() == VRKS_DEV_STATUS_NO_MODEM;
+        if (m_Unplugging != id) m_Stack.unplug(QString(id).section('/', -1));
+        m_Unplugging = id;
+        return false;
+    }
+
+    // Answers to a question and tells it unasked, as a modem does that has moved.
+    void tell(const QString& id, const QString& command, const QString& name, const QString& state) {
+        QVERIFY(m_Stack.reply(id, command, name + ": 2," + state));
+        QVERIFY(m_Stack.send(id, name + ": " + state));
+    }
+
+    QVector<int> eventsAfterSilence() {
+        QTest::qWait(Silence);
+        return m_Log->device();
+    }
+
+private slots:
+    void initTestCase() {
+        m_Log = std::make_unique<EventLog>();
+        QCOMPARE(status(), VRKS_DEV_STATUS_NO_MODEM);
+    }
+
+    // Those that come back with a daemon included.
+    void cleanup() {
+        m_Unplugging.clear();
+        m_Stack.thaw("ModemManager");
+        VRKS_DevSrv_SelectModem(nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(areAllUnplugged(), Patience);
+        QTest::qWait(Silence);
+        m_Log->clear();
+    }
+
+    void tellsAllOfAModem() {
+        QVERIFY(m_Stack.plug("gsm", {"GSM"}));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+        QVERIFY(m_Log->has(VRKS_EVENT_MODEM_LIST_CHANGED));
+        QCOMPARE(status(), VRKS_DEV_STATUS_READY);
+        QCOMPARE(imsi(), QByteArray("460110123456789"));
+        QCOMPARE(productType(), 0);
+        QCOMPARE(multiMode(), 0);
+        const VRKS_ModemInfo modem = info();
+        QCOMPARE(modem.id, "/virtual/gsm");
+        QCOMPARE(modem.port, "gsm-port");
+        QCOMPARE(modem.manufacturer, "Example Vendor");
+        QCOMPARE(modem.model, "Virtual One");
+        QCOMPARE(modem.imei, "490154203237518");
+        QCOMPARE(modem.ownNumber, "+15555550100");
+        QCOMPARE(modem.cardOperator, "Example");
+        QCOMPARE(modem.operatorName, "Example");
+        QCOMPARE(modem.operatorCode, "46011");
+        QCOMPARE(modem.technology, "LTE");
+        QCOMPARE(modem.generation, 4);
+        QTRY_COMPARE_WITH_TIMEOUT(info().signal, 64, Patience);
+        QCOMPARE(modem.card, int(VRKS_CARD_PRESENT));
+        QCOMPARE(modem.isSelected, 1);
+    }
+
+    void anotherCardFollowsAReplug() {
+        QVERIFY(m_Stack.plug("replug", {"GSM"}));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        m_Log->clear();
+        QVERIFY(m_Stack.unplug("replug"));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_NO_MODEM, Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+        m_Log->clear();
+        QVERIFY(m_Stack.reply("replug", "AT+CIMI", "262011234567890"));
+        QVERIFY(m_Stack.replug("replug"));
+        QTRY_COMPARE_WITH_TIMEOUT(imsi(), QByteArray("262011234567890"), Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+    }
+
+    void aHandoverReloadsNothing() {
+        QVERIFY(m_Stack.plug("handover", {"GSM"}));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        m_Log->clear();
+        tell("handover", "AT+CEREG?", "+CEREG", "0");
+        tell("handover", "AT+CGREG?", "+CGREG", "1,\"0A01\",\"0000B001\",2");
+        tell("handover", "AT+CREG?", "+CREG", "1,\"0A01\",\"0000B001\",2");
+        QTRY_COMPARE_WITH_TIMEOUT(QByteArray(info().technology), QByteArray("UMTS"), Patience);
+        QVERIFY(m_Log->has(VRKS_EVENT_MODEM_CHANGED));
+        QVERIFY(m_Log->has(VRKS_EVENT_SYSTEM_MODE_CHANGED));
+        QCOMPARE(eventsAfterSilence(), QVector<int>{});
+    }
+
+    void theRadioReloadsNothing() {
+        QVERIFY(m_Stack.plug("radio", {"GSM"}));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        m_Log->clear();
+        QCOMPARE(QProcess::execute("nmcli", {"radio", "wwan", "off"}), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(info().registration, int(VRKS_REGISTRATION_IDLE), Patience);
+        QCOMPARE(info().signal, -1);
+        QCOMPARE(status(), VRKS_DEV_STATUS_READY);
+        QCOMPARE(QProcess::execute("nmcli", {"radio", "wwan", "on"}), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{});
+    }
+
+    void aPinUnlocks() {
+        QVERIFY(m_Stack.plug("pin", {"GSM", "PIN"}));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_LOCKED, Patience);
+        QCOMPARE(info().lock, int(VRKS_LOCK_PIN));
+        QCOMPARE(info().card, int(VRKS_CARD_PRESENT));
+        QCOMPARE(m_Log->device(), QVector<int>{});
+        QVERIFY(VRKS_DevSrv_EnterPuk("12345678", "1234") != 0);
+
+        QCOMPARE(VRKS_DevSrv_EnterPin("0000"), 0L);
+        QVERIFY(VRKS_DevSrv_EnterPin("0000") != 0);
+        QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_UNLOCK_RESULT), Patience);
+        QCOMPARE(info().unlockResult, int(VRKS_UNLOCK_WRONG));
+        QVERIFY(!QByteArray(info().unlockWords).isEmpty());
+        QCOMPARE(m_Stack.commands("pin").filter("AT+CPIN=").size(), 1);
+
+        m_Log->clear();
+        QCOMPARE(VRKS_DevSrv_EnterPin("1234"), 0L);
+        QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_UNLOCK_RESULT), Patience);
+        QCOMPARE(info().unlockResult, int(VRKS_UNLOCK_DONE));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        QCOMPARE(info().lock, int(VRKS_LOCK_NONE));
+        QCOMPARE(imsi(), QByteArray("460110123456789"));
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+    }
+
+    void aPukUnlocks() {
+        QVERIFY(m_Stack.plug("puk", {"GSM", "PUK"}));
+        QTRY_COMPARE_WITH_TIMEOUT(info().lock, int(VRKS_LOCK_PUK), Patience);
+        QVERIFY(VRKS_DevSrv_EnterPin("1234") != 0);
+        QCOMPARE(VRKS_DevSrv_EnterPuk("12345678", "1234"), 0L);
+        QTRY_COMPARE_WITH_TIMEOUT(info().unlockResult, int(VRKS_UNLOCK_DONE), Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_READY, Patience);
+    }
+
+    void aMissingCardIsTold() {
+        QVERIFY(m_Stack.plug("nocard", {"GSM", "NO_CARD"}));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_FAILED, Patience);
+        QCOMPARE(info().card, int(VRKS_CARD_NONE));
+        QCOMPARE(imsi(), QByteArray());
+        QCOMPARE(eventsAfterSilence(), QVector<int>{});
+    }
+
+    void cdmaNeedsNoCard() {
+        QVERIFY(m_Stack.plug("cdma", {"GSM", "CDMA"}));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_READY, Patience);
+        QCOMPARE(productType(), VRKS_PRODUCT_TYPE_CDMA);
+        QCOMPARE(info().dialsAsCdma, 1);
+        QCOMPARE(imsi(), QByteArray());
+        QTRY_COMPARE_WITH_TIMEOUT(info().registration, int(VRKS_REGISTRATION_HOME), Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(QByteArray(info().technology), QByteArray("EV-DO"), Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+    }
+
+    void aMultiModeCardHasTheModeOfItsNetwork() {
+        QVERIFY(m_Stack.plug("multi", {"GSM", "MULTI"}));
+        QTRY_COMPARE_WITH_TIMEOUT(multiMode(), 11, Patience);
+        QCOMPARE(productType(), 0);
+        QCOMPARE(imsi(), QByteArray("460110123456789"));
+    }
+
+    void oneOfTwoModemsIsInUse() {
+        QVERIFY(m_Stack.plug("two-a", {"GSM"}));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_READY, Patience);
+        QVERIFY(m_Stack.plug("two-b", {"GSM", "SECOND"}));
+        char id[VRKS_MODEM_ID_SIZE];
+        QTRY_COMPARE_WITH_TIMEOUT(VRKS_DevSrv_GetModemAt(1, id), 0L, Patience);
+        QCOMPARE(id, "/virtual/two-b");
+        VRKS_ModemInfo second{};
+        second.size = sizeof second;
+        const auto secondStatus = [&] { return VRKS_DevSrv_GetModemInfoOf(id, &second) == 0 ? second.status : -1; };
+        QTRY_COMPARE_WITH_TIMEOUT(secondStatus(), VRKS_DEV_STATUS_READY, Patience);
+        QCOMPARE(info().id, "/virtual/two-a");
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+
+        m_Log->clear();
+        QCOMPARE(VRKS_DevSrv_SelectModem("/virtual/two-b"), 0L);
+        QTRY_COMPARE_WITH_TIMEOUT(imsi(), QByteArray("262011234567890"), Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+
+        m_Log->clear();
+        QCOMPARE(VRKS_DevSrv_SelectModem(nullptr), 0L);
+        QVERIFY(m_Stack.unplug("two-b"));
+        QTRY_COMPARE_WITH_TIMEOUT(imsi(), QByteArray("460110123456789"), Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+    }
+
+    void ussdAnswersAndAsks() {
+        QVERIFY(m_Stack.plug("ussd", {"GSM", "USSD"}));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        QCOMPARE(info().hasUssd, 1);
+        QCOMPARE(VRKS_NetSrv_SendUssd("*100#"), 0L);
+        QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_USSD_RESULT), Patience);
+        QCOMPARE(ussd().state, int(VRKS_USSD_ANSWER));
+        QCOMPARE(ussd().text, "Your balance is 12.34");
+
+        QVERIFY(m_Stack.reply("ussd", "AT+CUSD=1,*", "OK\n+CUSD: 1,\"1 Balance 2 Help\",15"));
+        QCOMPARE(VRKS_NetSrv_SendUssd("*101#"), 0L);
+        QTRY_COMPARE_WITH_TIMEOUT(ussd().state, int(VRKS_USSD_ASKS), Patience);
+        QCOMPARE(ussd().text, "1 Balance 2 Help");
+        QVERIFY(m_Stack.reply("ussd", "AT+CUSD=1,*", "OK\n+CUSD: 0,\"Bye\",15"));
+        QCOMPARE(VRKS_NetSrv_AnswerUssd("1"), 0L);
+        QTRY_COMPARE_WITH_TIMEOUT(ussd().state, int(VRKS_USSD_ANSWER), Patience);
+        QCOMPARE(ussd().text, "Bye");
+
+        QVERIFY(m_Stack.reply("ussd", "AT+CUSD=1,*", "OK"));
+        QCOMPARE(VRKS_NetSrv_SendUssd("*102#"), 0L);
+        QCOMPARE(VRKS_NetSrv_CancelUssd(), 0L);
+        QCOMPARE(ussd().failure, int(VRKS_USSD_FAILURE_CANCELLED));
+        QVERIFY(VRKS_NetSrv_CancelUssd() != 0);
+    }
+
+    void survivesTheDaemonsDeath() {
+        QVERIFY(m_Stack.plug("killed", {"GSM"}));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        m_Log->clear();
+        QVERIFY(m_Stack.kill("ModemManager"));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), -1, Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+        m_Log->clear();
+        QVERIFY(m_Stack.start("ModemManager"));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+    }
+
+    void aFrozenDaemonHoldsNobody() {
+        QVERIFY(m_Stack.plug("frozen", {"GSM", "USSD"}));
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
+        m_Log->clear();
+        QVERIFY(m_Stack.freeze("ModemManager"));
+        QElapsedTimer clock;
+        clock.start();
+        QCOMPARE(imsi(), QByteArray("460110123456789"));
+        QCOMPARE(VRKS_NetSrv_SendUssd("*100#"), 0L);
+        QCOMPARE(VRKS_NetSrv_CancelUssd(), 0L);
+        QVERIFY(clock.elapsed() < WithoutWaiting);
+
+        // Another program's first call waits for its bounded time, or not at all, and its end for nothing.
+        for (const char* wait : {"700", "0"}) {
+            QProcessEnvironment environment = Probe::ownEnvironment();
+            environment.insert("ORBISDIAL_DEVICE_WAIT_MS", wait);
+            clock.restart();
+            Probe probe({}, environment);
+            QTRY_COMPARE_WITH_TIMEOUT(probe.line(), QByteArray("?"), Patience);
+            probe.closeWriteChannel();
+            QVERIFY(probe.waitForFinished());
+            QVERIFY2(clock.elapsed() < atoi(wait) + 600, qPrintable(QString::number(clock.elapsed())));
+            QVERIFY(clock.elapsed() >= atoi(wait));
+        }
+        QVERIFY(m_Stack.thaw("ModemManager"));
+        QVERIFY(isRegistered());
+    }
+
+    void plainProgramsFollowTheBus() {
+        QVERIFY(m_Stack.plug("plain", {"GSM"}));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_READY, Patience);
+        BusRelay relay;
+        QProcessEnvironment environment = Probe::ownEnvironment();
+        environment.insert("DBUS_SYSTEM_BUS_ADDRESS", relay.address());
+        Probe probe({}, environment);
+        QTRY_COMPARE_WITH_TIMEOUT(probe.line(), QByteArray("?"), Patience);
+        relay.open();
+        QTRY_COMPARE_WITH_TIMEOUT(probe.line(), QByteArray("3"), Patience);
+        relay.close();
+        QTRY_COMPARE_WITH_TIMEOUT(probe.line(), QByteArray("?"), Patience);
+        relay.open();
+        QTRY_COMPARE_WITH_TIMEOUT(probe.line(), QByteArray("3"), Patience);
+    }
+
+    void programsEndAndForkAtAnyMoment() {
+        QVERIFY(m_Stack.plug("end", {"GSM"}));
+        QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_READY, Patience);
+        Probe fork({"fork"});
+        QVERIFY(fork.waitForFinished());
+        QCOMPARE(fork.line(), QByteArray("0"));
+        Probe exit({"exit"});
+        QVERIFY(exit.waitForFinished());
+        QCOMPARE(exit.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(exit.exitCode(), 0);
+        for (int i = 0; i < 10; ++i) {
+            Probe probe;
+            probe.closeWriteChannel();
+            QVERIFY(probe.waitForFinished());
+            QCOMPARE(probe.exitStatus(), QProcess::NormalExit);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_RealModems)
+#include "tst_realmodems.moc"
