@@ -15,6 +15,13 @@ constexpr int Patience = 10000;     // milliseconds; a modem is there after one 
 constexpr int Silence = 300;        // in which nothing more may come
 constexpr int WithoutWaiting = 50;  // an answer that waits for a daemon would take longer
 
+VRKS_ModemInfo info() {
+    VRKS_ModemInfo info{};
+    info.size = sizeof info;
+    VRKS_DevSrv_GetModemInfo(&info);
+    return info;
+}
+
 // All events since it was cleared.
 class EventLog {
 public:
@@ -41,6 +48,11 @@ public:
         const std::lock_guard lock(m_Mutex);
         return m_Others.contains(event);
     }
+    // As they were told together with the event.
+    int attemptsAtUnlockResult() {
+        const std::lock_guard lock(m_Mutex);
+        return m_Attempts;
+    }
 
 private:
     static int onDevice(int event, void*) {
@@ -52,12 +64,14 @@ private:
         auto* self = static_cast<EventLog*>(log);
         const std::lock_guard lock(self->m_Mutex);
         self->m_Others << event;
+        if (event == VRKS_EVENT_UNLOCK_RESULT) self->m_Attempts = info().attempts;
     }
 
     static EventLog* s_Log;
     std::mutex m_Mutex;
     QVector<int> m_Device;
     QSet<int> m_Others;
+    int m_Attempts = -1;
 };
 
 EventLog* EventLog::s_Log = nullptr;
@@ -66,13 +80,6 @@ int status() {
     int status = -1;
     VRKS_DevSrv_GetDevStatus(&status);
     return status;
-}
-
-VRKS_ModemInfo info() {
-    VRKS_ModemInfo info{};
-    info.size = sizeof info;
-    VRKS_DevSrv_GetModemInfo(&info);
-    return info;
 }
 
 VRKS_Ussd ussd() {
@@ -220,6 +227,7 @@ private slots:
         QCOMPARE(modem.imei, "490154203237518");
         QCOMPARE(modem.ownNumber, "+15555550100");
         QCOMPARE(modem.cardOperator, "Example");
+        QCOMPARE(modem.gid1, "2AFF");
         QCOMPARE(modem.operatorName, "Example");
         QCOMPARE(modem.operatorCode, "46011");
         QCOMPARE(modem.technology, "LTE");
@@ -278,10 +286,13 @@ private slots:
         QCOMPARE(m_Log->device(), QVector<int>{});
         QVERIFY(VRKS_DevSrv_EnterPuk("12345678", "1234") != 0);
 
+        QCOMPARE(info().attempts, 3);
+        QVERIFY(m_Stack.reply("pin", "AT+CSIM=10,\"0020000100\"", "+CSIM: 4,\"63C2\""));
         QCOMPARE(VRKS_DevSrv_EnterPin("0000"), 0L);
         QVERIFY(VRKS_DevSrv_EnterPin("0000") != 0);
         QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_UNLOCK_RESULT), Patience);
         QCOMPARE(info().unlockResult, int(VRKS_UNLOCK_WRONG));
+        QCOMPARE(m_Log->attemptsAtUnlockResult(), 2);
         QVERIFY(!QByteArray(info().unlockWords).isEmpty());
         QCOMPARE(m_Stack.commands("pin").filter("AT+CPIN=").size(), 1);
 
@@ -298,6 +309,7 @@ private slots:
     void aPukUnlocks() {
         QVERIFY(m_Stack.plug("puk", {"GSM", "PUK"}));
         QTRY_COMPARE_WITH_TIMEOUT(info().lock, int(VRKS_LOCK_PUK), Patience);
+        QCOMPARE(info().attempts, 10);
         QVERIFY(VRKS_DevSrv_EnterPin("1234") != 0);
         QCOMPARE(VRKS_DevSrv_EnterPuk("12345678", "1234"), 0L);
         QTRY_COMPARE_WITH_TIMEOUT(info().unlockResult, int(VRKS_UNLOCK_DONE), Patience);

@@ -22,10 +22,11 @@ GSM = {
     "AT+CIMI": "460110123456789",
     # Modes that can be chosen: GSM, UMTS, LTE, the first two, all three.
     "AT+WS46=?": "+WS46: (12,22,25,28,31)",
-    # Files of the card: its number, the length of the network code, the operator's own name.
+    # Files of the card: its number, the length of the network code, the operator's own name, the group identifier.
     "AT+CRSM=176,12258,0,0,10": '+CRSM: 144,0,"98681020305060708090"',
     "AT+CRSM=176,28589,0,0,4": '+CRSM: 144,0,"00000002"',
     "AT+CRSM=176,28486,0,0,17": '+CRSM: 144,0,"004578616D706C65FFFFFFFFFFFFFFFFFF"',
+    "AT+CRSM=176,28478,0,0,0": '+CRSM: 144,0,"2AFF"',
     "AT+CNUM": '+CNUM: "","+15555550100",145',
     "AT+CREG=*": "",
     "AT+CGREG=*": "",
@@ -86,6 +87,11 @@ PIN = {
     "AT+CIMI": "+CME ERROR: 11",
     'AT+CPIN="1234"': "",
     "AT+CPIN=*": "+CME ERROR: 16",
+    # Attempts left, in the last digit: PIN, PUK, second PIN, its PUK.
+    'AT+CSIM=10,"0020000100"': '+CSIM: 4,"63C3"',
+    'AT+CSIM=10,"002C000100"': '+CSIM: 4,"63CA"',
+    'AT+CSIM=10,"0020008100"': '+CSIM: 4,"63C3"',
+    'AT+CSIM=10,"002C008100"': '+CSIM: 4,"63CA"',
 }
 PUK = {**PIN, "AT+CPIN?": "+CPIN: SIM PUK", 'AT+CPIN="1234"': "+CME ERROR: 16", 'AT+CPIN="12345678","1234"': ""}
 UNLOCKED = {"AT+CPIN?": "+CPIN: READY", "AT+CIMI": GSM["AT+CIMI"]}
