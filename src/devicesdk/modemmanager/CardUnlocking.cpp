@@ -25,6 +25,7 @@ ModemInfo* find(Picture* picture, const std::string& id) { return const_cast<Mod
 struct CardUnlocking::Attempt {
     CardUnlocking* unlocking;
     std::string modem;
+    Send send;
 };
 
 bool CardUnlocking::enterPin(const std::string& pin) {
@@ -54,11 +55,25 @@ bool CardUnlocking::begin(int lock, Send send) {
     return isMine;
 }
 
-void CardUnlocking::run(const std::string& modem, const Send& send) {
-    MMSim* card = m_Watch.card(modem);
-    if (!card) return end(modem, VRKS_UNLOCK_OTHER, {});
-    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(card), AnswerTimeout);
-    send(card, m_Cancellation.get(), new Attempt{this, modem});
+// The watch may not have the card's object yet while the modem says already that it is locked.
+void CardUnlocking::run(const std::string& modem, Send send) {
+    MMObject* object = m_Watch.modem(modem);
+    if (!object) return end(modem, VRKS_UNLOCK_OTHER, {});
+    mm_modem_get_sim(mm_object_peek_modem(object), m_Cancellation.get(), onCard,
+                     new Attempt{this, modem, std::move(send)});
+}
+
+void CardUnlocking::onCard(GObject* source, GAsyncResult* result, gpointer data) {
+    std::unique_ptr<Attempt> attempt(static_cast<Attempt*>(data));
+    GError* raw = nullptr;
+    const Ref<MMSim> card(mm_modem_get_sim_finish(MM_MODEM(source), result, &raw));
+    const Error error(raw);
+    if (isCancelled(error)) return;
+    CardUnlocking* self = attempt->unlocking;
+    if (!card) return self->end(attempt->modem, VRKS_UNLOCK_OTHER, wordsOf(error.get()));
+    g_dbus_proxy_set_default_timeout(G_DBUS_PROXY(card.get()), AnswerTimeout);
+    const Send send = attempt->send;
+    send(card.get(), self->m_Cancellation.get(), attempt.release());
 }
 
 void CardUnlocking::onPin(GObject* source, GAsyncResult* result, gpointer attempt) {

@@ -24,8 +24,9 @@ private:
     using Send = std::function<void(MMSim*, GCancellable*, Attempt*)>;
 
     bool begin(int lock, Send send);
-    void run(const std::string& modem, const Send& send);
+    void run(const std::string& modem, Send send);
     void end(const std::string& modem, int result, const std::string& words);
+    static void onCard(GObject* source, GAsyncResult* result, gpointer attempt);
     static void onPin(GObject* source, GAsyncResult* result, gpointer attempt);
     static void onPuk(GObject* source, GAsyncResult* result, gpointer attempt);
     static void finish(GObject* card, Attempt* attempt, GError* error);

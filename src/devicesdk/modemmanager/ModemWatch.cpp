@@ -250,8 +250,3 @@ MMObject* ModemWatch::modem(const std::string& device) {
     });
     return found;
 }
-
-MMSim* ModemWatch::card(const std::string& device) {
-    MMObject* object = modem(device);
-    return object ? m_Cards[pathOf(object)].object.get() : nullptr;
-}

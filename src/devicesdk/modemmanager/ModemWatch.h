@@ -31,9 +31,8 @@ public:
 
     Known known();
 
-    // Null when there is no such modem, or no card in it. Whoever keeps them refs them.
+    // Null when there is no such modem. Whoever keeps it refs it.
     MMObject* modem(const std::string& device);
-    MMSim* card(const std::string& device);
 
 private:
     // One card's object, asked for once.

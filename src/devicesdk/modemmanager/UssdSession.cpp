@@ -104,10 +104,12 @@ void UssdSession::finish(GObject* source, Turn* data, char* rawReply, GError* ra
     if (isCancelled(error)) return;
     UssdSession* self = turn->session;
     if (error) return self->end(turn->number, failed(failureOf(error.get()), wordsOf(error.get())));
-    auto* proxy = MM_MODEM_3GPP_USSD(source);
+    // The modem may go before the signals come.
+    const std::shared_ptr<MMModem3gppUssd> proxy(MM_MODEM_3GPP_USSD(g_object_ref(source)), Unref());
     const std::string text = textOf(reply.get());
-    afterSignals(G_DBUS_PROXY(proxy), self->m_Cancellation.get(), [self, proxy, number = turn->number, text] {
-        self->end(number, {asksBack(proxy) ? VRKS_USSD_ASKS : VRKS_USSD_ANSWER, VRKS_USSD_FAILURE_NONE, text, {}});
+    afterSignals(G_DBUS_PROXY(proxy.get()), self->m_Cancellation.get(), [self, proxy, number = turn->number, text] {
+        const int state = asksBack(proxy.get()) ? VRKS_USSD_ASKS : VRKS_USSD_ANSWER;
+        self->end(number, {state, VRKS_USSD_FAILURE_NONE, text, {}});
     });
 }
 
