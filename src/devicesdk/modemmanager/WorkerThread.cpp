@@ -27,13 +27,6 @@ gboolean runWork(gpointer work) {
 
 void deleteWork(gpointer work) { delete static_cast<WorkerThread::Work*>(work); }
 
-// Takes the source over; g_main_context_invoke() would run it at once while the thread has not begun.
-void attach(GSource* source, WorkerThread::Work work, GMainContext* context) {
-    g_source_set_priority(source, G_PRIORITY_DEFAULT);
-    g_source_set_callback(source, runWork, new WorkerThread::Work(std::move(work)), deleteWork);
-    g_source_attach(source, context);
-}
-
 }  // namespace
 
 WorkerThread::~WorkerThread() {
@@ -56,15 +49,22 @@ void WorkerThread::invoke(Work work) {
         m_Queue.push_back(std::move(work));
         if (m_Queue.size() > 1) return;  // its turn comes with the first one's
     }
+    wake();
+}
+
+// g_main_context_invoke() would run the work at once while the thread has not begun.
+void WorkerThread::wake() {
     GSource* source = g_idle_source_new();
-    attach(
-        source, [this] { runQueue(); }, m_Context);
+    g_source_set_priority(source, G_PRIORITY_DEFAULT);
+    g_source_set_callback(source, runQueue, this, nullptr);
+    g_source_attach(source, m_Context);
     g_source_unref(source);
 }
 
 GSource* WorkerThread::invokeLater(unsigned int milliseconds, Work work) {
     GSource* source = g_timeout_source_new(milliseconds);
-    attach(source, std::move(work), m_Context);
+    g_source_set_callback(source, runWork, new Work(std::move(work)), deleteWork);
+    g_source_attach(source, m_Context);
     return source;
 }
 
@@ -91,11 +91,13 @@ void WorkerThread::run() {
 }
 
 // What is invoked meanwhile has its own turn.
-void WorkerThread::runQueue() {
+gboolean WorkerThread::runQueue(gpointer data) {
+    auto* self = static_cast<WorkerThread*>(data);
     std::deque<Work> queue;
     {
-        const std::lock_guard lock(m_Mutex);
-        queue.swap(m_Queue);
+        const std::lock_guard lock(self->m_Mutex);
+        queue.swap(self->m_Queue);
     }
     for (const Work& work : queue) work();
+    return G_SOURCE_REMOVE;
 }

@@ -38,7 +38,8 @@ public:
 
 private:
     void run();
-    void runQueue();
+    void wake();
+    static gboolean runQueue(gpointer self);
 
     GMainContext* m_Context = nullptr;
     GMainLoop* m_Loop = nullptr;
