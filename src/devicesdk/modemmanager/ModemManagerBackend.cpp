@@ -1,24 +1,26 @@
 #include "ModemManagerBackend.h"
 
+#include "DataConnection.h"
 #include "ModemPicture.h"
 
 ModemManagerBackend::ModemManagerBackend(EventSink& events)
-    : m_Board(events, PictureBoard::Modems),
+    : m_Board(events, PictureBoard::Modems | PictureBoard::Connecting),
       m_Watch(m_Thread, [this] { describe(); }),
       m_Unlocking(m_Thread, m_Watch, m_Board),
       m_Ussd(m_Thread, m_Watch, m_Board),
-      m_Bus(m_Thread, {[this](GDBusConnection* bus) { busCame(bus); }, [this] { busWent(); }}) {
+      m_Bus(m_Thread, {[this](GDBusConnection* bus) { busCame(bus); }, [this] { busWent(); }}),
+      m_Connecting(new DataConnection(*this)) {
     m_Thread.start();
     m_Thread.invoke([this] { m_Bus.connect(); });
 }
 
 void ModemManagerBackend::busCame(GDBusConnection* bus) {
-    if (m_Connecting) m_Connecting->busCame(bus);
+    m_Connecting->busCame(bus);
     m_Watch.busCame(bus);
 }
 
 void ModemManagerBackend::busWent() {
-    if (m_Connecting) m_Connecting->busWent();
+    m_Connecting->busWent();
     m_Watch.busWent();
 }
 
@@ -50,7 +52,7 @@ void ModemManagerBackend::tellModemInUse() {
     const std::string path = textOf(object ? mm_object_get_path(object) : nullptr);
     if (path == m_PathInUse) return;
     m_PathInUse = path;
-    if (m_Connecting) m_Connecting->modemChanged();
+    m_Connecting->modemChanged();
 }
 
 bool ModemManagerBackend::selectModem(const std::string& id) {
@@ -66,15 +68,15 @@ bool ModemManagerBackend::enterPuk(const std::string& puk, const std::string& ne
     return m_Unlocking.enterPuk(puk, newPin);
 }
 
-bool ModemManagerBackend::dial(const DialRequest& request) { return m_Connecting && m_Connecting->dial(request); }
+bool ModemManagerBackend::dial(const DialRequest& request) { return m_Connecting->dial(request); }
 
-bool ModemManagerBackend::hangUp() { return m_Connecting && m_Connecting->hangUp(); }
+bool ModemManagerBackend::hangUp() { return m_Connecting->hangUp(); }
 
-Traffic ModemManagerBackend::traffic() { return m_Connecting ? m_Connecting->traffic() : Traffic(); }
+Traffic ModemManagerBackend::traffic() { return m_Connecting->traffic(); }
 
 void ModemManagerBackend::stop() {
     m_Thread.stop([this] {
-        if (m_Connecting) m_Connecting->stop();
+        m_Connecting->stop();
         m_Unlocking.stop();
         m_Ussd.stop();
         m_Watch.stop();

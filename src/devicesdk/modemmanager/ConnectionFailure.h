@@ -1,0 +1,33 @@
+// From what was seen when a connection failed or ended to what the program is told.
+#ifndef ORBISDIAL_CONNECTIONFAILURE_H
+#define ORBISDIAL_CONNECTIONFAILURE_H
+
+#include <NetworkManager.h>
+
+#include <string>
+#include <vector>
+
+// An error as D-Bus has it: a dotted name and a sentence.
+struct NamedError {
+    std::string name;
+    std::string words;
+};
+
+struct Ending {
+    NMDeviceStateReason reason = NM_DEVICE_STATE_REASON_NONE;  // of the device
+    bool wasUp = false;
+    std::vector<NamedError> bearerErrors;  // of ModemManager's bearers, one an attempt, in their order
+};
+
+struct Failure {
+    int kind;  // VRKS_FAILURE_...
+    std::string words;
+};
+
+Failure failureOf(const Ending& ending);
+
+// Of a call that NetworkManager answered with an error.
+Failure failureOf(const NamedError& error);
+Failure failureOf(const GError* error);
+
+#endif

@@ -1,0 +1,356 @@
+#include "DataConnection.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <ctime>
+
+namespace {
+
+constexpr unsigned LookingMs = 5000;  // a modem reaches NetworkManager some tenths of a second after ModemManager
+constexpr unsigned SettlingMs = 100;  // two daemons tell of one failure, in any order
+constexpr auto RadioSettling = std::chrono::seconds(1);  // in which a radio that came on may end a connection again
+
+// Whose connection it is to be. Root needs no permission, and may have no session, without which a connection with an
+// owner would not work.
+std::string ownerName() {
+    const uid_t user = ::geteuid();
+    passwd entry;
+    passwd* found = nullptr;
+    char buffer[4096];
+    if (user == 0 || ::getpwuid_r(user, &entry, buffer, sizeof buffer, &found) != 0 || !found) return {};
+    return entry.pw_name;
+}
+
+void wipe(std::string& text) {
+    ::explicit_bzero(text.data(), text.size());
+    text.clear();
+}
+
+bool isReadyToDial(NMDevice* device) { return device && nm_device_get_state(device) == NM_DEVICE_STATE_DISCONNECTED; }
+
+}  // namespace
+
+DataConnection::DataConnection(ConnectionHost& host)
+    : m_Host(host), m_Modem([this] { updateSoon(); }), m_Patience(host.thread()), m_Settling(host.thread()) {}
+
+void DataConnection::busCame(GDBusConnection* bus) {
+    m_BearerErrors = std::make_unique<BearerErrors>(bus);
+    const auto begun = [this] {
+        update();
+        m_Host.setConnectionKnown();
+    };
+    m_Watch = std::make_unique<NetworkWatch>(
+        bus, NetworkWatch::Handlers{begun, [this] { updateSoon(); },
+                                    [this](NMDeviceState now, NMDeviceState before, NMDeviceStateReason reason) {
+                                        deviceStateChanged(now, before, reason);
+                                    }});
+}
+
+void DataConnection::busWent() {
+    m_Cancellation.renew();
+    m_Watch.reset();
+    m_BearerErrors.reset();
+    update();
+    m_Host.setConnectionKnown();
+}
+
+void DataConnection::stop() {
+    m_Cancellation.renew();
+    m_Patience.stop();
+    m_Settling.stop();
+    m_Modem.follow(nullptr);
+    m_Watch.reset();
+    m_BearerErrors.reset();
+    wipe(m_Dialled.request.password);
+}
+
+void DataConnection::modemChanged() {
+    MMObject* modem = m_Host.modemInUse();
+    m_Modem.follow(modem ? mm_object_peek_modem(modem) : nullptr);
+    updateSoon();
+}
+
+bool DataConnection::dial(const DialRequest& request) {
+    Refusal refusal{};
+    bool isBusy = false;
+    m_Host.change([&](Picture& picture) {
+        isBusy = picture.connection.state != VRKS_CONNECTION_DOWN;
+        if (isBusy) return false;
+        refusal = refusalOf(request, picture);
+        Connection connection;
+        connection.name = request.name;
+        connection.usedBy = picture.connection.usedBy;
+        connection.failure = refusal.failure;
+        connection.words = refusal.words;
+        connection.isOwn = true;
+        connection.endsWithProcess = request.endsWithProcess;
+        if (refusal.failure == VRKS_FAILURE_NONE) {
+            connection.state = VRKS_CONNECTION_DIALLING;
+            connection.step = VRKS_STEP_PREPARING;
+            ++m_WaitingDials;
+        }
+        picture.connection = connection;
+        return true;
+    });
+    if (isBusy || refusal.failure != VRKS_FAILURE_NONE) return false;
+    m_Host.thread().invoke([this, request] { begin(request); });
+    return true;
+}
+
+bool DataConnection::hangUp() {
+    const bool isOurs = m_Host.change([&](Picture& picture) {
+        int& state = picture.connection.state;
+        if (state != VRKS_CONNECTION_DIALLING && state != VRKS_CONNECTION_UP) return false;
+        state = VRKS_CONNECTION_HANGING_UP;
+        picture.connection.step = VRKS_STEP_NONE;
+        ++m_WaitingHangUps;
+        return true;
+    });
+    if (isOurs) m_Host.thread().invoke([this] { end(); });
+    return isOurs;
+}
+
+Traffic DataConnection::traffic() { return m_Counters.get(); }
+
+void DataConnection::begin(const DialRequest& request) {
+    m_Dialled = {};
+    m_Dialled.request = request;
+    m_Dialled.isOwn = true;
+    m_Dialled.endsWithProcess = request.endsWithProcess;
+    m_Phase = Phase::Looking;
+    --m_WaitingDials;
+    m_Patience.start(LookingMs, [this] {
+        if (m_Phase == Phase::Looking) fail({VRKS_FAILURE_NOT_READY, "NetworkManager can't use the modem now"});
+    });
+    update();
+}
+
+// Changes come in swarms; one look afterwards is enough.
+void DataConnection::updateSoon() {
+    if (m_IsUpdateDue) return;
+    m_IsUpdateDue = true;
+    m_Host.thread().invoke([this] { update(); });
+}
+
+void DataConnection::update() {
+    m_IsUpdateDue = false;
+    followDevice();
+    switch (m_Phase) {
+        case Phase::Idle:
+            return observe();
+        case Phase::Looking:
+            return look();
+        case Phase::Asking:
+            return publish();
+        case Phase::Activating:
+        case Phase::Up:
+            return watch();
+        case Phase::Ended:
+            return;
+    }
+}
+
+// A connection's own device stays followed until it is over.
+void DataConnection::followDevice() {
+    if (!m_Watch || m_Phase > Phase::Looking) return;
+    NMDevice* before = m_Watch->device();
+    m_Watch->follow(m_Watch->deviceOf(modemPath()));
+    if (m_Watch->device() != before) m_ReadySince = Clock::now();
+}
+
+void DataConnection::observe() {
+    if (m_WaitingDials > 0) return;
+    NMActiveConnection* marked = m_Watch ? m_Watch->markedConnection() : nullptr;
+    if (marked) return adopt(marked);
+    NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
+    NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
+    publishUser(foreign && m_Watch->has(foreign) ? textOf(nm_active_connection_get_id(foreign)) : std::string());
+}
+
+// Another process of ours made it.
+void DataConnection::adopt(NMActiveConnection* connection) {
+    const DialMark mark = markOf(connection);
+    m_Dialled = {};
+    m_Dialled.request.name = mark.name;
+    m_Dialled.endsWithProcess = mark.endsWithProcess;
+    if (m_BearerErrors) m_BearerErrors->clear();
+    m_Watch->follow(connection);
+    const GPtrArray* devices = nm_active_connection_get_devices(connection);
+    if (devices && devices->len > 0) m_Watch->follow(static_cast<NMDevice*>(devices->pdata[0]));
+    m_Counters.stop();
+    m_Phase = Phase::Activating;
+    watch();
+}
+
+void DataConnection::look() {
+    if (!m_Watch || (m_Watch->hasBegun() && !m_Watch->isRunning())) return fail({VRKS_FAILURE_NO_NETWORK_SERVICE, {}});
+    NMDevice* device = m_Watch->device();
+    NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
+    if (foreign && m_Watch->has(foreign) && nm_device_get_state(device) > NM_DEVICE_STATE_DISCONNECTED &&
+        nm_device_get_state(device) <= NM_DEVICE_STATE_ACTIVATED)
+        return fail({VRKS_FAILURE_IN_USE, textOf(nm_active_connection_get_id(foreign))});
+    if (isReadyToDial(device)) return ask();
+    publish();
+}
+
+void DataConnection::ask() {
+    m_Patience.stop();
+    m_Phase = Phase::Asking;
+    m_Dialled.ending = {};
+    m_BearerErrors->clear();
+    m_Counters.beginAnew();
+    NMDevice* device = m_Watch->device();
+    const DialTarget target{
+        (nm_device_modem_get_current_capabilities(NM_DEVICE_MODEM(device)) &
+         (NM_DEVICE_MODEM_CAPABILITY_GSM_UMTS | NM_DEVICE_MODEM_CAPABILITY_LTE | NM_DEVICE_MODEM_CAPABILITY_5GNR)) == 0,
+        m_Dialled.isIpv4Only, ownerName()};
+    const Ref<NMConnection> settings = connectionSettings(m_Dialled.request, target);
+    const Variant options = activationOptions(m_Dialled.request);
+    nm_client_add_and_activate_connection2(m_Watch->client(), settings.get(), device, nullptr, options.get(),
+                                           m_Cancellation.get(), onAsked, this);
+    publish();
+}
+
+void DataConnection::onAsked(GObject* source, GAsyncResult* result, gpointer self) {
+    GError* error = nullptr;
+    const Ref<NMActiveConnection> connection(
+        nm_client_add_and_activate_connection2_finish(NM_CLIENT(source), result, nullptr, &error));
+    const Error failure(error);
+    if (!isCancelled(failure)) static_cast<DataConnection*>(self)->asked(connection.get(), failure);
+}
+
+// What failed at once is over before the answer is here: then the device knows why.
+void DataConnection::asked(NMActiveConnection* connection, const Error& error) {
+    if (m_Phase != Phase::Asking) return;
+    if (!connection) {
+        const bool isOver = isHangingUp() || m_Dialled.ending.reason != NM_DEVICE_STATE_REASON_NONE;
+        return isOver ? waitForReason() : fail(failureOf(error.get()));
+    }
+    m_Watch->follow(connection);
+    m_Phase = Phase::Activating;
+    if (m_Dialled.isHangingUp) deactivate();
+    watch();
+}
+
+void DataConnection::watch() {
+    NMActiveConnection* connection = m_Watch ? m_Watch->connection() : nullptr;
+    if (!connection || !m_Watch->has(connection)) return waitForReason();
+    if (m_Phase == Phase::Activating &&
+        nm_active_connection_get_state(connection) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED)
+        comeUp();
+    publish();
+}
+
+// Since when another process has it nobody knows.
+void DataConnection::comeUp() {
+    m_Phase = Phase::Up;
+    m_Dialled.wasUp = true;
+    wipe(m_Dialled.request.password);
+    if (!m_Dialled.isOwn) return;
+    m_Dialled.since = std::time(nullptr);
+    m_Dialled.upSince = Clock::now();
+}
+
+void DataConnection::end() {
+    m_Dialled.isHangingUp = m_Phase != Phase::Idle;
+    --m_WaitingHangUps;
+    if (m_Phase == Phase::Looking) return finish({});
+    if (m_Phase == Phase::Activating || m_Phase == Phase::Up) deactivate();
+}
+
+void DataConnection::deactivate() {
+    m_Counters.get();
+    nm_client_deactivate_connection_async(m_Watch->client(), m_Watch->connection(), m_Cancellation.get(), onDeactivated,
+                                          this);
+}
+
+void DataConnection::onDeactivated(GObject* source, GAsyncResult* result, gpointer self) {
+    GError* error = nullptr;
+    nm_client_deactivate_connection_finish(NM_CLIENT(source), result, &error);
+    const Error failure(error);
+    if (!failure || isCancelled(failure)) return;
+    auto* connection = static_cast<DataConnection*>(self);
+    if (connection->m_Phase != Phase::Activating && connection->m_Phase != Phase::Up) return;
+    connection->m_Dialled.isHangingUp = false;
+    connection->updateSoon();
+}
+
+// The first reason tells; the states after it only clean up.
+void DataConnection::deviceStateChanged(NMDeviceState now, NMDeviceState before, NMDeviceStateReason reason) {
+    if (before < NM_DEVICE_STATE_DISCONNECTED && now == NM_DEVICE_STATE_DISCONNECTED) m_ReadySince = Clock::now();
+    const bool isEnd = now <= NM_DEVICE_STATE_DISCONNECTED || now >= NM_DEVICE_STATE_DEACTIVATING;
+    if (m_Phase < Phase::Asking || !isEnd || m_Dialled.ending.reason != NM_DEVICE_STATE_REASON_NONE) return;
+    m_Dialled.ending.reason = reason;
+}
+
+void DataConnection::waitForReason() {
+    m_Phase = Phase::Ended;
+    m_Counters.stop();
+    m_Settling.start(SettlingMs, [this] { conclude(); });
+}
+
+void DataConnection::conclude() {
+    if (isHangingUp()) return finish({});
+    if (!isWorthRepeating()) return finish(seenFailure());
+    m_Phase = Phase::Looking;
+    if (m_Watch) m_Watch->follow(static_cast<NMActiveConnection*>(nullptr));
+    m_Patience.start(LookingMs, [this] {
+        if (m_Phase == Phase::Looking) finish(seenFailure());
+    });
+    update();
+}
+
+// A radio that comes on ends what it finds, in NetworkManager's hands; and a network may refuse PPP because of one
+// version of IP without a word, which looks like wrong credentials unless there are none.
+bool DataConnection::isWorthRepeating() {
+    if (!m_Dialled.isOwn || m_Dialled.wasUp || !m_Watch || !m_Watch->isRunning()) return false;
+    const NMDeviceStateReason reason = m_Dialled.ending.reason;
+    if (reason == NM_DEVICE_STATE_REASON_USER_REQUESTED && !m_Dialled.isRepeated && m_ReadySince &&
+        Clock::now() - *m_ReadySince < RadioSettling)
+        return m_Dialled.isRepeated = true;
+    const bool mayBeIpVersion =
+        reason == NM_DEVICE_STATE_REASON_IP_CONFIG_UNAVAILABLE ||
+        reason == NM_DEVICE_STATE_REASON_IP_METHOD_UNSUPPORTED ||
+        ((reason == NM_DEVICE_STATE_REASON_PPP_DISCONNECT || reason == NM_DEVICE_STATE_REASON_PPP_FAILED) &&
+         m_Dialled.request.user.empty() && m_Dialled.request.password.empty());
+    if (!mayBeIpVersion || m_Dialled.isIpv4Only) return false;
+    return m_Dialled.isIpv4Only = true;
+}
+
+Failure DataConnection::seenFailure() const {
+    if (!m_Watch || !m_Watch->isRunning()) return {VRKS_FAILURE_NO_NETWORK_SERVICE, {}};
+    Ending ending = m_Dialled.ending;
+    ending.wasUp = m_Dialled.wasUp;
+    ending.bearerErrors = m_BearerErrors->get();
+    if (ending.reason == NM_DEVICE_STATE_REASON_NONE && !m_Watch->deviceOf(modemPath()))
+        ending.reason = NM_DEVICE_STATE_REASON_REMOVED;
+    return failureOf(ending);
+}
+
+void DataConnection::fail(const Failure& failure) { finish(isHangingUp() ? Failure{} : failure); }
+
+// Without a failure: it was hung up.
+void DataConnection::finish(Failure failure) {
+    m_Patience.stop();
+    m_Settling.stop();
+    m_Phase = Phase::Idle;
+    if (isHangingUp() || failure.kind == VRKS_FAILURE_NONE)
+        failure = {m_Dialled.wasUp ? VRKS_FAILURE_NONE : VRKS_FAILURE_CANCELLED, {}};
+    wipe(m_Dialled.request.password);
+    m_Host.change([&](Picture& picture) {
+        Connection connection;
+        connection.name = m_Dialled.request.name;
+        connection.isOwn = m_Dialled.isOwn;
+        connection.endsWithProcess = m_Dialled.endsWithProcess;
+        connection.failure = failure.kind;
+        connection.words = failure.words;
+        if (failure.kind == VRKS_FAILURE_MODEM_GONE && !picture.devStatus)
+            connection.failure = VRKS_FAILURE_NO_MODEM_SERVICE;
+        picture.connection = connection;
+        return true;
+    });
+    m_Dialled = {};
+    if (m_Watch) m_Watch->follow(static_cast<NMActiveConnection*>(nullptr));
+    updateSoon();
+}

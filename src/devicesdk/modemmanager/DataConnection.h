@@ -1,0 +1,106 @@
+// Dials with NetworkManager, and tells of the connections that other processes of ours dialled.
+//
+// The machine behind it is in DataConnection.cpp, what it tells in DataConnection_Picture.cpp.
+#ifndef ORBISDIAL_DATACONNECTION_H
+#define ORBISDIAL_DATACONNECTION_H
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <optional>
+
+#include "BearerErrors.h"
+#include "ConnectionPart.h"
+#include "InterfaceCounters.h"
+#include "NetworkWatch.h"
+#include "Timer.h"
+
+class DataConnection : public ConnectionPart {
+public:
+    explicit DataConnection(ConnectionHost& host);
+
+    void busCame(GDBusConnection* bus) override;
+    void busWent() override;
+    void modemChanged() override;
+    void stop() override;
+
+    bool dial(const DialRequest& request) override;
+    bool hangUp() override;
+    Traffic traffic() override;
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    enum class Phase {
+        Idle,
+        Looking,     // for the device, until it can dial
+        Asking,      // NetworkManager was asked to dial and has not answered
+        Activating,  // there is an active connection that is not up
+        Up,
+        Ended  // what tells why may still be on its way
+    };
+
+    // Of the connection that this is about, until the next one.
+    struct Dialled {
+        DialRequest request;  // empty but for the name when another process dialled
+        bool isOwn = false;
+        bool endsWithProcess = false;
+        bool isIpv4Only = false;
+        bool isRepeated = false;  // it was ended by a radio that had just come on
+        bool isHangingUp = false;
+        bool wasUp = false;
+        std::int64_t since = 0;
+        std::optional<Clock::time_point> upSince;
+        Ending ending;
+    };
+
+    // Steps of the machine, all on the thread.
+    void begin(const DialRequest& request);
+    void update();
+    void updateSoon();
+    void followDevice();
+    void observe();
+    void adopt(NMActiveConnection* connection);
+    void look();
+    void ask();
+    static void onAsked(GObject* source, GAsyncResult* result, gpointer self);
+    void asked(NMActiveConnection* connection, const Error& error);
+    void watch();
+    void comeUp();
+    void end();
+    void deactivate();
+    static void onDeactivated(GObject* source, GAsyncResult* result, gpointer self);
+    void deviceStateChanged(NMDeviceState now, NMDeviceState before, NMDeviceStateReason reason);
+    void waitForReason();
+    void conclude();
+    bool isWorthRepeating();
+    Failure seenFailure() const;
+    void fail(const Failure& failure);
+    void finish(Failure failure);
+
+    // What the picture shows.
+    Connection described() const;
+    void describeLink(Connection& connection) const;
+    int step() const;
+    bool isHangingUp() const { return m_Dialled.isHangingUp || m_WaitingHangUps > 0; }
+    void publish();
+    void publishUser(const std::string& usedBy);
+    std::string modemPath() const;
+
+    ConnectionHost& m_Host;
+    std::unique_ptr<NetworkWatch> m_Watch;
+    std::unique_ptr<BearerErrors> m_BearerErrors;
+    Follower<MMModem> m_Modem;
+    Phase m_Phase = Phase::Idle;
+    Dialled m_Dialled;
+    std::optional<Clock::time_point> m_ReadySince;  // the device can dial since then, after it could not
+    InterfaceCounters m_Counters;
+    Timer m_Patience;
+    Timer m_Settling;
+    bool m_IsUpdateDue = false;
+    Cancellation m_Cancellation;
+    std::atomic<int> m_WaitingDials{0};    // accepted, and not yet seen by the machine
+    std::atomic<int> m_WaitingHangUps{0};  // in the same way
+};
+
+#endif
