@@ -193,6 +193,18 @@ private slots:
         QCOMPARE(failureOf(ending).kind, cell<int>("expected"));
     }
 
+    // While it is taken away a device says what it also says on other occasions.
+    void aDeviceThatIsGone() {
+        Ending ending;
+        ending.isDeviceGone = true;
+        for (int reason : {0, 1, 13, 25, 39}) {
+            ending.reason = NMDeviceStateReason(reason);
+            QCOMPARE(failureOf(ending).kind, int(VRKS_FAILURE_MODEM_GONE));
+        }
+        ending.reason = NM_DEVICE_STATE_REASON_SLEEPING;
+        QCOMPARE(failureOf(ending).kind, int(VRKS_FAILURE_SUSPENDED));
+    }
+
     void failedCalls() {
         const auto kindOf = [](const char* name) { return failureOf(NamedError{name, ""}).kind; };
         QCOMPARE(kindOf("org.freedesktop.NetworkManager.PermissionDenied"), int(VRKS_FAILURE_NOT_ALLOWED));

@@ -1,11 +1,49 @@
 // Data connections of the SDK, dialled by the real NetworkManager over scripted modems.
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <ctime>
+
 #include <QElapsedTimer>
 #include <QProcess>
-#include <QtTest>
 
+#include "Connections.h"
+#include "Program.h"
 #include "Rows.h"
 #include "Stack.h"
-#include "vrks.h"
+
+namespace {
+
+constexpr int NobodysId = 65534;
+
+const QString Dialling = "ATD*99*";
+const QString Connected = "CONNECT 150000000";
+
+// NetworkManager's own command line, as another program that connects.
+bool nmcli(const QString& arguments) {
+    const Outcome outcome = runProgram("nmcli", arguments.split(' '));
+    if (outcome.status != 0) qWarning() << arguments << outcome.err;
+    return outcome.status == 0;
+}
+
+void sendDatagram(const char* address) {
+    sockaddr_in target{};
+    target.sin_family = AF_INET;
+    target.sin_port = htons(9);
+    ::inet_pton(AF_INET, address, &target.sin_addr);
+    const int fd = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const char text[100] = {};
+    ::sendto(fd, text, sizeof text, 0, reinterpret_cast<const sockaddr*>(&target), sizeof target);
+    ::close(fd);
+}
+
+QStringList sorted(QStringList list) {
+    list.sort();
+    return list;
+}
+
+}  // namespace
 
 class TestDialling : public QObject {
     Q_OBJECT
@@ -13,56 +51,330 @@ class TestDialling : public QObject {
 private slots:
     void initTestCase() {
         QVERIFY(m_Stack.plug("gsm", {"GSM"}));
-        QTRY_COMPARE(status(), VRKS_DEV_STATUS_READY);
+        QVERIFY(m_Stack.plug("cdma", {"GSM", "CDMA"}));
+        QTRY_COMPARE_WITH_TIMEOUT(modemCount(), 2, 15000);
+        QVERIFY(use("gsm"));
     }
 
-    void comesUpAndGoesDown() {
+    // Whatever a row did, the next one finds a modem that can dial.
+    void init() {
+        QVERIFY(use("gsm"));
+        QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
+        QVERIFY(m_Stack.setPppd("up"));
+        QTRY_COMPARE_WITH_TIMEOUT(deviceStatus(), VRKS_DEV_STATUS_READY, 15000);
+        QTRY_VERIFY2_WITH_TIMEOUT(connection().state == VRKS_CONNECTION_DOWN && !*connection().usedBy, shown(), 15000);
+    }
+
+    void whatWasAskedForReachesTheFarEnd_data() {
+        const Rows<QString, bool, bool, QStringList> row("modem", "chap", "pap", "refused");
+        row("gsm, chap", "gsm", true, false, {"refuse-eap", "refuse-pap"});
+        row("gsm, pap", "gsm", false, true, {"refuse-chap", "refuse-eap", "refuse-mschap", "refuse-mschap-v2"});
+        row("cdma, any", "cdma", false, false, {});
+    }
+
+    void whatWasAskedForReachesTheFarEnd() {
+        const auto modem = cell("modem");
+        QVERIFY(use(modem));
+        Request request;
+        request.user = "ann";
+        request.password = "p\xc3\xa4ss word";
+        request.allowsChap = cell<bool>("chap");
+        request.allowsPap = cell<bool>("pap");
+        QVERIFY(dial(request));
+        TRY_UP();
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_NONE);
+        QVERIFY(use("gsm"));
+
+        const QJsonObject call = Stack::lastPppdCall();
+        const QStringList arguments = call["arguments"].toVariant().toStringList();
+        QCOMPARE(call["user"].toString(), QString("ann"));
+        QCOMPARE(call["password"].toString(), QString::fromUtf8(request.password));
+        QCOMPARE(sorted(arguments.filter(QRegularExpression("^refuse-"))), cell<QStringList>("refused"));
+        QVERIFY(arguments.filter("word").isEmpty());
+        const QStringList commands = m_Stack.commands(modem);
+        QCOMPARE(commands.filter("internet.example").isEmpty(), modem == "cdma");
+        QVERIFY2(commands.filter("+CGDCONT=1").isEmpty(), "the APN that the modem attaches with is not ours");
+    }
+
+    void whatIsShown() {
+        const long long began = std::time(nullptr);
+        QVERIFY(dial());
+        TRY_UP();
+        const VRKS_Connection up = connection();
+        QVERIFY(up.isOwn && up.endsWithProcess);
+        QCOMPARE(up.name, "Home");
+        QCOMPARE(up.interfaceName, "ppp0");
+        QCOMPARE(up.address, "10.64.0.2");
+        QCOMPARE(up.dns[0], "10.64.0.1");
+        QCOMPARE(up.dns[1], "10.64.0.3");
+        QVERIFY(up.since >= began && up.since <= std::time(nullptr));
+        QVERIFY(up.seconds >= 0);
+
+        sendDatagram("10.64.0.1");
+        TRY_CONNECTION(connection().sent >= up.sent + 100 && connection().received >= up.received + 100);
+        const VRKS_Connection last = connection();
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_NONE);
+        QVERIFY(!hasLink());
+        QVERIFY(connection().sent >= last.sent && connection().received >= last.received);
+        QCOMPARE(connection().interfaceName, "");
+    }
+
+    void failures_data() {
+        const Rows<QString, QString, int> row("modemSays", "pppd", "expected");
+        row("no carrier", "NO CARRIER", "up", VRKS_FAILURE_NO_CARRIER);
+        row("the network refuses the password", "+CME ERROR: 149", "up", VRKS_FAILURE_AUTHENTICATION);
+        row("not subscribed", "+CME ERROR: 133", "up", VRKS_FAILURE_NOT_SUBSCRIBED);
+        row("an APN nobody knows", "+CME ERROR: 127", "up", VRKS_FAILURE_APN);
+        row("without network", "+CME ERROR: 30", "up", VRKS_FAILURE_NOT_REGISTERED);
+        row("anything else", "+CME ERROR: 134", "up", VRKS_FAILURE_OTHER);
+        row("PPP fails", Connected, "refused", VRKS_FAILURE_REFUSED);
+        row("the line breaks", Connected, "dies", VRKS_FAILURE_DROPPED);
+    }
+
+    void failures() {
+        QVERIFY(m_Stack.reply("gsm", Dialling, cell("modemSays")));
+        QVERIFY(m_Stack.setPppd(cell("pppd")));
+        QVERIFY(dial());
+        TRY_DOWN(cell<int>("expected"));
+        QVERIFY(*connection().words);
+        QCOMPARE(connection().name, "Home");
+    }
+
+    void onlyIpv4() {
+        QVERIFY(m_Stack.setPppd("ipv4-only"));
+        Request request;
+        request.user = "ann";
+        request.password = "secret";
+        const int calls = pppdCalls();
+        QVERIFY(dial(request));
+        TRY_DOWN(VRKS_FAILURE_REFUSED);
+        QCOMPARE(pppdCalls(), calls + 1);  // a wrong password is not sent twice
+
+        QVERIFY(dial());
+        TRY_UP();
+        QCOMPARE(pppdCalls(), calls + 3);
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_NONE);
+    }
+
+    void cancelling_data() {
+        const Rows<int, int> row("where", "step");
+        row("before anything", Begun, VRKS_STEP_PREPARING);
+        row("while NetworkManager has no use of the modem", Unmanaged, VRKS_STEP_PREPARING);
+        row("while NetworkManager does not answer", Frozen, VRKS_STEP_PREPARING);
+        row("while the modem dials", Silent, VRKS_STEP_CONNECTING);
+        row("while PPP negotiates", NoAddress, VRKS_STEP_CONNECTING);
+    }
+
+    void cancelling() {
+        const int where = cell<int>("where");
+        if (where == Unmanaged) QVERIFY(nmcli("device set gsm-port managed no"));
+        if (where == Frozen) QVERIFY(m_Stack.freeze("NetworkManager"));
+        if (where == Silent) QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
+        if (where == NoAddress) QVERIFY(m_Stack.setPppd("silence"));
+        const int calls = pppdCalls();
+        QVERIFY(dial());
+        if (where == NoAddress) QTRY_COMPARE_WITH_TIMEOUT(pppdCalls(), calls + 1, 15000);
+        if (where != Begun) {
+            TRY_CONNECTION(connection().step == cell<int>("step"));
+            QTest::qWait(100);
+        }
+        QVERIFY2(connection().state == VRKS_CONNECTION_DIALLING, shown());
+        QVERIFY(!dial());
+        QVERIFY(hangUp());
+        QVERIFY2(connection().state != VRKS_CONNECTION_DIALLING, shown());
+        if (where == Frozen) QVERIFY(m_Stack.thaw("NetworkManager"));
+        if (where == Silent) QVERIFY(m_Stack.send("gsm", "NO CARRIER"));  // as modems do that are told to give up
+        TRY_DOWN(VRKS_FAILURE_CANCELLED);
+        QVERIFY(!hangUp());
+        if (where == Unmanaged) QVERIFY(nmcli("device set gsm-port managed yes"));
+
+        QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
+        QVERIFY(m_Stack.setPppd("up"));
+        QVERIFY(dial());
+        TRY_UP();
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_NONE);
+    }
+
+    void endedByOthers_data() {
+        nameRows("command", {"connection down id Home", "connection up id Foreign", "radio wwan off"});
+    }
+
+    void endedByOthers() {
+        const QString command = cell("command");
+        const bool isTaking = command.contains("Foreign");
+        QVERIFY(dial());
+        TRY_UP();
+        if (isTaking) QVERIFY(addForeign());
+        QVERIFY(nmcli(command));
+        TRY_DOWN(isTaking ? VRKS_FAILURE_TAKEN : VRKS_FAILURE_ENDED_OUTSIDE);
+        if (isTaking) QVERIFY(nmcli("connection delete Foreign"));
+        if (command.contains("radio")) QVERIFY(nmcli("radio wwan on"));
+    }
+
+    void radioThatHasJustComeOn() {
+        QVERIFY(nmcli("radio wwan off"));
+        QVERIFY(nmcli("radio wwan on"));
+        QVERIFY(dial());
+        TRY_UP();
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_NONE);
+    }
+
+    void modemIsTakenAway() {
+        QVERIFY(dial());
+        TRY_UP();
+        QVERIFY(m_Stack.unplug("gsm"));
+        TRY_DOWN(VRKS_FAILURE_ENDED_OUTSIDE);
+        QTRY_COMPARE_WITH_TIMEOUT(deviceStatus(), VRKS_DEV_STATUS_NO_MODEM, 15000);
+        QVERIFY(!dial());
+        QVERIFY2(connection().failure == VRKS_FAILURE_NO_MODEM, shown());
+        QVERIFY(m_Stack.replug("gsm"));
+    }
+
+    void daemonDies_data() {
+        const Rows<QString, bool, int> row("daemon", "isUp", "expected");
+        row("NetworkManager while dialling", "NetworkManager", false, VRKS_FAILURE_NO_NETWORK_SERVICE);
+        row("NetworkManager while up", "NetworkManager", true, VRKS_FAILURE_NO_NETWORK_SERVICE);
+        row("ModemManager while dialling", "ModemManager", false, VRKS_FAILURE_NO_MODEM_SERVICE);
+        row("ModemManager while up", "ModemManager", true, VRKS_FAILURE_NO_MODEM_SERVICE);
+    }
+
+    void daemonDies() {
+        const bool isUp = cell<bool>("isUp");
+        if (!isUp) QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
+        QVERIFY(dial());
+        TRY_CONNECTION(isUp ? connection().state == VRKS_CONNECTION_UP : connection().step == VRKS_STEP_CONNECTING);
+        QVERIFY(m_Stack.kill(cell("daemon")));
+        TRY_DOWN(cell<int>("expected"));
+        if (cell("daemon") == "NetworkManager") {
+            QVERIFY(dial());
+            TRY_DOWN(VRKS_FAILURE_NO_NETWORK_SERVICE);
+        }
+        if (!isUp) QVERIFY(m_Stack.send("gsm", "NO CARRIER"));  // what the other daemon waits for
+        QVERIFY(m_Stack.start(cell("daemon")));
+        QVERIFY(use("gsm"));
+        QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
+        QTRY_VERIFY2_WITH_TIMEOUT(isUpAgain(), shown(), 15000);
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_NONE);
+    }
+
+    void anotherProgramsConnectionIsLeftAlone() {
+        QVERIFY(addForeign());
+        QVERIFY(nmcli("connection up id Foreign"));
+        TRY_CONNECTION(QByteArray(connection().usedBy) == "Foreign");
+        QVERIFY2(connection().state == VRKS_CONNECTION_DOWN, shown());
+        QVERIFY(!hangUp());
+        QVERIFY(!dial());
+        QVERIFY2(connection().failure == VRKS_FAILURE_IN_USE, shown());
+        QCOMPARE(connection().words, "Foreign");
+        QVERIFY(hasLink());
+        QVERIFY(nmcli("connection delete Foreign"));
+        TRY_CONNECTION(!*connection().usedBy);
+    }
+
+    void anotherProcessOfOurs_data() {
+        const Rows<QString> row("kind");
+        row("it ends the connection with itself", "bound");
+        row("its connection stays, and ends here", "staying");
+    }
+
+    void anotherProcessOfOurs() {
+        const bool isBound = cell("kind") == "bound";
+        QProcess other;
+        other.start(DIALLER, {"Other", cell("kind")});
+        TRY_UP();
+        const VRKS_Connection up = connection();
+        QCOMPARE(up.name, "Other");
+        QVERIFY(!up.isOwn);
+        QCOMPARE(bool(up.endsWithProcess), isBound);
+        QCOMPARE(up.interfaceName, "ppp0");
+        QVERIFY(!dial());
+
         QElapsedTimer timer;
         timer.start();
-        QVERIFY(dial());
-        QTRY_VERIFY2(connection().state == VRKS_CONNECTION_UP, qPrintable(shown()));
-        qDebug() << timer.elapsed() << shown() << Stack::lastPppdCall();
+        other.kill();
+        QVERIFY(other.waitForFinished());
+        if (isBound) {
+            QTRY_VERIFY_WITH_TIMEOUT(!hasLink(), 1000);
+            TRY_CONNECTION(connection().state == VRKS_CONNECTION_DOWN);
+            return;
+        }
+        QTest::qWait(500);
+        QVERIFY2(connection().state == VRKS_CONNECTION_UP && hasLink(), shown());
         QVERIFY(hangUp());
-        QTRY_VERIFY2(connection().state == VRKS_CONNECTION_DOWN, qPrintable(shown()));
-        qDebug() << shown();
+        TRY_DOWN(VRKS_FAILURE_NONE);
+        QVERIFY(!hasLink());
+    }
+
+    void unprivilegedUser_data() {
+        const Rows<bool, int> row("isPermitted", "failure");
+        row("denied", false, VRKS_FAILURE_NOT_ALLOWED);
+        row("allowed", true, VRKS_FAILURE_NONE);
+    }
+
+    void unprivilegedUser() {
+        if (!isRealRoot()) QSKIP("Only root can be another user.");
+        const bool isPermitted = cell<bool>("isPermitted");
+        QVERIFY(m_Stack.permit(isPermitted));
+        QProcess other;
+        other.start(DIALLER, {"Theirs", "bound", QString::number(NobodysId)});
+        QByteArray last;
+        const QByteArray expected = QByteArray::number(isPermitted ? VRKS_CONNECTION_UP : VRKS_CONNECTION_DOWN) + ' ' +
+                                    QByteArray::number(cell<int>("failure")) + '\n';
+        QTRY_VERIFY2_WITH_TIMEOUT((last += other.readAllStandardOutput()).endsWith(expected), last, 15000);
+        other.closeWriteChannel();
+        QVERIFY(other.waitForFinished());
+        QVERIFY(m_Stack.permit(true));
     }
 
 private:
-    static int status() {
-        int status = -1;
-        VRKS_DevSrv_GetDevStatus(&status);
-        return status;
+    enum { Begun, Unmanaged, Frozen, Silent, NoAddress };
+
+    static int modemCount() {
+        char id[VRKS_MODEM_ID_SIZE];
+        unsigned count = 0;
+        while (VRKS_DevSrv_GetModemAt(count, id) == 0) ++count;
+        return int(count);
     }
 
-    static VRKS_Connection connection() {
-        VRKS_Connection record{};
-        record.size = sizeof record;
-        VRKS_NetConnectSrv_GetConnection(&record);
-        return record;
+    // Whether the modem is in use and ready, in the end.
+    static bool use(const QString& modem) {
+        const QByteArray id = "/virtual/" + modem.toUtf8();
+        VRKS_DevSrv_SelectModem(id);
+        return QTest::qWaitFor(
+            [&] {
+                VRKS_ModemInfo info{};
+                info.size = sizeof info;
+                return VRKS_DevSrv_GetModemInfo(&info) == 0 && id == info.id && info.status == VRKS_DEV_STATUS_READY;
+            },
+            15000);
     }
 
-    static QString shown() {
-        const VRKS_Connection now = connection();
-        return QString("state %1 step %2 failure %3 %4 %5 %6 %7 %8 used by '%9'")
-            .arg(now.state)
-            .arg(now.step)
-            .arg(now.failure)
-            .arg(now.words)
-            .arg(now.name)
-            .arg(now.interfaceName, now.address, now.dns[0], now.usedBy);
+    // Dials anew when a daemon that has just come was not ready.
+    static bool isUpAgain() {
+        if (connection().state == VRKS_CONNECTION_DOWN) dial();
+        return connection().state == VRKS_CONNECTION_UP;
     }
 
-    static bool dial() {
-        VRKS_DialRequest request{};
-        request.size = sizeof request;
-        request.name = "Home";
-        request.apn = "internet.example";
-        request.user = "ann";
-        request.password = "secret";
-        return VRKS_NetConnectSrv_Dial(&request) == 0;
+    static bool addForeign() {
+        return nmcli("connection add type gsm con-name Foreign ifname * apn x connection.autoconnect no");
     }
 
-    static bool hangUp() { return VRKS_NetConnectSrv_HangUp() == 0; }
+    static int pppdCalls() {
+        QFile log(Stack::path("pppd.log"));
+        return log.open(QIODevice::ReadOnly) ? log.readAll().count('\n') : 0;
+    }
+
+    // As opposed to one of a namespace that has no other users.
+    static bool isRealRoot() {
+        QFile users("/proc/self/uid_map");
+        return users.open(QIODevice::ReadOnly) && users.readAll().simplified() == "0 0 4294967295";
+    }
 
     Stack m_Stack;
 };

@@ -98,11 +98,18 @@ std::string wordsOf(NMDeviceStateReason reason) {
 // What a bearer said explains these; the others explain themselves.
 bool isVague(int failure) { return failure == VRKS_FAILURE_OTHER || failure == VRKS_FAILURE_NO_CARRIER; }
 
+// What the device says while it is being taken away.
+bool isCommonAtRemoval(int failure) {
+    return isVague(failure) || failure == VRKS_FAILURE_ENDED_OUTSIDE || failure == VRKS_FAILURE_DROPPED ||
+           failure == VRKS_FAILURE_REFUSED;
+}
+
 }  // namespace
 
 // An attempt with each version of IP may have been made, and the telling error need not be the last.
 Failure failureOf(const Ending& ending) {
-    const int failure = failureOfReason(ending.reason, ending.wasUp);
+    int failure = failureOfReason(ending.reason, ending.wasUp);
+    if (ending.isDeviceGone && isCommonAtRemoval(failure)) failure = VRKS_FAILURE_MODEM_GONE;
     if (!isVague(failure)) return {failure, wordsOf(ending.reason)};
     for (const NamedError& error : ending.bearerErrors)
         if (const int told = failureOfName(BearerErrors, error.name)) return {told, error.words};

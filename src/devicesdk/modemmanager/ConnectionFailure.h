@@ -16,6 +16,7 @@ struct NamedError {
 struct Ending {
     NMDeviceStateReason reason = NM_DEVICE_STATE_REASON_NONE;  // of the device
     bool wasUp = false;
+    bool isDeviceGone = false;
     std::vector<NamedError> bearerErrors;  // of ModemManager's bearers, one an attempt, in their order
 };
 

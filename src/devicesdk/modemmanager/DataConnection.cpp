@@ -9,7 +9,8 @@ namespace {
 
 constexpr unsigned LookingMs = 5000;  // a modem reaches NetworkManager some tenths of a second after ModemManager
 constexpr unsigned SettlingMs = 100;  // two daemons tell of one failure, in any order
-constexpr auto RadioSettling = std::chrono::seconds(1);  // in which a radio that came on may end a connection again
+const char RadioIsOff[] = "Mobile broadband is switched off";
+constexpr auto RadioSettling = std::chrono::seconds(1);  // a radio that came on may be switched once more in this time
 
 // Whose connection it is to be. Root needs no permission, and may have no session, without which a connection with an
 // owner would not work.
@@ -41,10 +42,9 @@ void DataConnection::busCame(GDBusConnection* bus) {
         m_Host.setConnectionKnown();
     };
     m_Watch = std::make_unique<NetworkWatch>(
-        bus, NetworkWatch::Handlers{begun, [this] { updateSoon(); },
-                                    [this](NMDeviceState now, NMDeviceState before, NMDeviceStateReason reason) {
-                                        deviceStateChanged(now, before, reason);
-                                    }});
+        bus, NetworkWatch::Handlers{
+                 begun, [this] { updateSoon(); },
+                 [this](NMDeviceState now, NMDeviceStateReason reason) { deviceStateChanged(now, reason); }});
 }
 
 void DataConnection::busWent() {
@@ -154,9 +154,7 @@ void DataConnection::update() {
 // A connection's own device stays followed until it is over.
 void DataConnection::followDevice() {
     if (!m_Watch || m_Phase > Phase::Looking) return;
-    NMDevice* before = m_Watch->device();
     m_Watch->follow(m_Watch->deviceOf(modemPath()));
-    if (m_Watch->device() != before) m_ReadySince = Clock::now();
 }
 
 void DataConnection::observe() {
@@ -185,13 +183,23 @@ void DataConnection::adopt(NMActiveConnection* connection) {
 
 void DataConnection::look() {
     if (!m_Watch || (m_Watch->hasBegun() && !m_Watch->isRunning())) return fail({VRKS_FAILURE_NO_NETWORK_SERVICE, {}});
+    if (m_Watch->isRadioOff()) return fail({VRKS_FAILURE_NOT_READY, RadioIsOff});
     NMDevice* device = m_Watch->device();
     NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
     if (foreign && m_Watch->has(foreign) && nm_device_get_state(device) > NM_DEVICE_STATE_DISCONNECTED &&
         nm_device_get_state(device) <= NM_DEVICE_STATE_ACTIVATED)
         return fail({VRKS_FAILURE_IN_USE, textOf(nm_active_connection_get_id(foreign))});
-    if (isReadyToDial(device)) return ask();
+    if (isReadyToDial(device) && !isRadioSettling()) return ask();
     publish();
+}
+
+// What is dialled now might be ended by the radio's switching.
+bool DataConnection::isRadioSettling() {
+    const auto left = m_RadioOnAt + RadioSettling - Clock::now();
+    if (left <= Clock::duration::zero()) return false;
+    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(left).count();
+    m_Settling.start(unsigned(milliseconds) + 1, [this] { update(); });
+    return true;
 }
 
 void DataConnection::ask() {
@@ -277,8 +285,9 @@ void DataConnection::onDeactivated(GObject* source, GAsyncResult* result, gpoint
 }
 
 // The first reason tells; the states after it only clean up.
-void DataConnection::deviceStateChanged(NMDeviceState now, NMDeviceState before, NMDeviceStateReason reason) {
-    if (before < NM_DEVICE_STATE_DISCONNECTED && now == NM_DEVICE_STATE_DISCONNECTED) m_ReadySince = Clock::now();
+void DataConnection::deviceStateChanged(NMDeviceState now, NMDeviceStateReason reason) {
+    if (now == NM_DEVICE_STATE_DISCONNECTED && reason == NM_DEVICE_STATE_REASON_MODEM_AVAILABLE)
+        m_RadioOnAt = Clock::now();
     const bool isEnd = now <= NM_DEVICE_STATE_DISCONNECTED || now >= NM_DEVICE_STATE_DEACTIVATING;
     if (m_Phase < Phase::Asking || !isEnd || m_Dialled.ending.reason != NM_DEVICE_STATE_REASON_NONE) return;
     m_Dialled.ending.reason = reason;
@@ -286,6 +295,7 @@ void DataConnection::deviceStateChanged(NMDeviceState now, NMDeviceState before,
 
 void DataConnection::waitForReason() {
     m_Phase = Phase::Ended;
+    m_Dialled.endedAt = Clock::now();
     m_Counters.stop();
     m_Settling.start(SettlingMs, [this] { conclude(); });
 }
@@ -306,9 +316,11 @@ void DataConnection::conclude() {
 bool DataConnection::isWorthRepeating() {
     if (!m_Dialled.isOwn || m_Dialled.wasUp || !m_Watch || !m_Watch->isRunning()) return false;
     const NMDeviceStateReason reason = m_Dialled.ending.reason;
-    if (reason == NM_DEVICE_STATE_REASON_USER_REQUESTED && !m_Dialled.isRepeated && m_ReadySince &&
-        Clock::now() - *m_ReadySince < RadioSettling)
+    const bool isByRadio = m_Dialled.endedAt - m_RadioOnAt < 2 * RadioSettling;
+    if (reason == NM_DEVICE_STATE_REASON_USER_REQUESTED && isByRadio && !m_Dialled.isRepeated) {
+        m_RadioOnAt = Clock::now();  // it still settles
         return m_Dialled.isRepeated = true;
+    }
     const bool mayBeIpVersion =
         reason == NM_DEVICE_STATE_REASON_IP_CONFIG_UNAVAILABLE ||
         reason == NM_DEVICE_STATE_REASON_IP_METHOD_UNSUPPORTED ||
@@ -320,11 +332,11 @@ bool DataConnection::isWorthRepeating() {
 
 Failure DataConnection::seenFailure() const {
     if (!m_Watch || !m_Watch->isRunning()) return {VRKS_FAILURE_NO_NETWORK_SERVICE, {}};
+    if (m_Watch->isRadioOff()) return {VRKS_FAILURE_ENDED_OUTSIDE, RadioIsOff};
     Ending ending = m_Dialled.ending;
     ending.wasUp = m_Dialled.wasUp;
     ending.bearerErrors = m_BearerErrors->get();
-    if (ending.reason == NM_DEVICE_STATE_REASON_NONE && !m_Watch->deviceOf(modemPath()))
-        ending.reason = NM_DEVICE_STATE_REASON_REMOVED;
+    ending.isDeviceGone = !m_Watch->has(m_Watch->device());
     return failureOf(ending);
 }
 

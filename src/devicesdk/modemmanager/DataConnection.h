@@ -51,6 +51,7 @@ private:
         bool wasUp = false;
         std::int64_t since = 0;
         std::optional<Clock::time_point> upSince;
+        Clock::time_point endedAt;
         Ending ending;
     };
 
@@ -62,6 +63,7 @@ private:
     void observe();
     void adopt(NMActiveConnection* connection);
     void look();
+    bool isRadioSettling();
     void ask();
     static void onAsked(GObject* source, GAsyncResult* result, gpointer self);
     void asked(NMActiveConnection* connection, const Error& error);
@@ -70,7 +72,7 @@ private:
     void end();
     void deactivate();
     static void onDeactivated(GObject* source, GAsyncResult* result, gpointer self);
-    void deviceStateChanged(NMDeviceState now, NMDeviceState before, NMDeviceStateReason reason);
+    void deviceStateChanged(NMDeviceState now, NMDeviceStateReason reason);
     void waitForReason();
     void conclude();
     bool isWorthRepeating();
@@ -93,7 +95,7 @@ private:
     Follower<MMModem> m_Modem;
     Phase m_Phase = Phase::Idle;
     Dialled m_Dialled;
-    std::optional<Clock::time_point> m_ReadySince;  // the device can dial since then, after it could not
+    Clock::time_point m_RadioOnAt;  // mobile broadband was switched on, or the computer woke up
     InterfaceCounters m_Counters;
     Timer m_Patience;
     Timer m_Settling;

@@ -67,6 +67,12 @@ bool NetworkWatch::has(NMActiveConnection* connection) const {
     return findIn<NMActiveConnection>(all, [=](NMActiveConnection* one) { return one == connection; }) != nullptr;
 }
 
+bool NetworkWatch::has(NMDevice* device) const {
+    if (!isRunning()) return false;
+    return findIn<NMDevice>(nm_client_get_devices(m_Client.get()), [=](NMDevice* one) { return one == device; }) !=
+           nullptr;
+}
+
 void NetworkWatch::follow(NMDevice* device) {
     NMDevice* before = m_Device.get();
     if (before == device) return;
@@ -91,7 +97,7 @@ void NetworkWatch::changed() {
     m_Handlers.changed();
 }
 
-void NetworkWatch::onDeviceState(NMDevice*, guint now, guint before, guint reason, NetworkWatch* self) {
-    self->m_Handlers.deviceStateChanged(NMDeviceState(now), NMDeviceState(before), NMDeviceStateReason(reason));
+void NetworkWatch::onDeviceState(NMDevice*, guint now, guint, guint reason, NetworkWatch* self) {
+    self->m_Handlers.deviceStateChanged(NMDeviceState(now), NMDeviceStateReason(reason));
     self->changed();
 }

@@ -18,7 +18,7 @@ public:
         std::function<void()> begun;    // once: what there is is known, or can't be
         std::function<void()> changed;  // anything; ask again
         // Of the device that is followed, before it can be seen by asking.
-        std::function<void(NMDeviceState now, NMDeviceState before, NMDeviceStateReason reason)> deviceStateChanged;
+        std::function<void(NMDeviceState now, NMDeviceStateReason reason)> deviceStateChanged;
     };
 
     NetworkWatch(GDBusConnection* bus, Handlers handlers);
@@ -27,6 +27,8 @@ public:
     NetworkWatch& operator=(const NetworkWatch&) = delete;
 
     bool hasBegun() const { return m_HasBegun; }
+    // The switch for all of mobile broadband, which is NetworkManager's.
+    bool isRadioOff() const { return isRunning() && !nm_client_wwan_get_enabled(m_Client.get()); }
     bool isRunning() const { return m_Client && nm_client_get_nm_running(m_Client.get()); }
     NMClient* client() const { return m_Client.get(); }
 
@@ -37,6 +39,7 @@ public:
     NMActiveConnection* markedConnection() const;
 
     bool has(NMActiveConnection* connection) const;
+    bool has(NMDevice* device) const;
 
     // Tells also of their changes from now on; null for none.
     void follow(NMDevice* device);
@@ -46,7 +49,7 @@ public:
 
 private:
     static void onMade(GObject* source, GAsyncResult* result, gpointer self);
-    static void onDeviceState(NMDevice*, guint now, guint before, guint reason, NetworkWatch* self);
+    static void onDeviceState(NMDevice*, guint now, guint, guint reason, NetworkWatch* self);
     void changed();
     void followAddresses();
 
