@@ -119,6 +119,15 @@ private slots:
         QVERIFY(timer.elapsed() >= 200 && timer.elapsed() < 2000);
         QVERIFY(logic()->LastStorageProblem().reason.contains("locked"));
         QVERIFY(!QFile::exists(userFile()));
+
+        // Why the save failed is told until one succeeds, not only until somebody gets the lock.
+        other.release();
+        NetConnectStoreAction action;
+        QCOMPARE(action.lock(), 0);
+        QVERIFY(logic()->LastStorageProblem().reason.contains("locked"));
+        QCOMPARE(logic()->SaveDialUpProfile(named("A")), 0);
+        QCOMPARE(action.commit(), 0);
+        QVERIFY(logic()->LastStorageProblem().isNull());
     }
 
     // The lock file is removed while one holds it and another waits for it.

@@ -125,13 +125,12 @@ bool UserStore::lockFile() {
 }
 
 bool UserStore::acquireBeside(const QString& userFile) {
-    const QString lockPath = userFile + QLatin1String(".lock");
     QString reason;
-    if (!m_Lock.acquire(lockPath, &reason)) {
-        m_pFiles->reportProblem(lockPath, reason);
+    m_strLockPath = userFile + QLatin1String(".lock");
+    if (!m_Lock.acquire(m_strLockPath, &reason)) {
+        m_pFiles->reportProblem(m_strLockPath, reason);
         return false;
     }
-    m_pFiles->clearProblem(lockPath);
     return true;
 }
 
@@ -173,8 +172,7 @@ int UserStore::store() {
 // Whoever removes the lock file lets others lock a new one: what the user's file holds is then no longer known here.
 bool UserStore::isStillLocked() {
     if (m_Lock.isInPlace()) return true;
-    m_pFiles->reportProblem(m_pFiles->userProfilePath() + QLatin1String(".lock"),
-                            QLatin1String("was removed while the profiles were being changed"));
+    m_pFiles->reportProblem(m_strLockPath, QLatin1String("was removed while the profiles were being changed"));
     return false;
 }
 
@@ -184,6 +182,7 @@ int UserStore::write() {
     if (isStillLocked())
         status = m_pFiles->SaveProfileToXML(*m_Members.profiles, value.name, QString(), value.isUserSet);
     if (status == NetConnectStatus::Success) {
+        m_pFiles->clearProblem(m_strLockPath);  // a lock alone is no reason to forget why the last save failed
         m_bWhole = m_bStoredKnown = true;
         m_StoredProfiles = *m_Members.profiles;
         m_StoredDefault = value;
@@ -212,10 +211,6 @@ bool UserStore::isWriteDue() const {
     const bool isStored = m_bStoredKnown && m_StoredDefault == value && m_pFiles->isModeDefault(value) &&
                           m_StoredProfiles.isSharedWith(*m_Members.profiles);
     return m_bPending && m_Kind == Change && (m_bListPending || !isStored);
-}
-
-NetConnectStorageProblem UserStore::lastProblem() const {
-    return isAttached() ? m_pFiles->lastProblem() : NetConnectStorageProblem();
 }
 
 // --- operations and actions ---

@@ -76,7 +76,6 @@ public:
 
     // Nothing will be stored: the user's file could not be locked or read.
     bool hasFailed() const { return m_bFailed; }
-    NetConnectStorageProblem lastProblem() const;
 
     // Writes profiles and default, or leaves that to the open action: 0 or 25.
     int store();
@@ -139,6 +138,7 @@ private:
     int m_nOperations;  // running operations of the logic
     Kind m_Kind;        // of the outermost action
     UserFileLock m_Lock;
+    QString m_strLockPath;
     bool m_bFailed;       // no lock, a file that can't be taken in, or a logic that went with what was gathered
     bool m_bPending;      // something is to be written when the outermost action commits
     bool m_bListPending;  // that is more than the default
