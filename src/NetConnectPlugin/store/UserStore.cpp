@@ -54,7 +54,8 @@ int UserStore::read() {
     QList<DialupProfile> profiles;
     NetConnectDefault value = defaultToStore();
     const int status = load(&profiles, &value);
-    if (status == NetConnectStatus::FileMissing && !m_Members.profiles->isEmpty()) {
+    // Who only browses has no lock, but stores nothing either.
+    if (status == NetConnectStatus::FileMissing && !m_Members.profiles->isEmpty() && !isBrowsing()) {
         m_Stamp.settled = false;
         const NetConnectOperation secondLook;
     } else if (isWorthMore(status)) {
