@@ -10,6 +10,7 @@
 //   page/NetConnectUIService_Editing.cpp     new, edit, save, undo, delete, default
 //   page/NetConnectUIService_Validation.cpp  what a profile must be to be saved
 //   page/NetConnectUIService_Transfer.cpp    the import/export dialog
+//   page/NetConnectPageWatch.h               what happens around the page
 #ifndef ORBISDIAL_NETCONNECTUISERVICE_H
 #define ORBISDIAL_NETCONNECTUISERVICE_H
 
