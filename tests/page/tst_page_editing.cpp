@@ -14,9 +14,10 @@ QString text(const char* id) { return Change::tr(id, "NetConnectPlugin"); }
 // A name of a list, with the default mark in the current language.
 QString shown(QString name) { return name.replace("(Default)", text("IDS_STC_NETCONNECTSETTINGDLG_DEFAULT")); }
 
-// A password that stands nowhere in this program as a whole.
-enum { SecretLength = 24 };
-char secretAt(int place) { return char('a' + (place * 7 + 3) % 26); }
+// A password that stands nowhere in this program as a whole, and so much of its end as is looked for: freed memory is
+// soon used again from its start on, and shorter versions are what was typed before.
+enum { SecretLength = 48, TailLength = 12 };
+char secretAt(int place) { return char('a' + ((place + 5) * 2654435761u >> 13) % 26); }
 
 // Looks through everything that the process may write to.
 bool isSecretInMemory() {
@@ -29,10 +30,10 @@ bool isSecretInMemory() {
         if (!memory.seek(start)) continue;
         const QByteArray bytes = memory.read(range[1].toLongLong(nullptr, 16) - start);
         const auto* units = reinterpret_cast<const ushort*>(bytes.constData());
-        for (int i = 0; i + SecretLength <= bytes.size() / 2; ++i) {
+        for (int i = 0; i + TailLength <= bytes.size() / 2; ++i) {
             int same = 0;
-            while (same < SecretLength && units[i + same] == secretAt(same)) ++same;
-            if (same == SecretLength) return true;
+            while (same < TailLength && units[i + same] == secretAt(SecretLength - TailLength + same)) ++same;
+            if (same == TailLength) return true;
         }
     }
     return false;
