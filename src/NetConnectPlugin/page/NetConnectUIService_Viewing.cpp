@@ -1,3 +1,5 @@
+#include <QFileInfo>
+
 #include "CallTrace.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"
@@ -31,6 +33,10 @@ void CNetConnectUIService::rebuildListUnderSelection() {
 void CNetConnectUIService::followUserFile() {
     if (!m_pLogic || !m_Page.profiles || m_bListAwaited || m_bImporting || m_Edit.open) return;
     if (!m_pLogic->IsUserFileNewer(m_nShownRevision)) return;
+    if (!QFileInfo(m_pLogic->UserFilePath()).exists()) {
+        NetConnectStoreAction look;  // that it is gone is believed only under the lock
+        look.lock();
+    }
     {
         const NetConnectStoreAction browse(NetConnectStoreAction::Browse);
         rebuildListUnderSelection();
