@@ -437,6 +437,25 @@ private slots:
         QVERIFY(isRegistered());
     }
 
+    void aSilentBusHoldsNobody_data() {
+        QTest::addColumn<QString>("device");
+        QTest::newRow("auto") << "auto";
+        QTest::newRow("chosen") << "modemmanager";
+    }
+
+    void aSilentBusHoldsNobody() {
+        QFETCH(const QString, device);
+        const QTemporaryDir folder;
+        QLocalServer silent;
+        QVERIFY(silent.listen(folder.filePath("bus")));
+        QProcessEnvironment environment = withVariable("ORBISDIAL_DEVICE", device);
+        environment.insert("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + folder.filePath("bus"));
+        Probe probe({}, environment);
+        probe.closeWriteChannel();
+        QVERIFY(probe.waitForFinished(Patience));
+        QCOMPARE(probe.line(), QByteArray("?"));
+    }
+
     void plainProgramsFollowTheBus() {
         QVERIFY(m_Stack.plug("plain", {"GSM"}));
         QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_READY, Patience);

@@ -75,6 +75,7 @@ bool ModemManagerBackend::hangUp() { return m_Connecting->hangUp(); }
 Traffic ModemManagerBackend::traffic() { return m_Connecting->traffic(); }
 
 void ModemManagerBackend::stop() {
+    m_Watch.interrupt();
     m_Thread.stop([this] {
         m_Connecting->stop();
         m_Unlocking.stop();

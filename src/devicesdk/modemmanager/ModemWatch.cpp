@@ -101,7 +101,7 @@ void ModemWatch::onProbed(GObject* source, GAsyncResult* result, gpointer data) 
 // The asynchronous constructor would subscribe on a thread of GLib's, whose signals arrive nowhere.
 void ModemWatch::makeManager() {
     m_Manager.reset(mm_manager_new_sync(m_Bus, G_DBUS_OBJECT_MANAGER_CLIENT_FLAGS_DO_NOT_AUTO_START,
-                                        m_Cancellation.get(), nullptr));
+                                        m_Constructing.get(), nullptr));
     if (!m_Manager) return;
     for (const char* signal : {"object-added", "object-removed", "interface-added", "interface-removed",
                                "interface-proxy-properties-changed"})

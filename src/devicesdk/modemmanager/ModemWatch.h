@@ -12,7 +12,7 @@
 #include "Ref.h"
 #include "WorkerThread.h"
 
-// Everything but its making happens on the thread.
+// Everything but its making and what says so happens on the thread.
 class ModemWatch {
 public:
     // Runs the function when something of what is known may have changed; many changes at once are one.
@@ -22,6 +22,9 @@ public:
 
     void busCame(GDBusConnection* bus);
     void busWent();
+
+    // From another thread: ends what the thread may be waiting for, so that it can be stopped.
+    void interrupt() { m_Constructing.cancel(); }
 
     // Gives up all it has, without a word; the thread ends.
     void stop();
@@ -84,6 +87,7 @@ private:
     GSource* m_ChangeSource = nullptr;
     bool m_IsAnswered = false;  // there is no daemon, or it has told its modems
     Cancellation m_Cancellation;
+    Cancellation m_Constructing;
 };
 
 #endif

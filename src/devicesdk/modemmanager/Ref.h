@@ -33,12 +33,16 @@ inline std::string textOf(const char* text) { return text ? text : ""; }
 class Cancellation {
 public:
     Cancellation() : m_Cancellable(g_cancellable_new()) {}
-    ~Cancellation() { g_cancellable_cancel(m_Cancellable.get()); }
+    ~Cancellation() { cancel(); }
     Cancellation(const Cancellation&) = delete;
     Cancellation& operator=(const Cancellation&) = delete;
 
+    // Safe from any thread.
+    void cancel() { g_cancellable_cancel(m_Cancellable.get()); }
+
+    // Only where nothing waits with it on another thread.
     void renew() {
-        g_cancellable_cancel(m_Cancellable.get());
+        cancel();
         m_Cancellable.reset(g_cancellable_new());
     }
     GCancellable* get() const { return m_Cancellable.get(); }

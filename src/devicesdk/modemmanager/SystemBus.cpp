@@ -103,7 +103,7 @@ bool SystemBus::hasService(const char* name, unsigned int milliseconds) {
     thread.start();
     thread.invoke([&] { promise.set_value(isOffered(name, cancellation.get())); });
     const bool came = answer.wait_for(std::chrono::milliseconds(milliseconds)) == std::future_status::ready;
-    if (!came) cancellation.renew();
+    if (!came) cancellation.cancel();
     thread.stop({});
     return came && answer.get();
 }
