@@ -16,6 +16,10 @@ VRKS_Connection connection() {
     return record;
 }
 
+void waitForModem() {
+    for (int status = -1; status != VRKS_DEV_STATUS_READY; ::usleep(10000)) VRKS_DevSrv_GetDevStatus(&status);
+}
+
 // A line for each state, as "STATE FAILURE", until it is up or down.
 void tellUntilSettled() {
     for (int told = -1;;) {
@@ -38,6 +42,7 @@ int main(int argumentCount, char** arguments) {
     request.name = arguments[1];
     request.apn = "internet.example";
     request.endsWithProcess = std::strcmp(arguments[2], "bound") == 0;
+    waitForModem();
     VRKS_NetConnectSrv_Dial(&request);
     tellUntilSettled();
     while (std::getchar() != EOF) continue;
