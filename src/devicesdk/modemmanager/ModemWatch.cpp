@@ -174,8 +174,9 @@ void ModemWatch::followCard(MMObject* object, MMModem* modem) {
     const std::string path = cardPathOf(modem);
     if (card.path != path) {
         dropCard(&card);
-        card = Card{path, nullptr, false, path.empty()};
+        card = Card{path, nullptr, false, false};
     }
+    card.isFinished = card.isFinished || path.empty();
     if (path.empty() || card.isAsked) return;
     card.isAsked = true;
     mm_modem_get_sim(modem, m_Cancellation.get(), onCard, new Request{this, pathOf(object), path});
