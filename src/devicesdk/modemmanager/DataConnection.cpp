@@ -51,6 +51,7 @@ void DataConnection::busWent() {
     m_Cancellation.renew();
     m_Watch.reset();
     m_BearerErrors.reset();
+    if (m_Phase == Phase::Asking) m_Phase = Phase::Activating;  // there will be no answer
     update();
     m_Host.setConnectionKnown();
 }
