@@ -299,6 +299,13 @@ def fail(reason):
     end(1)
 
 
+# GLib would go on after what happens in its callbacks.
+def end_at_once(*exception):
+    sys.__excepthook__(*exception)
+    os._exit(1)
+
+
+sys.excepthook = end_at_once
 prepare_folders()
 prepare_namespaces()
 os.environ.update(ORBISDIAL_STACK=FOLDER, DBUS_SYSTEM_BUS_ADDRESS="unix:path=" + place("bus"),
