@@ -14,8 +14,6 @@
 // Atomic, since the device's thread asks whether there is an instance.
 static std::atomic<NetConnectSettingUILogic*> m_pNetConnectSettingUILogic(0);
 
-static const char LibraryName[] = "ProfileLib.prof";
-
 NetConnectSettingUILogic* NetConnectSettingUILogic::GetInstance(LoadMoment moment) {
     if (!m_pNetConnectSettingUILogic) m_pNetConnectSettingUILogic = new NetConnectSettingUILogic(moment);
     return m_pNetConnectSettingUILogic;
@@ -122,7 +120,7 @@ int NetConnectSettingUILogic::getConfigData() {
     int result = readConfigPair("common", "common", &m_UserPrompt);
     m_nConfigStatus = result;
     m_ConfigProblem = LastStorageProblem();
-    if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath("NetConnectConfig.xml"))
+    if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath(NetConnectFileNames::Configuration))
         m_ConfigProblem = NetConnectStorageProblem();
     const NetConnectDevice::Caller caller = {__FILE__, "getConfigData"};
     const QString deviceName = NetConnectDevice::customizeName(caller);
@@ -157,7 +155,7 @@ bool NetConnectSettingUILogic::translateName(QList<DialupProfile>* profiles, int
 void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
     const QList<DialupProfile> before = m_ProfileLibList;
     m_ProfileLibList.clear();
-    readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(LibraryName));
+    readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(NetConnectFileNames::Library));
     collectLangids(m_ProfileLibList);
     for (int i = 0; i < m_ProfileLibList.size(); ++i) translateName(&m_ProfileLibList, i);
     if (m_ProfileLibList.isSharedWith(before)) return;

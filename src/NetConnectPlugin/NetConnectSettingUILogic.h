@@ -254,7 +254,9 @@ private:
     int findLibraryProfile(const QString& name);
     bool sealPassword(DialupProfile* profile);
     bool translateUserProfiles();
-    void openPassword(DialupProfile* profile);
+    bool openPassword(DialupProfile* profile);
+    void reportUnopened(const DialupProfile& profile);
+    void keepUnopened(const DialupProfile& before, const DialupProfile& after);
     void fillFromDevice(DialupProfile* profile, const char* function);
     void removePreset(const QString& name);
     void undoWithAction();

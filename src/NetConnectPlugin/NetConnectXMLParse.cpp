@@ -34,8 +34,8 @@ QString NetConnectXMLParse::getUserDataDirectory() {
 
 QString NetConnectXMLParse::userProfilePath() {
     const QString directory = getUserDataDirectory();
-    if (!directory.isEmpty()) return directory + QLatin1String("UserProfile.prof");
-    reportProblem(QLatin1String("UserProfile.prof"), QLatin1String("the user data directory can't be had"));
+    if (!directory.isEmpty()) return directory + QLatin1String(NetConnectFileNames::User);
+    reportProblem(QLatin1String(NetConnectFileNames::User), QLatin1String("the user data directory can't be had"));
     return QString();
 }
 

@@ -19,6 +19,7 @@
 #include "FileStamp.h"
 #include "NetConnectConfigDocument.h"
 #include "NetConnectDevice.h"
+#include "NetConnectFileNames.h"
 #include "NetConnectRecords.h"
 #include "NetConnectStatus.h"
 #include "NetConnectStorageProblem.h"

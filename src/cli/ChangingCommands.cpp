@@ -23,7 +23,7 @@ DialupProfile profileToStore(const ProfileSession& session, const QString& name,
 DialupProfile templateProfile(const ProfileSession& session) {
     DialupProfile profile;
     if (session->NewDialUpProfileTemplate(&profile) != NetConnectSettingUILogic::Success)
-        throw CommandError::failed(NetConnectXMLParse::shippedPath("SysProfile.prof") +
+        throw CommandError::failed(NetConnectXMLParse::shippedPath(NetConnectFileNames::System) +
                                    ": holds no template for new profiles; see --like");
     return profile;
 }

@@ -106,12 +106,13 @@ void ProfileSession::finish() {
 QString ProfileSession::configurationProblem() const {
     if (m_pLogic->ConfigurationStatus() == NetConnectSettingUILogic::Success) return QString();
     const NetConnectStorageProblem problem = m_pLogic->ConfigurationProblem();
-    return problem.isNull() ? missingText(NetConnectXMLParse::shippedPath("NetConnectConfig.xml")) : problem.text();
+    return problem.isNull() ? missingText(NetConnectXMLParse::shippedPath(NetConnectFileNames::Configuration))
+                            : problem.text();
 }
 
 QString ProfileSession::problem() const {
     if (!m_ConfigurationProblem.isEmpty()) return m_ConfigurationProblem;
-    const QString library = NetConnectXMLParse::shippedPath("ProfileLib.prof");
+    const QString library = NetConnectXMLParse::shippedPath(NetConnectFileNames::Library);
     if (!QFileInfo::exists(library)) return missingText(library);
     const NetConnectStorageProblem last = m_pLogic->LastStorageProblem();
     // A change that can't lock has failed already; from a folder that can't be written one may still export.

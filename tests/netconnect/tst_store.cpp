@@ -105,6 +105,21 @@ private slots:
         QCOMPARE(logic()->LastStorageProblem().reason.contains("sealed password"), attributes.contains("orbis1:"));
     }
 
+    // What can't be opened is shown as empty, which is no wish to have it empty.
+    void anEditLosesNoPasswordThatCanNotBeOpened() {
+        shipConfig(section("Function", {"ENCRYPT=true"}));
+        setUser(profile("A", "password='orbis1:AAAA' encrypttype='2'"));
+        restart();
+        DialupProfile edited = fetch("A");
+        edited.apn = "changed";
+        QCOMPARE(logic()->ReplaceDialUpProfile("A", edited), 0);
+        const QByteArray stored = read(userFile());
+        QVERIFY2(stored.contains("password=\"orbis1:AAAA\"") && stored.contains("apn=\"changed\""), stored);
+        edited.password = "typed";
+        QCOMPARE(logic()->ReplaceDialUpProfile("A", edited), 0);
+        QCOMPARE(fetch("A").password, QString("typed"));
+    }
+
     void deletedPresetsStayAwayUntilTheNextLoad() {
         shipConfig(section("Function", {"IMSIAPN=true"}) + section("IMSIProfileList imsi='31026'", {"One", "Two"}) +
                    section("ProfileList", {"One", "Generic"}));

@@ -48,7 +48,7 @@ void NetConnectSettingUILogic::refreshLibraryNames() {
     if (!m_pXMLParse || m_bLoading) return;
     QList<DialupProfile> library;
     QString ignoredDefault;
-    readForeignFile(&library, &ignoredDefault, QLatin1String("ProfileLib.prof"));
+    readForeignFile(&library, &ignoredDefault, QLatin1String(NetConnectFileNames::Library));
     collectLangids(library);
 }
 

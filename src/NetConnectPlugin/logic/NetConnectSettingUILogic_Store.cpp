@@ -135,7 +135,7 @@ int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* prof
         const int index = m_Store.find(candidates.at(i));
         if (index < 0) continue;
         *profile = m_UserProfileList.at(index);
-        openPassword(profile);
+        if (!openPassword(profile)) reportUnopened(*profile);
         return Success;
     }
     for (int i = 0; i < candidates.size(); ++i) {
@@ -148,18 +148,21 @@ int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* prof
     return Success;
 }
 
-// Turns a stored password into a plain one.
-void NetConnectSettingUILogic::openPassword(DialupProfile* profile) {
-    if (!isOn("ENCRYPT")) return;
+// Turns a stored password into a plain one; false, and it is empty, when it can't be opened.
+bool NetConnectSettingUILogic::openPassword(DialupProfile* profile) {
+    if (!isOn("ENCRYPT")) return true;
     if (profile->encrypttype == QLatin1String("0") || profile->encrypttype.isEmpty())
         profile->encrypttype = QLatin1String(Base64Method);
-    const QString stored = profile->password;
-    profile->password = XorDecrypt(stored, profile->encrypttype);
-    if (profile->password.isNull() && !stored.isEmpty() && profile->encrypttype != QLatin1String(Base64Method))
-        m_pXMLParse->reportProblem(
-            m_pXMLParse->userProfilePath(),
-            QString::fromLatin1("the sealed password of \"%1\" was changed outside and can't be opened")
-                .arg(profile->name));
+    const bool hasPassword = !profile->password.isEmpty();
+    const bool isKeyed = profile->encrypttype != QLatin1String(Base64Method);
+    profile->password = XorDecrypt(profile->password, profile->encrypttype);
+    return !isKeyed || !hasPassword || !profile->password.isNull();
+}
+
+void NetConnectSettingUILogic::reportUnopened(const DialupProfile& profile) {
+    m_pXMLParse->reportProblem(
+        m_pXMLParse->userProfilePath(),
+        QString::fromLatin1("the sealed password of \"%1\" was changed outside and can't be opened").arg(profile.name));
 }
 
 // Seals a plain password when the configuration says so; false when it can't be sealed.
@@ -252,6 +255,7 @@ int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const
     if (isRenamed) stored.langid = QLatin1String("");
     if (m_strDefaultProfile == oldName && !oldName.isEmpty()) renameDefault(profile.name);
     const int index = m_Store.find(oldName);
+    const DialupProfile before = index >= 0 ? m_UserProfileList.at(index) : DialupProfile();
     if (index >= 0) DelDialUpProfile(oldName);
     int status = AddDialUpProfile(stored);
     if (status == NameTaken && sealPassword(&stored)) {
@@ -260,7 +264,18 @@ int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const
         status = operation.store();
     }
     if (status != Success) return status;
+    keepUnopened(before, stored);
     return action.commit();
+}
+
+// A password that can't be opened is shown as empty: an edit that leaves it so must not lose what is stored, which
+// another version or the right key may still open.
+void NetConnectSettingUILogic::keepUnopened(const DialupProfile& before, const DialupProfile& after) {
+    DialupProfile opened = before;
+    if (!after.password.isEmpty() || openPassword(&opened)) return;
+    DialupProfile& kept = m_UserProfileList[m_Store.find(after.name)];
+    kept.password = before.password;
+    kept.encrypttype = before.encrypttype;
 }
 
 void NetConnectSettingUILogic::renameDefault(const QString& name) {

@@ -27,7 +27,7 @@ int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QS
     if (!names) return FileMissing;
     if (!m_pXMLParse) return ObjectMissing;
     m_Store.readAwaited();
-    const QString file = path.isEmpty() ? QString(QLatin1String("ProfileLib.prof")) : path;
+    const QString file = path.isEmpty() ? QString::fromLatin1(NetConnectFileNames::Library) : path;
     const NetConnectDefault own(m_strDefaultProfile, m_bIsUserSet);
     const int status = readForeignFile(&m_ImportList, &m_strDefaultProfile, file);
     if (!m_bForeignDefault && m_strDefaultProfile != own.name) {
@@ -157,7 +157,7 @@ int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, con
     { const NetConnectOperation operation; }  // takes in what other processes changed
     QList<DialupProfile> library;
     QString ignoredDefault;
-    readForeignFile(&library, &ignoredDefault, QLatin1String("ProfileLib.prof"));
+    readForeignFile(&library, &ignoredDefault, QLatin1String(NetConnectFileNames::Library));
     for (int i = 0; i < library.size(); ++i) translateName(&library, i);
     const ProfilesByName users(m_UserProfileList);
     const ProfilesByName shipped(library);

@@ -88,7 +88,7 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
 
 // Parses the file, or takes what is kept of it when it has not changed: 0, 6 or 23.
 int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
-    const QString path = shippedPath("NetConnectConfig.xml");
+    const QString path = shippedPath(NetConnectFileNames::Configuration);
     const FileStamp stamp = FileStamp::of(path);
     if (m_Config.path == path && m_Config.stamp.settled && m_Config.stamp == stamp) {
         *document = m_Config.document;

@@ -9,13 +9,13 @@
 
 QString NetConnectXMLParse::profilePath(const QString& fileName) {
     if (fileName.isEmpty()) return userProfilePath();
-    if (fileName == QLatin1String("ProfileLib.prof")) return shippedPath("ProfileLib.prof");
+    if (fileName == QLatin1String(NetConnectFileNames::Library)) return shippedPath(NetConnectFileNames::Library);
     return fileName;
 }
 
 NetConnectXMLParse::KeptFile* NetConnectXMLParse::keptFile(const QString& fileName) {
     if (fileName.isEmpty()) return &m_User;
-    return fileName == QLatin1String("ProfileLib.prof") ? &m_Library : 0;
+    return fileName == QLatin1String(NetConnectFileNames::Library) ? &m_Library : 0;
 }
 
 int NetConnectXMLParse::GetAllProfileFromUserDataXML(QList<DialupProfile>* profiles, QString* defaultName,

@@ -69,7 +69,7 @@ QList<Element> elementsOf(const QByteArray& content) {
 int NetConnectXMLParse::GetProfileTemplateFromSysXML(DialupProfile* profile) {
     const TraceScope trace(__FILE__, "GetProfileTemplateFromSysXML");
     if (!profile) return NetConnectStatus::FileMissing;
-    const QString path = shippedPath("SysProfile.prof");
+    const QString path = shippedPath(NetConnectFileNames::System);
     QByteArray content;
     const int status = readFile(path, &content);
     if (status != 0) return status;
@@ -96,7 +96,7 @@ int NetConnectXMLParse::GetProfileTemplateFromSysXML(DialupProfile* profile) {
 int NetConnectXMLParse::ModifyProfileTemplateToSysXML(QHash<QString, NetConnectXML>* templates) {
     const TraceScope trace(__FILE__, "ModifyProfileTemplateToSysXML");
     if (!templates || templates->isEmpty()) return NetConnectStatus::FileMissing;
-    const QString path = shippedPath("SysProfile.prof");
+    const QString path = shippedPath(NetConnectFileNames::System);
     const QByteArray content = templateDocument(*templates);
 
     // The file lies where many users may read but few may write: leave one alone that is right already.

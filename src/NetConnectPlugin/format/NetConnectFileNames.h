@@ -1,0 +1,14 @@
+// What the plug-in's files are called.
+#ifndef ORBISDIAL_NETCONNECTFILENAMES_H
+#define ORBISDIAL_NETCONNECTFILENAMES_H
+
+namespace NetConnectFileNames {
+
+const char User[] = "UserProfile.prof";    // in the user data directory
+const char Library[] = "ProfileLib.prof";  // these beside the plug-in's library
+const char System[] = "SysProfile.prof";   // the template of new profiles
+const char Configuration[] = "NetConnectConfig.xml";
+
+}  // namespace NetConnectFileNames
+
+#endif
