@@ -186,7 +186,7 @@ private slots:
 
     void failures() {
         Ending ending;
-        ending.reason = NMDeviceStateReason(cell<int>("reason"));
+        ending.reason = unsigned(cell<int>("reason"));
         ending.wasUp = cell<bool>("wasUp");
         for (const QString& name : cell<QStringList>("bearerErrors"))
             ending.bearerErrors.push_back({"org.freedesktop.ModemManager1.Error." + name.toStdString(), "said so"});
@@ -197,8 +197,8 @@ private slots:
     void aDeviceThatIsGone() {
         Ending ending;
         ending.isDeviceGone = true;
-        for (int reason : {0, 1, 13, 25, 39}) {
-            ending.reason = NMDeviceStateReason(reason);
+        for (unsigned reason : {0u, 1u, 13u, 25u, 39u}) {
+            ending.reason = reason;
             QCOMPARE(failureOf(ending).kind, int(VRKS_FAILURE_MODEM_GONE));
         }
         ending.reason = NM_DEVICE_STATE_REASON_SLEEPING;

@@ -8,7 +8,7 @@
 namespace {
 
 struct ReasonRow {
-    NMDeviceStateReason reason;
+    unsigned reason;
     int failure;
     int failureOnceUp;
 };
@@ -84,15 +84,15 @@ int failureOfName(const NameRow (&rows)[Count], const std::string& name) {
     return row == rows + Count ? VRKS_FAILURE_NONE : row->failure;
 }
 
-int failureOfReason(NMDeviceStateReason reason, bool wasUp) {
+int failureOfReason(unsigned reason, bool wasUp) {
     const auto* row = std::find_if(std::begin(Reasons), std::end(Reasons),
                                    [=](const ReasonRow& one) { return one.reason == reason; });
     if (row == std::end(Reasons)) return VRKS_FAILURE_OTHER;
     return wasUp ? row->failureOnceUp : row->failure;
 }
 
-std::string wordsOf(NMDeviceStateReason reason) {
-    return textOf(Text(nm_utils_enum_to_str(NM_TYPE_DEVICE_STATE_REASON, reason)).get());
+std::string wordsOf(unsigned reason) {
+    return textOf(Text(nm_utils_enum_to_str(NM_TYPE_DEVICE_STATE_REASON, int(reason))).get());
 }
 
 // What a bearer said explains these; the others explain themselves.

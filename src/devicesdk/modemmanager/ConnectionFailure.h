@@ -14,7 +14,7 @@ struct NamedError {
 };
 
 struct Ending {
-    NMDeviceStateReason reason = NM_DEVICE_STATE_REASON_NONE;  // of the device
+    unsigned reason = NM_DEVICE_STATE_REASON_NONE;  // the device's NMDeviceStateReason, or one newer than libnm
     bool wasUp = false;
     bool isDeviceGone = false;
     std::vector<NamedError> bearerErrors;  // of ModemManager's bearers, one an attempt, in their order

@@ -42,9 +42,8 @@ void DataConnection::busCame(GDBusConnection* bus) {
         m_Host.setConnectionKnown();
     };
     m_Watch = std::make_unique<NetworkWatch>(
-        bus, NetworkWatch::Handlers{
-                 begun, [this] { updateSoon(); },
-                 [this](NMDeviceState now, NMDeviceStateReason reason) { deviceStateChanged(now, reason); }});
+        bus, NetworkWatch::Handlers{begun, [this] { updateSoon(); },
+                                    [this](NMDeviceState now, unsigned reason) { deviceStateChanged(now, reason); }});
 }
 
 void DataConnection::busWent() {
@@ -286,7 +285,7 @@ void DataConnection::onDeactivated(GObject* source, GAsyncResult* result, gpoint
 }
 
 // The first reason tells; the states after it only clean up.
-void DataConnection::deviceStateChanged(NMDeviceState now, NMDeviceStateReason reason) {
+void DataConnection::deviceStateChanged(NMDeviceState now, unsigned reason) {
     if (now == NM_DEVICE_STATE_DISCONNECTED && reason == NM_DEVICE_STATE_REASON_MODEM_AVAILABLE)
         m_RadioOnAt = Clock::now();
     const bool isEnd = now <= NM_DEVICE_STATE_DISCONNECTED || now >= NM_DEVICE_STATE_DEACTIVATING;
@@ -316,7 +315,7 @@ void DataConnection::conclude() {
 // version of IP without a word, which looks like wrong credentials unless there are none.
 bool DataConnection::isWorthRepeating() {
     if (!m_Dialled.isOwn || m_Dialled.wasUp || !m_Watch || !m_Watch->isRunning()) return false;
-    const NMDeviceStateReason reason = m_Dialled.ending.reason;
+    const unsigned reason = m_Dialled.ending.reason;
     const bool isByRadio = m_Dialled.endedAt - m_RadioOnAt < 2 * RadioSettling;
     if (reason == NM_DEVICE_STATE_REASON_USER_REQUESTED && isByRadio && !m_Dialled.isRepeated) {
         m_RadioOnAt = Clock::now();  // it still settles

@@ -72,7 +72,7 @@ private:
     void end();
     void deactivate();
     static void onDeactivated(GObject* source, GAsyncResult* result, gpointer self);
-    void deviceStateChanged(NMDeviceState now, NMDeviceStateReason reason);
+    void deviceStateChanged(NMDeviceState now, unsigned reason);
     void waitForReason();
     void conclude();
     bool isWorthRepeating();

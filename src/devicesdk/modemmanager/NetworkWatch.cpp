@@ -98,6 +98,6 @@ void NetworkWatch::changed() {
 }
 
 void NetworkWatch::onDeviceState(NMDevice*, guint now, guint, guint reason, NetworkWatch* self) {
-    self->m_Handlers.deviceStateChanged(NMDeviceState(now), NMDeviceStateReason(reason));
+    self->m_Handlers.deviceStateChanged(NMDeviceState(now), reason);
     self->changed();
 }

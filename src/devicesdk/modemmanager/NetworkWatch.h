@@ -18,7 +18,7 @@ public:
         std::function<void()> begun;    // once: what there is is known, or can't be
         std::function<void()> changed;  // anything; ask again
         // Of the device that is followed, before it can be seen by asking.
-        std::function<void(NMDeviceState now, NMDeviceStateReason reason)> deviceStateChanged;
+        std::function<void(NMDeviceState now, unsigned reason)> deviceStateChanged;
     };
 
     NetworkWatch(GDBusConnection* bus, Handlers handlers);
