@@ -1,0 +1,156 @@
+#include "DataUsage.h"
+
+#include <unistd.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <memory>
+
+#include "DataConnection.h"
+#include "UsageFile.h"
+
+namespace {
+
+constexpr double FirstWarning = 0.8;
+
+QString userDataFile() {
+    unsigned short* directory = nullptr;
+    if (VRKS_GetUserDataDirectory(&directory) != 0) return QString();
+    const std::unique_ptr<unsigned short[]> owner(directory);
+    return QString::fromUtf16(reinterpret_cast<const char16_t*>(directory)) + "usage.json";
+}
+
+QString monthOf(const QDate& day) { return day.toString(QStringLiteral("yyyy-MM")); }
+
+QByteArray contentOf(const QString& file) {
+    QFile in(file);
+    return in.open(QIODevice::ReadOnly) ? in.readAll().trimmed() : QByteArray();
+}
+
+std::optional<quint64> numberIn(const QString& file) {
+    bool isNumber = false;
+    const quint64 number = contentOf(file).toULongLong(&isNumber);
+    return isNumber ? std::optional<quint64>(number) : std::nullopt;
+}
+
+// What the kernel counted since the interface came into being.
+std::optional<UsageTotals> countersOf(const QString& folder) {
+    const auto received = numberIn(folder + "/statistics/rx_bytes");
+    const auto sent = numberIn(folder + "/statistics/tx_bytes");
+    if (!received || !sent) return std::nullopt;
+    return UsageTotals{*received, *sent};
+}
+
+// A name comes again with each connection; its number comes once in the life of a kernel. What is no interface of the
+// kernel's, as with the simulated modem, belongs to this process.
+QString instanceOf(const DataConnection& connection, const QString& folder) {
+    const QByteArray index = contentOf(folder + "/ifindex");
+    if (index.isEmpty())
+        return QStringLiteral("%1 of process %2 since %3")
+            .arg(connection.interfaceName)
+            .arg(::getpid())
+            .arg(connection.since);
+    const QByteArray boot = contentOf(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+    return connection.interfaceName + ' ' + QString::fromLatin1(index) + ' ' + QString::fromLatin1(boot);
+}
+
+UsageTotals operator+(const UsageTotals& a, const UsageTotals& b) { return {a.received + b.received, a.sent + b.sent}; }
+
+UsageTotals larger(const UsageTotals& a, const UsageTotals& b) {
+    return {qMax(a.received, b.received), qMax(a.sent, b.sent)};
+}
+
+// Nothing where it would be negative.
+UsageTotals operator-(const UsageTotals& a, const UsageTotals& b) {
+    return {a.received - qMin(a.received, b.received), a.sent - qMin(a.sent, b.sent)};
+}
+
+int percentUsed(const UsageCard& card, const QString& month) {
+    if (card.limit == 0) return 0;
+    const double part = double(card.months.value(month).all()) / double(card.limit);
+    return part >= 1 ? 100 : part >= FirstWarning ? 80 : 0;
+}
+
+// What nobody was told of yet.
+int warningOf(const UsageCard& card, const QString& month) {
+    const int percent = percentUsed(card, month);
+    return card.warnedMonth == month && card.warnedPercent >= percent ? 0 : percent;
+}
+
+}  // namespace
+
+DataUsage::DataUsage() : DataUsage(userDataFile()) {}
+
+DataUsage::DataUsage(const QString& file, const QString& interfacesFolder)
+    : m_File(file), m_Interfaces(interfacesFolder) {}
+
+bool DataUsage::follow(const DataConnection& connection, const QString& imsi) {
+    if (!connection.isUp() || connection.interfaceName.isEmpty()) return m_Followed.has_value();
+    const QString folder = m_Interfaces + '/' + connection.interfaceName;
+    const QString instance = instanceOf(connection, folder);
+    const bool isKnown = m_Followed && m_Followed->instance == instance && m_Followed->since == connection.since;
+    if (!isKnown) {
+        const UsageTotals own{connection.received, connection.sent};
+        m_Followed = Followed{instance, imsi, connection.since, countersOf(folder).value_or(own) - own};
+    }
+    if (m_Followed->imsi.isEmpty()) m_Followed->imsi = imsi;
+    return true;
+}
+
+// Another program may have counted a part. What the interface moved before the connection is not its.
+bool DataUsage::count(const DataConnection& connection, const QString& imsi, const QDate& today) {
+    if (!follow(connection, imsi)) return true;
+    const UsageTotals now = m_Followed->base + UsageTotals{connection.received, connection.sent};
+    const bool isCounted = UsageFile::edit(m_File, [&](UsageRecords& records) {
+        const UsageTotals counted = larger(records.countedOf(m_Followed->instance), m_Followed->base);
+        const UsageTotals more = now - counted;
+        if (more.all() == 0) return false;
+        UsageTotals& total = records.cards[records.cardOf(m_Followed->imsi)].months[monthOf(today)];
+        total = total + more;
+        records.mark(m_Followed->instance, counted + more);
+        return true;
+    });
+    const bool hasEnded = connection.isDown() || connection.state == VRKS_CONNECTION_DIALLING;
+    if (isCounted && hasEnded) m_Followed.reset();
+    return isCounted;
+}
+
+UsageTotals DataUsage::month(const QString& imsi, const QDate& day) const {
+    UsageRecords records;
+    UsageFile::read(m_File, &records);
+    return records.cards.value(records.cardOf(imsi)).months.value(monthOf(day));
+}
+
+quint64 DataUsage::limit(const QString& imsi) const {
+    UsageRecords records;
+    UsageFile::read(m_File, &records);
+    return records.cards.value(records.cardOf(imsi)).limit;
+}
+
+bool DataUsage::setLimit(const QString& imsi, quint64 bytes) {
+    return UsageFile::edit(m_File, [&](UsageRecords& records) {
+        UsageCard& card = records.cards[records.cardOf(imsi)];
+        if (card.limit == bytes) return false;
+        card.limit = bytes;
+        card.warnedMonth.clear();
+        return true;
+    });
+}
+
+int DataUsage::takeWarning(const QString& imsi, const QDate& today) {
+    const QString month = monthOf(today);
+    UsageRecords seen;
+    UsageFile::read(m_File, &seen);
+    if (warningOf(seen.cards.value(seen.cardOf(imsi)), month) == 0) return 0;  // as nearly always: no lock for it
+
+    int percent = 0;
+    const bool isKept = UsageFile::edit(m_File, [&](UsageRecords& records) {
+        UsageCard& card = records.cards[records.cardOf(imsi)];
+        percent = warningOf(card, month);
+        if (percent == 0) return false;
+        card.warnedMonth = month;
+        card.warnedPercent = percent;
+        return true;
+    });
+    return isKept ? percent : 0;
+}

@@ -1,0 +1,31 @@
+#include "UsageRecorder.h"
+
+#include "DataConnection.h"
+
+namespace {
+
+constexpr int MinuteMs = 60000;
+
+}
+
+UsageRecorder::UsageRecorder(QObject* parent) : QObject(parent) {
+    m_EachMinute.setInterval(MinuteMs);
+    connect(&m_EachMinute, &QTimer::timeout, this, &UsageRecorder::record);
+}
+
+void UsageRecorder::observe(const DataConnection& connection) {
+    const bool isUp = connection.isUp();
+    if (isUp == m_EachMinute.isActive()) return;
+    if (isUp) {
+        m_EachMinute.start();
+    } else {
+        m_EachMinute.stop();
+    }
+    record();
+}
+
+void UsageRecorder::record() {
+    const QString imsi = ModemState::current().imsi;
+    m_Usage.count(DataConnection::current(), imsi);
+    if (const int percent = m_Usage.takeWarning(imsi)) emit warned(percent);
+}

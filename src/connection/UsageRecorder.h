@@ -1,0 +1,35 @@
+// Keeps DataUsage up to date while a program runs: at each change of the connection, and each minute while it is up.
+#ifndef ORBISDIAL_USAGERECORDER_H
+#define ORBISDIAL_USAGERECORDER_H
+
+#include <QObject>
+#include <QTimer>
+
+#include "DataUsage.h"
+
+struct DataConnection;
+
+class UsageRecorder : public QObject {
+    Q_OBJECT
+
+public:
+    explicit UsageRecorder(QObject* parent = nullptr);
+
+    // The connection changed. The timer runs only while one is up.
+    void observe(const DataConnection& connection);
+
+    // Counts now, as at the program's end.
+    void record();
+
+    DataUsage* usage() { return &m_Usage; }
+
+signals:
+    // So many percent of the card's limit are used, 80 or 100; each once a month.
+    void warned(int percent);
+
+private:
+    DataUsage m_Usage;
+    QTimer m_EachMinute;
+};
+
+#endif
