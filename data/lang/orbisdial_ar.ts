@@ -40,28 +40,236 @@
         <translation>لا يوجد ملف تعريف باسم «%1».</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NOT_SIMULATED</source>
-        <translation>المودم المحاكى وحده يمكنه الاتصال.</translation>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>تم إلغاء الاتصال.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
-        <translation>المودم غير جاهز.</translation>
+        <translation>المودم ليس جاهزًا بعد. انتظر قليلًا ثم حاول مجددًا؛ وإن لم يفد ذلك فافصله ثم أعد توصيله.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>الشبكة لا تستجيب (لا توجد موجة حاملة).</translation>
+        <translation>الشبكة لا تجيب (لا توجد موجة حاملة). حاول مجددًا حيث يكون الاستقبال أفضل.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <translation>رفضت الشبكة اسم المستخدم أو كلمة المرور.</translation>
+        <translation>رفضت الشبكة اسم المستخدم أو كلمة المرور في «%1». صححهما في الإعدادات.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NO_SIGNAL</source>
-        <translation>لا توجد إشارة لدى المودم.</translation>
+        <source>IDS_DIALUP_NO_MODEM</source>
+        <translation>لا يوجد مودم. قم بتوصيل مودم.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_CANCELLED</source>
-        <translation>تم إلغاء الاتصال.</translation>
+        <source>IDS_DIALUP_IN_USE</source>
+        <translation>المودم قيد الاستخدام من قبل %1. أنهِ ذلك الاتصال أولًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
+        <translation>لا تملك البطاقة خدمة بيانات لـ «%1». تحقق من اسم نقطة الوصول (APN) أو اسأل المشغّل.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REFUSED</source>
+        <translation>رفضت الشبكة «%1» دون ذكر السبب. تحقق من اسم المستخدم وكلمة المرور واسم نقطة الوصول (APN).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_DROPPED</source>
+        <translation>فُقد الاتصال. اتصل مجددًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LINK</source>
+        <translation>تعذر بدء الاتصال على هذا الحاسوب. حاول مجددًا؛ فقد تفيد التفاصيل بالمزيد.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BUSY</source>
+        <translation>الرقم مشغول. حاول لاحقًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DIAL_TONE</source>
+        <translation>لا توجد نغمة اتصال. تحقق من هوائي المودم وبطاقته.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_ANSWER</source>
+        <translation>لم تجب الشبكة في الوقت المناسب. حاول لاحقًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_APN_REFUSED</source>
+        <translation>ترفض الشبكة اسم نقطة الوصول (APN) في «%1». صححه في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_REGISTERED</source>
+        <translation>لم يُعثر على شبكة. حاول مجددًا حيث يكون الاستقبال أفضل.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REGISTRATION_DENIED</source>
+        <translation>لا تقبل الشبكة هذه البطاقة. اسأل المشغّل هل هي مفعّلة.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARD</source>
+        <translation>لا توجد بطاقة SIM في المودم. أدخل واحدة.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LOCKED</source>
+        <translation>بطاقة SIM مقفلة. أدخل رقم PIN الخاص بها.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_CARD</source>
+        <translation>لا يقبل المودم بطاقة SIM هذه. استخدم بطاقة من مشغّل المودم.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_PIN</source>
+        <translation>رقم PIN خاطئ. أدخل الرقم الصحيح.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MODEM_GONE</source>
+        <translation>أُزيل المودم أو توقف عن العمل. أعد توصيله.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
+        <translation>خدمة أجهزة المودم (ModemManager) لا تعمل. شغّلها أو اسأل المسؤول.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
+        <translation>خدمة الاتصالات (NetworkManager) لا تعمل. شغّلها أو اسأل المسؤول.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_SUSPENDED</source>
+        <translation>انتهى الاتصال لأن الحاسوب دخل في وضع السكون. اتصل مجددًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_TAKEN</source>
+        <translation>أخذ برنامج آخر المودم لاتصاله الخاص. أنهِ ذلك الاتصال ثم اتصل مجددًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
+        <translation>تطلب الشبكة اسم مستخدم وكلمة مرور. أدخلهما لـ «%1» في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_ENDED_OUTSIDE</source>
+        <translation>أُنهي الاتصال من خارج هذا البرنامج. اتصل مجددًا إن احتجت إليه.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_ALLOWED</source>
+        <translation>لا يُسمح لك بالاتصال على هذا الحاسوب. اطلب الإذن من المسؤول.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_OTHER</source>
+        <translation>فشل الاتصال باستخدام «%1». تذكر التفاصيل ما هو معروف.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANNOT_HANG_UP</source>
+        <translation>تعذر إنهاء الاتصال. حاول مجددًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NAME</source>
+        <translation>لا يصلح اسم الملف «%1» للاتصال. اختصره.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NUMBER</source>
+        <translation>لا يصلح رقم الوصول في «%1». صححه في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_APN</source>
+        <translation>لا يصلح اسم نقطة الوصول (APN) في «%1»: 64 حرفًا لاتينيًا أو رقمًا أو نقطة أو شرطة أو شرطة سفلية على الأكثر. صححه في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_ADDRESS</source>
+        <translation>عنوان IP في «%1» غير صالح. صححه في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS</source>
+        <translation>عنوان خادم DNS في «%1» غير صالح. صححه في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
+        <translation>عنوان خادم DNS البديل في «%1» غير صالح. صححه في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_USER</source>
+        <translation>لا يمكن إرسال اسم المستخدم في «%1»: 255 بايت على الأكثر. اختصره.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_PASSWORD</source>
+        <translation>لا يمكن إرسال كلمة المرور في «%1»: 255 بايت على الأكثر. اختصرها.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_PREPARING</source>
+        <translation>تجهيز المودم</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_REGISTERING</source>
+        <translation>البحث عن الشبكة، وقد يستغرق دقيقة</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_CONNECTING</source>
+        <translation>الاتصال بالشبكة</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_ADDRESSING</source>
+        <translation>طلب عنوان</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USED_BY</source>
+        <translation>قيد الاستخدام من قبل %1</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_NUMBER</source>
+        <translation>رقم الوصول لا أثر له: يطلب المودم رقم الشبكة نفسها.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_ADDRESS</source>
+        <translation>عنوان IP الثابت لا أثر له: الشبكة هي التي تعيّن العنوان.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_WINS</source>
+        <translation>خوادم WINS لا أثر لها.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
+        <translation>تعذر الحصول على عنوان IP الثابت؛ عيّنت الشبكة %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_80</source>
+        <translation>استُهلك 80 بالمئة من حجم بيانات هذا الشهر.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_100</source>
+        <translation>استُهلك حجم بيانات هذا الشهر كله.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_HUNG_UP</source>
+        <translation>الاتصال التلقائي ينتظر حتى تتصل بنفسك.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_READY</source>
+        <translation>الاتصال التلقائي ينتظر المودم.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
+        <translation>الاتصال التلقائي ينتظر شبكة.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_ROAMING</source>
+        <translation>لا يجري الاتصال التلقائي أثناء التجوال.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_IN_USE</source>
+        <translation>الاتصال التلقائي ينتظر حتى يخلو المودم.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_PAUSE</source>
+        <translation>سيحاول الاتصال التلقائي مجددًا قريبًا.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_REFUSED</source>
+        <translation>توقف الاتصال التلقائي لأن الشبكة رفضت «%1». صحح اسم المستخدم وكلمة المرور، أو اتصل بنفسك.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_FAILED</source>
+        <translation>توقف الاتصال التلقائي: ستفشل المحاولة التالية بالطريقة نفسها.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_MUST_ASK</source>
+        <translation>لا يمكن للاتصال التلقائي استخدام «%1» لأنه يسأل عن اسم المستخدم وكلمة المرور.</translation>
     </message>
 </context>
 <context>

@@ -40,28 +40,236 @@
         <translation>Es gibt kein Profil „%1“.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NOT_SIMULATED</source>
-        <translation>Nur das simulierte Modem kann wählen.</translation>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>Das Verbinden wurde abgebrochen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
-        <translation>Das Modem ist nicht bereit.</translation>
+        <translation>Das Modem ist noch nicht bereit. Warten Sie einen Augenblick und versuchen Sie es noch einmal; hilft das nicht, ziehen Sie es ab und stecken Sie es wieder ein.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>Das Netz antwortet nicht (kein Träger).</translation>
+        <translation>Das Netz antwortet nicht (kein Träger). Versuchen Sie es bei besserem Empfang noch einmal.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <translation>Das Netz hat den Benutzernamen oder das Kennwort abgelehnt.</translation>
+        <translation>Das Netz hat den Benutzernamen oder das Kennwort von „%1“ abgelehnt. Berichtigen Sie sie in den Einstellungen.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NO_SIGNAL</source>
-        <translation>Das Modem hat kein Signal.</translation>
+        <source>IDS_DIALUP_NO_MODEM</source>
+        <translation>Es ist kein Modem da. Stecken Sie eines ein.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_CANCELLED</source>
-        <translation>Das Verbinden wurde abgebrochen.</translation>
+        <source>IDS_DIALUP_IN_USE</source>
+        <translation>Das Modem wird von %1 benutzt. Beenden Sie zuerst jene Verbindung.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
+        <translation>Die Karte hat keinen Datendienst für „%1“. Prüfen Sie den Zugangspunkt (APN) oder fragen Sie Ihren Netzbetreiber.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REFUSED</source>
+        <translation>Das Netz hat „%1“ abgelehnt, ohne zu sagen, warum. Prüfen Sie Benutzernamen, Kennwort und Zugangspunkt (APN).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_DROPPED</source>
+        <translation>Die Verbindung ist abgebrochen. Verbinden Sie sich neu.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LINK</source>
+        <translation>Die Verbindung ließ sich auf diesem Rechner nicht beginnen. Versuchen Sie es noch einmal; die Einzelheiten sagen vielleicht mehr.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BUSY</source>
+        <translation>Die Nummer ist besetzt. Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DIAL_TONE</source>
+        <translation>Es kommt kein Wählton. Prüfen Sie Antenne und Karte des Modems.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_ANSWER</source>
+        <translation>Das Netz hat nicht rechtzeitig geantwortet. Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_APN_REFUSED</source>
+        <translation>Das Netz lehnt den Zugangspunkt (APN) von „%1“ ab. Berichtigen Sie ihn in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_REGISTERED</source>
+        <translation>Es wurde kein Netz gefunden. Versuchen Sie es bei besserem Empfang noch einmal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REGISTRATION_DENIED</source>
+        <translation>Das Netz lässt diese Karte nicht zu. Fragen Sie Ihren Netzbetreiber, ob die Karte freigeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARD</source>
+        <translation>Im Modem steckt keine SIM-Karte. Legen Sie eine ein.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LOCKED</source>
+        <translation>Die SIM-Karte ist gesperrt. Geben Sie ihre PIN ein.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_CARD</source>
+        <translation>Das Modem nimmt diese SIM-Karte nicht an. Verwenden Sie eine Karte des Netzbetreibers, für den es gedacht ist.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_PIN</source>
+        <translation>Die PIN war falsch. Geben Sie die richtige ein.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MODEM_GONE</source>
+        <translation>Das Modem wurde entfernt oder arbeitet nicht mehr. Stecken Sie es wieder ein.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
+        <translation>Der Dienst für Modems (ModemManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Verwalter.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
+        <translation>Der Dienst für Verbindungen (NetworkManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Verwalter.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_SUSPENDED</source>
+        <translation>Die Verbindung endete, weil der Rechner in den Ruhezustand ging. Verbinden Sie sich neu.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_TAKEN</source>
+        <translation>Ein anderes Programm hat das Modem für eine eigene Verbindung genommen. Beenden Sie diese und verbinden Sie sich neu.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
+        <translation>Das Netz verlangt Benutzernamen und Kennwort. Geben Sie sie für „%1“ in den Einstellungen ein.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_ENDED_OUTSIDE</source>
+        <translation>Die Verbindung wurde außerhalb dieses Programms beendet. Verbinden Sie sich neu, wenn Sie sie brauchen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_ALLOWED</source>
+        <translation>Sie dürfen sich auf diesem Rechner nicht verbinden. Bitten Sie Ihren Verwalter um die Erlaubnis.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_OTHER</source>
+        <translation>Das Verbinden mit „%1“ ist fehlgeschlagen. Die Einzelheiten sagen, was bekannt ist.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANNOT_HANG_UP</source>
+        <translation>Die Verbindung ließ sich nicht beenden. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NAME</source>
+        <translation>Der Name des Profils „%1“ ist für eine Verbindung nicht brauchbar. Kürzen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NUMBER</source>
+        <translation>Die Zugangsnummer von „%1“ ist nicht brauchbar. Berichtigen Sie sie in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_APN</source>
+        <translation>Der Zugangspunkt (APN) von „%1“ ist nicht brauchbar: höchstens 64 Buchstaben, Ziffern, Punkte, Binde- und Unterstriche. Berichtigen Sie ihn in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_ADDRESS</source>
+        <translation>Die IP-Adresse von „%1“ ist ungültig. Berichtigen Sie sie in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS</source>
+        <translation>Die Adresse des DNS-Servers von „%1“ ist ungültig. Berichtigen Sie sie in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
+        <translation>Die Adresse des zweiten DNS-Servers von „%1“ ist ungültig. Berichtigen Sie sie in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_USER</source>
+        <translation>Der Benutzername von „%1“ lässt sich nicht senden: höchstens 255 Byte. Kürzen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_PASSWORD</source>
+        <translation>Das Kennwort von „%1“ lässt sich nicht senden: höchstens 255 Byte. Kürzen Sie es.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_PREPARING</source>
+        <translation>Das Modem wird vorbereitet</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_REGISTERING</source>
+        <translation>Das Netz wird gesucht, was eine Minute dauern kann</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_CONNECTING</source>
+        <translation>Das Netz wird angerufen</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_ADDRESSING</source>
+        <translation>Eine Adresse wird angefordert</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USED_BY</source>
+        <translation>In Benutzung durch %1</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_NUMBER</source>
+        <translation>Die Zugangsnummer bewirkt nichts: Das Modem wählt die des Netzes.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_ADDRESS</source>
+        <translation>Die feste IP-Adresse bewirkt nichts: Das Netz teilt die Adresse zu.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_WINS</source>
+        <translation>Die WINS-Server bewirken nichts.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
+        <translation>Die feste IP-Adresse war nicht zu haben; das Netz hat %1 zugeteilt.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_80</source>
+        <translation>80 Prozent des Datenvolumens dieses Monats sind verbraucht.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_100</source>
+        <translation>Das Datenvolumen dieses Monats ist verbraucht.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_HUNG_UP</source>
+        <translation>Das automatische Verbinden wartet, bis Sie sich selbst verbinden.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_READY</source>
+        <translation>Das automatische Verbinden wartet auf das Modem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
+        <translation>Das automatische Verbinden wartet auf ein Netz.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_ROAMING</source>
+        <translation>Das automatische Verbinden ruht beim Roaming.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_IN_USE</source>
+        <translation>Das automatische Verbinden wartet, bis das Modem frei ist.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_PAUSE</source>
+        <translation>Das automatische Verbinden versucht es bald noch einmal.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_REFUSED</source>
+        <translation>Das automatische Verbinden ruht, weil das Netz „%1“ abgelehnt hat. Berichtigen Sie Benutzernamen und Kennwort oder verbinden Sie sich selbst.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_FAILED</source>
+        <translation>Das automatische Verbinden ruht: Ein neuer Versuch schlüge ebenso fehl.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_MUST_ASK</source>
+        <translation>Das automatische Verbinden kann „%1“ nicht verwenden, da es nach Benutzernamen und Kennwort fragt.</translation>
     </message>
 </context>
 <context>

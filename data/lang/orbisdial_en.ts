@@ -49,34 +49,294 @@
         <translation>There is no profile "%1".</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NOT_SIMULATED</source>
-        <extracomment>Why connecting failed: another modem is in use, with which this program does not dial.</extracomment>
-        <translation>Only the simulated modem can dial.</translation>
-    </message>
-    <message>
-        <source>IDS_DIALUP_NOT_READY</source>
-        <extracomment>Why connecting failed.</extracomment>
-        <translation>The modem is not ready.</translation>
-    </message>
-    <message>
-        <source>IDS_DIALUP_NO_CARRIER</source>
-        <extracomment>Why connecting failed.</extracomment>
-        <translation>The network does not answer (no carrier).</translation>
-    </message>
-    <message>
-        <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <extracomment>Why connecting failed.</extracomment>
-        <translation>The network refused the user name or the password.</translation>
-    </message>
-    <message>
-        <source>IDS_DIALUP_NO_SIGNAL</source>
-        <extracomment>Why connecting failed.</extracomment>
-        <translation>The modem has no signal.</translation>
-    </message>
-    <message>
         <source>IDS_DIALUP_CANCELLED</source>
         <extracomment>Why connecting failed: the user gave up.</extracomment>
         <translation>Connecting was cancelled.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_READY</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The modem is not ready yet. Wait a moment and try again; if that does not help, unplug it and plug it in again.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARRIER</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The network does not answer (no carrier). Try again where reception is better.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The network refused the user name or the password of "%1". Correct them in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>There is no modem. Plug one in.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_IN_USE</source>
+        <extracomment>Why connecting failed, and what to do. %1 is another program's connection.</extracomment>
+        <translation>The modem is in use by %1. End that connection first.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The card has no data service for "%1". Check the access point name (APN), or ask your operator.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REFUSED</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The network refused "%1" without saying why. Check its user name, password and access point name (APN).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_DROPPED</source>
+        <extracomment>Why the connection ended, and what to do.</extracomment>
+        <translation>The connection was lost. Connect again.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LINK</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The connection could not be started on this computer. Try again; the details may tell more.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BUSY</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The number is busy. Try again later.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DIAL_TONE</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>There is no dial tone. Check the modem's antenna and card.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_ANSWER</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The network did not answer in time. Try again later.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_APN_REFUSED</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The network refuses the access point name (APN) of "%1". Correct it in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_REGISTERED</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>No network was found. Try again where reception is better.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REGISTRATION_DENIED</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The network does not admit this card. Ask your operator whether the card is active.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARD</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>There is no SIM card in the modem. Insert one.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LOCKED</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The SIM card is locked. Enter its PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_CARD</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The modem does not accept this SIM card. Use a card of the modem's operator.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_PIN</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The PIN was wrong. Enter the right one.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MODEM_GONE</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The modem was removed or stopped working. Plug it in again.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The service for modems (ModemManager) is not running. Start it, or ask your administrator.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The service for connections (NetworkManager) is not running. Start it, or ask your administrator.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_SUSPENDED</source>
+        <extracomment>Why the connection ended, and what to do.</extracomment>
+        <translation>The connection ended because the computer went to sleep. Connect again.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_TAKEN</source>
+        <extracomment>Why the connection ended, and what to do.</extracomment>
+        <translation>Another program took the modem for a connection of its own. End that one and connect again.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The network asks for a user name and a password. Enter them for "%1" in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_ENDED_OUTSIDE</source>
+        <extracomment>Why the connection ended, and what to do.</extracomment>
+        <translation>The connection was ended outside of this program. Connect again if you need it.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_ALLOWED</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>You may not connect on this computer. Ask your administrator for the permission.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_OTHER</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>Connecting with "%1" failed. The details tell what is known.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANNOT_HANG_UP</source>
+        <extracomment>Why disconnecting failed.</extracomment>
+        <translation>The connection could not be ended. Try again.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NAME</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The name of the profile "%1" can't be used for a connection. Shorten it.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NUMBER</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The access number of "%1" can't be used. Correct it in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_APN</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The access point name (APN) of "%1" can't be used: at most 64 letters, digits, dots, hyphens and underscores. Correct it in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_ADDRESS</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The IP address of "%1" is not valid. Correct it in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The DNS server's address in "%1" is not valid. Correct it in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The alternative DNS server's address in "%1" is not valid. Correct it in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_USER</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The user name of "%1" can't be sent: at most 255 bytes. Shorten it.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_PASSWORD</source>
+        <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
+        <translation>The password of "%1" can't be sent: at most 255 bytes. Shorten it.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_PREPARING</source>
+        <extracomment>How far connecting is.</extracomment>
+        <translation>Preparing the modem</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_REGISTERING</source>
+        <extracomment>How far connecting is.</extracomment>
+        <translation>Searching the network, which may take a minute</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_CONNECTING</source>
+        <extracomment>How far connecting is.</extracomment>
+        <translation>Calling the network</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_ADDRESSING</source>
+        <extracomment>How far connecting is.</extracomment>
+        <translation>Asking for an address</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USED_BY</source>
+        <extracomment>State of the modem; %1 is another program's connection.</extracomment>
+        <translation>In use by %1</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_NUMBER</source>
+        <extracomment>Note on a profile's field.</extracomment>
+        <translation>The access number has no effect: the modem dials the network's own.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_ADDRESS</source>
+        <extracomment>Note on a profile's field.</extracomment>
+        <translation>The static IP address has no effect: the network assigns the address.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_WINS</source>
+        <extracomment>Note on a profile's fields.</extracomment>
+        <translation>The WINS servers have no effect.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
+        <extracomment>Note on a connection; %1 is an IP address.</extracomment>
+        <translation>The static IP address could not be had; the network assigned %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_80</source>
+        <extracomment>Warning, once a month.</extracomment>
+        <translation>80 percent of this month's data volume are used up.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_100</source>
+        <extracomment>Warning, once a month.</extracomment>
+        <translation>This month's data volume is used up.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_HUNG_UP</source>
+        <extracomment>What automatic connection does.</extracomment>
+        <translation>Automatic connection waits until you connect yourself.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_READY</source>
+        <extracomment>What automatic connection does.</extracomment>
+        <translation>Automatic connection waits for the modem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
+        <extracomment>What automatic connection does.</extracomment>
+        <translation>Automatic connection waits for a network.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_ROAMING</source>
+        <extracomment>What automatic connection does.</extracomment>
+        <translation>Automatic connection does not connect while roaming.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_IN_USE</source>
+        <extracomment>What automatic connection does.</extracomment>
+        <translation>Automatic connection waits until the modem is free.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_PAUSE</source>
+        <extracomment>What automatic connection does.</extracomment>
+        <translation>Automatic connection will try again soon.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_REFUSED</source>
+        <extracomment>What automatic connection does; %1 is the profile's name.</extracomment>
+        <translation>Automatic connection stopped, since the network refused "%1". Correct its user name and password, or connect yourself.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_FAILED</source>
+        <extracomment>What automatic connection does.</extracomment>
+        <translation>Automatic connection stopped: trying again would fail the same way.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_MUST_ASK</source>
+        <extracomment>What automatic connection does; %1 is the profile's name.</extracomment>
+        <translation>Automatic connection can't use "%1", which asks for user name and password.</translation>
     </message>
 </context>
 <context>

@@ -40,28 +40,236 @@
         <translation>No existe ningún perfil «%1».</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NOT_SIMULATED</source>
-        <translation>Solo el módem simulado puede marcar.</translation>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>Se ha cancelado la conexión.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
-        <translation>El módem no está listo.</translation>
+        <translation>El módem aún no está listo. Espere un momento y vuelva a intentarlo; si no ayuda, desconéctelo y vuelva a conectarlo.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>La red no responde (sin portadora).</translation>
+        <translation>La red no responde (sin portadora). Vuelva a intentarlo donde haya mejor cobertura.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <translation>La red ha rechazado el nombre de usuario o la contraseña.</translation>
+        <translation>La red rechazó el nombre de usuario o la contraseña de «%1». Corríjalos en la configuración.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NO_SIGNAL</source>
-        <translation>El módem no tiene señal.</translation>
+        <source>IDS_DIALUP_NO_MODEM</source>
+        <translation>No hay ningún módem. Conecte uno.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_CANCELLED</source>
-        <translation>Se ha cancelado la conexión.</translation>
+        <source>IDS_DIALUP_IN_USE</source>
+        <translation>El módem está en uso por %1. Termine primero esa conexión.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
+        <translation>La tarjeta no tiene servicio de datos para «%1». Compruebe el nombre del punto de acceso (APN) o pregunte a su operador.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REFUSED</source>
+        <translation>La red rechazó «%1» sin decir por qué. Compruebe el nombre de usuario, la contraseña y el punto de acceso (APN).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_DROPPED</source>
+        <translation>Se perdió la conexión. Vuelva a conectarse.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LINK</source>
+        <translation>No se pudo iniciar la conexión en este equipo. Vuelva a intentarlo; los detalles quizá digan más.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BUSY</source>
+        <translation>El número está ocupado. Vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DIAL_TONE</source>
+        <translation>No hay tono de marcado. Compruebe la antena y la tarjeta del módem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_ANSWER</source>
+        <translation>La red no respondió a tiempo. Vuelva a intentarlo más tarde.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_APN_REFUSED</source>
+        <translation>La red rechaza el nombre del punto de acceso (APN) de «%1». Corríjalo en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_REGISTERED</source>
+        <translation>No se encontró ninguna red. Vuelva a intentarlo donde haya mejor cobertura.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REGISTRATION_DENIED</source>
+        <translation>La red no admite esta tarjeta. Pregunte a su operador si está activa.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARD</source>
+        <translation>No hay tarjeta SIM en el módem. Inserte una.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LOCKED</source>
+        <translation>La tarjeta SIM está bloqueada. Introduzca su PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_CARD</source>
+        <translation>El módem no acepta esta tarjeta SIM. Use una tarjeta del operador del módem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_PIN</source>
+        <translation>El PIN era incorrecto. Introduzca el correcto.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MODEM_GONE</source>
+        <translation>El módem se retiró o dejó de funcionar. Vuelva a conectarlo.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
+        <translation>El servicio de módems (ModemManager) no está en marcha. Inícielo o pregunte a su administrador.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
+        <translation>El servicio de conexiones (NetworkManager) no está en marcha. Inícielo o pregunte a su administrador.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_SUSPENDED</source>
+        <translation>La conexión terminó porque el equipo entró en suspensión. Vuelva a conectarse.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_TAKEN</source>
+        <translation>Otro programa tomó el módem para una conexión propia. Termínela y vuelva a conectarse.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
+        <translation>La red pide un nombre de usuario y una contraseña. Introdúzcalos para «%1» en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_ENDED_OUTSIDE</source>
+        <translation>La conexión se terminó fuera de este programa. Vuelva a conectarse si la necesita.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_ALLOWED</source>
+        <translation>No tiene permiso para conectarse en este equipo. Pídalo a su administrador.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_OTHER</source>
+        <translation>Falló la conexión con «%1». Los detalles dicen lo que se sabe.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANNOT_HANG_UP</source>
+        <translation>No se pudo terminar la conexión. Vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NAME</source>
+        <translation>El nombre del perfil «%1» no sirve para una conexión. Acórtelo.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NUMBER</source>
+        <translation>El número de acceso de «%1» no sirve. Corríjalo en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_APN</source>
+        <translation>El nombre del punto de acceso (APN) de «%1» no sirve: como máximo 64 letras, cifras, puntos, guiones y guiones bajos. Corríjalo en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_ADDRESS</source>
+        <translation>La dirección IP de «%1» no es válida. Corríjala en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS</source>
+        <translation>La dirección del servidor DNS de «%1» no es válida. Corríjala en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
+        <translation>La dirección del servidor DNS alternativo de «%1» no es válida. Corríjala en la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_USER</source>
+        <translation>El nombre de usuario de «%1» no se puede enviar: como máximo 255 bytes. Acórtelo.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_PASSWORD</source>
+        <translation>La contraseña de «%1» no se puede enviar: como máximo 255 bytes. Acórtela.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_PREPARING</source>
+        <translation>Preparando el módem</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_REGISTERING</source>
+        <translation>Buscando la red, lo que puede tardar un minuto</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_CONNECTING</source>
+        <translation>Llamando a la red</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_ADDRESSING</source>
+        <translation>Solicitando una dirección</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USED_BY</source>
+        <translation>En uso por %1</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_NUMBER</source>
+        <translation>El número de acceso no tiene efecto: el módem marca el de la red.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_ADDRESS</source>
+        <translation>La dirección IP fija no tiene efecto: la red asigna la dirección.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_WINS</source>
+        <translation>Los servidores WINS no tienen efecto.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
+        <translation>No se pudo obtener la dirección IP fija; la red asignó %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_80</source>
+        <translation>Se ha consumido el 80 por ciento del volumen de datos de este mes.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_100</source>
+        <translation>El volumen de datos de este mes se ha agotado.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_HUNG_UP</source>
+        <translation>La conexión automática espera a que se conecte usted mismo.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_READY</source>
+        <translation>La conexión automática espera al módem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
+        <translation>La conexión automática espera una red.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_ROAMING</source>
+        <translation>La conexión automática no se hace en itinerancia.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_IN_USE</source>
+        <translation>La conexión automática espera a que el módem quede libre.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_PAUSE</source>
+        <translation>La conexión automática lo volverá a intentar pronto.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_REFUSED</source>
+        <translation>La conexión automática se detuvo porque la red rechazó «%1». Corrija el nombre de usuario y la contraseña, o conéctese usted mismo.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_FAILED</source>
+        <translation>La conexión automática se detuvo: otro intento fallaría igual.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_MUST_ASK</source>
+        <translation>La conexión automática no puede usar «%1», que pide nombre de usuario y contraseña.</translation>
     </message>
 </context>
 <context>

@@ -40,28 +40,236 @@
         <translation>Il n’y a pas de profil «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NOT_SIMULATED</source>
-        <translation>Seul le modem simulé peut établir une connexion.</translation>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>La connexion a été annulée.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
-        <translation>Le modem n’est pas prêt.</translation>
+        <translation>Le modem n’est pas encore prêt. Attendez un instant et réessayez&#xa0;; si cela ne suffit pas, débranchez-le et rebranchez-le.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>Le réseau ne répond pas (pas de porteuse).</translation>
+        <translation>Le réseau ne répond pas (pas de porteuse). Réessayez là où la réception est meilleure.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <translation>Le réseau a refusé le nom d’utilisateur ou le mot de passe.</translation>
+        <translation>Le réseau a refusé le nom d’utilisateur ou le mot de passe de «&#xa0;%1&#xa0;». Corrigez-les dans les paramètres.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NO_SIGNAL</source>
-        <translation>Le modem ne capte aucun signal.</translation>
+        <source>IDS_DIALUP_NO_MODEM</source>
+        <translation>Il n’y a pas de modem. Branchez-en un.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_CANCELLED</source>
-        <translation>La connexion a été annulée.</translation>
+        <source>IDS_DIALUP_IN_USE</source>
+        <translation>Le modem est utilisé par %1. Terminez d’abord cette connexion.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
+        <translation>La carte n’a pas de service de données pour «&#xa0;%1&#xa0;». Vérifiez le nom du point d’accès (APN) ou demandez à votre opérateur.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REFUSED</source>
+        <translation>Le réseau a refusé «&#xa0;%1&#xa0;» sans dire pourquoi. Vérifiez le nom d’utilisateur, le mot de passe et le point d’accès (APN).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_DROPPED</source>
+        <translation>La connexion a été perdue. Reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LINK</source>
+        <translation>La connexion n’a pas pu démarrer sur cet ordinateur. Réessayez&#xa0;; les détails en disent peut-être plus.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BUSY</source>
+        <translation>Le numéro est occupé. Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DIAL_TONE</source>
+        <translation>Il n’y a pas de tonalité. Vérifiez l’antenne et la carte du modem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_ANSWER</source>
+        <translation>Le réseau n’a pas répondu à temps. Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_APN_REFUSED</source>
+        <translation>Le réseau refuse le nom du point d’accès (APN) de «&#xa0;%1&#xa0;». Corrigez-le dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_REGISTERED</source>
+        <translation>Aucun réseau n’a été trouvé. Réessayez là où la réception est meilleure.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REGISTRATION_DENIED</source>
+        <translation>Le réseau n’admet pas cette carte. Demandez à votre opérateur si elle est active.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARD</source>
+        <translation>Il n’y a pas de carte SIM dans le modem. Insérez-en une.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LOCKED</source>
+        <translation>La carte SIM est verrouillée. Saisissez son code PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_CARD</source>
+        <translation>Le modem n’accepte pas cette carte SIM. Utilisez une carte de l’opérateur du modem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_PIN</source>
+        <translation>Le code PIN était faux. Saisissez le bon.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MODEM_GONE</source>
+        <translation>Le modem a été retiré ou ne fonctionne plus. Rebranchez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
+        <translation>Le service des modems (ModemManager) ne fonctionne pas. Démarrez-le ou demandez à votre administrateur.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
+        <translation>Le service des connexions (NetworkManager) ne fonctionne pas. Démarrez-le ou demandez à votre administrateur.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_SUSPENDED</source>
+        <translation>La connexion a pris fin parce que l’ordinateur s’est mis en veille. Reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_TAKEN</source>
+        <translation>Un autre programme a pris le modem pour sa propre connexion. Terminez celle-ci et reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
+        <translation>Le réseau demande un nom d’utilisateur et un mot de passe. Saisissez-les pour «&#xa0;%1&#xa0;» dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_ENDED_OUTSIDE</source>
+        <translation>La connexion a été terminée en dehors de ce programme. Reconnectez-vous si besoin.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_ALLOWED</source>
+        <translation>Vous n’êtes pas autorisé à vous connecter sur cet ordinateur. Demandez la permission à votre administrateur.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_OTHER</source>
+        <translation>La connexion avec «&#xa0;%1&#xa0;» a échoué. Les détails disent ce que l’on sait.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANNOT_HANG_UP</source>
+        <translation>La connexion n’a pas pu être terminée. Réessayez.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NAME</source>
+        <translation>Le nom du profil «&#xa0;%1&#xa0;» ne convient pas à une connexion. Raccourcissez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NUMBER</source>
+        <translation>Le numéro d’accès de «&#xa0;%1&#xa0;» n’est pas utilisable. Corrigez-le dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_APN</source>
+        <translation>Le nom du point d’accès (APN) de «&#xa0;%1&#xa0;» n’est pas utilisable&#xa0;: 64 lettres, chiffres, points, traits d’union et soulignés au plus. Corrigez-le dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_ADDRESS</source>
+        <translation>L’adresse IP de «&#xa0;%1&#xa0;» n’est pas valable. Corrigez-la dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS</source>
+        <translation>L’adresse du serveur DNS de «&#xa0;%1&#xa0;» n’est pas valable. Corrigez-la dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
+        <translation>L’adresse du serveur DNS secondaire de «&#xa0;%1&#xa0;» n’est pas valable. Corrigez-la dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_USER</source>
+        <translation>Le nom d’utilisateur de «&#xa0;%1&#xa0;» ne peut pas être envoyé&#xa0;: 255 octets au plus. Raccourcissez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_PASSWORD</source>
+        <translation>Le mot de passe de «&#xa0;%1&#xa0;» ne peut pas être envoyé&#xa0;: 255 octets au plus. Raccourcissez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_PREPARING</source>
+        <translation>Préparation du modem</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_REGISTERING</source>
+        <translation>Recherche du réseau, ce qui peut prendre une minute</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_CONNECTING</source>
+        <translation>Appel du réseau</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_ADDRESSING</source>
+        <translation>Demande d’une adresse</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USED_BY</source>
+        <translation>Utilisé par %1</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_NUMBER</source>
+        <translation>Le numéro d’accès n’a pas d’effet&#xa0;: le modem compose celui du réseau.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_ADDRESS</source>
+        <translation>L’adresse IP fixe n’a pas d’effet&#xa0;: le réseau attribue l’adresse.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_WINS</source>
+        <translation>Les serveurs WINS n’ont pas d’effet.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
+        <translation>L’adresse IP fixe n’a pas pu être obtenue&#xa0;; le réseau a attribué %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_80</source>
+        <translation>80 pour cent du volume de données de ce mois sont consommés.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_100</source>
+        <translation>Le volume de données de ce mois est épuisé.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_HUNG_UP</source>
+        <translation>La connexion automatique attend que vous vous connectiez vous-même.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_READY</source>
+        <translation>La connexion automatique attend le modem.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
+        <translation>La connexion automatique attend un réseau.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_ROAMING</source>
+        <translation>La connexion automatique ne se fait pas en itinérance.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_IN_USE</source>
+        <translation>La connexion automatique attend que le modem soit libre.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_PAUSE</source>
+        <translation>La connexion automatique réessaiera bientôt.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_REFUSED</source>
+        <translation>La connexion automatique s’est arrêtée, car le réseau a refusé «&#xa0;%1&#xa0;». Corrigez le nom d’utilisateur et le mot de passe, ou connectez-vous vous-même.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_FAILED</source>
+        <translation>La connexion automatique s’est arrêtée&#xa0;: un nouvel essai échouerait de même.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_MUST_ASK</source>
+        <translation>La connexion automatique ne peut pas utiliser «&#xa0;%1&#xa0;», qui demande le nom d’utilisateur et le mot de passe.</translation>
     </message>
 </context>
 <context>

@@ -40,28 +40,236 @@
         <translation>Профиля «%1» нет.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NOT_SIMULATED</source>
-        <translation>Дозвон возможен только через имитацию модема.</translation>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>Подключение отменено.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
-        <translation>Модем не готов.</translation>
+        <translation>Модем ещё не готов. Подождите немного и повторите попытку; если не поможет, отключите его и подключите снова.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>Сеть не отвечает (нет несущей).</translation>
+        <translation>Сеть не отвечает (нет несущей). Повторите попытку там, где приём лучше.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <translation>Сеть отклонила имя пользователя или пароль.</translation>
+        <translation>Сеть отклонила имя пользователя или пароль профиля «%1». Исправьте их в настройках.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NO_SIGNAL</source>
-        <translation>Нет сигнала сети.</translation>
+        <source>IDS_DIALUP_NO_MODEM</source>
+        <translation>Модема нет. Подключите его.</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_CANCELLED</source>
-        <translation>Подключение отменено.</translation>
+        <source>IDS_DIALUP_IN_USE</source>
+        <translation>Модем занят: %1. Сначала завершите то соединение.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
+        <translation>На карте нет услуги передачи данных для «%1». Проверьте точку доступа (APN) или спросите оператора.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REFUSED</source>
+        <translation>Сеть отклонила «%1» без объяснения. Проверьте имя пользователя, пароль и точку доступа (APN).</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_DROPPED</source>
+        <translation>Соединение потеряно. Подключитесь снова.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LINK</source>
+        <translation>Не удалось начать соединение на этом компьютере. Повторите попытку; возможно, подробности скажут больше.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BUSY</source>
+        <translation>Номер занят. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DIAL_TONE</source>
+        <translation>Нет гудка. Проверьте антенну и карту модема.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_ANSWER</source>
+        <translation>Сеть не ответила вовремя. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_APN_REFUSED</source>
+        <translation>Сеть не принимает точку доступа (APN) профиля «%1». Исправьте её в настройках.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_REGISTERED</source>
+        <translation>Сеть не найдена. Повторите попытку там, где приём лучше.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REGISTRATION_DENIED</source>
+        <translation>Сеть не допускает эту карту. Спросите оператора, активна ли она.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARD</source>
+        <translation>В модеме нет SIM-карты. Вставьте её.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LOCKED</source>
+        <translation>SIM-карта заблокирована. Введите её PIN-код.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_CARD</source>
+        <translation>Модем не принимает эту SIM-карту. Используйте карту оператора модема.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_PIN</source>
+        <translation>PIN-код неверен. Введите правильный.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MODEM_GONE</source>
+        <translation>Модем извлечён или перестал работать. Подключите его снова.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
+        <translation>Служба модемов (ModemManager) не запущена. Запустите её или обратитесь к администратору.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
+        <translation>Служба соединений (NetworkManager) не запущена. Запустите её или обратитесь к администратору.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_SUSPENDED</source>
+        <translation>Соединение завершено, так как компьютер перешёл в спящий режим. Подключитесь снова.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_TAKEN</source>
+        <translation>Другая программа заняла модем своим соединением. Завершите его и подключитесь снова.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
+        <translation>Сеть требует имя пользователя и пароль. Введите их для «%1» в настройках.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_ENDED_OUTSIDE</source>
+        <translation>Соединение завершено вне этой программы. Подключитесь снова, если оно нужно.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_ALLOWED</source>
+        <translation>Вам не разрешено подключаться на этом компьютере. Попросите разрешения у администратора.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_OTHER</source>
+        <translation>Не удалось подключиться с профилем «%1». Что известно, сказано в подробностях.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANNOT_HANG_UP</source>
+        <translation>Не удалось завершить соединение. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NAME</source>
+        <translation>Имя профиля «%1» не годится для соединения. Сократите его.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NUMBER</source>
+        <translation>Номер доступа профиля «%1» непригоден. Исправьте его в настройках.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_APN</source>
+        <translation>Точка доступа (APN) профиля «%1» непригодна: не больше 64 латинских букв, цифр, точек, дефисов и подчёркиваний. Исправьте её в настройках.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_ADDRESS</source>
+        <translation>IP-адрес профиля «%1» недопустим. Исправьте его в настройках.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS</source>
+        <translation>Адрес DNS-сервера профиля «%1» недопустим. Исправьте его в настройках.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
+        <translation>Адрес дополнительного DNS-сервера профиля «%1» недопустим. Исправьте его в настройках.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_USER</source>
+        <translation>Имя пользователя профиля «%1» нельзя передать: не больше 255 байт. Сократите его.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_PASSWORD</source>
+        <translation>Пароль профиля «%1» нельзя передать: не больше 255 байт. Сократите его.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_PREPARING</source>
+        <translation>Подготовка модема</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_REGISTERING</source>
+        <translation>Поиск сети, это может занять минуту</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_CONNECTING</source>
+        <translation>Вызов сети</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_ADDRESSING</source>
+        <translation>Запрос адреса</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USED_BY</source>
+        <translation>Занят: %1</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_NUMBER</source>
+        <translation>Номер доступа не действует: модем набирает номер самой сети.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_ADDRESS</source>
+        <translation>Постоянный IP-адрес не действует: адрес назначает сеть.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_WINS</source>
+        <translation>Серверы WINS не действуют.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
+        <translation>Постоянный IP-адрес получить не удалось; сеть назначила %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_80</source>
+        <translation>Израсходовано 80 процентов месячного объёма данных.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_100</source>
+        <translation>Месячный объём данных исчерпан.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_HUNG_UP</source>
+        <translation>Автоматическое подключение ждёт, пока вы подключитесь сами.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_READY</source>
+        <translation>Автоматическое подключение ждёт модем.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
+        <translation>Автоматическое подключение ждёт сеть.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_ROAMING</source>
+        <translation>Автоматическое подключение не действует в роуминге.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_IN_USE</source>
+        <translation>Автоматическое подключение ждёт, пока модем освободится.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_PAUSE</source>
+        <translation>Автоматическое подключение скоро повторит попытку.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_REFUSED</source>
+        <translation>Автоматическое подключение остановлено: сеть отклонила «%1». Исправьте имя пользователя и пароль или подключитесь сами.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_FAILED</source>
+        <translation>Автоматическое подключение остановлено: новая попытка закончилась бы так же.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_MUST_ASK</source>
+        <translation>Автоматическое подключение не может использовать «%1»: этот профиль спрашивает имя пользователя и пароль.</translation>
     </message>
 </context>
 <context>

@@ -40,28 +40,236 @@
         <translation>没有配置文件“%1”。</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NOT_SIMULATED</source>
-        <translation>只有模拟调制解调器可以拨号。</translation>
+        <source>IDS_DIALUP_CANCELLED</source>
+        <translation>连接已取消。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
-        <translation>调制解调器未就绪。</translation>
+        <translation>调制解调器尚未就绪。请稍候再试；如果仍不行，请拔下后重新插入。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>网络无应答（无载波）。</translation>
+        <translation>网络没有应答（无载波）。请在信号较好的地方重试。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <translation>网络拒绝了用户名或密码。</translation>
+        <translation>网络拒绝了“%1”的用户名或密码。请在设置中更正。</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_NO_SIGNAL</source>
-        <translation>调制解调器没有信号。</translation>
+        <source>IDS_DIALUP_NO_MODEM</source>
+        <translation>没有调制解调器。请插入一个。</translation>
     </message>
     <message>
-        <source>IDS_DIALUP_CANCELLED</source>
-        <translation>连接已取消。</translation>
+        <source>IDS_DIALUP_IN_USE</source>
+        <translation>调制解调器正由 %1 使用。请先断开那个连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
+        <translation>该卡没有“%1”的数据服务。请检查接入点名称 (APN)，或询问运营商。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REFUSED</source>
+        <translation>网络拒绝了“%1”，未说明原因。请检查其用户名、密码和接入点名称 (APN)。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_DROPPED</source>
+        <translation>连接已断开。请重新连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LINK</source>
+        <translation>无法在这台计算机上启动连接。请重试；详细信息可能有更多说明。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BUSY</source>
+        <translation>号码占线。请稍后重试。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_DIAL_TONE</source>
+        <translation>没有拨号音。请检查调制解调器的天线和卡。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_ANSWER</source>
+        <translation>网络未及时应答。请稍后重试。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_APN_REFUSED</source>
+        <translation>网络拒绝“%1”的接入点名称 (APN)。请在设置中更正。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_REGISTERED</source>
+        <translation>未找到网络。请在信号较好的地方重试。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_REGISTRATION_DENIED</source>
+        <translation>网络不接纳此卡。请询问运营商该卡是否已启用。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_CARD</source>
+        <translation>调制解调器中没有 SIM 卡。请插入一张。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_LOCKED</source>
+        <translation>SIM 卡已锁定。请输入其 PIN。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_CARD</source>
+        <translation>调制解调器不接受此 SIM 卡。请使用该调制解调器所属运营商的卡。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_WRONG_PIN</source>
+        <translation>PIN 错误。请输入正确的 PIN。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MODEM_GONE</source>
+        <translation>调制解调器已被移除或停止工作。请重新插入。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
+        <translation>调制解调器服务 (ModemManager) 未运行。请启动它，或询问管理员。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
+        <translation>连接服务 (NetworkManager) 未运行。请启动它，或询问管理员。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_SUSPENDED</source>
+        <translation>计算机进入睡眠，连接已结束。请重新连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_TAKEN</source>
+        <translation>另一个程序占用了调制解调器。请断开那个连接后重新连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
+        <translation>网络要求用户名和密码。请在设置中为“%1”输入。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_ENDED_OUTSIDE</source>
+        <translation>连接在本程序之外被结束。如有需要请重新连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOT_ALLOWED</source>
+        <translation>您无权在这台计算机上连接。请向管理员申请权限。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_OTHER</source>
+        <translation>使用“%1”连接失败。详细信息中有已知情况。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_CANNOT_HANG_UP</source>
+        <translation>无法结束连接。请重试。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NAME</source>
+        <translation>配置文件名称“%1”不能用于连接。请缩短它。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_NUMBER</source>
+        <translation>“%1”的接入号码不能使用。请在设置中更正。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_APN</source>
+        <translation>“%1”的接入点名称 (APN) 不能使用：最多 64 个字母、数字、点、连字符和下划线。请在设置中更正。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_ADDRESS</source>
+        <translation>“%1”的 IP 地址无效。请在设置中更正。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS</source>
+        <translation>“%1”的 DNS 服务器地址无效。请在设置中更正。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
+        <translation>“%1”的备用 DNS 服务器地址无效。请在设置中更正。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_USER</source>
+        <translation>无法发送“%1”的用户名：最多 255 字节。请缩短它。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BAD_PASSWORD</source>
+        <translation>无法发送“%1”的密码：最多 255 字节。请缩短它。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_PREPARING</source>
+        <translation>正在准备调制解调器</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_REGISTERING</source>
+        <translation>正在搜索网络，可能需要一分钟</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_CONNECTING</source>
+        <translation>正在呼叫网络</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STEP_ADDRESSING</source>
+        <translation>正在请求地址</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USED_BY</source>
+        <translation>正由 %1 使用</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_NUMBER</source>
+        <translation>接入号码不起作用：调制解调器拨打网络自己的号码。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_ADDRESS</source>
+        <translation>静态 IP 地址不起作用：地址由网络分配。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_WINS</source>
+        <translation>WINS 服务器不起作用。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
+        <translation>未能获得静态 IP 地址；网络分配了 %1。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_80</source>
+        <translation>本月流量已用去 80%。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USAGE_100</source>
+        <translation>本月流量已用完。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_HUNG_UP</source>
+        <translation>自动连接等待您自行连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_READY</source>
+        <translation>自动连接等待调制解调器。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
+        <translation>自动连接等待网络。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_ROAMING</source>
+        <translation>漫游时不自动连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_IN_USE</source>
+        <translation>自动连接等待调制解调器空闲。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_PAUSE</source>
+        <translation>自动连接将很快重试。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_REFUSED</source>
+        <translation>自动连接已停止，因为网络拒绝了“%1”。请更正其用户名和密码，或自行连接。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_FAILED</source>
+        <translation>自动连接已停止：再次尝试仍会同样失败。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_AUTO_MUST_ASK</source>
+        <translation>自动连接无法使用“%1”，因为它会询问用户名和密码。</translation>
     </message>
 </context>
 <context>

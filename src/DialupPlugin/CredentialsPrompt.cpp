@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "DialupText.h"
+#include "ConnectionText.h"
 #include "ExtendLineEdit.h"
 
 namespace {
@@ -52,11 +52,15 @@ CredentialsPrompt::CredentialsPrompt(const QString& name, const DialupProfile& p
     retranslate();
 }
 
+QString CredentialsPrompt::user() const { return m_User->text(); }
+
+QString CredentialsPrompt::password() const { return m_Password->text(); }
+
 void CredentialsPrompt::retranslate() {
-    setWindowTitle(dialupText("IDS_DIALUP_PROMPT_TITLE"));
-    m_Text->setText(dialupText("IDS_DIALUP_PROMPT_TEXT", m_Name));
-    m_UserLabel->setText(dialupText("IDS_DIALUP_USER"));
-    m_PasswordLabel->setText(dialupText("IDS_DIALUP_PASSWORD"));
-    m_Connect->setText(dialupText("IDS_DIALUP_CONNECT"));
-    m_Cancel->setText(dialupText("IDS_DIALUP_CANCEL"));
+    setWindowTitle(ConnectionText::text("IDS_DIALUP_PROMPT_TITLE"));
+    m_Text->setText(ConnectionText::text("IDS_DIALUP_PROMPT_TEXT", m_Name));
+    m_UserLabel->setText(ConnectionText::text("IDS_DIALUP_USER"));
+    m_PasswordLabel->setText(ConnectionText::text("IDS_DIALUP_PASSWORD"));
+    m_Connect->setText(ConnectionText::text("IDS_DIALUP_CONNECT"));
+    m_Cancel->setText(ConnectionText::text("IDS_DIALUP_CANCEL"));
 }

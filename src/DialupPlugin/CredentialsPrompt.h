@@ -19,6 +19,10 @@ public:
     // The edits start with what the profile holds. The name is the profile's name as the user knows it.
     CredentialsPrompt(const QString& name, const DialupProfile& profile, QWidget* parent);
 
+    // What was typed.
+    QString user() const;
+    QString password() const;
+
     // Sets every text in the current language.
     void retranslate();
 

@@ -1,21 +1,23 @@
 // Connects with a profile of the settings plug-in, which it knows through INetConnectSetting alone.
 //
-// It dials the simulated modem: after a delay the outcome is the one that the object's properties name (see
-// IDialupUIService.h). With any other modem it refuses. A user name and password that it asks for are needed by
-// no one here, since the simulated network believes every caller: they end with the prompt.
+// Dialling is the device SDK's; here is what to dial with, whom to ask, and what to say. The connection may be another
+// program's of ours: it is shown and can be ended all the same.
 #ifndef ORBISDIAL_DIALUPPLUGIN_H
 #define ORBISDIAL_DIALUPPLUGIN_H
 
 #include <QPointer>
-#include <QTimer>
+#include <memory>
 
+#include "AutoConnector.h"
+#include "ConnectionWatch.h"
+#include "DataConnection.h"
 #include "IBasePlugin.h"
 #include "IDialupUIService.h"
 #include "INotify.h"
 #include "NetConnectRecords.h"
+#include "UsageRecorder.h"
 
 class CredentialsPrompt;
-class INetConnectSetting;
 
 class DialupPlugin : public QObject, public IBasePlugin, public INotify, public IDialupUIService {
     Q_OBJECT
@@ -24,12 +26,13 @@ class DialupPlugin : public QObject, public IBasePlugin, public INotify, public 
 
 public:
     DialupPlugin();
+    ~DialupPlugin() override;
 
     void Release() override {}
     int GetLastError() override { return 0; }
     void OnDestroy() override;
-    void UnSDKRegisterEvent() override {}
-    int Init() override { return 1; }
+    void UnSDKRegisterEvent() override;
+    int Init() override;
     int GetPluginType() override { return DialupPluginKind; }
     QString GetCLSID() override { return QStringLiteral(ORBISDIAL_DIALUP_CLSID); }
     int GetVersion() override { return 0; }
@@ -43,33 +46,51 @@ public:
     // still waits for the user's answer is given up.
     int Connect(QString profileName) override;
     int Disconnect() override;
-    bool IsConnected() override { return m_State == Connected; }
-    ConnectionState GetConnectionState() override { return m_State; }
+    bool IsConnected() override { return GetConnectionState() == Connected; }
+    ConnectionState GetConnectionState() override;
     QString GetLastFailure() override;
     bool GetConnectedProfileName(QString* name) override;
 
 private:
-    enum Status { Begun = 0, Refused = 1, ObjectMissing = 13, NoProfile = 23 };
+    enum Status { Begun = 0, Refused = 1, CannotEnd = 2, ObjectMissing = 13, BadProfile = 22, NoProfile = 23 };
+
+    // Why there is no connection: a failure of the SDK's, or else a text of ours. Empty: nothing to say.
+    struct Problem {
+        int failure = VRKS_FAILURE_NONE;
+        QString words = {};
+        const char* textId = nullptr;
+    };
 
     int findProfile(DialupProfile* profile);
+    int checkProfile(const DialupProfile& profile);
     int checkModem();
-    bool profileExists(DialupProfile* profile) const;
-    bool mustAsk(const DialupProfile& profile) const;
+    int dial(const DialupProfile& profile);
+    void dialAutomatically(const QString& profileName);
+
     void ask(const DialupProfile& profile);
     void answered(int result);
+    void dialWith(const QString& user, const QString& password);
     void closePrompt();
-    void startTimer();
-    void timeout();
-    void finishDialling();
-    int refuse(int status, const char* reason);
-    void fail(const char* reason);
-    void setState(ConnectionState state);
 
-    ConnectionState m_State = Disconnected;
-    QString m_ProfileName;            // of the connection that is up or on its way
-    const char* m_Failure = nullptr;  // the string ID of the last failure
-    QTimer m_Timer;
+    void readConnection();
+    void takeConnection(bool isAnswer);  // to a call to dial: listeners are told, whatever came of it
+    void showCall();
+    void showProblem(const Problem& problem);
+    int refuse(int status, const Problem& problem);
+    void publishTexts();
+    void publish(const char* name, const QString& text);
+    QString notes() const;
+    void notifyState();
+
+    DataConnection m_Connection;  // as the listeners know it
+    QString m_ProfileName;        // of what was tried last
+    Problem m_Problem;
+    DialupProfile m_Dialled;  // without its password
+    int m_UsedPercent = 0;
     QPointer<CredentialsPrompt> m_Prompt;
+    std::unique_ptr<ConnectionWatch> m_Watch;
+    AutoConnector m_Automatic;
+    UsageRecorder m_Usage;
 };
 
 #endif

@@ -35,8 +35,8 @@ public:
     static constexpr qint64 LongestPause = 120000;
 
     struct Candidate {
-        QString name;  // empty: there is none
-        AutoConnectSettings::Rule rule;
+        QString name = {};  // empty: there is none
+        AutoConnectSettings::Rule rule = {};
         bool mustAsk = false;
     };
 
@@ -51,6 +51,9 @@ public:
     // A dialling is about to begin, the user's or an automatic one; what observe() is told next is its outcome, also
     // when it could not even begin.
     void dials();
+
+    // The profile can't be dialled with as it is.
+    void cannotDial() { m_IsUseless = true; }
 
     // Profiles, settings or the modem changed in a way that makes a failure worth another attempt.
     void forgetFailures();

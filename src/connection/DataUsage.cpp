@@ -84,6 +84,8 @@ DataUsage::DataUsage() : DataUsage(userDataFile()) {}
 DataUsage::DataUsage(const QString& file, const QString& interfacesFolder)
     : m_File(file), m_Interfaces(interfacesFolder) {}
 
+// Whether there is anything to count. Another program's connection is not when it is met: its own program says first
+// from where.
 bool DataUsage::follow(const DataConnection& connection, const QString& imsi) {
     if (!connection.isUp() || connection.interfaceName.isEmpty()) return m_Followed.has_value();
     const QString folder = m_Interfaces + '/' + connection.interfaceName;
@@ -94,7 +96,7 @@ bool DataUsage::follow(const DataConnection& connection, const QString& imsi) {
         m_Followed = Followed{instance, imsi, connection.since, countersOf(folder).value_or(own) - own};
     }
     if (m_Followed->imsi.isEmpty()) m_Followed->imsi = imsi;
-    return true;
+    return isKnown || connection.isOwn;
 }
 
 // Another program may have counted a part. What the interface moved before the connection is not its.
@@ -102,9 +104,10 @@ bool DataUsage::count(const DataConnection& connection, const QString& imsi, con
     if (!follow(connection, imsi)) return true;
     const UsageTotals now = m_Followed->base + UsageTotals{connection.received, connection.sent};
     const bool isCounted = UsageFile::edit(m_File, [&](UsageRecords& records) {
-        const UsageTotals counted = larger(records.countedOf(m_Followed->instance), m_Followed->base);
+        const UsageTotals before = records.countedOf(m_Followed->instance);
+        const UsageTotals counted = larger(before, m_Followed->base);
         const UsageTotals more = now - counted;
-        if (more.all() == 0) return false;
+        if (more.all() == 0 && (counted - before).all() == 0) return false;
         UsageTotals& total = records.cards[records.cardOf(m_Followed->imsi)].months[monthOf(today)];
         total = total + more;
         records.mark(m_Followed->instance, counted + more);

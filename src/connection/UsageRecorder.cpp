@@ -1,7 +1,5 @@
 #include "UsageRecorder.h"
 
-#include "DataConnection.h"
-
 namespace {
 
 constexpr int MinuteMs = 60000;
@@ -14,9 +12,9 @@ UsageRecorder::UsageRecorder(QObject* parent) : QObject(parent) {
 }
 
 void UsageRecorder::observe(const DataConnection& connection) {
-    const bool isUp = connection.isUp();
-    if (isUp == m_EachMinute.isActive()) return;
-    if (isUp) {
+    if (connection.state == m_State) return;
+    m_State = connection.state;
+    if (connection.isUp()) {
         m_EachMinute.start();
     } else {
         m_EachMinute.stop();

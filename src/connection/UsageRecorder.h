@@ -5,9 +5,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include "DataConnection.h"
 #include "DataUsage.h"
-
-struct DataConnection;
 
 class UsageRecorder : public QObject {
     Q_OBJECT
@@ -29,6 +28,7 @@ signals:
 
 private:
     DataUsage m_Usage;
+    int m_State = VRKS_CONNECTION_DOWN;
     QTimer m_EachMinute;
 };
 

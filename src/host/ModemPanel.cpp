@@ -13,8 +13,6 @@
 #include <cstring>
 
 #include "HostText.h"
-#include "IDialupUIService.h"
-#include "Startup.h"
 
 namespace {
 
@@ -34,10 +32,10 @@ const QVector<Choice> CardModes = {
 const QVector<Choice> ProductTypes = {{nullptr, "WCDMA", 0}, {nullptr, "CDMA", VRKS_PRODUCT_TYPE_CDMA}};
 
 const QVector<Choice> Outcomes = {
-    {"IDS_HOST_MODEM_ANSWERS", nullptr, ORBISDIAL_OUTCOME_ANSWERS},
-    {"IDS_HOST_MODEM_NO_CARRIER", nullptr, ORBISDIAL_OUTCOME_NO_CARRIER},
-    {"IDS_HOST_MODEM_AUTHENTICATION_FAILS", nullptr, ORBISDIAL_OUTCOME_AUTHENTICATION_FAILS},
-    {"IDS_HOST_MODEM_NO_SIGNAL", nullptr, ORBISDIAL_OUTCOME_NO_SIGNAL},
+    {"IDS_HOST_MODEM_ANSWERS", nullptr, "answers"},
+    {"IDS_HOST_MODEM_NO_CARRIER", nullptr, "no-carrier"},
+    {"IDS_HOST_MODEM_AUTHENTICATION_FAILS", nullptr, "authentication-failed"},
+    {"IDS_HOST_MODEM_NO_SIGNAL", nullptr, "not-registered"},
 };
 
 // Every other failure under its technical name.
@@ -80,7 +78,13 @@ void retranslateBox(QComboBox* box, const QVector<Choice>& choices) {
 
 void select(QComboBox* box, const QVariant& value) { box->setCurrentIndex(qMax(0, box->findData(value))); }
 
-QObject* dialer() { return findPeer<QObject>(ORBISDIAL_DIALUP_CLSID, DialupPluginKind); }
+// The text that a setting has now; empty for one that is not there.
+QString valueOf(const char* setting) {
+    char name[VRKS_TEXT_SIZE], value[VRKS_TEXT_SIZE];
+    for (unsigned int i = 0; vrks_simulated_get_at(i, name, value) == 0; ++i)
+        if (std::strcmp(name, setting) == 0) return QString::fromUtf8(value);
+    return QString();
+}
 
 int numberAt(const char* record, int offset) {
     qint32 number = 0;
@@ -122,9 +126,7 @@ ModemPanel::ModemPanel(QWidget* parent)
     connectControls();
 }
 
-void ModemPanel::refresh() {
-    if (QObject* object = dialer()) select(m_Outcome, object->property(ORBISDIAL_SIMULATED_OUTCOME));
-}
+void ModemPanel::refresh() { select(m_Outcome, valueOf("DIAL")); }
 
 void ModemPanel::retranslate() {
     setTitle(hostText("IDS_HOST_MODEM_TITLE"));
@@ -245,7 +247,4 @@ void ModemPanel::setSystemMode(const char* name, int mode) {
     emit systemModeChanged();
 }
 
-void ModemPanel::setOutcome() {
-    if (QObject* object = dialer()) object->setProperty(ORBISDIAL_SIMULATED_OUTCOME, m_Outcome->currentData());
-    set("DIAL", m_Outcome->currentData());
-}
+void ModemPanel::setOutcome() { set("DIAL", m_Outcome->currentData()); }

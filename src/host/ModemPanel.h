@@ -23,7 +23,7 @@ public:
     // The controls start with what the modem reports now.
     explicit ModemPanel(QWidget* parent = nullptr);
 
-    // Shows the dialling outcome in force; the dial-up plug-in may have come since.
+    // Shows the dialling outcome in force.
     void refresh();
 
     void retranslate();

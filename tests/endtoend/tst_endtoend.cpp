@@ -133,7 +133,6 @@ private slots:
     }
 
     void connects() {
-        plugin(ORBISDIAL_DIALUP_CLSID, DialupPluginKind)->setProperty(ORBISDIAL_SIMULATED_DELAY, 1);
         const auto mayChange = [this] {
             selectProfile(m_Preset);
             selectProfile(marked(Name));

@@ -8,6 +8,7 @@
 //   fake.profiles  QStringList  the profiles' names; a name that begins with "Ask" wants to be asked
 //   fake.default   QString
 //   fake.neverAsk  bool         the configuration forbids to ask
+//   fake.fields    QVariantMap  what every profile holds besides, by its attributes
 #ifndef ORBISDIAL_FAKEPROFILES_H
 #define ORBISDIAL_FAKEPROFILES_H
 
@@ -35,6 +36,7 @@ inline void reset() {
     for (const char* flag : {"fake.refuse", "fake.ask", "fake.initFails", "fake.neverAsk"}) set(flag, false);
     set("fake.calls", QStringList());
     set("fake.profiles", QStringList("Home"));
+    set("fake.fields", QVariantMap());
     set("fake.default", "Home");
 }
 
@@ -77,6 +79,9 @@ public:
         profile->user = "ada";
         profile->password = "secret-of-ada";
         profile->popusername = name.startsWith("Ask") ? "true" : "false";
+        const QVariantMap fields = Fake::get("fake.fields").toMap();
+        for (const DialupProfileField& field : DialupProfileFields)
+            if (fields.contains(field.attribute)) profile->*field.member = fields[field.attribute].toString();
         return 0;
     }
     int SaveDialUpProfile(DialupProfile) override { return 0; }

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "Change.h"
+#include "ConnectionSettings.h"
 #include "FakeProfiles.h"
 #include "IBasePlugin.h"
 #include "IDialupUIService.h"
@@ -57,6 +58,8 @@ private slots:
     void init() {
         qputenv("ORBISDIAL_LIBRARY_PATH", QFile::encodeName(QFileInfo(TEXTS_DIR).path()));
         vrks_simulated_reset();
+        for (const char* setting : {"DIAL_MS", "HANG_UP_MS"}) vrks_simulated_set(setting, "40");
+        QFile::remove(m_Folder.path("config/orbisdial.ini"));
         Change::SetLanguage("en");
         Fake::reset();
         Fake::set("fake.profiles", QStringList{"Home", "Ask me"});
@@ -67,7 +70,7 @@ private slots:
         QVERIFY2(m_Object, qPrintable(m_Loader.errorString()));
         m_Service = qobject_cast<IDialupUIService*>(m_Object);
         QVERIFY(m_Service);
-        m_Object->setProperty(ORBISDIAL_SIMULATED_DELAY, 1);
+        QCOMPARE(qobject_cast<IBasePlugin*>(m_Object)->Init(), 1);
     }
 
     void cleanup() {
@@ -78,19 +81,22 @@ private slots:
     }
 
     void dials_data() {
-        const Rows<QString, State, QString> row("outcome", "end", "failure");
-        row("answers", "answers", State::Connected, "");
-        row("no carrier", "no-carrier", State::Disconnected, "no carrier");
+        const Rows<QString, State, QString, QString> row("outcome", "end", "failure", "details");
+        row("answers", "answers", State::Connected, "", "");
+        row("busy", "busy", State::Disconnected, "busy", "CME 100");
+        row("wrong password", "authentication-failed", State::Disconnected, "\"Home\"", "CME 100");
     }
 
     void dials() {
         QFETCH(QString, outcome);
         QFETCH(State, end);
-        m_Object->setProperty(ORBISDIAL_SIMULATED_OUTCOME, outcome);
+        vrks_simulated_set("DIAL", outcome.toLatin1());
+        vrks_simulated_set("DIAL_WORDS", "CME 100");
         QCOMPARE(m_Service->Connect(""), 0);
         QCOMPARE(m_Service->GetConnectionState(), State::Connecting);
         QVERIFY(!m_Service->IsConnected());
         QCOMPARE(m_Service->Connect("Home"), 1);
+        QTRY_VERIFY(!text(ORBISDIAL_DIAL_STEP).isEmpty());
         QTRY_COMPARE(m_Service->GetConnectionState(), end);
 
         QString name = "unchanged";
@@ -99,6 +105,8 @@ private slots:
         QCOMPARE(name, QString(isUp ? "Home" : "unchanged"));
         QVERIFY(!m_Service->GetConnectedProfileName(nullptr));
         compareFailure();
+        QTEST(text(ORBISDIAL_FAILURE_DETAILS), "details");
+        QCOMPARE(text(ORBISDIAL_DIAL_STEP), QString());
         QCOMPARE(m_Recorder.states, (QVector<State>{State::Connecting, end}));
     }
 
@@ -107,25 +115,146 @@ private slots:
         row("unknown profile", "Gone 100%1", "", 23, "\"Gone 100%1\"");
         row("empty default", "", "default", 23, "no default profile");
         row("no settings plug-in", "", "settings", 13, "not loaded");
-        row("modem not ready", "", "modem", 13, "not ready");
+        row("modem not ready", "", "STATUS=1", 13, "not ready");
+        row("no modem", "Ask me", "PRESENT=0", 13, "Plug one in");
+        row("locked", "", "LOCK=pin", 13, "PIN");
+        row("in use", "", "USED_BY=nmcli", 13, "in use by nmcli");
+        row("APN", "Ask me", "apn=two words", 22, "access point name (APN) of \"Ask me\"");
+        row("DNS", "", "dnsalt=300.1.1.1", 22, "alternative DNS server");
     }
 
     void refuses() {
         QFETCH(QString, profile);
         QFETCH(QString, lack);
+        const QString name = lack.section('=', 0, 0), value = lack.section('=', 1);
         if (lack == "default") Fake::set("fake.default", "");
-        if (lack == "profiles") Fake::set("fake.profiles", QStringList{"Office"});
         if (lack == "settings") Startup::GetPluginContainer()->RemovePlugin(&m_Profiles);
-        if (lack == "modem") vrks_simulated_set("STATUS", "0");
+        if (name == name.toUpper() && !value.isEmpty()) vrks_simulated_change(name.toLatin1(), value.toUtf8());
+        Fake::set("fake.fields", QVariantMap{{name, value}});
         QTEST(m_Service->Connect(profile), "status");
         QCOMPARE(m_Service->GetConnectionState(), State::Disconnected);
+        QVERIFY(!isPromptShown());
         compareFailure();
     }
 
-    void refusesOtherModems() {
+    void refusesWithoutModem() {
         if (vrks_simulated_active()) QSKIP("needs a process without the simulated modem");
         QCOMPARE(m_Service->Connect("Home"), 13);
-        QVERIFY2(m_Service->GetLastFailure().contains("simulated"), qPrintable(m_Service->GetLastFailure()));
+        QVERIFY2(m_Service->GetLastFailure().contains("ModemManager"), qPrintable(m_Service->GetLastFailure()));
+    }
+
+    // An attempt that can't begin leaves no trace of the one before it, and tells its own end.
+    void saysWhatEndedLast() {
+        vrks_simulated_set("DIAL", "busy");
+        m_Service->Connect("Home");
+        QTRY_VERIFY(m_Service->GetLastFailure().contains("busy"));
+        QCOMPARE(m_Service->Connect("Gone"), 23);
+        vrks_simulated_change("USED_BY", "nmcli");
+        QTRY_VERIFY(text(ORBISDIAL_MODEM_USED_BY).contains("nmcli"));
+        QVERIFY2(m_Service->GetLastFailure().contains("Gone"), qPrintable(m_Service->GetLastFailure()));
+        vrks_simulated_change("USED_BY", nullptr);
+        vrks_simulated_set("DIAL", "answers");
+        m_Service->Connect("Home");
+        QTRY_VERIFY(m_Service->IsConnected());
+        vrks_simulated_drop("dropped");
+        QTRY_COMPARE(m_Service->GetConnectionState(), State::Disconnected);
+        QVERIFY2(m_Service->GetLastFailure().contains("lost"), qPrintable(m_Service->GetLastFailure()));
+        QVERIFY(Change::SetLanguage("de"));
+        QVERIFY(m_Service->GetLastFailure().contains("abgebrochen"));
+    }
+
+    void saysWhatHasNoEffect() {
+        Fake::set("fake.fields", QVariantMap{{"ip", "10.0.0.9"}, {"phonenumber", "0800 1"}, {"winsalt", "10.0.0.1"}});
+        m_Service->Connect("Home");
+        QTRY_VERIFY(m_Service->IsConnected());
+        const QStringList notes = text(ORBISDIAL_CONNECTION_NOTES).split('\n');
+        QCOMPARE(notes.size(), 4);
+        QVERIFY2(notes.last().contains("192.0.2.10"), qPrintable(notes.last()));
+    }
+
+    // As orbisctl does, seen from here.
+    void showsAndEndsAnothersConnection() {
+        VRKS_DialRequest request{};
+        request.size = sizeof request;
+        request.name = "Of another program";
+        QCOMPARE(VRKS_NetConnectSrv_Dial(&request), 0L);
+        QTRY_COMPARE(m_Service->GetConnectionState(), State::Connecting);
+        QTRY_VERIFY(m_Service->IsConnected());
+        QString name;
+        QVERIFY(m_Service->GetConnectedProfileName(&name));
+        QCOMPARE(name, QString(request.name));
+        QCOMPARE(m_Service->Disconnect(), 0);
+        QTRY_COMPARE(m_Service->GetConnectionState(), State::Disconnected);
+        QCOMPARE(m_Recorder.states,
+                 (QVector<State>{State::Connecting, State::Connected, State::Disconnecting, State::Disconnected}));
+    }
+
+    void saysThatItCannotEnd() {
+        m_Service->Connect("Home");
+        QTRY_VERIFY(m_Service->IsConnected());
+        vrks_simulated_set("REFUSE_HANG_UP", "1");
+        QCOMPARE(m_Service->Disconnect(), 2);
+        QVERIFY(m_Service->IsConnected());
+        QVERIFY2(m_Service->GetLastFailure().contains("could not be ended"), qPrintable(m_Service->GetLastFailure()));
+        vrks_simulated_set("REFUSE_HANG_UP", "0");
+        QCOMPARE(m_Service->Disconnect(), 0);
+        QTRY_COMPARE(m_Service->GetConnectionState(), State::Disconnected);
+        QCOMPARE(m_Service->GetLastFailure(), QString());
+    }
+
+    void endsWithTheWindowUnlessItShallStay() {
+        for (const bool stays : {false, true}) {
+            QVERIFY(ConnectionSettings::setStaysAfterExit(stays));
+            m_Service->Connect("Home");
+            QTRY_VERIFY(m_Service->IsConnected());
+            QCOMPARE(dialled().endsWithProcess, int(!stays));
+            m_Service->Disconnect();
+            QTRY_COMPARE(m_Service->GetConnectionState(), State::Disconnected);
+        }
+    }
+
+    void connectsByItself() {
+        vrks_simulated_change("STATUS", "1");
+        QVERIFY(AutoConnectSettings::set("Home", true));
+        notify(NotifyProfilesChanged);
+        QTRY_VERIFY(text(ORBISDIAL_AUTOMATIC_HOLD).contains("modem"));
+        vrks_simulated_change("STATUS", "3");
+        QTRY_VERIFY(m_Service->IsConnected());
+        m_Service->Disconnect();
+        QTRY_VERIFY(text(ORBISDIAL_AUTOMATIC_HOLD).contains("yourself"));
+        QTest::qWait(100);  // long enough for another dialling
+        QCOMPARE(m_Service->GetConnectionState(), State::Disconnected);
+    }
+
+    void neverUsesAWrongPasswordTwice() {
+        vrks_simulated_set("DIAL", "authentication-failed");
+        QVERIFY(AutoConnectSettings::set("Home", true));
+        notify(NotifyProfilesChanged);
+        QTRY_VERIFY(text(ORBISDIAL_AUTOMATIC_HOLD).contains("\"Home\""));
+        vrks_simulated_set("DIAL", "answers");
+        notify(NotifyProfilesChanged);
+        vrks_simulated_change("SIGNAL", "50");
+        QTest::qWait(100);
+        QCOMPARE(m_Service->GetConnectionState(), State::Disconnected);
+        Fake::set("fake.fields", QVariantMap{{"password", "the right one"}});
+        notify(NotifyProfilesChanged);
+        QTRY_VERIFY(m_Service->IsConnected());
+        QCOMPARE(dialled().password, "the right one");
+    }
+
+    void automaticConnectionFollowsItsProfile() {
+        vrks_simulated_change("REGISTRATION", "roaming");
+        QVERIFY(AutoConnectSettings::set("Home", true));
+        notify(NotifyProfilesChanged);
+        QTRY_VERIFY(text(ORBISDIAL_AUTOMATIC_HOLD).contains("roaming"));
+        Fake::set("fake.profiles", QStringList{"Ask me", "House"});
+        notify(NotifyProfilesChanged);
+        QTRY_COMPARE(AutoConnectSettings::rules().keys(), QList<QString>{"House"});
+        vrks_simulated_change("IMSI", "262011234567890");  // another card has other profiles
+        Fake::set("fake.profiles", QStringList{"Ask me"});
+        notify(NotifyProfilesChanged);
+        QTest::qWait(20);
+        QVERIFY(AutoConnectSettings::isOn("House"));
     }
 
     void asks() {
@@ -136,7 +265,10 @@ private slots:
             QCOMPARE(shownChild<QLineEdit>("DialupPlugin_PasswordEdit")->echoMode(), QLineEdit::Password);
             QTest::qWait(20);
             QCOMPARE(m_Service->GetConnectionState(), State::Connecting);
+            shownChild<QLineEdit>("DialupPlugin_UserEdit")->setText("eva");
             click(isAnswered ? "DialupPlugin_ConnectButton" : "DialupPlugin_CancelButton");
+            if (isAnswered) QCOMPARE(dialled().user, "eva");
+            if (isAnswered) QCOMPARE(dialled().password, "secret-of-ada");
             QTRY_COMPARE(m_Service->GetConnectionState(), isAnswered ? State::Connected : State::Disconnected);
             QTRY_VERIFY(!isPromptShown());
             QCOMPARE(m_Service->GetLastFailure().contains("cancelled"), !isAnswered);
@@ -167,7 +299,7 @@ private slots:
     void disconnects_data() {
         const Rows<QString, State, State, QString> row("profile", "from", "next", "failure");
         row("asking", "Ask me", State::Connecting, State::Disconnected, "cancelled");
-        row("dialling", "Home", State::Connecting, State::Disconnected, "cancelled");
+        row("dialling", "Home", State::Connecting, State::Disconnecting, "cancelled");
         row("connected", "Home", State::Connected, State::Disconnecting, "");
     }
 
@@ -180,7 +312,7 @@ private slots:
         QCOMPARE(m_Service->Disconnect(), 0);
         QTEST(m_Service->GetConnectionState(), "next");
         QTRY_COMPARE(m_Service->GetConnectionState(), State::Disconnected);
-        QTest::qWait(20);  // a dialling that goes on unseen would connect now
+        QTest::qWait(60);  // a dialling that goes on unseen would connect now
         QCOMPARE(m_Service->GetConnectionState(), State::Disconnected);
         compareFailure();
         QVERIFY(!isPromptShown());
@@ -196,6 +328,14 @@ private slots:
 private:
     static bool isPromptShown() { return shownChild<QDialog>("DialupPlugin_CredentialsPrompt"); }
     int notify(unsigned int event) const { return qobject_cast<INotify*>(m_Object)->Notify(event, 0, 0); }
+
+    QString text(const char* property) const { return m_Object->property(property).toString(); }
+
+    static VRKS_DialRequest dialled() {
+        VRKS_DialRequest request{};
+        vrks_simulated_dialled(&request);
+        return request;
+    }
 
     // With a part of it in the row; an empty one stands for none.
     void compareFailure() const {

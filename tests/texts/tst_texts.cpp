@@ -82,6 +82,8 @@ const QMap<QString, QString> CodeFolders = {
     {"data", "NetConnectPlugin"},
     {"src/host", "OrbisDial"},
     {"src/DialupPlugin", "DialupPlugin"},
+    {"src/connection", "DialupPlugin"},
+    {"interfaces", "DialupPlugin"},
     {"src/cli", "NetConnectPlugin"},
 };
 

@@ -1,0 +1,154 @@
+#include "AutoConnector.h"
+
+#include <QCryptographicHash>
+#include <QEvent>
+
+#include "Change.h"
+#include "DialupProfiles.h"
+
+namespace {
+
+// A change of these makes a refused profile worth another attempt.
+QByteArray credentialsOf(const QString& name) {
+    DialupProfile profile;
+    if (!DialupProfiles::find(name, &profile)) return QByteArray();
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const QString& field : {profile.user, profile.password, profile.autoapn, profile.apn}) {
+        hash.addData(field.toUtf8());
+        hash.addData("", 1);
+    }
+    return hash.result();
+}
+
+// Presets follow the card and names the language; only among the same ones do lists tell of a renaming.
+QString readerOf(const ModemState& modem) { return modem.imsi + ' ' + Change::GetLangName(); }
+
+}  // namespace
+
+AutoConnector::AutoConnector(QObject* parent) : QObject(parent) {
+    m_Clock.start();
+    m_Pause.setSingleShot(true);
+    m_Reading.setSingleShot(true);
+    connect(&m_Pause, &QTimer::timeout, this, &AutoConnector::consider);
+    connect(&m_Reading, &QTimer::timeout, this, &AutoConnector::read);
+}
+
+void AutoConnector::start() {
+    m_IsRunning = true;
+    m_Reading.start(0);
+}
+
+void AutoConnector::stop() {
+    m_IsRunning = false;
+    m_Pause.stop();
+    m_Reading.stop();
+}
+
+void AutoConnector::connectionChanged(const DataConnection& connection) {
+    const bool isRefused = m_Policy.observe(connection, m_Clock.elapsed());
+    if (isRefused || connection.isUp()) AutoConnectSettings::setRefused(connection.name, isRefused);
+    consider();
+}
+
+// A modem that became ready, or another card, is worth another attempt.
+void AutoConnector::modemChanged() {
+    const ModemState modem = ModemState::current();
+    const QString ready = modem.obstacle() == VRKS_FAILURE_NONE ? '/' + modem.imsi : QString();
+    if (ready != m_ReadyCard && !ready.isNull()) m_Policy.forgetFailures();
+    m_ReadyCard = ready;
+    consider();
+}
+
+void AutoConnector::profilesChanged() {
+    if (m_IsRunning) m_Reading.start(0);
+}
+
+void AutoConnector::userConnects(const QString& profileName) {
+    m_Policy.userConnects(AutoConnectSettings::isOn(profileName));
+    m_Pause.stop();
+}
+
+void AutoConnector::userHangsUp() {
+    m_Policy.userHangsUp();
+    consider();
+}
+
+void AutoConnector::cannotDial() {
+    m_Policy.cannotDial();
+    consider();
+}
+
+bool AutoConnector::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::DynamicPropertyChange && !DialupProfiles::areAwaited()) {
+        watched->removeEventFilter(this);
+        profilesChanged();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void AutoConnector::read() {
+    if (AutoConnectSettings::rules().isEmpty()) {
+        m_ReadFor = QString();
+    } else if (DialupProfiles::areAwaited()) {
+        DialupProfiles::object()->installEventFilter(this);
+    } else {
+        followProfiles();
+        followCredentials();
+    }
+    modemChanged();
+}
+
+void AutoConnector::followProfiles() {
+    const QStringList names = DialupProfiles::names();
+    const QString reader = readerOf(ModemState::current());
+    if (reader == m_ReadFor) AutoConnectSettings::follow(m_Names, names);
+    m_Names = names;
+    m_ReadFor = reader;
+}
+
+void AutoConnector::followCredentials() {
+    QHash<QString, QByteArray> now;
+    const Rules rules = AutoConnectSettings::rules();
+    for (const QString& name : rules.keys()) {
+        now.insert(name, credentialsOf(name));
+        if (!m_Credentials.contains(name) || m_Credentials[name] == now[name]) continue;
+        AutoConnectSettings::setRefused(name, false);
+        m_Policy.forgetFailures();
+    }
+    m_Credentials = now;
+}
+
+void AutoConnector::consider() {
+    if (!m_IsRunning) return;
+    const Rules rules = AutoConnectSettings::rules();
+    const ModemState modem = ModemState::current();
+    const bool isReady = modem.obstacle() == VRKS_FAILURE_NONE;
+    m_Candidate =
+        isReady ? candidate(rules) : AutoConnectPolicy::Candidate{rules.isEmpty() ? QString() : rules.firstKey()};
+    const AutoConnectDecision decision = m_Policy.decide(m_Candidate, modem, m_Clock.elapsed());
+    m_Pause.stop();
+    if (decision.wait > 0) m_Pause.start(int(decision.wait));
+    setHold(decision.hold);
+    if (decision.mustDial) emit wantsToDial(m_Candidate.name);
+}
+
+// The default goes first, then the list's order.
+AutoConnectPolicy::Candidate AutoConnector::candidate(const Rules& rules) const {
+    const QString usual = DialupProfiles::defaultName();
+    if (rules.contains(usual)) return candidateNamed(usual, rules);
+    for (const QString& name : m_Names)
+        if (rules.contains(name)) return candidateNamed(name, rules);
+    return {};
+}
+
+AutoConnectPolicy::Candidate AutoConnector::candidateNamed(const QString& name, const Rules& rules) {
+    DialupProfile profile;
+    if (!DialupProfiles::find(name, &profile)) return {};
+    return {name, rules.value(name), DialupProfiles::mustAsk(profile)};
+}
+
+void AutoConnector::setHold(int hold) {
+    if (hold == m_Hold) return;
+    m_Hold = hold;
+    emit holdChanged();
+}
