@@ -2,8 +2,10 @@
 
 #include <QCryptographicHash>
 #include <QEvent>
+#include <QFileInfo>
 
 #include "Change.h"
+#include "CommonUtilsBase.h"
 #include "DialupProfiles.h"
 
 namespace {
@@ -31,6 +33,7 @@ AutoConnector::AutoConnector(QObject* parent) : QObject(parent) {
     m_Reading.setSingleShot(true);
     connect(&m_Pause, &QTimer::timeout, this, &AutoConnector::consider);
     connect(&m_Reading, &QTimer::timeout, this, &AutoConnector::read);
+    connect(&m_Settings, &QFileSystemWatcher::directoryChanged, this, &AutoConnector::profilesChanged);
 }
 
 void AutoConnector::start() {
@@ -87,6 +90,8 @@ bool AutoConnector::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void AutoConnector::read() {
+    const QString folder = QFileInfo(CommonUtilsBase::GetSettingsFile()).path();
+    if (m_Settings.directories().isEmpty() && QFileInfo(folder).isDir()) m_Settings.addPath(folder);
     if (AutoConnectSettings::rules().isEmpty()) {
         m_ReadFor = QString();
     } else if (DialupProfiles::areAwaited()) {

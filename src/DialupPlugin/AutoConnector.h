@@ -3,6 +3,7 @@
 #define ORBISDIAL_AUTOCONNECTOR_H
 
 #include <QElapsedTimer>
+#include <QFileSystemWatcher>
 #include <QHash>
 #include <QObject>
 #include <QStringList>
@@ -57,6 +58,7 @@ private:
     AutoConnectPolicy::Candidate m_Candidate;
     int m_Hold = AutoConnectIsOff;
     bool m_IsRunning = false;
+    QFileSystemWatcher m_Settings;  // their folder, since a file that is replaced is watched no more
     QTimer m_Pause;
     QTimer m_Reading;  // many notices of changed profiles are one reading
     QElapsedTimer m_Clock;

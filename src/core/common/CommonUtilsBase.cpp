@@ -51,6 +51,8 @@ bool CommonUtilsBase::SetSettings(const QString& group, const QString& key, cons
     return settings.status() == QSettings::NoError;
 }
 
+QString CommonUtilsBase::GetSettingsFile() { return QDir::cleanPath(settingsFile()); }
+
 QString CommonUtilsBase::GetPluginLibraryPath() {
     static const QString besideThisLibrary = folderOfThisLibrary() + "/orbisdial";
     const QString configured = qEnvironmentVariable("ORBISDIAL_LIBRARY_PATH");

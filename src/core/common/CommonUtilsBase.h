@@ -20,6 +20,9 @@ public:
     // user alone.
     static bool SetSettings(const QString& group, const QString& key, const QString& value);
 
+    // Where they are, to be watched for what other programs store; the file may be missing, and its folder.
+    static QString GetSettingsFile();
+
     // The directory that holds "plugins" and "lang", without a slash at its end: $ORBISDIAL_LIBRARY_PATH, or
     // else "orbisdial" beside this library.
     static QString GetPluginLibraryPath();
