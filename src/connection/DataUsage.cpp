@@ -13,6 +13,7 @@ namespace {
 
 constexpr double FirstWarning = 0.8;
 
+// Empty when there is no such directory: then nothing is counted.
 QString userDataFile() {
     unsigned short* directory = nullptr;
     if (VRKS_GetUserDataDirectory(&directory) != 0) return QString();

@@ -139,7 +139,7 @@ UsageFile::Edit::Edit(const QString& file) : m_State(new State{file, QLockFile(f
 UsageFile::Edit::~Edit() = default;
 
 bool UsageFile::Edit::begin(UsageRecords* records) {
-    if (!m_State->lock.tryLock(LockWaitMs)) return false;
+    if (m_State->file.isEmpty() || !m_State->lock.tryLock(LockWaitMs)) return false;
     m_State->found = readRecords(m_State->file, records);
     if (m_State->found != Found::Records) makeEmpty(records);
     return m_State->found != Found::Locked;
