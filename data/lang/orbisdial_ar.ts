@@ -586,10 +586,6 @@
         <translation>صفحات الإعدادات</translation>
     </message>
     <message>
-        <source>IDS_HOST_DEFAULT_PROFILE</source>
-        <translation>ملف التعريف الافتراضي: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
         <translation>لا يوجد ملف تعريف افتراضي</translation>
     </message>
@@ -618,16 +614,8 @@
         <translation>جارٍ قطع الاتصال…</translation>
     </message>
     <message>
-        <source>IDS_HOST_STATE_FAILED</source>
-        <translation>غير متصل: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DIALER</source>
         <translation>لم يتم تحميل ملحق الطلب الهاتفي</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_SIM_NONE</source>
-        <translation>لم يتم العثور على بطاقة SIM</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM</source>
@@ -688,6 +676,340 @@
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
         <translation>تعذّر حفظ الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_LABEL</source>
+        <translation>ملف التعريف:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE</source>
+        <translation>ملف التعريف المستخدم للاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_TIP</source>
+        <translation>اختر ملف تعريف أو اكتب جزءًا من اسمه</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_DEFAULT</source>
+        <translation>%1 (افتراضي)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_OWN</source>
+        <translation>ملفات التعريف الخاصة بي</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_PRESETS</source>
+        <translation>الإعدادات الجاهزة لبطاقة SIM هذه</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS</source>
+        <translation>الإعدادات…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_TITLE</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK</source>
+        <translation>إلغاء القفل…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_QUIT</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_CONNECTION</source>
+        <translation>الا&amp;تصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_HELP</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GUIDE</source>
+        <translation>الدليل</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT</source>
+        <translation>حول OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TITLE</source>
+        <translation>حول OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_VERSION</source>
+        <translation>OrbisDial %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TEXT</source>
+        <translation>مدير اتصال لأجهزة مودم النطاق العريض المحمول.
+
+رخصة MIT. يستخدم Qt %1 (LGPL) وlibsodium (ISC) وقاعدة البيانات العامة mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT_WITH</source>
+        <translation>الاتصال باستخدام</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SHOW_WINDOW</source>
+        <translation>إظهار النافذة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER_DETAIL</source>
+        <translation>الجزء المسؤول عن الاتصال في البرنامج مفقود. أعد تثبيت OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING</source>
+        <translation>جارٍ البحث عن مودم…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING_DETAIL</source>
+        <translation>سيستغرق ذلك لحظة.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE</source>
+        <translation>خدمة المودم لا تعمل</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE_DETAIL</source>
+        <translation>يعثر OrbisDial على أجهزة المودم عبر ModemManager. ثبّته وشغّله.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM</source>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM_DETAIL</source>
+        <translation>صِل مودمًا. قد يستغرق العثور على بعضها نصف دقيقة.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD</source>
+        <translation>لا توجد بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD_DETAIL</source>
+        <translation>افصل المودم وأدخل بطاقة SIM ثم أعد توصيله.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED</source>
+        <translation>بطاقة SIM مقفلة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PIN_DETAIL</source>
+        <translation>تطلب رمز PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
+        <translation>أُدخل رمز PIN خطأً مرات كثيرة. تطلب رمز PUK الذي أعطاك إياه المشغّل.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
+        <translation>لا يفتح هذا القفل رمز PIN ولا رمز PUK. اسأل المشغّل أو بائع المودم.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING</source>
+        <translation>يجري تشغيل المودم…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING_DETAIL</source>
+        <translation>سيكون جاهزًا بعد لحظة.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED</source>
+        <translation>المودم غير جاهز</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED_DETAIL</source>
+        <translation>افصله ثم أعد توصيله.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOT_REGISTERED</source>
+        <translation>غير مسجّل في أي شبكة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SEARCHING</source>
+        <translation>جارٍ البحث عن شبكة…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DENIED</source>
+        <translation>ترفض الشبكة بطاقة SIM هذه. اسأل المشغّل.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIGNAL</source>
+        <translation>الإشارة %1%</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ROAMING</source>
+        <translation>تجوال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING_TO</source>
+        <translation>جارٍ الاتصال باستخدام %1…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED</source>
+        <translation>تعذّر الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_WITH</source>
+        <translation>تعذّر الاتصال باستخدام %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_UP</source>
+        <translation>انقطع الاتصال باستخدام %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DETAILS</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TRY_AGAIN</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CURVE</source>
+        <translation>النقل خلال آخر ثلاث دقائق</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DOWN_UP</source>
+        <translation>↓ %1  ↑ %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH</source>
+        <translation>هذا الشهر: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH_OF</source>
+        <translation>هذا الشهر: %1 من %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BYTES</source>
+        <translation>%1 بايت</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBYTES</source>
+        <translation>%1 ك.ب</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABYTES</source>
+        <translation>%1 م.ب</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABYTES</source>
+        <translation>%1 غ.ب</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BITS_PER_SECOND</source>
+        <translation>%1 بت/ث</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
+        <translation>%1 كيلوبت/ث</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
+        <translation>%1 ميغابت/ث</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
+        <translation>%1 غيغابت/ث</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_TITLE</source>
+        <translation>إلغاء قفل بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN_INTRO</source>
+        <translation>تطلب بطاقة SIM رمز PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
+        <translation>أُدخل رمز PIN خطأً مرات كثيرة. أدخل رمز PUK الذي أعطاك إياه المشغّل واختر رمز PIN جديدًا.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN</source>
+        <translation>رمز PIN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK</source>
+        <translation>رمز PUK:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NEW_PIN</source>
+        <translation>رمز PIN الجديد:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_REPEAT_PIN</source>
+        <translation>أعد رمز PIN الجديد:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOW</source>
+        <translation>إلغاء القفل</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS</source>
+        <translation>المحاولات المتبقية: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS_UNKNOWN</source>
+        <translation>عدد المحاولات المتبقية غير معروف.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PIN</source>
+        <translation>إذا كانت هذه المحاولة خاطئة فستطلب البطاقة رمز PUK.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PUK</source>
+        <translation>إذا كانت هذه المحاولة خاطئة فستتعطل البطاقة نهائيًا.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_USE_LAST</source>
+        <translation>استخدام المحاولة الأخيرة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PENDING</source>
+        <translation>تتحقق البطاقة منه…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_WRONG</source>
+        <translation>الرمز خاطئ.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOT_ALLOWED</source>
+        <translation>لا يُسمح لك بإلغاء قفل البطاقة. اسأل مسؤول هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_FAILED</source>
+        <translation>تعذّر إلغاء قفل البطاقة. %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOTIFY</source>
+        <translation>إظهار رسائل حول الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE_TO_TRAY</source>
+        <translation>إغلاق النافذة يُبقي البرنامج في شريط النظام</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_START_WITH_SESSION</source>
+        <translation>البدء مع الجلسة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STAYS_CONNECTED</source>
+        <translation>البقاء متصلًا بعد إنهاء البرنامج</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_DISCONNECTS</source>
+        <translation>أنت متصل. سينتهي الاتصال بإنهاء البرنامج.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_STAYS</source>
+        <translation>أنت متصل وستبقى متصلًا بعد إنهاء البرنامج.</translation>
     </message>
     <message>
         <source>IDS_HOST_MODEM_TITLE</source>

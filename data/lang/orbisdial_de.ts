@@ -586,10 +586,6 @@
         <translation>Einstellungsseiten</translation>
     </message>
     <message>
-        <source>IDS_HOST_DEFAULT_PROFILE</source>
-        <translation>Standardprofil: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
         <translation>Kein Standardprofil</translation>
     </message>
@@ -618,16 +614,8 @@
         <translation>Verbindung wird getrennt…</translation>
     </message>
     <message>
-        <source>IDS_HOST_STATE_FAILED</source>
-        <translation>Nicht verbunden: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DIALER</source>
         <translation>Kein Einwahl-Plug-in geladen</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_SIM_NONE</source>
-        <translation>Keine SIM-Karte gefunden</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM</source>
@@ -688,6 +676,340 @@
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
         <translation>Die Einstellungen konnten nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_LABEL</source>
+        <translation>Profil:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE</source>
+        <translation>Profil für die Verbindung</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_TIP</source>
+        <translation>Ein Profil wählen oder einen Teil seines Namens eingeben</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_DEFAULT</source>
+        <translation>%1 (Standard)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_OWN</source>
+        <translation>Eigene Profile</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_PRESETS</source>
+        <translation>Vorgaben für diese SIM-Karte</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS</source>
+        <translation>Einstellungen…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_TITLE</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK</source>
+        <translation>Entsperren…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_QUIT</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_CONNECTION</source>
+        <translation>&amp;Verbindung</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_HELP</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GUIDE</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT</source>
+        <translation>Über OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TITLE</source>
+        <translation>Über OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_VERSION</source>
+        <translation>OrbisDial %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TEXT</source>
+        <translation>Ein Verbindungsmanager für Mobilfunkmodems.
+
+MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC) und der gemeinfreien Datenbank mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT_WITH</source>
+        <translation>Verbinden mit</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SHOW_WINDOW</source>
+        <translation>Fenster anzeigen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER_DETAIL</source>
+        <translation>Der Teil des Programms, der die Verbindung herstellt, fehlt. Installieren Sie OrbisDial neu.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING</source>
+        <translation>Modem wird gesucht…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING_DETAIL</source>
+        <translation>Das dauert einen Augenblick.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE</source>
+        <translation>Modemdienst läuft nicht</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE_DETAIL</source>
+        <translation>OrbisDial findet Modems über ModemManager. Installieren und starten Sie diesen Dienst.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM</source>
+        <translation>Kein Modem</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM_DETAIL</source>
+        <translation>Schließen Sie ein Modem an. Manche werden erst nach einer halben Minute gefunden.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD</source>
+        <translation>Keine SIM-Karte</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD_DETAIL</source>
+        <translation>Ziehen Sie das Modem ab, legen Sie eine SIM-Karte ein und schließen Sie es wieder an.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED</source>
+        <translation>SIM-Karte gesperrt</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PIN_DETAIL</source>
+        <translation>Sie verlangt ihre PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
+        <translation>Die PIN war zu oft falsch. Sie verlangt die PUK, die Sie von Ihrem Anbieter haben.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
+        <translation>Diese Sperre öffnet weder PIN noch PUK. Fragen Sie Ihren Anbieter oder den Verkäufer des Modems.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING</source>
+        <translation>Modem startet…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING_DETAIL</source>
+        <translation>Es ist gleich bereit.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED</source>
+        <translation>Modem nicht bereit</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED_DETAIL</source>
+        <translation>Ziehen Sie es ab und schließen Sie es wieder an.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOT_REGISTERED</source>
+        <translation>In keinem Netz angemeldet</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SEARCHING</source>
+        <translation>Netz wird gesucht…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DENIED</source>
+        <translation>Das Netz lehnt diese SIM-Karte ab. Fragen Sie Ihren Anbieter.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIGNAL</source>
+        <translation>Signal %1 %</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ROAMING</source>
+        <translation>Roaming</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING_TO</source>
+        <translation>Verbinden mit %1…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED</source>
+        <translation>Verbindung nicht möglich</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_WITH</source>
+        <translation>Verbindung mit %1 nicht möglich</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_UP</source>
+        <translation>Die Verbindung mit %1 brach ab</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DETAILS</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TRY_AGAIN</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CURVE</source>
+        <translation>Übertragung der letzten drei Minuten</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DOWN_UP</source>
+        <translation>↓ %1  ↑ %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH</source>
+        <translation>Dieser Monat: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH_OF</source>
+        <translation>Dieser Monat: %1 von %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BYTES</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBYTES</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABYTES</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABYTES</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_TITLE</source>
+        <translation>SIM-Karte entsperren</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN_INTRO</source>
+        <translation>Die SIM-Karte verlangt ihre PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
+        <translation>Die PIN war zu oft falsch. Geben Sie die PUK ein, die Sie von Ihrem Anbieter haben, und wählen Sie eine neue PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN</source>
+        <translation>PIN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK</source>
+        <translation>PUK:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NEW_PIN</source>
+        <translation>Neue PIN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_REPEAT_PIN</source>
+        <translation>Neue PIN wiederholen:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOW</source>
+        <translation>Entsperren</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS</source>
+        <translation>Verbleibende Versuche: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS_UNKNOWN</source>
+        <translation>Wie viele Versuche verbleiben, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PIN</source>
+        <translation>Ist dieser falsch, verlangt die Karte die PUK.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PUK</source>
+        <translation>Ist dieser falsch, ist die Karte für immer unbrauchbar.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_USE_LAST</source>
+        <translation>Den letzten Versuch nutzen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PENDING</source>
+        <translation>Die Karte prüft…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_WRONG</source>
+        <translation>Das war falsch.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOT_ALLOWED</source>
+        <translation>Sie dürfen die Karte nicht entsperren. Fragen Sie den Verwalter dieses Rechners.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_FAILED</source>
+        <translation>Die Karte konnte nicht entsperrt werden. %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOTIFY</source>
+        <translation>Meldungen über die Verbindung anzeigen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE_TO_TRAY</source>
+        <translation>Schließen des Fensters lässt das Programm in der Taskleiste</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_START_WITH_SESSION</source>
+        <translation>Mit der Sitzung starten</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STAYS_CONNECTED</source>
+        <translation>Nach dem Ende des Programms verbunden bleiben</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_DISCONNECTS</source>
+        <translation>Sie sind verbunden. Mit dem Programm endet die Verbindung.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_STAYS</source>
+        <translation>Sie sind verbunden und bleiben es nach dem Ende des Programms.</translation>
     </message>
     <message>
         <source>IDS_HOST_MODEM_TITLE</source>

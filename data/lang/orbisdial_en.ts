@@ -730,11 +730,6 @@
         <translation>Settings pages</translation>
     </message>
     <message>
-        <source>IDS_HOST_DEFAULT_PROFILE</source>
-        <extracomment>Bar on top; %1 is the profile's name; up to 26 characters without it.</extracomment>
-        <translation>Default profile: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
         <extracomment>Bar on top: no profile is the default one.</extracomment>
         <translation>No default profile</translation>
@@ -770,19 +765,9 @@
         <translation>Disconnecting…</translation>
     </message>
     <message>
-        <source>IDS_HOST_STATE_FAILED</source>
-        <extracomment>State in the bar after a failed attempt; %1 is a whole sentence that says why.</extracomment>
-        <translation>Not connected: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DIALER</source>
         <extracomment>State in the bar when nothing can connect.</extracomment>
         <translation>No dial-up plug-in is loaded</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_SIM_NONE</source>
-        <extracomment>Line below the bar.</extracomment>
-        <translation>No SIM card found</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM</source>
@@ -858,6 +843,340 @@
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
         <extracomment>Message: the host's settings file can't be written.</extracomment>
         <translation>The settings could not be stored.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_LABEL</source>
+        <translation>Profile:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE</source>
+        <translation>Profile to connect with</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_TIP</source>
+        <translation>Choose a profile, or type a part of its name</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_DEFAULT</source>
+        <translation>%1 (Default)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_OWN</source>
+        <translation>My profiles</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_PRESETS</source>
+        <translation>Presets for this SIM card</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS</source>
+        <translation>Settings…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_TITLE</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK</source>
+        <translation>Unlock…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_QUIT</source>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_CONNECTION</source>
+        <translation>&amp;Connection</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_HELP</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GUIDE</source>
+        <translation>Guide</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT</source>
+        <translation>About OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TITLE</source>
+        <translation>About OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_VERSION</source>
+        <translation>OrbisDial %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TEXT</source>
+        <translation>A connection manager for mobile-broadband modems.
+
+MIT licence. Made with Qt %1 (LGPL), libsodium (ISC) and the public-domain database mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT_WITH</source>
+        <translation>Connect with</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SHOW_WINDOW</source>
+        <translation>Show window</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER_DETAIL</source>
+        <translation>The part of the program that connects is missing. Install OrbisDial again.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING</source>
+        <translation>Looking for a modem…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING_DETAIL</source>
+        <translation>This takes a moment.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE</source>
+        <translation>Modem service not running</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE_DETAIL</source>
+        <translation>OrbisDial finds modems through ModemManager. Install and start it.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM</source>
+        <translation>No modem</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM_DETAIL</source>
+        <translation>Plug in a modem. Some take half a minute until they are found.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD</source>
+        <translation>No SIM card</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD_DETAIL</source>
+        <translation>Unplug the modem, put a SIM card into it, and plug it in again.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED</source>
+        <translation>SIM card locked</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PIN_DETAIL</source>
+        <translation>It asks for its PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
+        <translation>The PIN was wrong too often. It asks for the PUK that your operator gave you.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
+        <translation>Neither PIN nor PUK opens this lock. Ask your operator or the seller of the modem.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING</source>
+        <translation>Modem starting…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING_DETAIL</source>
+        <translation>It will be ready in a moment.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED</source>
+        <translation>Modem not ready</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED_DETAIL</source>
+        <translation>Unplug it and plug it in again.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOT_REGISTERED</source>
+        <translation>Not registered with a network</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SEARCHING</source>
+        <translation>Searching for a network…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DENIED</source>
+        <translation>The network refuses this SIM card. Ask your operator.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIGNAL</source>
+        <translation>signal %1 %</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ROAMING</source>
+        <translation>roaming</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING_TO</source>
+        <translation>Connecting with %1…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED</source>
+        <translation>Could not connect</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_WITH</source>
+        <translation>Could not connect with %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_UP</source>
+        <translation>The connection with %1 broke</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DETAILS</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TRY_AGAIN</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CURVE</source>
+        <translation>Transfer of the last three minutes</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DOWN_UP</source>
+        <translation>↓ %1  ↑ %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH</source>
+        <translation>This month: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH_OF</source>
+        <translation>This month: %1 of %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BYTES</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBYTES</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABYTES</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABYTES</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_TITLE</source>
+        <translation>Unlock the SIM card</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN_INTRO</source>
+        <translation>The SIM card asks for its PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
+        <translation>The PIN was wrong too often. Enter the PUK that your operator gave you, and choose a new PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN</source>
+        <translation>PIN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK</source>
+        <translation>PUK:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NEW_PIN</source>
+        <translation>New PIN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_REPEAT_PIN</source>
+        <translation>New PIN again:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOW</source>
+        <translation>Unlock</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS</source>
+        <translation>Attempts left: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS_UNKNOWN</source>
+        <translation>How many attempts are left is not known.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PIN</source>
+        <translation>When this one is wrong, the card asks for the PUK.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PUK</source>
+        <translation>When this one is wrong, the card is lost for good.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_USE_LAST</source>
+        <translation>Use the last attempt</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PENDING</source>
+        <translation>The card checks it…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_WRONG</source>
+        <translation>That was wrong.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOT_ALLOWED</source>
+        <translation>You are not allowed to unlock the card. Ask the administrator of this computer.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_FAILED</source>
+        <translation>The card could not be unlocked. %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOTIFY</source>
+        <translation>Show messages about the connection</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE_TO_TRAY</source>
+        <translation>Closing the window leaves the program in the tray</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_START_WITH_SESSION</source>
+        <translation>Start with the session</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STAYS_CONNECTED</source>
+        <translation>Stay connected when the program ends</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_DISCONNECTS</source>
+        <translation>You are connected. The connection ends with the program.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_STAYS</source>
+        <translation>You are connected, and stay so when the program ends.</translation>
     </message>
     <message>
         <source>IDS_HOST_MODEM_TITLE</source>

@@ -586,10 +586,6 @@
         <translation>Páginas de configuración</translation>
     </message>
     <message>
-        <source>IDS_HOST_DEFAULT_PROFILE</source>
-        <translation>Perfil por defecto: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
         <translation>Sin perfil por defecto</translation>
     </message>
@@ -618,16 +614,8 @@
         <translation>Desconectando…</translation>
     </message>
     <message>
-        <source>IDS_HOST_STATE_FAILED</source>
-        <translation>Sin conexión: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DIALER</source>
         <translation>No hay ningún complemento de acceso telefónico cargado</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_SIM_NONE</source>
-        <translation>No se ha encontrado ninguna tarjeta SIM</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM</source>
@@ -688,6 +676,340 @@
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
         <translation>No se pudo guardar la configuración.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_LABEL</source>
+        <translation>Perfil:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE</source>
+        <translation>Perfil con el que conectar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_TIP</source>
+        <translation>Elija un perfil o escriba una parte de su nombre</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_DEFAULT</source>
+        <translation>%1 (predeterminado)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_OWN</source>
+        <translation>Mis perfiles</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_PRESETS</source>
+        <translation>Preajustes para esta tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS</source>
+        <translation>Ajustes…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_TITLE</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK</source>
+        <translation>Desbloquear…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_QUIT</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_CONNECTION</source>
+        <translation>&amp;Conexión</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_HELP</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GUIDE</source>
+        <translation>Guía</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT</source>
+        <translation>Acerca de OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TITLE</source>
+        <translation>Acerca de OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_VERSION</source>
+        <translation>OrbisDial %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TEXT</source>
+        <translation>Un gestor de conexiones para módems de banda ancha móvil.
+
+Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC) y la base de datos de dominio público mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT_WITH</source>
+        <translation>Conectar con</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SHOW_WINDOW</source>
+        <translation>Mostrar la ventana</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER_DETAIL</source>
+        <translation>Falta la parte del programa que establece la conexión. Vuelva a instalar OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING</source>
+        <translation>Buscando un módem…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING_DETAIL</source>
+        <translation>Esto tarda un momento.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE</source>
+        <translation>El servicio de módems no funciona</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE_DETAIL</source>
+        <translation>OrbisDial encuentra los módems mediante ModemManager. Instálelo e inícielo.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM</source>
+        <translation>Ningún módem</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM_DETAIL</source>
+        <translation>Conecte un módem. Algunos tardan medio minuto en detectarse.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD</source>
+        <translation>Sin tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD_DETAIL</source>
+        <translation>Desconecte el módem, inserte una tarjeta SIM y vuelva a conectarlo.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED</source>
+        <translation>Tarjeta SIM bloqueada</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PIN_DETAIL</source>
+        <translation>Pide su PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
+        <translation>El PIN fue incorrecto demasiadas veces. Pide el PUK que le dio su operador.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
+        <translation>Ni el PIN ni el PUK abren este bloqueo. Consulte a su operador o al vendedor del módem.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING</source>
+        <translation>El módem se está iniciando…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING_DETAIL</source>
+        <translation>Estará listo en un momento.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED</source>
+        <translation>El módem no está listo</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED_DETAIL</source>
+        <translation>Desconéctelo y vuelva a conectarlo.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOT_REGISTERED</source>
+        <translation>No registrado en ninguna red</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SEARCHING</source>
+        <translation>Buscando red…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DENIED</source>
+        <translation>La red rechaza esta tarjeta SIM. Consulte a su operador.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIGNAL</source>
+        <translation>señal %1 %</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ROAMING</source>
+        <translation>itinerancia</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING_TO</source>
+        <translation>Conectando con %1…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED</source>
+        <translation>No se pudo conectar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_WITH</source>
+        <translation>No se pudo conectar con %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_UP</source>
+        <translation>La conexión con %1 se cortó</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DETAILS</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TRY_AGAIN</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CURVE</source>
+        <translation>Transferencia de los últimos tres minutos</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DOWN_UP</source>
+        <translation>↓ %1  ↑ %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH</source>
+        <translation>Este mes: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH_OF</source>
+        <translation>Este mes: %1 de %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BYTES</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBYTES</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABYTES</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABYTES</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_TITLE</source>
+        <translation>Desbloquear la tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN_INTRO</source>
+        <translation>La tarjeta SIM pide su PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
+        <translation>El PIN fue incorrecto demasiadas veces. Introduzca el PUK que le dio su operador y elija un PIN nuevo.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN</source>
+        <translation>PIN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK</source>
+        <translation>PUK:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NEW_PIN</source>
+        <translation>PIN nuevo:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_REPEAT_PIN</source>
+        <translation>Repetir el PIN nuevo:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOW</source>
+        <translation>Desbloquear</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS</source>
+        <translation>Intentos restantes: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS_UNKNOWN</source>
+        <translation>No se sabe cuántos intentos quedan.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PIN</source>
+        <translation>Si este es incorrecto, la tarjeta pedirá el PUK.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PUK</source>
+        <translation>Si este es incorrecto, la tarjeta quedará inservible para siempre.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_USE_LAST</source>
+        <translation>Usar el último intento</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PENDING</source>
+        <translation>La tarjeta lo comprueba…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_WRONG</source>
+        <translation>El código es incorrecto.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOT_ALLOWED</source>
+        <translation>No tiene permiso para desbloquear la tarjeta. Consulte al administrador de este equipo.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_FAILED</source>
+        <translation>No se pudo desbloquear la tarjeta. %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOTIFY</source>
+        <translation>Mostrar mensajes sobre la conexión</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE_TO_TRAY</source>
+        <translation>Cerrar la ventana deja el programa en la bandeja</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_START_WITH_SESSION</source>
+        <translation>Iniciar con la sesión</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STAYS_CONNECTED</source>
+        <translation>Seguir conectado al salir del programa</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_DISCONNECTS</source>
+        <translation>Está conectado. La conexión terminará con el programa.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_STAYS</source>
+        <translation>Está conectado y lo seguirá estando al salir del programa.</translation>
     </message>
     <message>
         <source>IDS_HOST_MODEM_TITLE</source>

@@ -586,10 +586,6 @@
         <translation>Pages de paramètres</translation>
     </message>
     <message>
-        <source>IDS_HOST_DEFAULT_PROFILE</source>
-        <translation>Profil par défaut&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
         <translation>Aucun profil par défaut</translation>
     </message>
@@ -618,16 +614,8 @@
         <translation>Déconnexion en cours…</translation>
     </message>
     <message>
-        <source>IDS_HOST_STATE_FAILED</source>
-        <translation>Non connecté&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>IDS_HOST_NO_DIALER</source>
         <translation>Aucun module d’accès à distance n’est chargé</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_SIM_NONE</source>
-        <translation>Aucune carte SIM trouvée</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM</source>
@@ -688,6 +676,340 @@
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
         <translation>Les paramètres n’ont pas pu être enregistrés.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_LABEL</source>
+        <translation>Profil :</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE</source>
+        <translation>Profil de connexion</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_TIP</source>
+        <translation>Choisissez un profil ou tapez une partie de son nom</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILE_DEFAULT</source>
+        <translation>%1 (par défaut)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_OWN</source>
+        <translation>Mes profils</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PROFILES_PRESETS</source>
+        <translation>Préréglages pour cette carte SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS</source>
+        <translation>Paramètres…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SETTINGS_TITLE</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK</source>
+        <translation>Déverrouiller…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_QUIT</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_CONNECTION</source>
+        <translation>&amp;Connexion</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MENU_HELP</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GUIDE</source>
+        <translation>Guide</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT</source>
+        <translation>À propos d’OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TITLE</source>
+        <translation>À propos d’OrbisDial</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_VERSION</source>
+        <translation>OrbisDial %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ABOUT_TEXT</source>
+        <translation>Un gestionnaire de connexions pour modems mobiles à haut débit.
+
+Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC) et la base de données du domaine public mobile-broadband-provider-info.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CONNECT_WITH</source>
+        <translation>Se connecter avec</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SHOW_WINDOW</source>
+        <translation>Afficher la fenêtre</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_DIALER_DETAIL</source>
+        <translation>La partie du programme qui établit la connexion est absente. Réinstallez OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING</source>
+        <translation>Recherche d’un modem…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOOKING_DETAIL</source>
+        <translation>Cela prend un instant.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE</source>
+        <translation>Service de modem arrêté</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_SERVICE_DETAIL</source>
+        <translation>OrbisDial trouve les modems grâce à ModemManager. Installez-le et démarrez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM</source>
+        <translation>Aucun modem</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_MODEM_DETAIL</source>
+        <translation>Branchez un modem. Certains ne sont détectés qu’après une demi-minute.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD</source>
+        <translation>Pas de carte SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_CARD_DETAIL</source>
+        <translation>Débranchez le modem, insérez une carte SIM, puis rebranchez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED</source>
+        <translation>Carte SIM verrouillée</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PIN_DETAIL</source>
+        <translation>Elle demande son code PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
+        <translation>Le code PIN a été erroné trop souvent. Elle demande le code PUK fourni par votre opérateur.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
+        <translation>Ni le code PIN ni le code PUK ne lèvent ce verrou. Adressez-vous à votre opérateur ou au vendeur du modem.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING</source>
+        <translation>Démarrage du modem…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STARTING_DETAIL</source>
+        <translation>Il sera prêt dans un instant.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED</source>
+        <translation>Modem non prêt</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MODEM_FAILED_DETAIL</source>
+        <translation>Débranchez-le et rebranchez-le.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOT_REGISTERED</source>
+        <translation>Non inscrit sur un réseau</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SEARCHING</source>
+        <translation>Recherche d’un réseau…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DENIED</source>
+        <translation>Le réseau refuse cette carte SIM. Adressez-vous à votre opérateur.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_SIGNAL</source>
+        <translation>signal %1 %</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_ROAMING</source>
+        <translation>itinérance</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STATE_CONNECTING_TO</source>
+        <translation>Connexion avec %1…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED</source>
+        <translation>Connexion impossible</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_WITH</source>
+        <translation>Connexion avec %1 impossible</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_UP</source>
+        <translation>La connexion avec %1 a été interrompue</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DETAILS</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_TRY_AGAIN</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CURVE</source>
+        <translation>Transfert des trois dernières minutes</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_DOWN_UP</source>
+        <translation>↓ %1  ↑ %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH</source>
+        <translation>Ce mois-ci : %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MONTH_OF</source>
+        <translation>Ce mois-ci : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BYTES</source>
+        <translation>%1 o</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBYTES</source>
+        <translation>%1 ko</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABYTES</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABYTES</source>
+        <translation>%1 Go</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_TITLE</source>
+        <translation>Déverrouiller la carte SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN_INTRO</source>
+        <translation>La carte SIM demande son code PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
+        <translation>Le code PIN a été erroné trop souvent. Entrez le code PUK fourni par votre opérateur et choisissez un nouveau code PIN.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PIN</source>
+        <translation>Code PIN :</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PUK</source>
+        <translation>Code PUK :</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NEW_PIN</source>
+        <translation>Nouveau code PIN :</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_REPEAT_PIN</source>
+        <translation>Confirmer le code PIN :</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOW</source>
+        <translation>Déverrouiller</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS</source>
+        <translation>Tentatives restantes : %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_ATTEMPTS_UNKNOWN</source>
+        <translation>Le nombre de tentatives restantes est inconnu.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PIN</source>
+        <translation>En cas d’erreur, la carte demandera le code PUK.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_LAST_PUK</source>
+        <translation>En cas d’erreur, la carte sera définitivement inutilisable.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_USE_LAST</source>
+        <translation>Utiliser la dernière tentative</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_PENDING</source>
+        <translation>La carte vérifie…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_WRONG</source>
+        <translation>Le code est erroné.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_NOT_ALLOWED</source>
+        <translation>Vous n’êtes pas autorisé à déverrouiller la carte. Adressez-vous à l’administrateur de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_UNLOCK_FAILED</source>
+        <translation>La carte n’a pas pu être déverrouillée. %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NOTIFY</source>
+        <translation>Afficher des messages sur la connexion</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CLOSE_TO_TRAY</source>
+        <translation>Fermer la fenêtre laisse le programme dans la zone de notification</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_START_WITH_SESSION</source>
+        <translation>Lancer à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_STAYS_CONNECTED</source>
+        <translation>Rester connecté à la fermeture du programme</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_DISCONNECTS</source>
+        <translation>Vous êtes connecté. La connexion prendra fin avec le programme.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_END_STAYS</source>
+        <translation>Vous êtes connecté et le resterez après la fermeture du programme.</translation>
     </message>
     <message>
         <source>IDS_HOST_MODEM_TITLE</source>

@@ -1,13 +1,14 @@
 #include "Host.h"
 
+#include <vrks.h>
+
 #include <QApplication>
 #include <QEvent>
 
 #include "Change.h"
 #include "CommonUtils.h"
-#include "INetConnectSetting.h"
-#include "ModemPanel.h"
-#include "SettingsPages.h"
+#include "ConnectionView.h"
+#include "Plugins.h"
 #include "Startup.h"
 
 Host::Host() : m_Plugins(&m_NotifyService) {
@@ -18,18 +19,19 @@ Host::Host() : m_Plugins(&m_NotifyService) {
     m_Refresh.setSingleShot(true);
     connect(&m_Refresh, &QTimer::timeout, &m_Window, &MainWindow::refresh);
     connect(&m_SettingsPage, &HostSettingsPage::languageChosen, this, &Host::changeLanguage);
-    connectModemPanel();
+    connect(&m_DeviceEvents, &DeviceEvents::raised, this, &Host::onDeviceEvent);
     // A session that ends waits for no answer; a signal ends the event loop, and the pages go with what is open.
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { m_Window.pages()->abandon(); });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { m_Window.abandon(); });
 
     m_Plugins.start(CommonUtils::GetPluginLibraryPath() + QStringLiteral("/plugins"));
-    m_Window.pages()->setPages(m_Plugins.pages() + QVector<SettingsPage>{{&m_SettingsPage, &m_SettingsPage, "Host"}});
+    m_Window.setPages(m_Plugins.pages() + QVector<SettingsPage>{{&m_SettingsPage, &m_SettingsPage, "Host", true}});
     m_Window.setProblems(m_Plugins.problems());
-    watchSettings();
+    watchPlugins();
 }
 
 Host::~Host() {
-    m_Window.pages()->clear();
+    m_Tray.reset();
+    m_Window.clearPages();
     m_Plugins.stop();
     m_NotifyService.RemoveListener(this);
     Startup::GetPluginContainer()->RemovePlugin(&m_NotifyService);
@@ -41,7 +43,23 @@ bool Host::changeLanguage(const QString& code) {
     m_Plugins.notifyAll(NotifyLanguageChanged);
     m_SettingsPage.retranslate();
     m_Window.retranslate();
+    if (m_Tray) m_Tray->retranslate();
     return true;
+}
+
+void Host::useTray() {
+    if (m_Tray || !QSystemTrayIcon::isSystemTrayAvailable()) return;
+    m_Tray = std::make_unique<Tray>();
+    connect(m_Tray.get(), &Tray::windowWanted, &m_Window, &MainWindow::present);
+    connect(m_Tray.get(), &Tray::quitWanted, &m_Window, &MainWindow::quit);
+    connect(m_Tray.get(), &Tray::acted, this, [this] {
+        if (m_Window.picture().action == ConnectionPicture::Unlock) m_Window.present();
+        m_Window.view()->act();
+    });
+    connect(m_Tray.get(), &Tray::connectWanted, m_Window.view(), &ConnectionView::connectWith);
+    connect(&m_Window, &MainWindow::refreshed, m_Tray.get(), [this] { m_Tray->refresh(m_Window.picture()); });
+    m_Tray->refresh(m_Window.picture());
+    m_Window.setHidesOnClose(true);
 }
 
 int Host::Notify(unsigned int event, unsigned int param1, unsigned int param2) {
@@ -55,14 +73,13 @@ bool Host::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-void Host::watchSettings() {
-    QObject* settings = findPeer<QObject>(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
-    if (settings) settings->installEventFilter(this);
+void Host::watchPlugins() {
+    for (QObject* object : {Plugins::profilesObject(), Plugins::dialerObject()}) {
+        if (object) object->installEventFilter(this);
+    }
 }
 
-void Host::connectModemPanel() {
-    ModemPanel* panel = m_Window.modemPanel();
-    if (!panel) return;
-    connect(panel, &ModemPanel::changed, &m_Window, &MainWindow::refresh);
-    connect(panel, &ModemPanel::systemModeChanged, this, [this] { m_Plugins.notifyAll(NotifySystemModeChanged); });
+void Host::onDeviceEvent(int event) {
+    if (event == VRKS_EVENT_SYSTEM_MODE_CHANGED) m_Plugins.notifyAll(NotifySystemModeChanged);
+    m_Refresh.start();
 }

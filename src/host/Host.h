@@ -3,12 +3,15 @@
 #define ORBISDIAL_HOST_H
 
 #include <QTimer>
+#include <memory>
 
+#include "DeviceEvents.h"
 #include "HostSettingsPage.h"
 #include "INotify.h"
 #include "MainWindow.h"
 #include "NotifyService.h"
 #include "PluginManager.h"
+#include "Tray.h"
 
 class Host : public QObject, public INotify {
     Q_OBJECT
@@ -23,23 +26,28 @@ public:
 
     MainWindow* window() { return &m_Window; }
 
+    // Shows the state in the desktop's tray, where there is one. Closing the window may then leave the program there.
+    void useTray();
+
     // Makes a language current for the host and for every plug-in; false when it is not shipped.
     bool changeLanguage(const QString& code);
 
     // An event that a plug-in sent, whomever to. The window is brought up to date once the sender has finished.
     int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
 
-    // Watches the properties by which the settings plug-in tells of the SIM card and of storage problems.
+    // Watches the properties by which the plug-ins tell of the SIM card, of storage problems and of the connection.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void connectModemPanel();
-    void watchSettings();
+    void onDeviceEvent(int event);
+    void watchPlugins();
 
+    DeviceEvents m_DeviceEvents;
     NotifyService m_NotifyService;
     PluginManager m_Plugins;
     HostSettingsPage m_SettingsPage;
     MainWindow m_Window;
+    std::unique_ptr<Tray> m_Tray;
     QTimer m_Refresh;
 };
 

@@ -3,6 +3,7 @@
 #define ORBISDIAL_HOSTSETTINGSPAGE_H
 
 #include <QPointer>
+#include <QVector>
 
 #include "ISettingUIPlugin.h"
 
@@ -10,7 +11,7 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 
-// What is chosen is stored by OK and by going to another page, and not before.
+// What is chosen is stored by OK, and not before; it waits while another page is on show.
 class HostSettingsPage : public QObject, public ISettingUIPlugin {
     Q_OBJECT
     Q_INTERFACES(ISettingUIPlugin)
@@ -32,14 +33,24 @@ signals:
     void languageChosen(const QString& code);
 
 private:
+    // A box, and the choice that it shows.
+    struct Box {
+        QCheckBox* widget;
+        const char* text;
+        bool (*isOn)();
+        bool (*store)(bool);
+    };
+
     void build();
     void load();
     bool store();
+    bool storeLanguage();
 
     QPointer<QWidget> m_Widget;  // with the parent of the last show, which may delete it
     QLabel* m_LanguageLabel = nullptr;
     QComboBox* m_Language = nullptr;
-    QCheckBox* m_KeepDefault = nullptr;
+    QVector<Box> m_Boxes;
+    bool m_IsOpen = false;  // there are choices that are not stored yet
 };
 
 #endif

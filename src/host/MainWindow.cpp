@@ -4,16 +4,32 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QDockWidget>
 #include <QFileInfo>
-#include <QFrame>
 #include <QLabel>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QUrl>
 
-#include "ConnectionBar.h"
+#include "AboutBox.h"
+#include "CommonUtils.h"
+#include "ConnectionView.h"
+#include "HostSettings.h"
 #include "HostText.h"
 #include "ModemPanel.h"
+#include "ProfileChooser.h"
+#include "SettingsDialog.h"
 #include "SettingsPages.h"
+#include "UnlockDialog.h"
 
 namespace {
+
+// A modem that is plugged in is known long before.
+constexpr int SettlingMs = 1500;
 
 // Why the modem that was asked for can't be had; empty when all is well.
 QString modemProblem() {
@@ -22,19 +38,17 @@ QString modemProblem() {
     return QString::fromUtf8(problem);
 }
 
-QFrame* makeLine() {
-    auto* line = new QFrame;
-    line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Sunken);
-    return line;
+// In the folder of an installation, or of a build, which has the same shape.
+QString guideFile() {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../share/doc/orbisdial/guide/index.html"));
 }
 
 }  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
-    : QWidget(parent),
-      m_Bar(new ConnectionBar),
-      m_Pages(new SettingsPages),
+    : QMainWindow(parent),
+      m_View(new ConnectionView),
       m_ModemPanel(vrks_simulated_active() ? new ModemPanel : nullptr),
       m_ProblemLabel(new QLabel) {
     setObjectName(QStringLiteral("Host_MainWindow"));
@@ -43,16 +57,44 @@ MainWindow::MainWindow(QWidget* parent)
     m_ProblemLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_ProblemLabel->setWordWrap(true);
 
-    auto* middle = new QHBoxLayout;
-    middle->addWidget(m_Pages, 1);
-    if (m_ModemPanel) middle->addWidget(m_ModemPanel, 0, Qt::AlignTop);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_Bar);
-    layout->addWidget(makeLine());
-    layout->addLayout(middle, 1);
+    auto* middle = new QWidget;
+    auto* layout = new QVBoxLayout(middle);
+    layout->addWidget(m_View, 1);
     layout->addWidget(m_ProblemLabel);
-    connect(m_Pages, &SettingsPages::acted, this, &MainWindow::refresh);
+    setCentralWidget(middle);
+    buildMenus();
+    if (m_ModemPanel) addDock();
+
+    connect(m_View, &ConnectionView::acted, this, &MainWindow::refresh);
+    connect(m_View, &ConnectionView::unlockWanted, this, &MainWindow::unlock);
+    connect(m_View, &ConnectionView::settingsWanted, this, &MainWindow::openSettings);
+    m_SinceStart.start();
+    m_Settled.setSingleShot(true);
+    connect(&m_Settled, &QTimer::timeout, this, &MainWindow::refresh);
+    m_Settled.start(SettlingMs);
     retranslate();
+    m_View->setFocus();
+}
+
+SettingsPages* MainWindow::pages() {
+    if (!m_Settings) {
+        m_Settings = new SettingsDialog(this);
+        m_Settings->pages()->setPages(m_Pages);
+        connect(m_Settings->pages(), &SettingsPages::acted, this, &MainWindow::refresh);
+    }
+    return m_Settings->pages();
+}
+
+void MainWindow::setPages(const QVector<SettingsPage>& pages) {
+    m_Pages = pages;
+    if (m_Settings) m_Settings->pages()->setPages(pages);
+}
+
+void MainWindow::clearPages() { setPages({}); }
+
+void MainWindow::openSettings() {
+    pages();
+    m_Settings->open();
 }
 
 void MainWindow::setProblems(const QVector<PluginProblem>& problems) {
@@ -61,23 +103,148 @@ void MainWindow::setProblems(const QVector<PluginProblem>& problems) {
 }
 
 void MainWindow::refresh() {
-    m_Bar->refresh();
+    ConnectionFacts facts = ConnectionFacts::now();
+    facts.isSettling = !m_SinceStart.hasExpired(SettlingMs);
+    m_Picture = ConnectionPicture::of(facts);
+    m_View->refresh(facts, m_Picture);
+    m_Action->setText(ConnectionPicture::actionText(m_Picture.action));
+    m_Action->setEnabled(m_Picture.isActionAllowed);
+    m_UnlockAction->setEnabled(m_Picture.canUnlock);
+    if (m_Unlock) m_Unlock->refresh();
     if (m_ModemPanel) m_ModemPanel->refresh();
+    emit refreshed();
 }
 
 void MainWindow::retranslate() {
     setWindowTitle(hostText(m_ModemPanel ? "IDS_HOST_TITLE_SIMULATED" : "IDS_HOST_TITLE"));
-    m_Pages->retranslate();
+    m_ConnectionMenu->setTitle(hostText("IDS_HOST_MENU_CONNECTION"));
+    m_HelpMenu->setTitle(hostText("IDS_HOST_MENU_HELP"));
+    for (const Entry& entry : qAsConst(m_Entries)) entry.action->setText(hostText(entry.id));
+    if (m_Settings) m_Settings->retranslate();
+    m_View->retranslate();
+    if (m_Unlock) m_Unlock->retranslate();
     if (m_ModemPanel) m_ModemPanel->retranslate();
+    if (m_Dock) retranslateDock();
     const QString problems = problemText();
     m_ProblemLabel->setText(problems);
     m_ProblemLabel->setVisible(!problems.isEmpty());
     refresh();
 }
 
-QSize MainWindow::sizeHint() const { return QWidget::sizeHint() + QSize(20 * fontMetrics().averageCharWidth(), 0); }
+void MainWindow::restore() {
+    restoreState(HostSettings::windowState());
+    if (!restoreGeometry(HostSettings::windowGeometry())) resize(sizeHint());
+}
 
-void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(m_Pages->finish()); }
+void MainWindow::present() {
+    if (isMinimized()) showNormal();
+    show();
+    raise();
+    activateWindow();
+}
+
+bool MainWindow::quit() {
+    m_IsEnding = true;
+    const bool ends = close();
+    m_IsEnding = false;
+    if (ends && isHidden()) closeForGood();  // a hidden window gets no event of its closing
+    return ends;
+}
+
+void MainWindow::abandon() {
+    if (m_Settings) m_Settings->abandon();
+    m_IsEnding = true;
+}
+
+void MainWindow::unlock() {
+    if (!m_Picture.canUnlock) return;
+    if (!m_Unlock) {
+        m_Unlock = new UnlockDialog(this);
+        m_Unlock->setAttribute(Qt::WA_DeleteOnClose);
+        m_Unlock->open();
+    }
+    m_Unlock->activateWindow();
+}
+
+// Room for long names beside the button.
+QSize MainWindow::sizeHint() const {
+    return QMainWindow::sizeHint().expandedTo({64 * fontMetrics().averageCharWidth(), 0});
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(!m_Settings || m_Settings->finish());
+    if (!event->isAccepted()) return;
+    const bool hides = m_HidesOnClose && !m_IsEnding && HostSettings::isOn(HostSettings::ClosesToTray);
+    if (hides) return;
+    event->setAccepted(agreesToEnd());
+    if (event->isAccepted()) closeForGood();
+}
+
+void MainWindow::buildMenus() {
+    m_ConnectionMenu = menuBar()->addMenu(QString());
+    m_Action = m_ConnectionMenu->addAction(QString(), this, &MainWindow::act, QKeySequence(Qt::CTRL | Qt::Key_Return));
+    m_UnlockAction = addEntry(m_ConnectionMenu, "IDS_HOST_UNLOCK", {}, &MainWindow::unlock);
+    m_ConnectionMenu->addSeparator();
+    addEntry(m_ConnectionMenu, "IDS_HOST_SETTINGS", QKeySequence(Qt::CTRL | Qt::Key_Comma), &MainWindow::openSettings);
+    m_ConnectionMenu->addSeparator();
+    QAction* const quit = m_ConnectionMenu->addAction(QString(), this, &MainWindow::quit, QKeySequence::Quit);
+    if (quit->shortcut().isEmpty()) quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setMenuRole(QAction::QuitRole);
+    m_Entries.append({quit, "IDS_HOST_QUIT"});
+    m_HelpMenu = menuBar()->addMenu(QString());
+    addEntry(m_HelpMenu, "IDS_HOST_GUIDE", QKeySequence(Qt::Key_F1), &MainWindow::openGuide);
+    addEntry(m_HelpMenu, "IDS_HOST_ABOUT", {}, &MainWindow::showAbout);
+}
+
+QAction* MainWindow::addEntry(QMenu* menu, const char* id, const QKeySequence& shortcut, void (MainWindow::*slot)()) {
+    QAction* const action = menu->addAction(QString(), this, slot, shortcut);
+    action->setObjectName(QLatin1String(id));
+    m_Entries.append({action, id});
+    return action;
+}
+
+void MainWindow::addDock() {
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(m_ModemPanel);
+    m_Dock = new QDockWidget(this);
+    m_Dock->setObjectName(QStringLiteral("Host_ModemDock"));
+    m_Dock->setWidget(area);
+    addDockWidget(Qt::RightDockWidgetArea, m_Dock);
+    QAction* const toggle = m_Dock->toggleViewAction();
+    m_HelpMenu->insertAction(m_HelpMenu->actions().first(), toggle);
+}
+
+// The panel's texts decide its width.
+void MainWindow::retranslateDock() {
+    m_Dock->setWindowTitle(hostText("IDS_HOST_MODEM_TITLE"));
+    auto* const area = qobject_cast<QScrollArea*>(m_Dock->widget());
+    area->setMinimumWidth(m_ModemPanel->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+}
+
+void MainWindow::act() { m_View->act(); }
+
+void MainWindow::openGuide() { QDesktopServices::openUrl(QUrl::fromLocalFile(guideFile())); }
+
+void MainWindow::showAbout() { AboutBox::show(this); }
+
+void MainWindow::closeForGood() {
+    HostSettings::keepWindow(saveGeometry(), saveState());
+    emit closed();
+}
+
+// A connection that ends with the program is not ended without a word.
+bool MainWindow::agreesToEnd() {
+    if (!m_Picture.isUp) return true;
+    const DataConnection connection = DataConnection::current();
+    const bool stays = connection.isUp() && !(connection.isOwn && connection.endsWithProcess);
+    const char* const text = stays ? "IDS_HOST_END_STAYS" : "IDS_HOST_END_DISCONNECTS";
+    return CommonUtils::ShowMessage(QMessageBox::Question, this, hostText("IDS_HOST_TITLE"), hostText(text),
+                                    hostText("IDS_HOST_QUIT"),
+                                    QStringLiteral("IDS_CANCEL")) == CommonUtils::FirstButton;
+}
 
 QString MainWindow::problemText() const {
     QStringList lines;

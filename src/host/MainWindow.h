@@ -1,30 +1,52 @@
-// The main window: the bar, the settings pages, the simulated modem's panel, and what can't be used.
+// The main window: the connection, the menus, the simulated modem's dock, and what can't be used.
 #ifndef ORBISDIAL_MAINWINDOW_H
 #define ORBISDIAL_MAINWINDOW_H
 
-#include <QWidget>
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTimer>
 
+#include "ConnectionPicture.h"
 #include "PluginManager.h"
 
-class ConnectionBar;
+class ConnectionView;
 class ModemPanel;
+class QDockWidget;
 class QLabel;
+class SettingsDialog;
 class SettingsPages;
+class UnlockDialog;
 
-// Closing the window asks the present page as OK does; the window stays when the page refuses.
-class MainWindow : public QWidget {
+// Closing the window asks the open settings as their OK does; the window stays when a page refuses.
+class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
     explicit MainWindow(QWidget* parent = nullptr);
 
-    SettingsPages* pages() const { return m_Pages; }
+    // The settings dialog's; the first call makes the dialog.
+    SettingsPages* pages();
+
+    void setPages(const QVector<SettingsPage>& pages);
+
+    // Drops all pages, without a question, before their plug-ins stop.
+    void clearPages();
+
+    void openSettings();
+
+    ConnectionView* view() const { return m_View; }
 
     // Null when another modem than the simulated one is in use.
     ModemPanel* modemPanel() const { return m_ModemPanel; }
 
+    const ConnectionPicture& picture() const { return m_Picture; }
+
     // Shows why plug-ins can't be used, below everything else.
     void setProblems(const QVector<PluginProblem>& problems);
+
+    // Closing then leaves the program where it can be had back: in the tray.
+    void setHidesOnClose(bool hides) { m_HidesOnClose = hides; }
 
     // Shows again what the plug-ins and the modem say.
     void refresh();
@@ -32,20 +54,67 @@ public:
     // Sets every text in the current language.
     void retranslate();
 
-    // Leaves a page room for long names.
+    // Place and layout as they were left.
+    void restore();
+
+    // Comes to the front, from wherever it is.
+    void present();
+
+    // Ends the program; false when a page or the user refuses.
+    bool quit();
+
+    // Undoes what is being edited, without a question: the session ends.
+    void abandon();
+
+    void unlock();
+
     QSize sizeHint() const override;
+
+signals:
+    // It says something else.
+    void refreshed();
+
+    // The window was closed for good.
+    void closed();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    struct Entry {
+        QAction* action;
+        const char* id;
+    };
+
+    void buildMenus();
+    QAction* addEntry(QMenu* menu, const char* id, const QKeySequence& shortcut, void (MainWindow::*slot)());
+    void addDock();
+    void retranslateDock();
+    void act();
+    void openGuide();
+    void showAbout();
+    void closeForGood();
+    bool agreesToEnd();
     QString problemText() const;
 
-    ConnectionBar* m_Bar;
-    SettingsPages* m_Pages;
+    ConnectionView* m_View;
+    SettingsDialog* m_Settings = nullptr;
+    QPointer<UnlockDialog> m_Unlock;
     ModemPanel* m_ModemPanel;
+    QDockWidget* m_Dock = nullptr;
     QLabel* m_ProblemLabel;
+    QMenu* m_ConnectionMenu = nullptr;
+    QMenu* m_HelpMenu = nullptr;
+    QAction* m_Action = nullptr;
+    QAction* m_UnlockAction = nullptr;
+    QVector<Entry> m_Entries;
+    QVector<SettingsPage> m_Pages;
     QVector<PluginProblem> m_Problems;
+    ConnectionPicture m_Picture;
+    QElapsedTimer m_SinceStart;
+    QTimer m_Settled;
+    bool m_HidesOnClose = false;
+    bool m_IsEnding = false;
 };
 
 #endif

@@ -95,7 +95,7 @@ int numberAt(const char* record, int offset) {
 }  // namespace
 
 ModemPanel::ModemPanel(QWidget* parent)
-    : QGroupBox(parent),
+    : QWidget(parent),
       m_Imsi(new QLineEdit),
       m_Ready(makeCheckBox("ModemPanel_Ready")),
       m_MultiMode(makeCheckBox("ModemPanel_MultiMode")),
@@ -107,7 +107,6 @@ ModemPanel::ModemPanel(QWidget* parent)
       m_Setting(makeSettingBox()),
       m_Value(new QLineEdit) {
     setObjectName(QStringLiteral("ModemPanel"));
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     m_Imsi->setObjectName(QStringLiteral("ModemPanel_Imsi"));
     m_Imsi->setMaxLength(VRKS_IMSI_SIZE - 1);
     m_Imsi->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), m_Imsi));
@@ -129,7 +128,6 @@ ModemPanel::ModemPanel(QWidget* parent)
 void ModemPanel::refresh() { select(m_Outcome, valueOf("DIAL")); }
 
 void ModemPanel::retranslate() {
-    setTitle(hostText("IDS_HOST_MODEM_TITLE"));
     for (const Text& text : qAsConst(m_Texts)) text.widget->setProperty("text", hostText(text.id));
     m_Imsi->setPlaceholderText(hostText("IDS_HOST_MODEM_NO_CARD"));
     retranslateBox(m_CardMode, CardModes);
@@ -222,8 +220,8 @@ void ModemPanel::connectControls() {
     connect(m_MultiMode, &QCheckBox::clicked, this, [this](bool on) { set("MULTI_MODE", int(on)); });
     connect(m_CardMode, activated, this, [this] { set("CARD_MODE", m_CardMode->currentData()); });
     connect(m_ProductType, activated, this, [this] { set("PRODUCT_TYPE", m_ProductType->currentData()); });
-    connect(m_SystemMode, valueChanged, this, [this](int mode) { setSystemMode("SYS_MODE", mode); });
-    connect(m_SystemSubMode, valueChanged, this, [this](int mode) { setSystemMode("SYS_SUBMODE", mode); });
+    connect(m_SystemMode, valueChanged, this, [this](int mode) { set("SYS_MODE", mode); });
+    connect(m_SystemSubMode, valueChanged, this, [this](int mode) { set("SYS_SUBMODE", mode); });
     connect(m_Outcome, activated, this, &ModemPanel::setOutcome);
     connect(m_Setting, activated, this, &ModemPanel::readValue);
     connect(m_Value, &QLineEdit::editingFinished, this, &ModemPanel::setValue);
@@ -233,18 +231,12 @@ void ModemPanel::set(const char* name, const QVariant& value) {
     const QByteArray text = value.toString().toUtf8();
     vrks_simulated_change(name, text.isEmpty() ? nullptr : text.constData());
     readValue();
-    emit changed();
 }
 
 // A value that the setting can't hold gives way to the one it has.
 void ModemPanel::setValue() {
     set(m_Setting->currentText().toLatin1(), m_Value->text());
     readModem();
-}
-
-void ModemPanel::setSystemMode(const char* name, int mode) {
-    set(name, mode);
-    emit systemModeChanged();
 }
 
 void ModemPanel::setOutcome() { set("DIAL", m_Outcome->currentData()); }

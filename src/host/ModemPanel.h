@@ -5,9 +5,9 @@
 #ifndef ORBISDIAL_MODEMPANEL_H
 #define ORBISDIAL_MODEMPANEL_H
 
-#include <QGroupBox>
 #include <QVariant>
 #include <QVector>
+#include <QWidget>
 
 class QCheckBox;
 class QComboBox;
@@ -16,7 +16,7 @@ class QLineEdit;
 class QPushButton;
 class QSpinBox;
 
-class ModemPanel : public QGroupBox {
+class ModemPanel : public QWidget {
     Q_OBJECT
 
 public:
@@ -27,13 +27,6 @@ public:
     void refresh();
 
     void retranslate();
-
-signals:
-    // A value of the modem or the card changed.
-    void changed();
-
-    // The same for the system mode and its sub-mode; follows changed().
-    void systemModeChanged();
 
 private:
     struct Text {
@@ -54,7 +47,6 @@ private:
 
     // Sets a value of vrks_simulated_change(); an empty text takes it away.
     void set(const char* name, const QVariant& value);
-    void setSystemMode(const char* name, int mode);
     void setOutcome();
     void setValue();
 

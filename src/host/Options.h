@@ -10,7 +10,8 @@ struct Options {
     QString language;    // empty: the stored one, or the system's
     QString device;      // empty: what the environment says
     QString screenshot;  // the file to write; empty: none
-    QString page;        // empty: the first
+    QString page;        // of the settings, which it opens; empty: none
+    bool tray = false;   // start without a window where there is a tray
     bool trace = false;
 
     // Reads the application's arguments. Ends the process for --help, --version and a wrong usage.

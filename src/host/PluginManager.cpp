@@ -111,7 +111,7 @@ bool PluginManager::reject(const Plugin& plugin, const char* reason) {
 void PluginManager::takeInterfaces(const Plugin& plugin) {
     QObject* pageObject = queried(plugin.base, SettingPageInterface);
     if (auto* page = qobject_cast<ISettingUIPlugin*>(pageObject)) {
-        m_Pages.append({pageObject, page, plugin.base->GetPluginName()});
+        m_Pages.append({pageObject, page, plugin.base->GetPluginName(), false});
     }
     QObject* profiles = queried(plugin.base, NetConnectSettingInterface);
     if (qobject_cast<INetConnectSetting*>(profiles) &&

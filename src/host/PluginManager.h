@@ -25,6 +25,7 @@ struct SettingsPage {
     QPointer<QObject> object;
     ISettingUIPlugin* page;
     QString pluginName;
+    bool keepsUntilOk = false;  // its changes wait for OK also while another page is on show
 };
 
 class PluginManager {

@@ -4,12 +4,14 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 
 #include "HostText.h"
 
 SettingsPages::SettingsPages(QWidget* parent)
     : QWidget(parent),
       m_List(new QListWidget),
+      m_Scroll(new QScrollArea),
       m_Frame(new QWidget),
       m_FrameLayout(new QVBoxLayout(m_Frame)),
       m_Ok(new QPushButton),
@@ -20,9 +22,13 @@ SettingsPages::SettingsPages(QWidget* parent)
     m_List->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     m_Frame->setObjectName(QStringLiteral("Host_PageFrame"));
     m_FrameLayout->setContentsMargins(0, 0, 0, 0);
+    m_Scroll->setFrameShape(QFrame::NoFrame);
+    m_Scroll->setWidgetResizable(true);
+    m_Scroll->setFocusPolicy(Qt::NoFocus);
+    m_Scroll->setWidget(m_Frame);
 
     auto* right = new QVBoxLayout;
-    right->addWidget(m_Frame, 1);
+    right->addWidget(m_Scroll, 1);
     right->addWidget(makeButtons());
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -50,14 +56,20 @@ QWidget* SettingsPages::makeButtons() {
 void SettingsPages::setPages(const QVector<SettingsPage>& pages) {
     m_Pages = pages;
     m_Current = m_Pages.isEmpty() ? -1 : 0;
+    m_IsShown = false;
     retranslate();
-    showCurrent();
 }
 
-void SettingsPages::clear() {
-    m_Pages.clear();
-    m_Current = -1;
-    retranslate();
+void SettingsPages::begin() {
+    if (!m_IsShown) showCurrent();
+}
+
+void SettingsPages::focusPage() {
+    for (QWidget* widget = m_Frame->nextInFocusChain(); widget != m_Frame; widget = widget->nextInFocusChain()) {
+        if (!m_Frame->isAncestorOf(widget)) continue;
+        const bool takesFocus = widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus);
+        if (takesFocus) return widget->setFocus(Qt::TabFocusReason);
+    }
 }
 
 bool SettingsPages::showPage(const QString& name) {
@@ -74,9 +86,15 @@ QStringList SettingsPages::pageNames() const {
     return names;
 }
 
-bool SettingsPages::finish() { return ask(&ISettingUIPlugin::OnClickSettingOkButton); }
+bool SettingsPages::finish() { return askEach(&ISettingUIPlugin::OnClickSettingOkButton); }
 
-void SettingsPages::abandon() { onClickCancel(); }
+void SettingsPages::abandon() { askEach(&ISettingUIPlugin::OnClickSettingCancelButton); }
+
+// The page's own size, and no scroll bars.
+QSize SettingsPages::sizeHint() const {
+    const QSize unused = m_Scroll->sizeHint() - m_Frame->sizeHint();
+    return QWidget::sizeHint() - unused + QSize(2 * m_Scroll->frameWidth(), 2 * m_Scroll->frameWidth());
+}
 
 void SettingsPages::retranslate() {
     const QSignalBlocker quiet(m_List);
@@ -92,11 +110,11 @@ void SettingsPages::retranslate() {
 }
 
 void SettingsPages::onClickOk() {
-    if (ask(&ISettingUIPlugin::OnClickSettingOkButton)) showCurrent();
+    if (finish()) emit done();
 }
 
 void SettingsPages::onClickCancel() {
-    if (ask(&ISettingUIPlugin::OnClickSettingCancelButton)) showCurrent();
+    if (askEach(&ISettingUIPlugin::OnClickSettingCancelButton)) emit done();
 }
 
 void SettingsPages::onCurrentRowChanged(int row) {
@@ -104,26 +122,42 @@ void SettingsPages::onCurrentRowChanged(int row) {
 }
 
 bool SettingsPages::moveTo(int row) {
-    const bool goes = row == m_Current || ask(&ISettingUIPlugin::HideSetting);
+    const bool goes = row == m_Current || !m_IsShown || ask(m_Current, &ISettingUIPlugin::HideSetting);
     if (goes && row != m_Current) {
         m_Current = row;
-        showCurrent();
+        if (m_IsShown) showCurrent();
     }
     selectCurrentRow();
     return goes;
 }
 
-bool SettingsPages::ask(Answer answer) {
+bool SettingsPages::ask(int row, Answer answer) {
     if (m_Asking) return false;
-    if (m_Current < 0 || !m_Pages[m_Current].object) return true;
+    if (row < 0 || !m_Pages[row].object) return true;
     const QScopedValueRollback<bool> asking(m_Asking, true);
-    const bool agreed = (m_Pages[m_Current].page->*answer)() != 0;
+    const bool agreed = (m_Pages[row].page->*answer)() != 0;
     emit acted();
     return agreed;
 }
 
+// The page on show first, then those that keep their changes until now.
+bool SettingsPages::askEach(Answer answer) {
+    if (!m_IsShown) return true;
+    if (!ask(m_Current, answer)) return false;
+    m_IsShown = false;
+    for (int row = 0; row < m_Pages.size(); ++row) {
+        if (row == m_Current || !m_Pages[row].keepsUntilOk || ask(row, answer)) continue;
+        m_Current = row;  // it can't be saved: show which
+        showCurrent();
+        selectCurrentRow();
+        return false;
+    }
+    return true;
+}
+
 void SettingsPages::showCurrent() {
     if (m_Current < 0 || !m_Pages[m_Current].object) return;
+    m_IsShown = true;
     QRect rect = m_Frame->rect();
     m_Pages[m_Current].page->ShowSettingDialog(m_Frame, rect);
     // In the layout the page follows the frame's size, and the frame knows the page's smallest size.

@@ -1,8 +1,8 @@
-// The settings pages of the main window: a list on the left, the chosen page on the right, OK and Cancel below.
+// The settings pages: a list on the left, the chosen page on the right, OK and Cancel below.
 //
-// The window stays when a page is done: OK takes its changes, Cancel drops them, and either shows the page
-// again. A page that refuses (its changes can't be saved) stays as it is, whether OK was pressed, another page
-// was chosen, or the window is to be closed.
+// Nothing is asked of a page before it is shown. A page that refuses (its changes can't be saved) stays as it is,
+// whether OK was pressed, another page was chosen, or the dialog is to be closed. The page that is left by OK or Cancel
+// is the first one at the next time.
 #ifndef ORBISDIAL_SETTINGSPAGES_H
 #define ORBISDIAL_SETTINGSPAGES_H
 
@@ -12,6 +12,7 @@
 
 class QListWidget;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 class SettingsPages : public QWidget {
@@ -20,11 +21,14 @@ class SettingsPages : public QWidget {
 public:
     explicit SettingsPages(QWidget* parent = nullptr);
 
-    // Shows these pages and the first of them.
+    // Takes these pages, the first of them as the current one.
     void setPages(const QVector<SettingsPage>& pages);
 
-    // Drops all pages, without a question, before their plug-ins stop.
-    void clear();
+    // Shows the current page, the dialog being opened.
+    void begin();
+
+    // Sets the keyboard's focus into the page on show.
+    void focusPage();
 
     // Goes to the page of this module name or plug-in name; false when there is none, or the present page
     // refuses to go.
@@ -33,7 +37,7 @@ public:
     // The names by which showPage() finds the pages.
     QStringList pageNames() const;
 
-    // Asks the present page as OK does; false when it refuses to go.
+    // Asks as OK does; false when a page refuses to go.
     bool finish();
 
     // Undoes what is being edited, without a question: the session ends.
@@ -42,7 +46,12 @@ public:
     // Sets every text again.
     void retranslate();
 
+    QSize sizeHint() const override;
+
 signals:
+    // OK or Cancel was pressed, and the pages agreed.
+    void done();
+
     // A page was left, saved or undone: what the profiles say may have changed.
     void acted();
 
@@ -55,14 +64,17 @@ private:
 
     QWidget* makeButtons();
     bool moveTo(int row);
-    bool ask(Answer answer);
+    bool ask(int row, Answer answer);
+    bool askEach(Answer answer);
     void showCurrent();
     void selectCurrentRow();
 
     QVector<SettingsPage> m_Pages;
     int m_Current = -1;
-    bool m_Asking = false;  // a page has the word, perhaps with a message on screen
+    bool m_IsShown = false;  // the current page was told to show itself
+    bool m_Asking = false;   // a page has the word, perhaps with a message on screen
     QListWidget* m_List;
+    QScrollArea* m_Scroll;
     QWidget* m_Frame;
     QVBoxLayout* m_FrameLayout;
     QPushButton* m_Ok;

@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QTimer>
 #include <cstdio>
+#include <memory>
 
 #include "Change.h"
 #include "EndSignals.h"
@@ -15,6 +16,7 @@
 #include "Options.h"
 #include "ProgramStart.h"
 #include "SettingsPages.h"
+#include "SingleInstance.h"
 
 namespace {
 
@@ -34,8 +36,10 @@ bool useLanguage(const QString& code) {
     return false;
 }
 
-bool usePage(SettingsPages* pages, const QString& name) {
-    if (name.isEmpty() || pages->showPage(name)) return true;
+bool usePage(Host* host, const QString& name) {
+    if (name.isEmpty()) return true;
+    SettingsPages* const pages = host->window()->pages();
+    if (pages->showPage(name)) return true;
     std::fprintf(stderr, "orbisdial: no page \"%s\"; there are: %s\n", qPrintable(name),
                  qPrintable(pages->pageNames().join(", ")));
     return false;
@@ -62,15 +66,35 @@ void useDesktopFontSize() {
     QApplication::setFont(font);
 }
 
+void takeScreenshotLater(Host* host, const Options& options) {
+    MainWindow* const window = host->window();
+    window->resize(window->sizeHint());  // left to itself, Qt makes it narrower on a small screen
+    window->show();
+    QTimer::singleShot(SettleMs, window, [window, &options] {
+        takeScreenshot(options.page.isEmpty() ? window : window->pages()->window(), options.screenshot);
+    });
+}
+
+void showWindow(Host* host, const Options& options) {
+    MainWindow* const window = host->window();
+    QObject::connect(window, &MainWindow::closed, qApp, &QCoreApplication::quit);
+    QGuiApplication::setQuitOnLastWindowClosed(false);  // in the tray it has none
+    window->restore();
+    const bool startsInTray = options.tray && QSystemTrayIcon::isSystemTrayAvailable();
+    if (!startsInTray) window->show();
+    QTimer::singleShot(0, host, &Host::useTray);  // after the first paint
+}
+
 int run(const Options& options) {
+    const bool isPicture = !options.screenshot.isEmpty();
     const EndSignals endSignals;  // for longer than the host, whose end a signal must not cut short
+    const auto instance = isPicture ? nullptr : std::make_unique<SingleInstance>();
+    if (instance && !instance->isFirst()) return Done;
     Host host;
-    if (!usePage(host.window()->pages(), options.page)) return WrongUsage;
-    host.window()->resize(host.window()->sizeHint());  // left to itself, Qt makes it narrower on a small screen
-    host.window()->show();
-    if (!options.screenshot.isEmpty()) {
-        QTimer::singleShot(SettleMs, [&] { takeScreenshot(host.window(), options.screenshot); });
-    }
+    if (!usePage(&host, options.page)) return WrongUsage;
+    if (instance) QObject::connect(instance.get(), &SingleInstance::raised, host.window(), &MainWindow::present);
+    isPicture ? takeScreenshotLater(&host, options) : showWindow(&host, options);
+    if (!options.page.isEmpty()) host.window()->openSettings();
     return QCoreApplication::exec();
 }
 
@@ -86,6 +110,8 @@ int main(int argc, char* argv[]) {
     const Options options = Options::fromArguments(application);
     useDesktopFontSize();
     if (!options.trace) QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
+    // The window is filled by the modem's events; it never waits for one.
+    if (!qEnvironmentVariableIsSet("ORBISDIAL_DEVICE_WAIT_MS")) qputenv("ORBISDIAL_DEVICE_WAIT_MS", "0");
     if (!options.device.isEmpty()) qputenv("ORBISDIAL_DEVICE", options.device.toUtf8());
     reportModemProblem();
     return useLanguage(options.language) ? run(options) : WrongUsage;

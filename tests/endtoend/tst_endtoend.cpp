@@ -11,6 +11,7 @@
 #include "IDialupUIService.h"
 #include "INetConnectSetting.h"
 #include "Languages.h"
+#include "SettingsPages.h"
 #include "Startup.h"
 #include "TestFolder.h"
 
@@ -71,7 +72,7 @@ private slots:
         QCOMPARE(listed().filter(marked("")), QStringList(marked(m_Preset)));
         QCOMPARE(combo()->currentText(), marked(m_Preset));
         QVERIFY(!enabled("BtnEditProfile") && !enabled("BtnDeleteProfile"));
-        QCOMPARE(label("Host_DefaultProfile"), hostText("IDS_HOST_DEFAULT_PROFILE", {m_Preset}));
+        QCOMPARE(offered(), hostText("IDS_HOST_PROFILE_DEFAULT", {m_Preset}));
         QCOMPARE(label("Host_SimSummary"), hostText("IDS_HOST_SIM_PRESET", {"310260123456789", m_Preset, "310260"}));
     }
 
@@ -80,8 +81,8 @@ private slots:
         QCOMPARE(find<QLineEdit>("LineEditProfileName")->text(), text("IDS_NETCONNECT_NEW_PROFILE") + '1');
         click("BtnStatic");
         for (const QString& field : Entered.mid(1)) {
-            typeInto(m_Host->window()->focusWidget(), field);
-            QTest::keyClick(m_Host->window()->focusWidget(), Qt::Key_Tab);
+            typeInto(QApplication::focusWidget(), field);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
         type("LineEditProfileName", Name);
         click("BtnsaveProfile");
@@ -97,7 +98,7 @@ private slots:
     void makesItTheDefault() {
         click("BtnSetDefaultProfile");
         QCOMPARE(listed().filter(marked("")), QStringList(marked(Name)));
-        QTRY_COMPARE(label("Host_DefaultProfile"), hostText("IDS_HOST_DEFAULT_PROFILE", {Name}));
+        QTRY_COMPARE(offered(), hostText("IDS_HOST_PROFILE_DEFAULT", {Name}));
     }
 
     void exportsIt() {
@@ -115,7 +116,7 @@ private slots:
         click("BtnDeleteProfile");
         QCOMPARE(m_Answers.texts.last(), text("IDS_SMSUI_DRAFT_DEL"));
         QCOMPARE(listed().filter(Name), QStringList());
-        QTRY_COMPARE(label("Host_DefaultProfile"), hostText("IDS_HOST_DEFAULT_PROFILE", {m_Preset}));
+        QTRY_COMPARE(offered(), hostText("IDS_HOST_PROFILE_DEFAULT", {m_Preset}));
     }
 
     void importsIt() {
@@ -139,7 +140,7 @@ private slots:
             return enabled("BtnEditProfile");
         };
         click("Host_ConnectButton");
-        QCOMPARE(label("Host_ConnectionState"), hostText("IDS_HOST_STATE_CONNECTING"));
+        QCOMPARE(label("Host_ConnectionState"), hostText("IDS_HOST_STATE_CONNECTING_TO", {Name}));
         QTRY_COMPARE(label("Host_ConnectionState"), hostText("IDS_HOST_STATE_CONNECTED", {Name}));
         QVERIFY(!mayChange());
         click("Host_ConnectButton");
@@ -153,6 +154,7 @@ private slots:
         auto* box = find<QComboBox>("Host_LanguageBox");
         select(box, box->findData(other));
         click("Host_OkButton");
+        m_Host->window()->openSettings();
         goTo(ProfilesRow);
         QCOMPARE(Change::GetLangName(), other);
         QTRY_COMPARE(isMirrored(), other == "ar");
@@ -173,7 +175,7 @@ private slots:
         QTRY_COMPARE(combo()->currentText(), marked(Name));
         QCOMPARE(listed(), before);
         QCOMPARE(fields(), Entered);
-        QCOMPARE(label("Host_DefaultProfile"), hostText("IDS_HOST_DEFAULT_PROFILE", {Name}));
+        QCOMPARE(offered(), hostText("IDS_HOST_PROFILE_DEFAULT", {Name}));
         QVERIFY(isPrivate(m_Folder.userFile()) && !TestFolder::read(m_Folder.userFile()).contains("secret"));
     }
 
@@ -183,6 +185,8 @@ private:
         m_Host = std::make_unique<Host>();
         m_Host->window()->show();
         QVERIFY(QTest::qWaitForWindowActive(m_Host->window()));
+        m_Host->window()->openSettings();
+        QTRY_COMPARE(QApplication::activeWindow(), m_Host->window()->pages()->window());
         QTRY_VERIFY(combo()->count() > 0 && !find("Host_Problems")->isVisible());
     }
 
@@ -194,6 +198,7 @@ private:
     }
     QComboBox* combo() const { return find<QComboBox>("ProfileCombobox"); }
     QString label(const char* name) const { return find<QLabel>(name)->text(); }
+    QString offered() const { return find<QComboBox>("Host_ProfileChooser")->currentText(); }
     bool enabled(const char* role) const { return find(role)->isEnabled(); }
 
     QStringList listed() const { return textsOf(combo()); }

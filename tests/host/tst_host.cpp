@@ -20,6 +20,7 @@
 #include "HostText.h"
 #include "IDialupUIService.h"
 #include "Languages.h"
+#include "Rows.h"
 #include "SettingsPages.h"
 #include "Startup.h"
 #include "TestFolder.h"
@@ -95,9 +96,11 @@ private slots:
         m_Host.reset();
         QCOMPARE(Startup::GetPluginContainer()->GetPluginCount(), 0);
         QVERIFY(!CommonUtils::GetMainWindow());
-        QCOMPARE(Fake::calls(), (QStringList{"Init", "QueryInterface 4098", "QueryInterface 28689", "Show",
+        QCOMPARE(Fake::calls(), (QStringList{"Init", "QueryInterface 4098", "QueryInterface 28689",
                                              "UnSDKRegisterEvent", "OnDestroy"}));
         start();  // the entry objects are made anew
+        QVERIFY(!child<QWidget>("Fake_Edit"));
+        m_Host->window()->openSettings();
         QVERIFY(child<QLineEdit>("Fake_Edit")->isVisible());
     }
 
@@ -120,13 +123,15 @@ private slots:
         for (int i = 0; i < lines.size(); ++i) QVERIFY2(lines[i].startsWith(expected[i]), qPrintable(lines[i]));
         QVERIFY(child<QLabel>("Host_Problems")->isVisible());
         QCOMPARE(Fake::calls(), (QStringList{"Init", "UnSDKRegisterEvent", "OnDestroy"}));
-        QCOMPARE(pageList()->count(), 1);
         click("Host_ConnectButton");
-        QVERIFY(child<QLabel>("Host_ConnectionState")->text().contains("not loaded"));
+        QVERIFY(child<QLabel>("Host_FailureText")->text().contains("not loaded"));
+        m_Host->window()->openSettings();
+        QCOMPARE(pageList()->count(), 1);
     }
 
     void keepsAPageThatRefusesToGo() {
         SettingsPages* pages = m_Host->window()->pages();
+        m_Host->window()->openSettings();
         Fake::set("fake.refuse", true);
         clickRow(HostRow);
         QCOMPARE(pageList()->currentRow(), FakeRow);
@@ -141,21 +146,42 @@ private slots:
         QCOMPARE(Fake::calls().mid(3), (QStringList{"Show", "Hide", "Hide", "OK", "Hide", "Show"}));
         QVERIFY(!child<QWidget>("Host_SettingsPage")->isVisible());
         QVERIFY(!pages->showPage("no such page") && pages->showPage("Host") && pages->showPage("Fake page"));
-        QVERIFY(m_Host->window()->close());
+        QVERIFY(m_Host->window()->close() && !dialog()->isVisible());
     }
 
+    // OK and Cancel close the dialog, and so do Escape and the cross, which ask as OK does.
+    void answersOkAndCancel_data() {
+        const Rows<QString, QStringList, bool> row("by", "calls", "staysWhenRefused");
+        row("OK", "Host_OkButton", {"OK"}, true);
+        row("Cancel", "Host_CancelButton", {"Cancel"}, false);
+        row("Escape", "Escape", {"OK"}, true);
+        row("cross", "cross", {"OK"}, true);
+    }
     void answersOkAndCancel() {
-        QTest::keyClicks(child<QLineEdit>("Fake_Edit"), "typed");
-        click("Host_OkButton");
+        QFETCH(QString, by);
+        QFETCH(QStringList, calls);
+        QFETCH(bool, staysWhenRefused);
+        const auto end = [&] {
+            if (by == "Escape") return QTest::keyClick(child<QWidget>("Fake_Edit"), Qt::Key_Escape);
+            if (by == "cross") return void(dialog()->close());
+            click(qPrintable(by));
+        };
+        m_Host->window()->openSettings();
+        QTRY_VERIFY(child<QWidget>("Fake_Edit")->hasFocus());
+        QTest::keyClick(child<QWidget>("Fake_Edit"), Qt::Key_Return);  // is the page's own
         Fake::set("fake.refuse", true);
-        click("Host_OkButton");
-        click("Host_CancelButton");
-        QCOMPARE(Fake::calls().mid(4), (QStringList{"OK", "Show", "OK", "Cancel", "Show"}));
-        QVERIFY(m_Host->window()->isVisible());
-        QCOMPARE(child<QLineEdit>("Fake_Edit")->text(), QString("typed"));
+        end();
+        QCOMPARE(dialog()->isVisible(), staysWhenRefused);
+        Fake::set("fake.refuse", false);
+        if (staysWhenRefused) end();
+        QVERIFY(!dialog()->isVisible() && m_Host->window()->isVisible());
+        m_Host->window()->openSettings();
+        const QStringList twice = staysWhenRefused ? calls + calls : calls;
+        QCOMPARE(Fake::calls().mid(3), QStringList("Show") + twice + QStringList("Show"));
     }
 
     void staysOpenWhileAPageAsks() {
+        m_Host->window()->openSettings();
         Fake::set("fake.ask", true);
         bool closed = true;
         QTimer::singleShot(50, this, [&] {
@@ -165,22 +191,26 @@ private slots:
         });
         click("Host_OkButton");
         QVERIFY(!closed);
-        QCOMPARE(Fake::calls().mid(3), (QStringList{"Show", "OK", "Show"}));
+        QCOMPARE(Fake::calls().mid(3), (QStringList{"Show", "OK"}));
         QCOMPARE(pageList()->currentRow(), FakeRow);
     }
 
+    // Choices wait for OK while another page is on show; Cancel forgets them.
     void changesLanguage() {
         chooseLanguage("de");
+        clickRow(FakeRow);
         click("Host_CancelButton");
-        QCOMPARE(child<QComboBox>("Host_LanguageBox")->currentData().toString(), QString("en"));
-
         chooseLanguage("ar");
         auto* keepDefault = child<QCheckBox>("Host_KeepDefaultBox");
         keepDefault->click();
+        clickRow(FakeRow);
+        clickRow(HostRow);
+        QVERIFY(keepDefault->isChecked());
+        clickRow(FakeRow);
         QVERIFY(!Fake::calls().contains("Notify 320"));
+        QCOMPARE(CommonUtils::GetSettings("Host", "language"), QString());
         click("Host_OkButton");
         QCOMPARE(CommonUtils::GetSettings("ConnectionSetting", "load"), QString("true"));
-        QVERIFY(keepDefault->isChecked());
         QCOMPARE(Fake::calls().count("Notify 320"), 1);
         QCOMPARE(Change::GetLangName(), QString("ar"));
         QCOMPARE(pageList()->item(HostRow)->text(), hostText("IDS_HOST_SETTINGS_NAME"));
@@ -191,15 +221,18 @@ private slots:
         QCOMPARE(Change::GetLangName(), QString("en"));
     }
 
+    // The dialog goes to the page that can't be stored.
     void saysWhenSettingsAreNotStored() {
         TestFolder::write(m_Folder->path("file"), "");
         qputenv("ORBISDIAL_CONFIG_DIR", QFile::encodeName(m_Folder->path("file/config")));
         chooseLanguage("fr");
+        clickRow(FakeRow);
         QString said;
         QTimer::singleShot(50, this, [&said] { said = clickMessage(); });
         click("Host_OkButton");
         QCOMPARE(said, hostText("IDS_HOST_SETTINGS_NOT_SAVED"));
         QCOMPARE(Change::GetLangName(), QString("en"));
+        QVERIFY(dialog()->isVisible() && pageList()->currentRow() == HostRow);
         QCOMPARE(child<QComboBox>("Host_LanguageBox")->currentData().toString(), QString("fr"));
     }
 
@@ -212,7 +245,7 @@ private slots:
         } rows[] = {{"262011234567890", known, "100%3 <b>&",
                      "SIM card 262011234567890: preset \"100%3 <b>&\", selected by its prefix 26201"},
                     {"262011234567890", none, none, "SIM card 262011234567890: no preset matches it"},
-                    {"", known, "A", "No SIM card found"}};
+                    {"", known, "A", ""}};
         auto* edit = child<QLineEdit>("ModemPanel_Imsi");
         for (const auto& row : rows) {
             profiles()->setProperty(ORBISDIAL_MATCHED_IMSI_PREFIX, row.prefix);
@@ -221,7 +254,7 @@ private slots:
             QTest::keyClick(edit, Qt::Key_Delete);
             QTest::keyClicks(edit, row.imsi);
             QTest::keyClick(edit, Qt::Key_Return);
-            QCOMPARE(child<QLabel>("Host_SimSummary")->text(), QString(row.line));
+            QTRY_COMPARE(child<QLabel>("Host_SimSummary")->text(), QString(row.line));
         }
     }
 
@@ -257,13 +290,19 @@ private slots:
 
     void connects() {
         auto* label = child<QLabel>("Host_ConnectionState");
+        auto* failure = child<QLabel>("Host_FailureText");
         QTest::keyClick(child<QComboBox>("ModemPanel_Outcome"), Qt::Key_Down);
         click("Host_ConnectButton");
-        QTRY_VERIFY2(label->text().startsWith("Not connected: The network does not answer"), qPrintable(label->text()));
+        QTRY_VERIFY(failure->isVisible() && failure->text().contains("no carrier"));
+        QCOMPARE(label->text(), QString("Not connected"));
         QTest::keyClick(child<QComboBox>("ModemPanel_Outcome"), Qt::Key_Up);
-        click("Host_ConnectButton");
+        QTest::qWait(50);
+        QVERIFY(failure->isVisible());  // until the next attempt
+        click("Host_TryAgainButton");
+        QVERIFY(!failure->isVisible());
         QTRY_COMPARE(label->text(), QString("Connected with Home"));
         QCOMPARE(child<QPushButton>("Host_ConnectButton")->text(), QString("Disconnect"));
+        QVERIFY(child<QWidget>("Host_Transfer")->isVisible());
         QVERIFY(Fake::calls().contains("Notify 528"));
     }
 
@@ -272,6 +311,7 @@ private:
     T* child(const char* name) {
         return m_Host->window()->findChild<T*>(name);
     }
+    QWidget* dialog() { return child<QWidget>("Host_SettingsDialog"); }
     QListWidget* pageList() { return child<QListWidget>("Host_PageList"); }
     static QObject* find(const char* clsid, int kind) { return Startup::GetPluginContainer()->FindPlugin(clsid, kind); }
     static QObject* profiles() { return find(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind); }
@@ -297,6 +337,7 @@ private:
     }
 
     void chooseLanguage(const char* code) {
+        m_Host->window()->openSettings();
         clickRow(HostRow);
         auto* box = child<QComboBox>("Host_LanguageBox");
         box->setCurrentIndex(box->findData(code));

@@ -1,0 +1,15 @@
+// Volumes, rates and times for a person, in the current language's figures.
+#ifndef ORBISDIAL_AMOUNTS_H
+#define ORBISDIAL_AMOUNTS_H
+
+#include <QString>
+
+namespace Amounts {
+
+QString volume(quint64 bytes);        // "34.2 MB"
+QString rate(double bytesPerSecond);  // "1.2 Mbit/s"
+QString duration(qint64 seconds);     // "12:41", "3:12:41"
+
+}  // namespace Amounts
+
+#endif

@@ -1,0 +1,143 @@
+#include "ProfileChooser.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QStandardItemModel>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "HostText.h"
+#include "Plugins.h"
+
+namespace {
+
+constexpr int NameRole = Qt::UserRole;
+constexpr int LettersOfWidth = 24;
+
+bool isPreset(INetConnectSetting* profiles, const QString& name) {
+    DialupProfile profile;
+    profiles->GetDialUpProfile(name, &profile);
+    return profile.readonly == QLatin1String("true");
+}
+
+}  // namespace
+
+ProfileChooser::ProfileChooser(QWidget* parent) : QComboBox(parent), m_Items(new QStandardItemModel(this)) {
+    setObjectName(QStringLiteral("Host_ProfileChooser"));
+    setModel(m_Items);
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(LettersOfWidth);
+    completer()->setCompletionMode(QCompleter::PopupCompletion);
+    completer()->setFilterMode(Qt::MatchContains);
+    completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    connect(this, QOverload<int>::of(&QComboBox::activated), this, [this](int row) {
+        choose(itemData(row, NameRole).toString());
+        emit chosenByUser();
+    });
+    connect(lineEdit(), &QLineEdit::editingFinished, this, &ProfileChooser::takeTyped);
+}
+
+void ProfileChooser::refresh(const QString& defaultProfile) {
+    m_Default = defaultProfile;
+    const bool isInUse = hasFocus() || view()->isVisible();
+    m_IsFilled = false;
+    if (isInUse && !lineEdit()->isModified()) fill();
+    if (!isInUse) showCurrent();
+}
+
+void ProfileChooser::retranslate() {
+    setAccessibleName(hostText("IDS_HOST_PROFILE"));
+    setToolTip(hostText("IDS_HOST_PROFILE_TIP"));
+    m_IsFilled = false;
+    showCurrent();
+}
+
+void ProfileChooser::choose(const QString& name) {
+    m_Chosen = name == m_Default ? QString() : name;
+    showCurrent();
+}
+
+void ProfileChooser::fill() {
+    if (m_IsFilled) return;
+    m_IsFilled = true;
+    QStringList own, presets;
+    if (INetConnectSetting* const profiles = Plugins::profiles()) {
+        QList<QString> names;
+        profiles->GetAllDialUpProfile(&names);
+        for (const QString& name : qAsConst(names)) (isPreset(profiles, name) ? presets : own).append(name);
+    }
+    if (!own.contains(m_Chosen) && !presets.contains(m_Chosen)) m_Chosen.clear();
+    const QSignalBlocker quiet(this);
+    m_Items->clear();
+    addSection("IDS_HOST_PROFILES_OWN", own);
+    addSection("IDS_HOST_PROFILES_PRESETS", presets);
+    showCurrent();
+}
+
+void ProfileChooser::showPopup() {
+    fill();
+    QComboBox::showPopup();
+}
+
+void ProfileChooser::focusInEvent(QFocusEvent* event) {
+    fill();
+    QComboBox::focusInEvent(event);
+    lineEdit()->selectAll();
+}
+
+// The wheel scrolls, and must not choose on the way.
+void ProfileChooser::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void ProfileChooser::addSection(const char* id, const QStringList& names) {
+    if (names.isEmpty()) return;
+    auto* const title = new QStandardItem(hostText(id));
+    title->setFlags(Qt::NoItemFlags);
+    QFont bold = font();
+    bold.setBold(true);
+    title->setFont(bold);
+    m_Items->appendRow(title);
+    for (const QString& name : names) addProfile(name);
+}
+
+void ProfileChooser::addProfile(const QString& name) {
+    auto* const item = new QStandardItem(shownName(name));
+    item->setData(name, NameRole);
+    m_Items->appendRow(item);
+}
+
+void ProfileChooser::showCurrent() {
+    const QSignalBlocker quiet(this);
+    const QString name = m_Chosen.isEmpty() ? m_Default : m_Chosen;
+    if (!m_IsFilled) {
+        m_Items->clear();
+        if (!name.isEmpty()) addProfile(name);
+    }
+    setCurrentIndex(rowOf(name));
+    setEditText(name.isEmpty() ? hostText("IDS_HOST_NO_DEFAULT_PROFILE") : shownName(name));
+    lineEdit()->setCursorPosition(0);
+}
+
+// What was typed may be a whole name, or the part of a single one.
+void ProfileChooser::takeTyped() {
+    if (!lineEdit()->isModified()) return;
+    const QString typed = currentText().trimmed();
+    int found = findText(typed, Qt::MatchFixedString);
+    if (found < 0) found = rowOf(typed);
+    const auto parts = m_Items->findItems(typed, Qt::MatchContains);
+    if (found < 0 && !typed.isEmpty() && parts.size() == 1) found = parts.first()->row();
+    const QString name = found < 0 ? QString() : itemData(found, NameRole).toString();
+    if (name.isEmpty()) return showCurrent();
+    choose(name);
+    emit chosenByUser();
+}
+
+QString ProfileChooser::shownName(const QString& name) const {
+    return name == m_Default ? hostText("IDS_HOST_PROFILE_DEFAULT", {name}) : name;
+}
+
+int ProfileChooser::rowOf(const QString& name) const {
+    return name.isEmpty() ? -1 : findData(name, NameRole, Qt::MatchExactly | Qt::MatchCaseSensitive);
+}

@@ -1,0 +1,54 @@
+// The box that chooses the profile to connect with: the user's own ones, then the presets; typing finds.
+#ifndef ORBISDIAL_PROFILECHOOSER_H
+#define ORBISDIAL_PROFILECHOOSER_H
+
+#include <QComboBox>
+
+class QStandardItemModel;
+
+// Until somebody chooses, it stands at the default profile. It asks for the list of profiles only when it is entered or
+// opened, since that may be long.
+class ProfileChooser : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit ProfileChooser(QWidget* parent = nullptr);
+
+    // The profiles may have changed.
+    void refresh(const QString& defaultProfile);
+
+    void retranslate();
+
+    // The profile to connect with; empty: the default one.
+    QString chosen() const { return m_Chosen; }
+
+    // Stands at this profile, as if it had been chosen.
+    void choose(const QString& name);
+
+    // The list as it is now.
+    void fill();
+
+    void showPopup() override;
+
+signals:
+    void chosenByUser();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void addSection(const char* id, const QStringList& names);
+    void addProfile(const QString& name);
+    void showCurrent();
+    void takeTyped();
+    QString shownName(const QString& name) const;
+    int rowOf(const QString& name) const;
+
+    QStandardItemModel* m_Items;
+    QString m_Default;
+    QString m_Chosen;
+    bool m_IsFilled = false;
+};
+
+#endif

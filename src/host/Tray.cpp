@@ -1,0 +1,75 @@
+#include "Tray.h"
+
+#include "HostSettings.h"
+#include "HostText.h"
+#include "Notices.h"
+#include "Plugins.h"
+#include "StateSign.h"
+
+namespace {
+
+constexpr int MostProfiles = 30;  // more don't fit a screen; the window has them all
+
+// A menu takes a single "&" for a mnemonic.
+QString plain(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
+
+}  // namespace
+
+Tray::Tray(QObject* parent) : QObject(parent) {
+    m_State = m_Menu.addAction(QString());
+    m_State->setEnabled(false);
+    m_Menu.addSeparator();
+    m_Action = m_Menu.addAction(QString(), this, &Tray::acted);
+    m_Profiles = m_Menu.addMenu(QString());
+    m_Menu.addSeparator();
+    m_Show = m_Menu.addAction(QString(), this, &Tray::windowWanted);
+    m_Quit = m_Menu.addAction(QString(), this, &Tray::quitWanted);
+    connect(m_Profiles, &QMenu::aboutToShow, this, &Tray::listProfiles);
+    connect(&m_Icon, &QSystemTrayIcon::messageClicked, this, &Tray::windowWanted);
+    connect(&m_Icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick) emit windowWanted();
+    });
+    m_Icon.setContextMenu(&m_Menu);
+    m_Icon.setIcon(StateSign::icon(m_Picture.sign));
+    retranslate();
+    m_Icon.show();
+}
+
+void Tray::refresh(const ConnectionPicture& picture) {
+    const auto notice = Notice::of(m_Picture, picture);
+    if (picture.sign != m_Picture.sign) m_Icon.setIcon(StateSign::icon(picture.sign));
+    m_Picture = picture;
+    m_Icon.setToolTip(picture.headline + QLatin1Char('\n') + picture.detail);
+    m_State->setText(plain(picture.headline));
+    m_Action->setText(plain(ConnectionPicture::actionText(picture.action)));
+    m_Action->setEnabled(picture.isActionAllowed);
+    m_Profiles->setEnabled(picture.isActionAllowed && picture.action == ConnectionPicture::Connect);
+    // What was so before the program started is no news.
+    if (notice && !m_IsFirst) say(notice->title, notice->text, notice->isWarning);
+    m_IsFirst = false;
+}
+
+void Tray::retranslate() {
+    m_Profiles->setTitle(hostText("IDS_HOST_CONNECT_WITH"));
+    m_Show->setText(hostText("IDS_HOST_SHOW_WINDOW"));
+    m_Quit->setText(hostText("IDS_HOST_QUIT"));
+}
+
+void Tray::say(const QString& title, const QString& text, bool isWarning) {
+    if (!HostSettings::isOn(HostSettings::Notifies)) return;
+    m_Icon.showMessage(title, text, isWarning ? QSystemTrayIcon::Warning : QSystemTrayIcon::Information);
+}
+
+void Tray::listProfiles() {
+    m_Profiles->clear();
+    INetConnectSetting* const profiles = Plugins::profiles();
+    if (!profiles) return;
+    QList<QString> names;
+    QString standard;
+    profiles->GetAllDialUpProfile(&names);
+    profiles->GetDefaultDialUpProfileName(&standard);
+    for (const QString& name : names.mid(0, MostProfiles)) {
+        const QString text = name == standard ? hostText("IDS_HOST_PROFILE_DEFAULT", {name}) : name;
+        m_Profiles->addAction(plain(text), this, [this, name] { emit connectWanted(name); });
+    }
+}
