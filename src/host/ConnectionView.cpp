@@ -17,6 +17,7 @@
 namespace {
 
 constexpr int SecondMs = 1000;
+constexpr int SecondsPerLook = 15;  // at the month's volume, which is counted each minute
 
 QLabel* makeLabel(const char* name, bool wraps = true) {
     auto* label = new QLabel;
@@ -203,11 +204,12 @@ void ConnectionView::followTransfer() {
     if (!isSeen) return m_EachSecond.stop();
     m_Clock.start();
     m_EachSecond.start();
-    showMonth();
+    m_Seconds = 0;
     count();
 }
 
 void ConnectionView::count() {
+    if (m_Seconds++ % SecondsPerLook == 0) showMonth();
     const DataConnection connection = DataConnection::current();
     m_Received.add(connection.received, m_Clock.elapsed());
     m_Sent.add(connection.sent, m_Clock.elapsed());
@@ -222,8 +224,10 @@ void ConnectionView::count() {
 void ConnectionView::showMonth() {
     const QString imsi = ModemState::current().imsi;
     const DataUsage usage;
-    const QString used = Amounts::volume(usage.month(imsi).all());
+    const quint64 all = usage.month(imsi).all();
     const quint64 limit = usage.limit(imsi);
+    const QString used = Amounts::volume(all);
+    m_Month->setVisible(all > 0 || limit > 0);
     m_Month->setText(limit ? hostText("IDS_HOST_MONTH_OF", {used, Amounts::volume(limit)})
                            : hostText("IDS_HOST_MONTH", {used}));
 }

@@ -79,6 +79,7 @@ private:
     QLabel* m_StorageProblem;
 
     QTimer m_EachSecond;  // while a connection is up and the window can be seen
+    int m_Seconds = 0;
     QElapsedTimer m_Clock;
     TransferRate m_Received, m_Sent;
 };

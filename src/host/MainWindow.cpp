@@ -147,7 +147,6 @@ bool MainWindow::quit() {
     m_IsEnding = true;
     const bool ends = close();
     m_IsEnding = false;
-    if (ends && isHidden()) closeForGood();  // a hidden window gets no event of its closing
     return ends;
 }
 

@@ -5,7 +5,8 @@
 //   fake.calls     QStringList  the operations in their order
 //   fake.refuse    bool         OK and HideSetting refuse
 //   fake.ask       bool         they ask a question first, in a message box
-//   fake.profiles  QStringList  the profiles' names; a name that begins with "Ask" wants to be asked
+//   fake.profiles  QStringList  the profiles' names; one that begins with "Ask" wants to be asked, with
+//                              "Preset" can't be changed
 //   fake.default   QString
 //   fake.neverAsk  bool         the configuration forbids to ask
 //   fake.fields    QVariantMap  what every profile holds besides, by its attributes
@@ -76,6 +77,7 @@ public:
         *profile = DialupProfile();
         if (!profiles().contains(name)) return 0;
         profile->name = name;
+        profile->readonly = name.startsWith("Preset") ? "true" : "false";
         profile->user = "ada";
         profile->password = "secret-of-ada";
         profile->popusername = name.startsWith("Ask") ? "true" : "false";

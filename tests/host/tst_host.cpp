@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QListWidget>
@@ -15,11 +16,14 @@
 
 #include "Change.h"
 #include "CommonUtils.h"
+#include "ConnectionView.h"
 #include "FakeProfiles.h"
 #include "Host.h"
+#include "HostSettings.h"
 #include "HostText.h"
 #include "IDialupUIService.h"
 #include "Languages.h"
+#include "ProfileChooser.h"
 #include "Rows.h"
 #include "SettingsPages.h"
 #include "Startup.h"
@@ -304,6 +308,108 @@ private slots:
         QCOMPARE(child<QPushButton>("Host_ConnectButton")->text(), QString("Disconnect"));
         QVERIFY(child<QWidget>("Host_Transfer")->isVisible());
         QVERIFY(Fake::calls().contains("Notify 528"));
+    }
+
+    // Typing finds; own profiles and presets stand apart; a name that is none gives way.
+    void choosesAProfile() {
+        Fake::set("fake.profiles", QStringList{"Home", "Preset 1", "Travel", "Preset 2"});
+        auto* chooser = child<QComboBox>("Host_ProfileChooser");
+        m_Host->window()->refresh();
+        QCOMPARE(chooser->currentText(), QString("Home (Default)"));
+        m_Host->window()->activateWindow();
+        chooser->setFocus();
+        QTRY_VERIFY(chooser->hasFocus());
+        QStringList shown;
+        for (int i = 0; i < chooser->count(); ++i) shown.append(chooser->itemText(i));
+        QCOMPARE(shown, (QStringList{"My profiles", "Home (Default)", "Travel", "Presets for this SIM card", "Preset 1",
+                                     "Preset 2"}));
+        const struct {
+            const char *typed, *shown;
+        } rows[] = {{"rave", "Travel"}, {"preset 2", "Preset 2"}, {"nothing such", "Preset 2"}, {"Preset", "Preset 2"}};
+        for (const auto& row : rows) {
+            chooser->lineEdit()->selectAll();
+            QTest::keyClicks(chooser, row.typed);
+            QTest::keyClick(chooser, Qt::Key_Escape);  // of what completes
+            QTest::keyClick(chooser, Qt::Key_Return);
+            QCOMPARE(chooser->currentText(), QString(row.shown));
+        }
+        click("Host_ConnectButton");
+        QTRY_COMPARE(child<QLabel>("Host_ConnectionState")->text(), QString("Connected with Preset 2"));
+        QVERIFY(!chooser->isEnabled());
+        m_Host->window()->view()->act();
+        QTRY_VERIFY(chooser->isEnabled());
+        Fake::set("fake.profiles", QStringList("Home"));
+        m_Host->window()->refresh();
+        static_cast<ProfileChooser*>(chooser)->fill();
+        QCOMPARE(chooser->currentText(), QString("Home (Default)"));
+    }
+
+    // The last attempt is spent only after somebody agreed, and a PUK needs a new PIN twice.
+    void unlocks() {
+        vrks_simulated_set("UNLOCK_MS", "1");
+        vrks_simulated_set("PIN_ATTEMPTS", "2");
+        vrks_simulated_change("LOCK", "pin");
+        QTRY_COMPARE(child<QPushButton>("Host_ConnectButton")->text(), QString("Unlock\u2026"));
+        click("Host_ConnectButton");
+        auto* code = child<QLineEdit>("Unlock_Code");
+        auto* result = child<QLabel>("Unlock_Result");
+        auto* left = child<QLabel>("Unlock_Attempts");
+        auto* ok = child<QDialog>("Host_UnlockDialog")->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        QTest::keyClicks(code, "9x9");
+        QVERIFY(code->text() == "99" && !ok->isEnabled());
+        QTest::keyClicks(code, "99");
+        QTest::mouseClick(ok, Qt::LeftButton);
+        QTRY_COMPARE(result->text(), QString("That was wrong."));
+        QVERIFY(code->text().isEmpty() && left->text().contains("PUK"));
+        QTest::keyClicks(code, "9999");
+        QVERIFY(!ok->isEnabled());
+        child<QCheckBox>("Unlock_UseLast")->click();
+        QTest::mouseClick(ok, Qt::LeftButton);
+        auto* pin = child<QLineEdit>("Unlock_NewPin");
+        QTRY_VERIFY(pin->isVisible());
+        QTest::keyClicks(code, "12345678");
+        QTest::keyClicks(pin, "4321");
+        QTest::keyClicks(child<QLineEdit>("Unlock_RepeatPin"), "432");
+        QVERIFY(!ok->isEnabled());
+        QTest::keyClicks(child<QLineEdit>("Unlock_RepeatPin"), "1");
+        QTest::mouseClick(ok, Qt::LeftButton);
+        QTRY_COMPARE(child<QPushButton>("Host_ConnectButton")->text(), QString("Connect"));
+        QTRY_VERIFY(!child<QWidget>("Host_UnlockDialog"));
+    }
+
+    // Closing while connected says what happens; no answer keeps the window.
+    void asksBeforeAConnectionEnds() {
+        click("Host_ConnectButton");
+        QTRY_COMPARE(child<QLabel>("Host_ConnectionState")->text(), QString("Connected with Home"));
+        QSignalSpy closed(m_Host->window(), &MainWindow::closed);
+        QTimer::singleShot(50, this, [] { QApplication::activeModalWidget()->close(); });
+        QVERIFY(!m_Host->window()->quit() && closed.isEmpty());
+        QString said;
+        QTimer::singleShot(50, this, [&said] { said = clickMessage(); });
+        QVERIFY(m_Host->window()->quit());
+        QVERIFY2(said.startsWith("You are connected. The connection ends"), qPrintable(said));
+        QCOMPARE(closed.size(), 1);
+        QVERIFY(!HostSettings::windowGeometry().isEmpty());
+    }
+
+    void startsWithTheSession() {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_Folder->path("xdg")));
+        QVERIFY(!HostSettings::startsWithSession() && HostSettings::setStartsWithSession(true));
+        const QByteArray entry = TestFolder::read(m_Folder->path("xdg/autostart/orbisdial.desktop"));
+        QVERIFY2(entry.contains("\" --tray\n") && HostSettings::startsWithSession(), entry);
+        QVERIFY(HostSettings::setStartsWithSession(false) && !HostSettings::startsWithSession());
+    }
+
+    // Events of the modem reach the window and the plug-ins, and nothing is polled.
+    void followsTheModem() {
+        auto* detail = child<QLabel>("Host_ConnectionDetail");
+        vrks_simulated_change("SIGNAL", "20");
+        QTRY_VERIFY2(detail->text().contains("20 %"), qPrintable(detail->text()));
+        vrks_simulated_change("SYS_MODE", "5");
+        QTRY_COMPARE(Fake::calls().count("Notify 4101"), 1);
+        vrks_simulated_change("PRESENT", "0");
+        QTRY_COMPARE(child<QLabel>("Host_ConnectionState")->text(), QString("No modem"));
+        QVERIFY(!child<QPushButton>("Host_ConnectButton")->isEnabled());
     }
 
 private:
