@@ -72,6 +72,7 @@ QString networkText(const ConnectionFacts& facts) {
     if (modem.signal >= 0) parts.append(hostText("IDS_HOST_SIGNAL", {QString::number(modem.signal)}));
     if (modem.registration == VRKS_REGISTRATION_ROAMING) parts.append(hostText("IDS_HOST_ROAMING"));
     parts.removeAll(QString());
+    for (QString& part : parts) part = isolated(part);
     return parts.join(QStringLiteral(" \u00b7 "));
 }
 

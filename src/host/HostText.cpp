@@ -2,16 +2,11 @@
 
 #include <QGuiApplication>
 
-namespace {
-
-// From right to left a name keeps to itself, or its figures and signs would change places with the words around it.
 QString isolated(const QString& value) {
     constexpr ushort FirstStrongIsolate = 0x2068, PopDirectionalIsolate = 0x2069;
     if (!QGuiApplication::isRightToLeft()) return value;
     return QChar(FirstStrongIsolate) + value + QChar(PopDirectionalIsolate);
 }
-
-}  // namespace
 
 QString hostText(const char* id, const QStringList& values) {
     const QStringList parts = hostText(id).split(QLatin1Char('%'));

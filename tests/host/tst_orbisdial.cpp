@@ -65,6 +65,20 @@ private slots:
         QVERIFY(TestFolder::read(m_Folder.userFile()).contains("<Default name=\"\"/>"));
     }
 
+    // The second start asks the first one to come to the front, and ends; other folders are another program.
+    void startsOnce() {
+        const QString runner = QStandardPaths::findExecutable("dbus-run-session");
+        if (runner.isEmpty()) QSKIP("no dbus-run-session");
+        const QString script =
+            QStringLiteral(
+                "%1 & first=$!; sleep 1; timeout 20 %1; echo second $?; kill -0 $first && echo first runs; "
+                "ORBISDIAL_CONFIG_DIR=%2 timeout 2 %1; echo other $?; kill $first; wait $first")
+                .arg(ORBISDIAL_PROGRAM, m_Folder.path("other"));
+        const Outcome outcome = runProgram(runner, {"--", "sh", "-c", script});
+        QVERIFY2(outcome.out.startsWith("second 0\nfirst runs\nother "), outcome.out + outcome.err);
+        QVERIFY2(!outcome.out.contains("other 0"), outcome.out);  // it runs until the time is over
+    }
+
 private:
     const TestFolder m_Folder;
     const QString m_Picture = m_Folder.path("picture.png");
