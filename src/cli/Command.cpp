@@ -1,33 +1,50 @@
 #include "Command.h"
 
+#include <QSet>
+
 #include "CommandError.h"
 #include "Commands.h"
 
 namespace {
 
-constexpr CommandOption NoOption{nullptr, nullptr, nullptr};
 constexpr CommandOption Secrets{"secrets", "Show the password too.", nullptr};
 constexpr CommandOption Like{"like", "Start from this profile instead of the template for new ones.", "PROFILE"};
-constexpr CommandOption Clear{"clear", "Have no default profile of one's own.", nullptr};
+constexpr CommandOption Clear{"clear", "Take the choice back.", nullptr};
 constexpr CommandOption Replace{"replace", "Replace profiles whose names exist; without it they are skipped.", nullptr};
+constexpr CommandOption Last{"last", "Spend the last attempt, too.", nullptr};
+constexpr CommandOption Timeout{"timeout", "Wait no longer than so many seconds.", "SECONDS"};
 
 constexpr int Any = Command::AnyNumber;
 
+template <class... Options>
+constexpr CommandOptions with(const Options&... options) {
+    return {&options...};
+}
+
+constexpr CommandOptions NoOptions{};
+
 const Command Commands[] = {
-    {"list", "", 0, 0, NoOption, "List all profiles; * marks the default.", listProfiles},
-    {"show", "NAME...", 1, Any, Secrets, "Show the fields of profiles.", showProfiles},
-    {"add", "NAME [FIELD=VALUE...]", 1, Any, Like, "Add a profile. password=- reads the password from standard input.",
-     addProfile},
-    {"set", "NAME FIELD=VALUE...", 2, Any, NoOption, "Change fields of a profile; name=NEW renames it.", setFields},
-    {"delete", "NAME...", 1, Any, NoOption, "Delete profiles: all of them, or none.", deleteProfiles},
-    {"default", "[NAME]", 0, 1, Clear, "Show the default profile, or choose it.", defaultProfile},
-    {"import", "FILE [NAME...]", 1, Any, Replace, "Import all profiles of a file, or the named ones.", importProfiles},
-    {"export", "FILE NAME...", 2, Any, NoOption, "Export profiles into a file; others that it holds stay.",
+    {"list", "", 0, 0, NoOptions, "List all profiles; * marks the default.", listProfiles},
+    {"show", "NAME...", 1, Any, with(Secrets), "Show the fields of profiles.", showProfiles},
+    {"add", "NAME [FIELD=VALUE...]", 1, Any, with(Like),
+     "Add a profile. password=- reads the password from standard input.", addProfile},
+    {"set", "NAME FIELD=VALUE...", 2, Any, NoOptions, "Change fields of a profile; name=NEW renames it.", setFields},
+    {"delete", "NAME...", 1, Any, NoOptions, "Delete profiles: all of them, or none.", deleteProfiles},
+    {"default", "[NAME]", 0, 1, with(Clear), "Show the default profile, or choose it.", defaultProfile},
+    {"import", "FILE [NAME...]", 1, Any, with(Replace), "Import all profiles of a file, or the named ones.",
+     importProfiles},
+    {"export", "FILE NAME...", 2, Any, NoOptions, "Export profiles into a file; others that it holds stay.",
      exportProfiles},
-    {"explain", "IMSI...", 1, Any, NoOption, "Tell which presets SIM cards select; - reads IMSIs from standard input.",
+    {"explain", "IMSI...", 1, Any, NoOptions, "Tell which presets SIM cards select; - reads IMSIs from standard input.",
      explainIMSIs},
-    {"config", "[KEY]", 0, 1, NoOption, "Show a value of the function configuration, or all.", showConfiguration},
-    {"device", "", 0, 0, NoOption, "Show what the modem and its SIM card report.", showDevice},
+    {"config", "[KEY]", 0, 1, NoOptions, "Show a value of the function configuration, or all.", showConfiguration},
+    {"device", "", 0, 0, NoOptions, "Show what the modem and its SIM card report, and the connection.", showDevice},
+    {"modems", "", 0, 0, NoOptions, "List the modems; * marks the one in use.", listModems},
+    {"modem", "[ID]", 0, 1, with(Clear), "Show the modem in use, or choose one by its key, IMEI or port.", chooseModem},
+    {"pin", "", 0, 0, with(Last, Timeout), "Unlock the SIM card; the PIN is asked for, or read from standard input.",
+     enterPin},
+    {"puk", "", 0, 0, with(Last, Timeout), "Unlock the SIM card with its PUK and set a new PIN, a line each.",
+     enterPuk},
 };
 
 const Command* findCommand(const QString& name) {
@@ -47,8 +64,12 @@ void addGlobalOptions(QCommandLineParser* parser) {
     });
 }
 
-void addOption(QCommandLineParser* parser, const CommandOption& option) {
-    if (option.name) parser->addOption({option.name, option.help, option.value});
+void addOptions(QCommandLineParser* parser, const Command& command, QSet<const CommandOption*>* added) {
+    for (const CommandOption* option : command.options) {
+        if (!option || added->contains(option)) continue;
+        added->insert(option);
+        parser->addOption({option->name, option->help, option->value});
+    }
 }
 
 void parse(QCommandLineParser* parser, const QStringList& commandLine) {
@@ -59,7 +80,8 @@ void parse(QCommandLineParser* parser, const QStringList& commandLine) {
 const Command* commandOf(const QStringList& commandLine) {
     QCommandLineParser parser;
     addGlobalOptions(&parser);
-    for (const Command& command : Commands) addOption(&parser, command.option);
+    QSet<const CommandOption*> added;
+    for (const Command& command : Commands) addOptions(&parser, command, &added);
     parse(&parser, commandLine);
     if (!parser.positionalArguments().isEmpty()) return findCommand(parser.positionalArguments().first());
     if (parser.isSet("help") || parser.isSet("version")) return nullptr;
@@ -75,8 +97,8 @@ QStringList withHelpAsOption(QStringList commandLine) {
 
 QString overview() {
     QString text = "Command-line client of the OrbisDial connection manager.\n\nCommands:\n";
-    for (const Command& command : Commands) text += QString("  %1 %2\n").arg(command.name, -8).arg(command.help);
-    return text + "  help     Show this help, or that of a command.";
+    for (const Command& command : Commands) text += QString("  %1 %2\n").arg(command.name, -11).arg(command.help);
+    return text + "  help        Show this help, or that of a command.";
 }
 
 }  // namespace
@@ -97,7 +119,8 @@ void Invocation::describe() {
         m_Parser.addPositionalArgument("COMMAND", "See orbisctl COMMAND --help.", "COMMAND [ARGUMENT...]");
         return;
     }
-    addOption(&m_Parser, m_pCommand->option);
+    QSet<const CommandOption*> added;
+    addOptions(&m_Parser, *m_pCommand, &added);
     const QString syntax = QString("%1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed();
     m_Parser.addPositionalArgument(m_pCommand->name, m_pCommand->help, syntax);
 }
@@ -109,3 +132,14 @@ void Invocation::checkArguments() const {
 }
 
 QString Invocation::helpText() const { return m_Parser.helpText(); }
+
+qint64 Invocation::patience(int seconds) const {
+    if (isSet("timeout")) {
+        constexpr int longest = 24 * 60 * 60;
+        bool isNumber = false;
+        seconds = value("timeout").toInt(&isNumber);
+        if (!isNumber || seconds < 1 || seconds > longest)
+            throw CommandError::usage("--timeout takes a number of seconds from 1 to 86400");
+    }
+    return seconds < 0 ? -1 : qint64(seconds) * 1000;
+}

@@ -4,16 +4,19 @@
 
 #include <QCommandLineParser>
 #include <QStringList>
+#include <array>
 
 class Invocation;
 class Output;
 
-// The one option that a command may have for itself. Without a value name it is a switch.
+// An option that a command has for itself. Without a value name it is a switch.
 struct CommandOption {
     const char* name;
     const char* help;
     const char* value;
 };
+
+using CommandOptions = std::array<const CommandOption*, 3>;  // null where there are fewer
 
 struct Command {
     static constexpr int AnyNumber = -1;
@@ -22,7 +25,7 @@ struct Command {
     const char* arguments;  // as the help shows them
     int fewest;             // arguments
     int most;               // AnyNumber: no limit
-    CommandOption option;   // its name is null when there is none
+    CommandOptions options;
     const char* help;
     void (*run)(const Invocation& invocation, Output& output);  // throws CommandError
 };
@@ -41,6 +44,10 @@ public:
 
     bool isSet(const QString& option) const { return m_Parser.isSet(option); }
     QString value(const QString& option) const { return m_Parser.value(option); }
+
+    // The value of --timeout in milliseconds; these seconds where it is not given. -1 is for ever. Throws a
+    // CommandError for what is no number of seconds.
+    qint64 patience(int seconds = -1) const;
 
     // Of the command, or of the whole program.
     QString helpText() const;

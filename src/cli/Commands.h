@@ -26,4 +26,12 @@ void explainIMSIs(const Invocation& invocation, Output& output);
 // DeviceCommand.cpp
 void showDevice(const Invocation& invocation, Output& output);
 
+// ModemCommands.cpp
+void listModems(const Invocation& invocation, Output& output);
+void chooseModem(const Invocation& invocation, Output& output);
+
+// UnlockCommands.cpp
+void enterPin(const Invocation& invocation, Output& output);
+void enterPuk(const Invocation& invocation, Output& output);
+
 #endif

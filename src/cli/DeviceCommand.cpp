@@ -4,6 +4,8 @@
 
 #include "Command.h"
 #include "Commands.h"
+#include "ConnectionReport.h"
+#include "ModemReport.h"
 #include "Output.h"
 #include "ProfileSession.h"
 #include "vrks_simulated.h"
@@ -39,8 +41,6 @@ QJsonValue cardMode() {
     return int(mode);
 }
 
-enum { SystemModeOffset = 4, SystemSubModeOffset = 20 };  // in bytes
-
 template <int Offset>
 QJsonValue systemInformation() {
     unsigned char record[VRKS_SYSINFO_SIZE] = {0};
@@ -51,10 +51,10 @@ QJsonValue systemInformation() {
 }
 
 QJsonValue dataServiceUser() {
-    const int textSize = 256;
     char record[VRKS_DSPROFILE_SIZE] = {0};
     if (VRKS_NetConnectSrv_DSGetProfile(record) != 0) return QJsonValue();
-    return QString::fromUtf8(record, int(qstrnlen(record, textSize)));
+    return QString::fromUtf8(record + VRKS_DSPROFILE_USER_OFFSET,
+                             int(qstrnlen(record + VRKS_DSPROFILE_USER_OFFSET, VRKS_DSPROFILE_TEXT_SIZE)));
 }
 
 struct DeviceRow {
@@ -71,20 +71,27 @@ const DeviceRow DeviceRows[] = {
     {"imsi", "IMSI", text<VRKS_DevSrv_GetImsiInfo, VRKS_IMSI_SIZE>},
     {"multiMode", "multi-mode card", isMultiMode},
     {"cardMode", "card mode (2 is CDMA)", cardMode},
-    {"systemMode", "system mode", systemInformation<SystemModeOffset>},
-    {"systemSubMode", "system sub-mode", systemInformation<SystemSubModeOffset>},
+    {"systemMode", "system mode", systemInformation<VRKS_SYSINFO_MODE_OFFSET>},
+    {"systemSubMode", "system sub-mode", systemInformation<VRKS_SYSINFO_SUBMODE_OFFSET>},
     {"user", "data-service user", dataServiceUser},
 };
 
-QString lineOf(const QString& label, const QJsonValue& value) {
-    QString text = "-";
-    if (value.isBool()) text = value.toBool() ? "yes" : "no";
-    if (value.isDouble()) text = QString::number(value.toInt());
-    if (value.isString()) text = value.toString();
-    return QString("%1 %2").arg(label, -25).arg(text);
+QJsonValue nullIfEmpty(const QString& text) { return text.isEmpty() ? QJsonValue() : text; }
+
+// The modem in use, null where nothing can tell.
+QJsonValue addModem(QStringList* lines) {
+    VRKS_ModemInfo info;
+    if (!ModemReport::current(&info)) return QJsonValue();
+    lines->append(ModemReport::lines(info));
+    return ModemReport::object(info);
 }
 
-QJsonValue nullIfEmpty(const QString& text) { return text.isEmpty() ? QJsonValue() : text; }
+QJsonValue addConnection(QStringList* lines) {
+    if (!ConnectionReport::isKnown()) return QJsonValue();
+    const DataConnection connection = DataConnection::current();
+    lines->append(ModemReport::line("connection", ConnectionReport::line(connection)));
+    return ConnectionReport::object(connection);
+}
 
 }  // namespace
 
@@ -94,11 +101,13 @@ void showDevice(const Invocation&, Output& output) {
     QStringList lines;
     const auto add = [&](const char* key, const char* label, const QJsonValue& value) {
         object[key] = value;
-        lines.append(lineOf(label, value));
+        lines.append(ModemReport::line(label, value));
     };
     if (vrks_simulated_active()) lines.append("This is a simulated modem.");
     object["simulated"] = vrks_simulated_active() != 0;
     for (const DeviceRow& row : DeviceRows) add(row.key, row.label, row.value());
+    object["modem"] = addModem(&lines);
+    object["connection"] = addConnection(&lines);
     add("prefix", "matched IMSI prefix", nullIfEmpty(session->MatchedIMSIPrefix()));
     add("proposedDefault", "proposed default", nullIfEmpty(session->ProposedDefault()));
     add("note", "note", nullIfEmpty(session.presetsNote()));

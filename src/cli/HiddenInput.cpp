@@ -11,6 +11,7 @@
 
 #include "CommandError.h"
 #include "StandardOutput.h"
+#include "TerminalText.h"
 
 namespace {
 
@@ -68,23 +69,24 @@ private:
     struct sigaction m_Before[NSIG] = {};
 };
 
-// Keeps a terminal from showing what is typed, while it lives.
-class EchoOff {
+// Asks at a terminal, and keeps it from showing what is typed while it lives, unless everybody may see that.
+class Prompt {
 public:
-    explicit EchoOff(const char* prompt) : m_bTerminal(tcgetattr(STDIN_FILENO, &m_Before) == 0) {
+    Prompt(const QByteArray& text, bool isShown)
+        : m_bShown(isShown), m_bTerminal(tcgetattr(STDIN_FILENO, &m_Before) == 0) {
         if (!m_bTerminal) return;
         termios silent = m_Before;
-        silent.c_lflag &= ~tcflag_t(ECHO);
+        if (!m_bShown) silent.c_lflag &= ~tcflag_t(ECHO);
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &silent);
-        StandardOutput::write(STDERR_FILENO, prompt, std::strlen(prompt));
+        StandardOutput::write(STDERR_FILENO, text.constData(), std::size_t(text.size()));
     }
-    ~EchoOff() {
+    ~Prompt() {
         if (!m_bTerminal || isBackground()) return;  // then the shell has made the terminal its own again
         tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_Before);
-        StandardOutput::write(STDERR_FILENO, "\n", 1);
+        if (!m_bShown) StandardOutput::write(STDERR_FILENO, "\n", 1);
     }
-    EchoOff(const EchoOff&) = delete;
-    EchoOff& operator=(const EchoOff&) = delete;
+    Prompt(const Prompt&) = delete;
+    Prompt& operator=(const Prompt&) = delete;
 
 private:
     static bool isBackground() {
@@ -92,6 +94,7 @@ private:
         return foreground > 0 && foreground != getpgrp();
     }
 
+    const bool m_bShown;
     termios m_Before;
     const bool m_bTerminal;
 };
@@ -119,12 +122,12 @@ void waitForForeground() {
 }
 
 // When a signal comes all is put back before it does what it does; where the program then goes on, it asks again.
-QByteArray askForLine(const char* prompt) {
+QByteArray askForLine(const QByteArray& prompt, bool isShown) {
     for (;;) {
         waitForForeground();
         {
             const KeptSignals kept;
-            const EchoOff echoOff(prompt);
+            const Prompt atTerminal(prompt, isShown);
             QByteArray line;
             if (readLine(kept, &line)) return line;
         }
@@ -132,14 +135,20 @@ QByteArray askForLine(const char* prompt) {
     }
 }
 
-}  // namespace
-
-QString readHiddenLine(const char* prompt) {
-    QByteArray line = askForLine(prompt);
-    if (line.isEmpty()) throw CommandError::failed("standard input holds no password");
+QString readText(const QString& prompt, const char* name, bool isShown) {
+    QByteArray line = askForLine(TerminalText::printable(prompt).toUtf8(), isShown);
+    if (line.isEmpty()) throw CommandError::failed(QString("standard input holds no %1").arg(name));
     if (line.endsWith('\n')) line.chop(1);
     if (line.endsWith('\r')) line.chop(1);
     const QString text = QString::fromUtf8(line);
-    if (text.toUtf8() != line) throw CommandError::failed("the password on standard input is not UTF-8");
+    if (text.toUtf8() != line) throw CommandError::failed(QString("the %1 on standard input is not UTF-8").arg(name));
     return text;
 }
+
+}  // namespace
+
+QString readHiddenLine(const QString& prompt, const char* name) { return readText(prompt, name, false); }
+
+QString readShownLine(const QString& prompt, const char* name) { return readText(prompt, name, true); }
+
+bool isTerminalInput() { return ::isatty(STDIN_FILENO) == 1; }

@@ -4,8 +4,14 @@
 
 #include <QString>
 
-// The first line of standard input. At a terminal the prompt is shown and what is typed is not. Throws a
-// CommandError when there is no line, or it is not UTF-8.
-QString readHiddenLine(const char* prompt);
+// The next line of standard input. At a terminal the prompt is shown and what is typed is not. Throws a CommandError,
+// in which the secret is called by its name, when there is no line, or it is not UTF-8.
+QString readHiddenLine(const QString& prompt, const char* name = "password");
+
+// The same for what everybody may see.
+QString readShownLine(const QString& prompt, const char* name);
+
+// Whether somebody is there to be asked.
+bool isTerminalInput();
 
 #endif

@@ -9,6 +9,7 @@
 #include <QTextCodec>
 #include <memory>
 
+#include "ChosenModem.h"
 #include "Command.h"
 #include "CommandError.h"
 #include "StandardOutput.h"
@@ -84,4 +85,5 @@ void Platform::applyOptions(const Invocation& invocation) {
     if (invocation.isSet("device")) chooseDevice(invocation.value("device"));
     checkDevice();
     checkDataFolder();
+    ChosenModem::use();
 }

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "Change.h"
+#include "ChosenModem.h"
 #include "EndSignals.h"
 #include "Host.h"
 #include "Languages.h"
@@ -114,5 +115,6 @@ int main(int argc, char* argv[]) {
     if (!qEnvironmentVariableIsSet("ORBISDIAL_DEVICE_WAIT_MS")) qputenv("ORBISDIAL_DEVICE_WAIT_MS", "0");
     if (!options.device.isEmpty()) qputenv("ORBISDIAL_DEVICE", options.device.toUtf8());
     reportModemProblem();
+    ChosenModem::use();
     return useLanguage(options.language) ? run(options) : WrongUsage;
 }

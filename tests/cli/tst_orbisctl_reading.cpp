@@ -53,7 +53,8 @@ private slots:
             R"({"default":"Generic","imsi":"310260","offered":[{"apn":"","name":"Generic"}],"prefix":null})");
         row("config", {"config", "ENCRYPT"}, R"({"ENCRYPT":"true"})");
         row("no device", {"--device", "none", "device"},
-            R"({"backend":"none","cardMode":null,"customizeName":null,"imsi":null,"multiMode":null,"note":null,)"
+            R"({"backend":"none","cardMode":null,"connection":null,"customizeName":null,"imsi":null,"modem":null,)"
+            R"("multiMode":null,"note":null,)"
             R"("prefix":null,"productType":null,"proposedDefault":"Generic","simulated":false,"status":null,)"
             R"("systemMode":null,"systemSubMode":null,"user":null})");
     }

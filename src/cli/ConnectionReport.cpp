@@ -1,0 +1,145 @@
+#include "ConnectionReport.h"
+
+#include <vrks_simulated.h>
+
+#include <QJsonArray>
+#include <QStringList>
+
+#include "ConnectionText.h"
+
+namespace {
+
+const char* const States[] = {"down", "dialling", "up", "hanging-up"};
+const char* const Steps[] = {nullptr, "preparing", "registering", "connecting", "addressing"};
+
+template <std::size_t Count>
+QJsonValue word(const char* const (&words)[Count], int value) {
+    const bool isWord = value >= 0 && value < int(Count) && words[value];
+    return isWord ? QJsonValue(words[value]) : QJsonValue();
+}
+
+QJsonValue nullIfEmpty(const QString& text) { return text.isEmpty() ? QJsonValue() : text; }
+
+QString failureName(int failure) {
+    const char* name = "";
+    VRKS_NetConnectSrv_GetFailureName(failure, &name);
+    return QString::fromLatin1(name);
+}
+
+QJsonValue failureWord(int failure) {
+    return failure == VRKS_FAILURE_NONE ? QJsonValue() : QJsonValue(failureName(failure));
+}
+
+// As "1:02:03".
+QString duration(qint64 seconds) {
+    return QString("%1:%2:%3")
+        .arg(seconds / 3600)
+        .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
+        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+}
+
+// The sentence, or the failure's name where no language has one, and what the network said.
+QString failureText(const DataConnection& connection) {
+    QString text = ConnectionText::failure(connection.failure, connection.name, connection.words);
+    if (text.isEmpty()) text = failureName(connection.failure);
+    const QString details = ConnectionText::details(connection);
+    return details.isEmpty() ? text : QString("%1 (%2)").arg(text, details);
+}
+
+QString upLine(const DataConnection& connection) {
+    QStringList parts{"connected: " + connection.name, connection.interfaceName, connection.address,
+                      connection.address6};
+    if (connection.seconds >= 0) parts.append(duration(connection.seconds));
+    parts.append(QString("%1 bytes received, %2 sent").arg(connection.received).arg(connection.sent));
+    parts.removeAll(QString());
+    return parts.join(", ");
+}
+
+QString downLine(const DataConnection& connection) {
+    QString line = "not connected";
+    if (!connection.usedBy.isEmpty()) return line + "; the modem is in use by " + connection.usedBy;
+    if (connection.failure != VRKS_FAILURE_NONE) line += ": " + failureText(connection);
+    return line;
+}
+
+QString stateLine(const DataConnection& connection) {
+    switch (connection.state) {
+        case VRKS_CONNECTION_UP:
+            return upLine(connection);
+        case VRKS_CONNECTION_DIALLING:
+            return QString("connecting: %1: %2").arg(connection.name, ConnectionReport::step(connection));
+        case VRKS_CONNECTION_HANGING_UP:
+            return "disconnecting: " + connection.name;
+        default:
+            return downLine(connection);
+    }
+}
+
+CommandError::ExitStatus exitStatus(int failure) {
+    switch (failure) {
+        case VRKS_FAILURE_NO_MODEM:
+        case VRKS_FAILURE_NO_CARD:
+            return CommandError::NotFound;
+        case VRKS_FAILURE_BAD_REQUEST:
+        case VRKS_FAILURE_IN_USE:
+        case VRKS_FAILURE_AUTHENTICATION:
+        case VRKS_FAILURE_NOT_SUBSCRIBED:
+        case VRKS_FAILURE_REFUSED:
+        case VRKS_FAILURE_APN:
+        case VRKS_FAILURE_REGISTRATION_DENIED:
+        case VRKS_FAILURE_LOCKED:
+        case VRKS_FAILURE_WRONG_CARD:
+        case VRKS_FAILURE_WRONG_PIN:
+        case VRKS_FAILURE_CREDENTIALS_MISSING:
+        case VRKS_FAILURE_NOT_ALLOWED:
+            return CommandError::Refused;
+        default:
+            return CommandError::Failed;
+    }
+}
+
+}  // namespace
+
+bool ConnectionReport::isKnown() {
+    VRKS_Connection record{};
+    record.size = sizeof record;
+    return VRKS_NetConnectSrv_GetConnection(&record) == 0;
+}
+
+QJsonObject ConnectionReport::lasting(const DataConnection& connection) {
+    return {{"state", word(States, connection.state)},
+            {"step", word(Steps, connection.step)},
+            {"profile", nullIfEmpty(connection.name)},
+            {"failure", failureWord(connection.failure)},
+            {"words", nullIfEmpty(connection.words)},
+            {"usedBy", nullIfEmpty(connection.usedBy)},
+            {"endsWithProcess", connection.endsWithProcess},
+            {"interface", nullIfEmpty(connection.interfaceName)},
+            {"address", nullIfEmpty(connection.address)},
+            {"address6", nullIfEmpty(connection.address6)},
+            {"dns", QJsonArray::fromStringList(connection.dns)},
+            {"simulated", vrks_simulated_active() != 0}};
+}
+
+QJsonObject ConnectionReport::object(const DataConnection& connection) {
+    QJsonObject object = lasting(connection);
+    object["since"] = connection.since > 0 ? QJsonValue(connection.since) : QJsonValue();
+    object["seconds"] = connection.seconds >= 0 ? QJsonValue(connection.seconds) : QJsonValue();
+    object["received"] = double(connection.received);
+    object["sent"] = double(connection.sent);
+    return object;
+}
+
+QString ConnectionReport::line(const DataConnection& connection) {
+    return stateLine(connection) + (vrks_simulated_active() ? " (simulated modem)" : "");
+}
+
+QString ConnectionReport::step(const DataConnection& connection) {
+    const QString text = ConnectionText::step(connection.step);
+    return text.isEmpty() ? word(Steps, connection.step).toString() : text;
+}
+
+CommandError ConnectionReport::error(const DataConnection& connection) {
+    if (connection.failure == VRKS_FAILURE_NONE) return CommandError::failed("the connection was ended elsewhere");
+    return {exitStatus(connection.failure), failureText(connection)};
+}
