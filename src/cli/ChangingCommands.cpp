@@ -9,15 +9,9 @@
 
 namespace {
 
-// A profile whose fields go into the file again. A sealed password that can't be opened reads as empty, so it would be
-// lost without a word.
+// A profile whose fields go into the file again; a password that can't be opened would be lost without a word.
 DialupProfile profileToStore(const ProfileSession& session, const QString& name, const FieldAssignments& changes) {
-    const QString before = session->LastStorageProblem().text();
-    const DialupProfile profile = session.profile(name);
-    const QString after = session->LastStorageProblem().text();
-    if (after != before && !changes.contains("password"))
-        throw CommandError::failed(after + "; give a new one with password=");
-    return profile;
+    return changes.contains("password") ? session.profile(name) : session.readableProfile(name);
 }
 
 DialupProfile templateProfile(const ProfileSession& session) {
@@ -38,7 +32,7 @@ DialupProfile copyOf(const ProfileSession& session, const QString& name, const F
 
 void requireNameFree(int status, const QString& name) {
     if (status == NetConnectSettingUILogic::NameTaken)
-        throw CommandError::failed("there is a profile " + quoted(name) + " already");
+        throw CommandError::refused("there is a profile " + quoted(name) + " already");
 }
 
 void showDefault(Output& output) {
@@ -55,7 +49,7 @@ void showDefault(Output& output) {
 void storeDefault(const QString& name, Output& output) {
     ProfileSession session(ProfileSession::Changing);
     if (!name.isEmpty() && !session.names().contains(name))
-        throw CommandError::failed("there is no profile " + quoted(name));
+        throw CommandError::notFound("there is no profile " + quoted(name));
     session.require(session->SetDefaultDialUpProfileName(name, !name.isEmpty()), "the default can't be set");
     const bool isUserSet = session->IsDefaultUserSet();
     session.finish();

@@ -156,8 +156,8 @@ void checkProfile(const ProfileSession& session, const DialupProfile& profile, c
     session->GetFunctionConfigValue("ProfileNameLength", nameLength, Rules::DefaultNameLength);
 
     require(Rules::isNamePresent(profile.name), "a profile needs a name");
-    require(!isNewName || !session.names().contains(profile.name),
-            "there is a profile " + quoted(profile.name) + " already");
+    if (isNewName && session.names().contains(profile.name))
+        throw CommandError::refused("there is a profile " + quoted(profile.name) + " already");
     require(Rules::isNameAcceptable(profile.name),
             QString("a name must not contain any of ") + Rules::ForbiddenNameCharacters);
     require(!isNewName || isStorable(profile.name), "a name must not contain control characters");

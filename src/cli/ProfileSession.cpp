@@ -63,8 +63,16 @@ bool ProfileSession::hasProfile(const QString& name) const { return fetch(name).
 DialupProfile ProfileSession::profile(const QString& name) const {
     if (const std::optional<DialupProfile> found = fetch(name)) return *found;
     if (!m_Problem.isEmpty()) throw CommandError::failed(m_Problem);  // it may stand in what can't be read
-    throw CommandError::failed(m_Names.contains(name) ? "the profile library does not hold the preset " + quoted(name)
-                                                      : "there is no profile " + quoted(name));
+    throw CommandError::notFound(m_Names.contains(name) ? "the profile library does not hold the preset " + quoted(name)
+                                                        : "there is no profile " + quoted(name));
+}
+
+DialupProfile ProfileSession::readableProfile(const QString& name) const {
+    const QString before = m_pLogic->LastStorageProblem().text();
+    const DialupProfile found = profile(name);
+    const QString after = m_pLogic->LastStorageProblem().text();
+    if (after != before) throw CommandError::failed(after + "; give a new one with password=");
+    return found;
 }
 
 // The logic may know a preset by its untranslated name too.
@@ -77,13 +85,13 @@ std::optional<DialupProfile> ProfileSession::fetch(const QString& name) const {
 
 void ProfileSession::requireOwn(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
-    if (!m_pLogic->HasUserProfile(profile.name)) throw CommandError::failed(name + " is a preset" + copyAdvice(name));
+    if (!m_pLogic->HasUserProfile(profile.name)) throw CommandError::refused(name + " is a preset" + copyAdvice(name));
 }
 
 void ProfileSession::requireChangeable(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
     requireOwn(profile);
-    if (profile.readonly == "true") throw CommandError::failed(name + " is read-only" + copyAdvice(name));
+    if (profile.readonly == "true") throw CommandError::refused(name + " is read-only" + copyAdvice(name));
 }
 
 void ProfileSession::require(int status, const QString& what) const {

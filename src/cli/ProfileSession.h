@@ -33,6 +33,9 @@ public:
     // A profile of this very name, its password in plain text.
     DialupProfile profile(const QString& name) const;
 
+    // The same, but refuses one whose sealed password can't be opened, which reads as empty.
+    DialupProfile readableProfile(const QString& name) const;
+
     // Refuses presets; the error says what to do instead.
     void requireOwn(const DialupProfile& profile) const;
 

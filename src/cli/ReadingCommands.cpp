@@ -60,7 +60,7 @@ void showConfiguration(const Invocation& invocation, Output& output) {
     QJsonObject object;
     QStringList lines;
     for (const QString& key : keys) {
-        if (!all.contains(key)) throw CommandError::failed("there is no configuration key " + quoted(key));
+        if (!all.contains(key)) throw CommandError::notFound("there is no configuration key " + quoted(key));
         QString value;
         session->GetFunctionConfigStringValues(key, &value);
         object[key] = value;

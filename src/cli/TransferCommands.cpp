@@ -57,7 +57,7 @@ QString quotedAll(const QStringList& names) {
 QStringList readCandidates(const ProfileSession& session, const QString& file) {
     QStringList names;
     const int status = session->GetDialUpProfileFromFile(&names, file);
-    if (status == NetConnectSettingUILogic::FileMissing) throw CommandError::failed(file + ": does not exist");
+    if (status == NetConnectSettingUILogic::FileMissing) throw CommandError::notFound(file + ": does not exist");
     session.require(status, "the file can't be imported");
     names.removeDuplicates();
     return names;
@@ -68,7 +68,7 @@ QStringList chosenOf(const QStringList& candidates, const QStringList& wanted, c
     QStringList unknown;
     for (const QString& name : wanted)
         if (!offered.contains(name)) unknown.append(name);
-    if (!unknown.isEmpty()) throw CommandError::failed(file + " holds no profile " + quotedAll(unknown));
+    if (!unknown.isEmpty()) throw CommandError::notFound(file + " holds no profile " + quotedAll(unknown));
     return wanted.isEmpty() ? candidates : wanted;
 }
 
@@ -121,7 +121,7 @@ void requireAllKnown(const ProfileSession& session, const QStringList& names) {
     for (const QString& name : names)
         if (!session.hasProfile(name)) unknown.append(name);
     if (unknown.size() == 1) session.profile(unknown.first());  // throws, and knows why
-    if (!unknown.isEmpty()) throw CommandError::failed("there are no profiles " + quotedAll(unknown));
+    if (!unknown.isEmpty()) throw CommandError::notFound("there are no profiles " + quotedAll(unknown));
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ private slots:
             QVERIFY(TestFolder::read(path).contains("encrypttype=\"2\""));
         }
         COMPARE_DONE(fixture.run({"delete", name}));
-        QCOMPARE(fixture.run({"show", name}).status, 1);
+        QCOMPARE(fixture.run({"show", name}).status, 3);
         COMPARE_DONE(fixture.run({"import", file}));
         QCOMPARE(fixture.show(name), before);
     }
@@ -55,22 +55,22 @@ private slots:
         row("no command", {}, 2, "--help");
         row("unknown command", {"frob"}, 2, "\"frob\"");
         row("too few arguments", {"show"}, 2, "show NAME");
-        row("unknown profile", {"show", "own"}, 1, "\"own\"");
+        row("unknown profile", {"show", "own"}, 3, "\"own\"");
         row("unknown field", {"set", "Own", "colour=red"}, 2,
             "name type device user password phonenumber autoapn apn chap pap ip dns dnsalt wins winsalt popusername "
             "Remember\n");
-        row("preset's name", {"add", "Beta"}, 1, "already");
+        row("preset's name", {"add", "Beta"}, 4, "already");
         row("forbidden character", {"add", "a:b"}, 1, "\\/:*?[]()<>|");
         row("long name", {"add", "123456789012345678901"}, 1, "20");
         row("wrong APN", {"add", "New", "apn=a_b"}, 1, "apn");
         row("multicast address", {"add", "New", "dns=224.0.0.1"}, 1, "IPv4");
         row("password beyond Latin-1", {"add", "New", "password=\u20ac"}, 1, "Latin-1");
-        row("change of a preset", {"set", "Alpha", "user=a"}, 1, "--like \"Alpha\"");
-        row("change of a read-only one", {"set", "Fixed", "user=a"}, 1, "--like \"Fixed\"");
-        row("name of another", {"set", "Own", "name=Fixed"}, 1, "already");
-        row("deletion of a preset", {"delete", "Alpha"}, 1, "preset");
-        row("unknown default", {"default", "Nope"}, 1, "\"Nope\"");
-        row("import of no file", {"import", "/dev/null/nowhere/x"}, 1, "/dev/null/nowhere/x: does not exist");
+        row("change of a preset", {"set", "Alpha", "user=a"}, 4, "--like \"Alpha\"");
+        row("change of a read-only one", {"set", "Fixed", "user=a"}, 4, "--like \"Fixed\"");
+        row("name of another", {"set", "Own", "name=Fixed"}, 4, "already");
+        row("deletion of a preset", {"delete", "Alpha"}, 4, "preset");
+        row("unknown default", {"default", "Nope"}, 3, "\"Nope\"");
+        row("import of no file", {"import", "/dev/null/nowhere/x"}, 3, "/dev/null/nowhere/x: does not exist");
         row("export to no folder", {"export", "/dev/null/nowhere/x", "Own"}, 1, "/dev/null/nowhere/x");
     }
 
@@ -147,15 +147,15 @@ private slots:
         const QByteArray left = TestFolder::read(fixture.userFile());
         QVERIFY2(!left.contains("<Profile name=\"" + cell("name").toUtf8() + '"'), left);
         QCOMPARE(left.count("<Profile name"), 1);
-        COMPARE_REFUSED(fixture.run({"delete", cell("name")}), 1, "there is no profile");
+        COMPARE_REFUSED(fixture.run({"delete", cell("name")}), 3, "there is no profile");
     }
 
     void deletesAllOrNone() {
         const OrbisctlFixture fixture;
         fixture.writeUser("<Profile name='A'/><Profile name='-B'/><Profile name='C'/>", "<Default name='A'/>");
         const QByteArray before = TestFolder::read(fixture.userFile());
-        COMPARE_REFUSED(fixture.run({"delete", "A", "Nope"}), 1, "Nope");
-        COMPARE_REFUSED(fixture.run({"delete", "A", "Alpha"}), 1, "preset");
+        COMPARE_REFUSED(fixture.run({"delete", "A", "Nope"}), 3, "Nope");
+        COMPARE_REFUSED(fixture.run({"delete", "A", "Alpha"}), 4, "preset");
         QCOMPARE(TestFolder::read(fixture.userFile()), before);
         const Outcome deleted = fixture.run({"--json", "delete", "--", "A", "-B", "A"});
         COMPARE_DONE(deleted);

@@ -31,7 +31,7 @@ private slots:
         QCOMPARE(lines.size(), 2);
         QVERIFY(lines.first().contains("Beta") && lines.last().contains("Alpha"));
         const Outcome unknown = fixture.run({"show", "Beta", "Nope"});
-        COMPARE_REFUSED(unknown, 1, "Nope");
+        COMPARE_REFUSED(unknown, 3, "Nope");
         QCOMPARE(unknown.out, QByteArray());
     }
 
