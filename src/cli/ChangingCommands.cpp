@@ -3,6 +3,7 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
+#include "ConnectionSettings.h"
 #include "Output.h"
 #include "ProfileFields.h"
 #include "ProfileSession.h"
@@ -33,6 +34,14 @@ DialupProfile copyOf(const ProfileSession& session, const QString& name, const F
 void requireNameFree(int status, const QString& name) {
     if (status == NetConnectSettingUILogic::NameTaken)
         throw CommandError::refused("there is a profile " + quoted(name) + " already");
+}
+
+// Its automatic connection goes where the profile goes; new credentials are worth another attempt.
+void followChange(const QString& before, const QString& after, const FieldAssignments& changes) {
+    bool isStored = AutoConnectSettings::rename(before, after);
+    if (changes.contains("user") || changes.contains("password"))
+        isStored &= AutoConnectSettings::setRefused(after, false);
+    if (!isStored) printWarning("the settings of automatic connection can't be stored");
 }
 
 void showDefault(Output& output) {
@@ -88,6 +97,7 @@ void setFields(const Invocation& invocation, Output& output) {
     requireNameFree(status, profile.name);
     session.require(status, "the profile can't be changed");
     session.finish();
+    followChange(name, profile.name, changes);
     changes.warnOfShownPassword();
     output.result({{"changed", profile.name}}, {});
 }
@@ -103,6 +113,8 @@ void deleteProfiles(const Invocation& invocation, Output& output) {
         session.require(session->DelDialUpProfile(name), "the profile can't be deleted");
     }
     session.finish();
+    for (const QString& name : names)
+        if (!AutoConnectSettings::forget(name)) printWarning("the settings of automatic connection can't be stored");
     for (const QString& name : names) output.result({{"deleted", name}}, {});
 }
 

@@ -13,6 +13,9 @@ constexpr CommandOption Clear{"clear", "Take the choice back.", nullptr};
 constexpr CommandOption Replace{"replace", "Replace profiles whose names exist; without it they are skipped.", nullptr};
 constexpr CommandOption Last{"last", "Spend the last attempt, too.", nullptr};
 constexpr CommandOption Timeout{"timeout", "Wait no longer than so many seconds.", "SECONDS"};
+constexpr CommandOption Hold{"hold", "Stay, and hang up on Ctrl-C.", nullptr};
+constexpr CommandOption Watch{"watch", "Stay, and show each change.", nullptr};
+constexpr CommandOption Roaming{"roaming", "While roaming, too.", nullptr};
 
 constexpr int Any = Command::AnyNumber;
 
@@ -45,6 +48,12 @@ const Command Commands[] = {
      enterPin},
     {"puk", "", 0, 0, with(Last, Timeout), "Unlock the SIM card with its PUK and set a new PIN, a line each.",
      enterPuk},
+    {"connect", "[NAME]", 0, 1, with(Hold, Timeout), "Connect with a profile, or with the default.", connectProfile},
+    {"disconnect", "", 0, 0, with(Timeout), "End the connection, or give it up.", disconnect},
+    {"status", "", 0, 0, with(Watch), "Show the connection.", showStatus},
+    {"autoconnect", "NAME [on|off]", 1, 2, with(Roaming), "Whether the window connects with a profile by itself.",
+     setAutoConnect},
+    {"ussd", "CODE", 1, 1, with(Timeout), "Send a command such as *100# to the network and show its answer.", sendUssd},
 };
 
 const Command* findCommand(const QString& name) {

@@ -34,4 +34,15 @@ void chooseModem(const Invocation& invocation, Output& output);
 void enterPin(const Invocation& invocation, Output& output);
 void enterPuk(const Invocation& invocation, Output& output);
 
+// ConnectCommands.cpp
+void connectProfile(const Invocation& invocation, Output& output);
+void disconnect(const Invocation& invocation, Output& output);
+void showStatus(const Invocation& invocation, Output& output);
+
+// AutoConnectCommand.cpp
+void setAutoConnect(const Invocation& invocation, Output& output);
+
+// UssdCommand.cpp
+void sendUssd(const Invocation& invocation, Output& output);
+
 #endif

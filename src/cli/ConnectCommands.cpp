@@ -1,0 +1,223 @@
+// connect, disconnect, status.
+
+#include <unistd.h>
+#include <vrks_simulated.h>
+
+#include "Command.h"
+#include "CommandError.h"
+#include "Commands.h"
+#include "ConnectionReport.h"
+#include "ConnectionText.h"
+#include "DeviceEvents.h"
+#include "DialCall.h"
+#include "HiddenInput.h"
+#include "Output.h"
+#include "ProfileSession.h"
+
+namespace {
+
+constexpr int HangUpSeconds = 15;  // the service takes a second or two
+
+struct Wanted {
+    QString name;
+    DialupProfile profile;
+    bool mustAsk = false;  // for user name and password
+};
+
+QString wantedName(const ProfileSession& session, const Invocation& invocation) {
+    if (!invocation.arguments().isEmpty()) return invocation.arguments().first();
+    const QString name = session.defaultName();
+    if (name.isEmpty()) throw CommandError::notFound("there is no default profile; name one: orbisctl connect NAME");
+    return name;
+}
+
+bool mustAsk(const ProfileSession& session, const DialupProfile& profile) {
+    const UserPrompt prompt = session->GetUserNamePasswdPromptInfo();
+    return profile.popusername == "true" && prompt.promptPwd == "true" && prompt.userCheck == "true";
+}
+
+// A damaged file of other profiles is no reason to stay without a network.
+void warnOfProblem(ProfileSession* session) {
+    try {
+        session->finish();
+    } catch (const CommandError& error) {
+        printWarning(error.text);
+    }
+}
+
+Wanted wantedProfile(const Invocation& invocation) {
+    ProfileSession session(ProfileSession::Reading);
+    Wanted wanted;
+    wanted.name = wantedName(session, invocation);
+    wanted.profile = session.readableProfile(wanted.name);
+    wanted.mustAsk = mustAsk(session, wanted.profile);
+    warnOfProblem(&session);
+    return wanted;
+}
+
+// Where nobody can be asked, what is stored must do.
+void askCredentials(Wanted* wanted) {
+    if (!wanted->mustAsk || !isTerminalInput()) return;
+    DialupProfile& profile = wanted->profile;
+    const QString user = readShownLine(QString("User name [%1]: ").arg(profile.user), "user name");
+    if (!user.isEmpty()) profile.user = user;
+    const QString password = readHiddenLine(profile.password.isEmpty() ? "Password: " : "Password [as stored]: ");
+    if (!password.isEmpty()) profile.password = password;
+}
+
+void refuseUndiallable(const Wanted& wanted) {
+    const QString field = DialCall::badField(wanted.profile);
+    if (field.isEmpty()) return;
+    const QString text = ConnectionText::badField(field, wanted.name);
+    throw CommandError::refused(field + ": " + (text.isEmpty() ? QString("can't be dialled with") : text));
+}
+
+void warn(const QStringList& notes) {
+    for (const QString& note : notes)
+        if (!note.isEmpty()) printWarning(note);
+}
+
+// False when it did not end in time.
+bool waitUntilDown(const DeviceEvents& events, const QDeadlineTimer& deadline) {
+    while (!DataConnection::current().isDown())
+        if (events.wait(deadline) == DeviceEvents::TimeIsUp) return false;
+    return true;
+}
+
+class Dialling {
+public:
+    Dialling(const Invocation& invocation, Output& output)
+        : m_bHolds(invocation.isSet("hold")), m_Deadline(invocation.patience()), m_Output(output) {}
+
+    void run(const Wanted& wanted) {
+        begin(wanted);
+        const DataConnection connection = waitUntilUp();
+        warn({ConnectionText::addressNote(wanted.profile, connection)});
+        showUp(connection);
+        if (m_bHolds) hold(connection.name);
+    }
+
+private:
+    // One of this name that is there already is as good as a new one.
+    void begin(const Wanted& wanted) {
+        if (DataConnection::current().state == VRKS_CONNECTION_HANGING_UP) waitUntilDown(m_Events, m_Deadline);
+        const DataConnection before = DataConnection::current();
+        if (!before.isDown() && before.name != wanted.name)
+            throw CommandError::refused(quoted(before.name) + " is connected; see orbisctl disconnect");
+        if (!before.isDown()) return;
+        warn(ConnectionText::notes(wanted.profile));
+        const DialCall call(wanted.profile, wanted.name, m_bHolds);
+        if (call.dial() != 0) throw ConnectionReport::error(DataConnection::current());
+    }
+
+    DataConnection waitUntilUp() {
+        for (;;) {
+            const DataConnection connection = DataConnection::current();
+            if (connection.isUp()) return connection;
+            if (connection.isDown()) throw ConnectionReport::error(connection);
+            showStep(connection);
+            waitForMore("no connection in time");
+        }
+    }
+
+    void waitForMore(const char* late) {
+        const DeviceEvents::Waking waking = m_Events.wait(m_Deadline);
+        if (waking == DeviceEvents::Changed) return;
+        hangUpOwn();
+        if (waking == DeviceEvents::SignalCame) EndingSignals::obey();
+        throw CommandError::timedOut(late);
+    }
+
+    // What another process began is left to it.
+    void hangUpOwn() {
+        if (!DataConnection::current().isOwn || VRKS_NetConnectSrv_HangUp() != 0) return;
+        waitUntilDown(m_Events, QDeadlineTimer(HangUpSeconds * 1000));
+    }
+
+    void showStep(const DataConnection& connection) {
+        const QString step = ConnectionReport::step(connection);
+        if (step != m_Step && ::isatty(STDERR_FILENO)) printDiagnostic(step);
+        m_Step = step;
+    }
+
+    void showUp(const DataConnection& connection) {
+        QString line = ConnectionReport::line(connection);
+        if (vrks_simulated_active() && !m_bHolds) line += "; it ends with this program, see --hold";
+        m_Output.result(ConnectionReport::object(connection), {line});
+    }
+
+    void hold(const QString& name) {
+        m_Deadline = QDeadlineTimer(QDeadlineTimer::Forever);
+        while (!DataConnection::current().isDown()) {
+            if (m_Events.wait(m_Deadline) != DeviceEvents::SignalCame) continue;
+            const bool isEnded =
+                VRKS_NetConnectSrv_HangUp() == 0 && waitUntilDown(m_Events, QDeadlineTimer(HangUpSeconds * 1000));
+            if (!isEnded) printDiagnostic("the connection can't be ended");
+            if (isEnded) showDown(name);
+            EndingSignals::obey();
+        }
+        const DataConnection ended = DataConnection::current();
+        if (ended.failure != VRKS_FAILURE_NONE) throw ConnectionReport::error(ended);
+        showDown(name);
+    }
+
+    void showDown(const QString& name) {
+        m_Output.result(ConnectionReport::object(DataConnection::current()), {"disconnected: " + name});
+    }
+
+    const bool m_bHolds;
+    QDeadlineTimer m_Deadline;
+    Output& m_Output;
+    const EndingSignals m_Signals;
+    const DeviceEvents m_Events;
+    QString m_Step;
+};
+
+void requireKnown() {
+    if (!ConnectionReport::isKnown()) throw CommandError::failed("nothing can tell of connections");
+}
+
+// Shows each state once. What a reader does not take ends it.
+void watch(Output& output) {
+    const DeviceEvents events;
+    QJsonObject shown;
+    do {
+        const DataConnection connection = DataConnection::current();
+        const QJsonObject now = ConnectionReport::lasting(connection);
+        if (now != shown) output.result(ConnectionReport::object(connection), {ConnectionReport::line(connection)});
+        shown = now;
+    } while (events.wait(QDeadlineTimer(QDeadlineTimer::Forever), DeviceEvents::StandardOutput) !=
+             DeviceEvents::ReaderGone);
+}
+
+}  // namespace
+
+void connectProfile(const Invocation& invocation, Output& output) {
+    invocation.patience();  // a wrong one is told before anything is asked
+    Wanted wanted = wantedProfile(invocation);
+    requireKnown();
+    askCredentials(&wanted);
+    refuseUndiallable(wanted);
+    Dialling(invocation, output).run(wanted);
+}
+
+void disconnect(const Invocation& invocation, Output& output) {
+    requireKnown();
+    const QDeadlineTimer deadline(invocation.patience(HangUpSeconds));
+    const DeviceEvents events;
+    const DataConnection before = DataConnection::current();
+    if (!before.usedBy.isEmpty())
+        throw CommandError::refused("the connection of " + quoted(before.usedBy) + " is not ours to end");
+    if (before.isDown()) return output.result({{"disconnected", QJsonValue()}}, {"not connected"});
+    if (VRKS_NetConnectSrv_HangUp() != 0 && !DataConnection::current().isDown())
+        throw CommandError::refused("the connection can't be ended");
+    if (!waitUntilDown(events, deadline)) throw CommandError::timedOut("the connection has not ended yet");
+    output.result({{"disconnected", before.name}}, {"disconnected: " + before.name});
+}
+
+void showStatus(const Invocation& invocation, Output& output) {
+    requireKnown();
+    if (invocation.isSet("watch")) return watch(output);
+    const DataConnection connection = DataConnection::current();
+    output.result(ConnectionReport::object(connection), {ConnectionReport::line(connection)});
+}
