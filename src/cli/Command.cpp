@@ -11,6 +11,8 @@ constexpr CommandOption Secrets{"secrets", "Show the password too.", nullptr};
 constexpr CommandOption Like{"like", "Start from this profile instead of the template for new ones.", "PROFILE"};
 constexpr CommandOption Clear{"clear", "Take the choice back.", nullptr};
 constexpr CommandOption Replace{"replace", "Replace profiles whose names exist; without it they are skipped.", nullptr};
+constexpr CommandOption All{"all", "All profiles of one's own.", nullptr};
+constexpr CommandOption Force{"force", "Replace a file even if it holds something else than profiles.", nullptr};
 constexpr CommandOption Last{"last", "Spend the last attempt, too.", nullptr};
 constexpr CommandOption Timeout{"timeout", "Wait no longer than so many seconds.", "SECONDS"};
 constexpr CommandOption Hold{"hold", "Stay, and hang up on Ctrl-C.", nullptr};
@@ -30,14 +32,18 @@ const Command Commands[] = {
     {"list", "", 0, 0, NoOptions, "List all profiles; * marks the default.", listProfiles},
     {"show", "NAME...", 1, Any, with(Secrets), "Show the fields of profiles.", showProfiles},
     {"add", "NAME [FIELD=VALUE...]", 1, Any, with(Like),
-     "Add a profile. password=- reads the password from standard input.", addProfile},
-    {"set", "NAME FIELD=VALUE...", 2, Any, NoOptions, "Change fields of a profile; name=NEW renames it.", setFields},
+     "Add a profile. password=- reads the password from standard input.", addProfile, settableFieldsHelp},
+    {"set", "NAME FIELD=VALUE...", 2, Any, NoOptions, "Change fields of a profile; name=NEW renames it.", setFields,
+     settableFieldsHelp},
     {"delete", "NAME...", 1, Any, NoOptions, "Delete profiles: all of them, or none.", deleteProfiles},
     {"default", "[NAME]", 0, 1, with(Clear), "Show the default profile, or choose it.", defaultProfile},
     {"import", "FILE [NAME...]", 1, Any, with(Replace), "Import all profiles of a file, or the named ones.",
      importProfiles},
-    {"export", "FILE NAME...", 2, Any, NoOptions, "Export profiles into a file; others that it holds stay.",
+    {"export", "FILE [NAME...]", 1, Any, with(All, Force), "Export profiles into a file; others that it holds stay.",
      exportProfiles},
+    {"backup", "FILE", 1, 1, with(Force), "Save all profiles of one's own, and the chosen default, in a file.", backUp},
+    {"restore", "FILE", 1, 1, NoOptions, "Take profiles and default from a backup; those of other names stay.",
+     restore},
     {"explain", "IMSI...", 1, Any, NoOptions, "Tell which presets SIM cards select; - reads IMSIs from standard input.",
      explainIMSIs},
     {"config", "[KEY]", 0, 1, NoOptions, "Show a value of the function configuration, or all.", showConfiguration},
@@ -57,14 +63,21 @@ const Command Commands[] = {
 };
 
 const Command* findCommand(const QString& name) {
-    for (const Command& command : Commands)
+    QList<const Command*> candidates;
+    for (const Command& command : Commands) {
         if (name == command.name) return &command;
+        if (!name.isEmpty() && QString(command.name).startsWith(name)) candidates.append(&command);
+    }
+    if (candidates.size() == 1) return candidates.first();
+    if (candidates.size() > 1) throw CommandError::usage(quoted(name) + " may be more than one command");
     throw CommandError::usage("unknown command " + quoted(name) + "; see orbisctl --help");
 }
 
 void addGlobalOptions(QCommandLineParser* parser) {
     parser->addOptions({
         {"json", "Write results as JSON, one object a line."},
+        {{"t", "terse"}, "Write results as fields between tabs, for scripts."},
+        {{"f", "fields"}, "Write these fields only, in this order; their names are those of --json.", "FIELDS"},
         {"data-dir", "Keep the user's profiles in this folder.", "DIR"},
         {"device", "Use this modem: simulated, modemmanager, none or auto.", "KIND"},
         {"trace", "Write traces to standard error."},
@@ -140,7 +153,9 @@ void Invocation::checkArguments() const {
     throw CommandError::usage(QString("usage: orbisctl %1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed());
 }
 
-QString Invocation::helpText() const { return m_Parser.helpText(); }
+QString Invocation::helpText() const {
+    return m_Parser.helpText() + (m_pCommand && m_pCommand->details ? m_pCommand->details() : QString());
+}
 
 qint64 Invocation::patience(int seconds) const {
     if (isSet("timeout")) {

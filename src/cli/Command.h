@@ -28,6 +28,7 @@ struct Command {
     CommandOptions options;
     const char* help;
     void (*run)(const Invocation& invocation, Output& output);  // throws CommandError
+    QString (*details)() = nullptr;                             // the end of its help
 };
 
 // One reading of the command line.

@@ -2,6 +2,8 @@
 #ifndef ORBISDIAL_CLI_COMMANDS_H
 #define ORBISDIAL_CLI_COMMANDS_H
 
+#include <QString>
+
 class Invocation;
 class Output;
 
@@ -11,6 +13,7 @@ void showProfiles(const Invocation& invocation, Output& output);
 void showConfiguration(const Invocation& invocation, Output& output);
 
 // ChangingCommands.cpp
+QString settableFieldsHelp();  // what add and set take; ProfileFields.cpp
 void addProfile(const Invocation& invocation, Output& output);
 void setFields(const Invocation& invocation, Output& output);
 void deleteProfiles(const Invocation& invocation, Output& output);
@@ -19,6 +22,10 @@ void defaultProfile(const Invocation& invocation, Output& output);
 // TransferCommands.cpp
 void importProfiles(const Invocation& invocation, Output& output);
 void exportProfiles(const Invocation& invocation, Output& output);
+
+// BackupCommands.cpp
+void backUp(const Invocation& invocation, Output& output);
+void restore(const Invocation& invocation, Output& output);
 
 // ExplainCommand.cpp
 void explainIMSIs(const Invocation& invocation, Output& output);

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "CommandError.h"
+#include "Commands.h"
 #include "HiddenInput.h"
 #include "NetConnectProfileRules.h"
 #include "Output.h"
@@ -77,6 +78,19 @@ QString settableFields() {
     return fields.join(' ');
 }
 
+QString kindText(Kind kind) {
+    switch (kind) {
+        case Kind::APN:
+            return "letters, digits, dots and hyphens";
+        case Kind::Flag:
+            return "true or false";
+        case Kind::Address:
+            return "an IPv4 address, or nothing";
+        default:
+            return "text";
+    }
+}
+
 void require(bool isFulfilled, const QString& text) {
     if (!isFulfilled) throw CommandError::failed(text);
 }
@@ -113,6 +127,17 @@ QString valueOf(const DialupProfileField& field, const QString& text) {
 }
 
 }  // namespace
+
+QString settableFieldsHelp() {
+    QString text = "\nFields:\n";
+    for (const DialupProfileField& field : DialupProfileFields) {
+        const FieldRule& rule = ruleOf(field);
+        if (rule.kind == Kind::Fixed) continue;
+        const QString most = rule.length ? QString(", at most %1 characters").arg(rule.length) : QString();
+        text += QString("  %1 %2%3\n").arg(field.attribute, -12).arg(kindText(rule.kind), most);
+    }
+    return text;
+}
 
 FieldAssignments::FieldAssignments(const QStringList& arguments) {
     for (const QString& argument : arguments) {

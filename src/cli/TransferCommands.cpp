@@ -1,11 +1,11 @@
 // import, export.
 
-#include <QFileInfo>
 #include <QJsonArray>
 
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
+#include "FileArgument.h"
 #include "Output.h"
 #include "ProfileSession.h"
 
@@ -34,13 +34,6 @@ struct ImportResult {
     QStringList replaced;
     QStringList skipped;
 };
-
-// Absolute, since the file layer takes some bare names for files of its own.
-QString filePath(const Invocation& invocation) {
-    const QString name = invocation.arguments().first();
-    if (name.isEmpty()) throw CommandError::usage("the file's name is empty");
-    return QFileInfo(name).absoluteFilePath();
-}
 
 QStringList chosenNames(const Invocation& invocation) {
     QStringList names = invocation.arguments().mid(1);
@@ -124,10 +117,24 @@ void requireAllKnown(const ProfileSession& session, const QStringList& names) {
     if (!unknown.isEmpty()) throw CommandError::notFound("there are no profiles " + quotedAll(unknown));
 }
 
+void checkWanted(const Invocation& invocation) {
+    const bool hasNames = invocation.arguments().size() > 1;
+    if (hasNames == invocation.isSet("all")) throw CommandError::usage("export takes names or --all");
+}
+
+QStringList ownNames(const ProfileSession& session) {
+    QStringList names;
+    for (const QString& name : session.names())
+        if (session->HasUserProfile(name)) names.append(name);
+    if (names.isEmpty()) throw CommandError::notFound("there is no profile of one's own");
+    return names;
+}
+
 }  // namespace
 
 void importProfiles(const Invocation& invocation, Output& output) {
-    const QString file = filePath(invocation);
+    const InputFile input(invocation.arguments().first());
+    const QString& file = input.path();
     ProfileSession session(ProfileSession::Changing);
     const QStringList candidates = readCandidates(session, file);
     session.loadNames();
@@ -136,18 +143,22 @@ void importProfiles(const Invocation& invocation, Output& output) {
     const QStringList taken = result.imported + result.replaced;
     if (!taken.isEmpty()) session.finish();
     showImport(result, output);
-    if (taken.isEmpty()) throw CommandError::failed("nothing was imported from " + file);
+    if (chosen.isEmpty()) throw CommandError::failed("nothing was imported from " + file);
     warnOfUnreadablePasswords(session, taken);
 }
 
 void exportProfiles(const Invocation& invocation, Output& output) {
-    const QString file = filePath(invocation);
-    const QStringList names = chosenNames(invocation);
+    const OutputFile target(invocation.arguments().first(), invocation.isSet("force"));
+    const QString& file = target.path();
+    checkWanted(invocation);
     ProfileSession session(ProfileSession::Exporting);
+    const QStringList names = invocation.isSet("all") ? ownNames(session) : chosenNames(invocation);
     requireAllKnown(session, names);
     session.require(session->ExportChosenProfiles(names, file), "the profiles can't be exported");
     const NetConnectStorageProblem problem = session->LastStorageProblem();
     if (problem.file == file) printWarning(problem.text());  // a damaged file stood there, and is kept
+    target.finish();
+    if (target.isStream()) return session.finish();
     output.result({{"file", file}, {"exported", QJsonArray::fromStringList(names)}},
                   {QString("exported %1 to %2").arg(quotedAll(names), file)});
     session.finish();

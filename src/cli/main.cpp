@@ -9,11 +9,18 @@
 #include "Platform.h"
 #include "ProgramStart.h"
 
+static Output outputOf(const Invocation& invocation) {
+    const bool wantsFields = invocation.isSet("terse") || invocation.isSet("fields");
+    if (!wantsFields) return Output(invocation.isSet("json") ? Output::Json : Output::Text);
+    if (invocation.isSet("json")) throw CommandError::usage("--json goes with neither --terse nor --fields");
+    return Output(Output::Fields, invocation.value("fields").split(',', Qt::SkipEmptyParts));
+}
+
 static void run(const Invocation& invocation) {
     if (invocation.isSet("help")) return Output::text(invocation.helpText());
     if (invocation.isSet("version")) return Output::text("orbisctl " ORBISDIAL_VERSION "\n");
+    Output output = outputOf(invocation);
     Platform::applyOptions(invocation);
-    Output output(invocation.isSet("json"));
     invocation.command()->run(invocation, output);
 }
 

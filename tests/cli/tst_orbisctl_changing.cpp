@@ -206,7 +206,8 @@ private slots:
         row("all", {}, 0, "imported New\n" + skipped, "old");
         row("replace", {"--replace"}, 0, "imported New\nreplaced Own\n", "new");
         row("one, twice", {"New", "New"}, 0, "imported New\n", "old");
-        row("none", {"Own"}, 1, skipped, "old");
+        row("there already", {"Own"}, 0, skipped, "old");
+        row("not in the file", {"Nope"}, 3, "", "old");
     }
 
     // The file's default is nobody's here.
@@ -223,7 +224,7 @@ private slots:
         QCOMPARE(outcome.status, status);
         QVERIFY2(!arguments.contains("Nope") || outcome.err.contains("\"Nope\""), outcome.err);
         QTEST(fixture.show("Own")["user"].toString(), "user");
-        QCOMPARE(TestFolder::read(fixture.userFile()).count("<Profile name"), status == 0 ? 2 : 1);
+        QCOMPARE(TestFolder::read(fixture.userFile()).count("<Profile name"), outcome.out.contains("imported") ? 2 : 1);
         QCOMPARE(fixture.run({"default", "--json"}).json(), (QJsonObject{{"name", "Own"}, {"userSet", true}}));
     }
 
@@ -238,6 +239,73 @@ private slots:
         QCOMPARE(outcome.status, 0);
         for (const QByteArray name : {"Coded", "Text", "Good", "Plain"})
             QVERIFY2(outcome.err.contains('"' + name + '"') == (name == "Coded" || name == "Text"), outcome.err);
+    }
+
+    void backup_data() {
+        const Rows<QByteArray, QString> row("defaults", "default");
+        row("own", "<Default name='Own' IsUserSet='1'/>", "Own");
+        row("preset", "<Default name='Beta' IsUserSet='1'/>", "Beta");
+        row("proposed", "<Default name='Alpha'/>", "Alpha");
+    }
+    // Once into another user's folder, and once more.
+    void backup() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='Own' phonenumber='1' langid=''/>", cell<QByteArray>("defaults"));
+        COMPARE_DONE(fixture.run({"add", "Other", "password=-"}, "secret"));
+        const QString file = fixture.path("backup.prof");
+        COMPARE_DONE(fixture.run({"backup", file}));
+        QVERIFY(!TestFolder::read(file).contains("secret"));
+        QCOMPARE(QFile::permissions(file) & QFile::Permissions(0x77), QFile::Permissions());
+        QCOMPARE(fixture.run({"backup", "-"}).out, TestFolder::read(file));
+
+        qputenv("ORBISDIAL_DATA_DIR", QFile::encodeName(fixture.path("elsewhere")));
+        COMPARE_DONE(fixture.run({"add", "Kept"}));
+        COMPARE_DONE(fixture.run({"restore", file}));
+        const QByteArray restored = TestFolder::read(fixture.path("elsewhere/UserProfile.prof"));
+        COMPARE_DONE(fixture.run({"restore", "-"}, TestFolder::read(file)));
+        QCOMPARE(TestFolder::read(fixture.path("elsewhere/UserProfile.prof")).size(), restored.size());
+        QCOMPARE(fixture.run({"-f", "name", "default"}).out.trimmed(), cell("default").toUtf8());
+        QCOMPARE(fixture.show("Other")["password"].toString(), QString("secret"));
+        for (const QString name : {"Own", "Kept"}) QCOMPARE(fixture.show(name)["name"].toString(), name);
+    }
+
+    void backupRefuses_data() {
+        const Rows<QStringList, int, QByteArray> row("arguments", "status", "words");
+        row("own file", {"backup", "data/UserProfile.prof"}, 4, "itself");
+        row("another's file", {"backup", "letter.txt"}, 4, "--force");
+        row("export", {"export", "letter.txt", "Own"}, 4, "--force");
+        row("nothing there", {"restore", "nowhere"}, 3, "does not exist");
+        row("cut", {"restore", "cut.prof"}, 1, "line ");
+        row("names and all", {"export", "--all", "out.prof", "Own"}, 2, "--all");
+        row("neither", {"export", "out.prof"}, 2, "--all");
+    }
+    void backupRefuses() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='Own' phonenumber='1' langid=''/>");
+        TestFolder::write(fixture.path("letter.txt"), "Dear all,\n");
+        TestFolder::write(fixture.path("cut.prof"), "<vrksdoc><ProfileGroup><Profile name='Own' user='x'/>");
+        const QByteArray before = TestFolder::read(fixture.userFile());
+        QStringList arguments = cell<QStringList>("arguments");
+        arguments[arguments.contains("--all") ? 2 : 1].prepend(fixture.path(""));
+        const Outcome outcome = fixture.run(arguments);
+        COMPARE_REFUSED(outcome, cell<int>("status"), cell<QByteArray>("words"));
+        QCOMPARE(TestFolder::read(fixture.userFile()), before);
+        QCOMPARE(TestFolder::read(fixture.path("letter.txt")), QByteArray("Dear all,\n"));
+        if (cell<int>("status") != 4 || !arguments.last().endsWith("letter.txt")) return;
+        COMPARE_DONE(fixture.run(arguments << "--force"));
+        QVERIFY(TestFolder::read(fixture.path("letter.txt")).contains("name=\"Own\""));
+    }
+
+    void streams() {
+        const OrbisctlFixture fixture;
+        COMPARE_DONE(fixture.run({"add", "Own", "user=me"}));
+        COMPARE_DONE(fixture.run({"add", "Other", "password=-"}, "secret"));
+        const Outcome exported = fixture.run({"export", "--all", "-"});
+        COMPARE_DONE(exported);
+        COMPARE_DONE(fixture.run({"delete", "Own", "Other"}));
+        QCOMPARE(fixture.run({"import", "-"}, exported.out).out, QByteArray("imported Other\nimported Own\n"));
+        QCOMPARE(fixture.show("Other")["password"].toString(), QString("secret"));
+        COMPARE_REFUSED(fixture.run({"import", "-"}, "Dear all,"), 1, "standard input");
     }
 
     void tamperedPasswordIsNotLost() {

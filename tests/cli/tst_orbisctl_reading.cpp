@@ -69,6 +69,43 @@ private slots:
         QCOMPARE(outcome.out, expected + '\n');
     }
 
+    void fields_data() {
+        const Rows<QStringList, int, QByteArray> row("arguments", "status", "expected");
+        row("list", {"list", "-t"}, 0, "true\tAlpha\tpreset\nfalse\tBeta\tpreset\nfalse\tO\\\\n\tuser\n");
+        row("chosen", {"list", "-f", "name,source"}, 0, "Alpha\tpreset\nBeta\tpreset\nO\\\\n\tuser\n");
+        row("no password", {"-f", "name,password,chap", "show", "Alpha"}, 0, "Alpha\t\ttrue\n");
+        row("several", {"-f", "name", "show", "Alpha", "Beta"}, 0, "Alpha\nBeta\n");
+        row("of a field", {"-f", "modem.signal,modem.gid1", "device"}, 0, "70\t\n");
+        row("list of texts", {"-f", "state,dns", "status"}, 0, "down\t\n");
+        row("no such", {"-f", "nam", "list"}, 2, "default name source");
+        row("both", {"-t", "--json", "list"}, 2, "--json");
+    }
+    void fields() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='O\\n' phonenumber='*99#'/>");
+        const Outcome outcome = fixture.run(cell<QStringList>("arguments"));
+        if (cell<int>("status") != 0) {
+            COMPARE_REFUSED(outcome, cell<int>("status"), cell<QByteArray>("expected"));
+        } else {
+            COMPARE_DONE(outcome);
+            QCOMPARE(outcome.out, cell<QByteArray>("expected"));
+        }
+    }
+
+    void abbreviations() {
+        const OrbisctlFixture fixture;
+        QCOMPARE(fixture.run({"li"}).out, fixture.run({"list"}).out);
+        QCOMPARE(fixture.run({"modem", "--json"}).json()["id"].toString(), QString("/simulated/1"));  // not modems
+        COMPARE_REFUSED(fixture.run({"de"}), 2, "more than one");
+        COMPARE_REFUSED(fixture.run({""}), 2, "unknown command");
+    }
+
+    void helpListsFields() {
+        const QByteArray help = OrbisctlFixture::run({"add", "--help"}).out;
+        QVERIFY2(help.contains("\n  apn          letters, digits, dots and hyphens, at most 100 characters\n"), help);
+        QVERIFY2(!help.contains("langid"), help);
+    }
+
     void listTellsSourcesAndDefault() {
         const OrbisctlFixture fixture;
         fixture.writeUser("<Profile name='Gr\u00fc\u00df&#x9b;2J'/>");  // a control sequence for terminals
