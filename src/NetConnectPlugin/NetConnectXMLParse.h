@@ -152,7 +152,7 @@ private:
         QMultiHash<QString, IMSIINFO>* imsiProfiles;
     };
 
-    NetConnectXMLParse() : m_bUserFileRead(false), m_bKeepProblem(false) {}
+    NetConnectXMLParse() : m_bUserFileRead(false), m_Section(NetConnectConfigElement::Other), m_bKeepProblem(false) {}
     ~NetConnectXMLParse() {}
     Q_DISABLE_COPY(NetConnectXMLParse)
 
@@ -177,6 +177,7 @@ private:
 
     int loadConfig(NetConnectConfigDocument* document);
     void fileElement(const NetConnectConfigElement& element, const ConfigTargets& targets);
+    void fileItem(const NetConnectConfigElement& item, const ConfigTargets& targets);
     void fileModeElement(const NetConnectConfigElement& element, const ConfigTargets& targets,
                          const NetConnectCardMode& card, QString* modeDefault);
 
@@ -196,7 +197,7 @@ private:
     bool m_bUserFileRead;
     KeptConfig m_Config;
     NetConnectRememberedDefaults m_Remembered;
-    QString m_strSection;
+    NetConnectConfigElement::Kind m_Section;  // in which the items stand
     QString m_strSpare;
     QString m_strCurrentIMSI;
     NetConnectDeviceInfo m_DeviceInfo;

@@ -2,6 +2,7 @@
 
 #include <QRandomGenerator>
 #include <QXmlStreamWriter>
+#include <algorithm>
 
 #include "ProfileDocumentWriter.h"
 #include "Rows.h"
@@ -73,6 +74,7 @@ private slots:
                              "<a><!-- -- --></a>",
                              "<a><!-- --->",
                              "<a b=\"1\" b=\"2\"/>",
+                             "<a><b c=\"1\" d=\"2\"/><b d=\"1\"/><b d=\"1\" d=\"2\"/></a>",
                              "<a b='1'/>",
                              "<a b=\"<\"/>",
                              "<a b=\"&apos;\"/>",
@@ -97,6 +99,29 @@ private slots:
         const QByteArray content = QTest::currentDataTag();
         QCOMPARE(ScannerOracle::answer<ProfileDocument>(content), ScannerOracle::Unknown);
         QCOMPARE(ScannerOracle::answer<NetConnectConfigDocument>(content), ScannerOracle::Unknown);
+    }
+
+    // Elements with attributes of which the former ones had some, at other places and with other values.
+    void scansAttributesInAnyOrder() {
+        QRandomGenerator random(4);
+        for (int round = 0; round < 300; ++round) {
+            QByteArray content = "<a>";
+            bool isWellFormed = true;
+            for (int elements = random.bounded(1, 6); elements > 0; --elements) {
+                QByteArrayList attributes{"name", "apn", "user", "userx", "use"};
+                std::shuffle(attributes.begin(), attributes.end(), random);
+                attributes = attributes.mid(random.bounded(4));
+                if (random.bounded(20) == 0) attributes.append(attributes.first());
+                isWellFormed = isWellFormed && !attributes.mid(1).contains(attributes.first());
+                content += "<Profile";
+                for (const QByteArray& name : attributes)
+                    content += ' ' + name + "=\"" + QByteArray::number(random.bounded(3)) + '"';
+                content += "/>";
+            }
+            content += "</a>";
+            const ScannerOracle::Answer wanted = isWellFormed ? ScannerOracle::Agrees : ScannerOracle::Unknown;
+            QVERIFY2(ScannerOracle::answer<ProfileDocument>(content) == wanted, content);
+        }
     }
 
     void neverDiffersFromTheReader() {

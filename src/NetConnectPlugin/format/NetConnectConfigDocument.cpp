@@ -25,12 +25,35 @@ NetConnectConfigElement configElement(const Element& source, const QString& name
         if (!source.isNamed(kinds[i].element)) continue;
         element.kind = kinds[i].kind;
         element.name = kinds[i].isNamedByIMSI ? source.value("imsi") : name;
-        element.value = source.value("value");
-        element.type = source.value("type");
+        element.value = source.commonValue("value");
+        element.type = source.commonValue("type");
         break;
     }
     return element;
 }
+
+// The element that a scanner stands on. Of the few values that come again and again, neighbours share their memory.
+class ScannedElement {
+public:
+    explicit ScannedElement(const XmlScanner& scanner) : m_Scanner(scanner) {}
+    bool isNamed(const char* name) const { return m_Scanner.isNamed(name); }
+    QString value(const char* attribute) const { return m_Scanner.value(attribute); }
+    QString commonValue(const char* attribute) const {
+        const XmlPiece* const piece = m_Scanner.find(attribute);
+        if (!piece) return QString();
+        if (piece->size == 0) return piece->toString();
+        if (!(*piece == m_Common)) {
+            m_Common = *piece;
+            m_Text = piece->toString();
+        }
+        return m_Text;
+    }
+
+private:
+    const XmlScanner& m_Scanner;
+    mutable XmlPiece m_Common;
+    mutable QString m_Text;
+};
 
 }  // namespace
 
@@ -58,10 +81,11 @@ bool NetConnectConfigDocument::scan(const QByteArray& content) {
     NetConnectConfigDocument scanned;
     Place place;
     XmlScanner scanner(content);
+    const ScannedElement element(scanner);
     for (XmlScanner::Token token = scanner.next(); token != XmlScanner::End; token = scanner.next()) {
         if (token == XmlScanner::Unknown) return false;
         if (token == XmlScanner::StartElement)
-            scanned.start(scanner, &place);
+            scanned.start(element, &place);
         else if (scanner.isNamed("module"))
             place.module.clear();
     }

@@ -22,13 +22,14 @@ public:
     QString shared(int field, const Value& value) {
         if (field == NameField) return value.toString();
         Entry& last = m_Last[field];
-        if (value == last.key) return last.text;
-        Entry& seen = m_Seen[qHash(value) % SeenCount];
-        if (!(value == seen.key)) {
-            seen.text = value.toString();
-            remember(value, seen.text, &seen.key);
+        if (!(value == last.key)) {
+            Entry& seen = m_Seen[qHash(value) % SeenCount];
+            if (!(value == seen.key)) {
+                seen.text = value.toString();
+                remember(value, seen.text, &seen.key);
+            }
+            last = seen;
         }
-        last = seen;
         return last.text;
     }
 
@@ -49,13 +50,37 @@ bool isField(const XmlPiece& attribute, int field) { return attribute == DialupP
 
 // The field of an attribute; -1 for none. The writer's order is tried first.
 template <class Name>
-int fieldOf(const Name& attribute, int expected) {
+int findField(const Name& attribute, int expected) {
     for (int i = 0; i < DialupProfileFieldCount; ++i) {
         const int field = (expected + i) % DialupProfileFieldCount;
         if (isField(attribute, field)) return field;
     }
     return -1;
 }
+
+// Finds the fields of attributes by name and place.
+class FieldFinder {
+public:
+    int fieldOf(const QStringRef& attribute, int, int expected) const { return findField(attribute, expected); }
+
+    // The scanner keeps the piece of a name that comes again at its place.
+    int fieldOf(const XmlPiece& attribute, int place, int expected) {
+        Known& known = m_Known[place];
+        if (known.name != attribute.begin) {
+            known.name = attribute.begin;
+            known.field = findField(attribute, expected);
+        }
+        return known.field;
+    }
+
+private:
+    struct Known {
+        Known() : name(0), field(-1) {}
+        const char* name;
+        int field;
+    };
+    Known m_Known[XmlScanner::MostAttributes];
+};
 
 // Takes elements, from Qt's reader or from the scanner, into a document.
 template <class Element, class Pool>
@@ -83,7 +108,7 @@ private:
     void readProfile(const Element& element, DialupProfile* profile) {
         int expected = 0;
         for (int i = 0; i < element.attributeCount(); ++i) {
-            const int field = fieldOf(element.attributeName(i), expected);
+            const int field = m_Fields.fieldOf(element.attributeName(i), i, expected);
             if (field < 0) continue;
             profile->*DialupProfileFields[field].member = m_Pool.shared(field, element.attributeValue(i));
             expected = field + 1;
@@ -98,6 +123,7 @@ private:
 
     ProfileDocument* m_Document;
     Pool m_Pool;
+    FieldFinder m_Fields;
     bool m_InModeDefaults;
 };
 

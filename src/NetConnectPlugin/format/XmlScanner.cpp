@@ -1,7 +1,5 @@
 #include "XmlScanner.h"
 
-#include <string.h>
-
 #include "XmlText.h"
 
 namespace {
@@ -40,6 +38,11 @@ int referenceAt(const char* at) {
     return -1;
 }
 
+quint64 markOf(const XmlPiece& name) {
+    const int sum = name.begin[0] + 5 * name.begin[name.size - 1] + 11 * name.size;
+    return quint64(1) << (sum & 63);
+}
+
 bool isTail(char c) { return (c & 0xc0) == 0x80; }
 
 // The length of the UTF-8 sequence that stands here (RFC 3629); 0 for none, and for what no XML may hold or a byte
@@ -62,10 +65,6 @@ int sequenceAt(const char* at) {
 }
 
 }  // namespace
-
-bool XmlPiece::operator==(const XmlPiece& other) const {
-    return size == other.size && (begin == other.begin || memcmp(begin, other.begin, size_t(size)) == 0);
-}
 
 QString XmlPiece::toString() const {
     if (isPlain) return QString::fromLatin1(begin, size);
@@ -95,14 +94,21 @@ XmlScanner::XmlScanner(const QByteArray& document)
       m_Elements(0),
       m_IsEmptyElement(false),
       m_AttributeCount(0),
+      m_FormerCount(0),
+      m_AreNamesFormer(false),
       m_AttributeMarks(0) {
     skipIf("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
 }
 
-QString XmlScanner::value(const char* attribute) const {
+const XmlPiece* XmlScanner::find(const char* attribute) const {
     for (int i = 0; i < m_AttributeCount; ++i)
-        if (m_AttributeNames[i] == attribute) return m_AttributeValues[i].toString();
-    return QString();
+        if (m_AttributeNames[i] == attribute) return &m_AttributeValues[i];
+    return 0;
+}
+
+QString XmlScanner::value(const char* attribute) const {
+    const XmlPiece* const piece = find(attribute);
+    return piece ? piece->toString() : QString();
 }
 
 XmlScanner::Token XmlScanner::next() {
@@ -110,15 +116,10 @@ XmlScanner::Token XmlScanner::next() {
     for (;;) {
         while (is(*m_At, Blank)) ++m_At;
         if (m_At == m_End) return m_Depth == 0 && m_Elements > 0 ? End : Unknown;
-        if (skipIf("<!--")) {
-            if (!skipComment()) return Unknown;
-        } else if (skipIf("</")) {
-            return scanEndTag();
-        } else if (skipIf("<")) {
-            return scanStartTag();
-        } else {
-            return Unknown;
-        }
+        if (*m_At != '<') return Unknown;
+        ++m_At;
+        if (*m_At != '!') return *m_At == '/' ? scanEndTag() : scanStartTag();
+        if (!skipIf("!--") || !skipComment()) return Unknown;
     }
 }
 
@@ -127,6 +128,11 @@ bool XmlScanner::skipIf(const char* text) {
     if (strncmp(m_At, text, size) != 0) return false;
     m_At += size;
     return true;
+}
+
+// Whether a piece that was met before stands here again.
+bool XmlScanner::isHere(const XmlPiece& piece) const {
+    return piece.size > 0 && m_End - m_At >= piece.size && memcmp(m_At, piece.begin, size_t(piece.size)) == 0;
 }
 
 bool XmlScanner::skipComment() {
@@ -145,14 +151,19 @@ XmlScanner::Token XmlScanner::scanStartTag() {
     if (!scanName(&m_Name)) return Unknown;
     m_Open[m_Depth++] = m_Name;
     m_AttributeCount = 0;
-    m_AttributeMarks = 0;
+    m_AreNamesFormer = true;
     while (*m_At == ' ')
         if (!scanAttribute()) return Unknown;
-    m_IsEmptyElement = skipIf("/");
-    return skipIf(">") ? StartElement : Unknown;
+    m_FormerCount = m_AttributeCount;
+    m_IsEmptyElement = *m_At == '/';
+    if (m_IsEmptyElement) ++m_At;
+    if (*m_At != '>') return Unknown;
+    ++m_At;
+    return StartElement;
 }
 
 XmlScanner::Token XmlScanner::scanEndTag() {
+    ++m_At;
     if (m_Depth == 0 || !scanName(&m_Name) || !(m_Name == m_Open[m_Depth - 1]) || !skipIf(">")) return Unknown;
     return endElement();
 }
@@ -176,17 +187,45 @@ bool XmlScanner::scanName(XmlPiece* name) {
 
 bool XmlScanner::scanAttribute() {
     if (m_AttributeCount == MostAttributes) return false;
-    ++m_At;
+    if (m_AttributeCount == m_FormerCount) leaveFormer();
     XmlPiece* const name = &m_AttributeNames[m_AttributeCount];
-    if (!scanName(name) || !isNewAttribute(*name)) return false;
-    if (m_At[0] != '=' || m_At[1] != '"') return false;
-    m_At += 2;
-    return scanValue(&m_AttributeValues[m_AttributeCount++]);
+    XmlPiece* const whole = &m_Attributes[m_AttributeCount];
+    const char* const begin = m_At;
+    if (isHere(*whole)) {
+        if (!m_AreNamesFormer && !isNewAttribute(*name)) return false;
+        m_At += whole->size;
+    } else {
+        ++m_At;
+        if (!scanAttributeName(name) || m_At[0] != '=' || m_At[1] != '"') return false;
+        m_At += 2;
+        if (!scanValue(&m_AttributeValues[m_AttributeCount])) return false;
+        whole->begin = begin;
+        whole->size = int(m_At - begin);
+    }
+    ++m_AttributeCount;
+    return true;
+}
+
+bool XmlScanner::scanAttributeName(XmlPiece* name) {
+    if (isHere(*name) && m_At[name->size] == '=') {
+        m_At += name->size;
+    } else {
+        leaveFormer();
+        if (!scanName(name)) return false;
+    }
+    return m_AreNamesFormer || isNewAttribute(*name);
+}
+
+// From here on the names are not those of the former element, which are known to differ.
+void XmlScanner::leaveFormer() {
+    if (!m_AreNamesFormer) return;
+    m_AreNamesFormer = false;
+    m_AttributeMarks = 0;
+    for (int i = 0; i < m_AttributeCount; ++i) m_AttributeMarks |= markOf(m_AttributeNames[i]);
 }
 
 bool XmlScanner::isNewAttribute(const XmlPiece& name) {
-    const int sum = name.begin[0] + 5 * name.begin[name.size - 1] + 11 * name.size;
-    const quint64 mark = quint64(1) << (sum & 63);
+    const quint64 mark = markOf(name);
     if (m_AttributeMarks & mark)
         for (int i = 0; i < m_AttributeCount; ++i)
             if (m_AttributeNames[i] == name) return false;

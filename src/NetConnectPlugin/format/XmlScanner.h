@@ -3,13 +3,17 @@
 #ifndef ORBISDIAL_XMLSCANNER_H
 #define ORBISDIAL_XMLSCANNER_H
 
+#include <string.h>
+
 #include <QByteArray>
 #include <QString>
 
 // A stretch of a document's bytes: an ASCII name, or a value as it stands in the file. The document must outlive it.
 struct XmlPiece {
     XmlPiece() : begin(""), size(0), isPlain(true) {}
-    bool operator==(const XmlPiece& other) const;
+    bool operator==(const XmlPiece& other) const {
+        return size == other.size && (begin == other.begin || memcmp(begin, other.begin, size_t(size)) == 0);
+    }
     bool operator==(const char* name) const {
         int i = 0;
         while (i < size && begin[i] == name[i]) ++i;
@@ -27,6 +31,9 @@ uint qHash(const XmlPiece& piece);
 // space and nothing else; each attribute after one blank, in double quotes; only the references that a writer makes.
 // Whatever is said here is what Qt's reader says of the same document. At the first thing that it does not know the
 // scanner gives up, and the document must be read again as a whole.
+//
+// An element's attributes are mostly those of the element before it, at the same places and often with the same values:
+// what reads alike is compared instead of scanned, and keeps the piece that it has.
 class XmlScanner {
 public:
     enum Token { StartElement, EndElement, End, Unknown };
@@ -45,7 +52,8 @@ public:
     const XmlPiece& attributeName(int index) const { return m_AttributeNames[index]; }
     const XmlPiece& attributeValue(int index) const { return m_AttributeValues[index]; }
 
-    // Null for an attribute that is not there.
+    // An attribute's value; null for an attribute that is not there.
+    const XmlPiece* find(const char* attribute) const;
     QString value(const char* attribute) const;
 
 private:
@@ -57,9 +65,12 @@ private:
     Token scanEndTag();
     bool scanName(XmlPiece* name);
     bool scanAttribute();
+    bool scanAttributeName(XmlPiece* name);
     bool scanValue(XmlPiece* value);
     bool isNewAttribute(const XmlPiece& name);
     bool skipIf(const char* text);
+    bool isHere(const XmlPiece& piece) const;
+    void leaveFormer();
 
     const char* m_At;
     const char* m_End;
@@ -69,9 +80,12 @@ private:
     int m_Elements;
     bool m_IsEmptyElement;
     int m_AttributeCount;
-    quint64 m_AttributeMarks;  // a bit for each name, which others may share
+    int m_FormerCount;         // of the attributes of the element that started before
+    bool m_AreNamesFormer;     // all of the names so far are those of that element
+    quint64 m_AttributeMarks;  // otherwise a bit for each name, which others may share
     XmlPiece m_AttributeNames[MostAttributes];
     XmlPiece m_AttributeValues[MostAttributes];
+    XmlPiece m_Attributes[MostAttributes];  // each with all that belongs to it, as it was last scanned
 };
 
 #endif

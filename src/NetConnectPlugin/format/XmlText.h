@@ -12,6 +12,7 @@ public:
     explicit XmlReaderElement(const QXmlStreamReader& reader) : m_Reader(reader), m_Attributes(reader.attributes()) {}
     bool isNamed(const char* name) const { return m_Reader.name() == QLatin1String(name); }
     QString value(const char* attribute) const { return m_Attributes.value(QLatin1String(attribute)).toString(); }
+    QString commonValue(const char* attribute) const { return value(attribute); }
     int attributeCount() const { return m_Attributes.size(); }
     QStringRef attributeName(int index) const { return m_Attributes.at(index).qualifiedName(); }
     QStringRef attributeValue(int index) const { return m_Attributes.at(index).value(); }

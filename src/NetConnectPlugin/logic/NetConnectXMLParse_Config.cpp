@@ -9,7 +9,6 @@
 namespace {
 
 const char DefaultValue[] = "default";
-const char* const ModeDefaultSection = "MultiModeDefaultProfile";
 const char* const IMSISection = "IMSIProfileList";
 
 NetConnectXML readItem(const NetConnectConfigElement& element) {
@@ -116,12 +115,12 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
 void NetConnectXMLParse::fileModeElement(const NetConnectConfigElement& element, const ConfigTargets& targets,
                                          const NetConnectCardMode& card, QString* modeDefault) {
     if (element.kind == NetConnectConfigElement::ModeDefaultSection) {
-        m_strSection = QLatin1String(ModeDefaultSection);
+        m_Section = element.kind;
         qDebug("%s : %s: %s: Found MultiModeDefaultProfile label in NetConnectConfig.xml.", traceTime().constData(),
                __FILE__, "GetSettingsFromXML");
     }
     fileElement(element, targets);
-    if (element.kind != NetConnectConfigElement::Item || m_strSection != QLatin1String(ModeDefaultSection) ||
+    if (element.kind != NetConnectConfigElement::Item || m_Section != NetConnectConfigElement::ModeDefaultSection ||
         !isForCard(element, card))
         return;
     *modeDefault = element.name;
@@ -141,26 +140,30 @@ int NetConnectXMLParse::getConfigData(QXmlStreamReader& reader, QHash<QString, N
 }
 
 void NetConnectXMLParse::fileElement(const NetConnectConfigElement& element, const ConfigTargets& targets) {
-    const struct {
-        NetConnectConfigElement::Kind kind;
-        QLatin1String section;
-        QHash<QString, NetConnectXML>* items;
-    } sections[] = {
-        {NetConnectConfigElement::TemplateSection, QLatin1String("ProfileTemplate"), targets.templates},
-        {NetConnectConfigElement::FunctionSection, QLatin1String("Function"), targets.functions},
-        {NetConnectConfigElement::ProfileListSection, QLatin1String("ProfileList"), targets.profileList},
-    };
-    const bool isItem = element.kind == NetConnectConfigElement::Item;
-    for (size_t i = 0; i < sizeof(sections) / sizeof(sections[0]); ++i) {
-        if (element.kind == sections[i].kind) m_strSection = sections[i].section;
-        if (isItem && m_strSection == sections[i].section) sections[i].items->insert(element.name, readItem(element));
+    if (element.kind == NetConnectConfigElement::Item) return fileItem(element, targets);
+    if (element.kind == NetConnectConfigElement::IMSISection) m_strCurrentIMSI = element.name;
+    const bool isIgnored =
+        element.kind == NetConnectConfigElement::Other || element.kind == NetConnectConfigElement::ModeDefaultSection;
+    if (!isIgnored) m_Section = element.kind;
+}
+
+void NetConnectXMLParse::fileItem(const NetConnectConfigElement& item, const ConfigTargets& targets) {
+    switch (m_Section) {
+        case NetConnectConfigElement::TemplateSection:
+            targets.templates->insert(item.name, readItem(item));
+            break;
+        case NetConnectConfigElement::FunctionSection:
+            targets.functions->insert(item.name, readItem(item));
+            break;
+        case NetConnectConfigElement::ProfileListSection:
+            targets.profileList->insert(item.name, readItem(item));
+            break;
+        case NetConnectConfigElement::IMSISection:
+            targets.imsiProfiles->insert(m_strCurrentIMSI, readIMSIRow(item));
+            break;
+        default:  // in no section, or in the one that the card's mode picks from
+            break;
     }
-    if (element.kind == NetConnectConfigElement::IMSISection) {
-        m_strSection = QLatin1String(IMSISection);
-        m_strCurrentIMSI = element.name;
-    }
-    if (isItem && m_strSection == QLatin1String(IMSISection))
-        targets.imsiProfiles->insert(m_strCurrentIMSI, readIMSIRow(element));
 }
 
 int NetConnectXMLParse::getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt) {
