@@ -12,12 +12,15 @@ namespace {
 class LocalisedName {
 public:
     QString text;
+    QStringList others;
 
     void read(XmlInput& in) {
         const QString language = in.attribute("xml:lang");
         const bool international = language.isEmpty() || language.startsWith("en");
         const QString candidate = in.text();
-        if (candidate.isEmpty() || (!text.isEmpty() && (m_International || !international))) return;
+        if (candidate.isEmpty()) return;
+        if (!text.isEmpty() && (m_International || !international)) return others.append(candidate);
+        if (!text.isEmpty()) others.append(text);
         text = candidate;
         m_International = international;
     }
@@ -39,6 +42,15 @@ bool isForCalls(const QString& apn) { return apn.endsWith("ims", Qt::CaseInsensi
 bool isUsableApn(const QString& apn) {
     return !apn.isEmpty() && apn.size() <= NetConnectProfileRules::APNLength &&
            NetConnectProfileRules::isAPNAcceptable(apn);
+}
+
+// Whether a modem could send the query: a USSD command (3GPP TS 22.090) or a number, and a message of one part.
+bool isSendable(const BalanceQuery& query) {
+    static const QRegularExpression Command("^[*#][0-9*#]{0,180}#\\z");
+    static const QRegularExpression Called("^\\+?[0-9*#]{1,40}\\z");
+    static const QRegularExpression Written("^\\+?[0-9]{1,20}\\z");
+    const QRegularExpression* const forms[] = {&Command, &Called, &Written};
+    return query.number.contains(*forms[query.way]) && query.text.size() <= 160;
 }
 
 class DatabaseReader {
@@ -77,6 +89,7 @@ private:
             skip();
         });
         provider.name = providerName.text;
+        provider.otherNames = providerName.others;
         m_Providers.append(provider);
     }
 
@@ -84,6 +97,7 @@ private:
         m_In.forEachChild([&](const QStringRef& name) {
             if (name == "network-id") return readNetworkId(provider);
             if (name == "apn") return readApn(provider);
+            if (name == "balance-check") return readBalanceCheck(provider);
             skip();
         });
     }
@@ -110,6 +124,20 @@ private:
             provider->accessPoints.append(point);
         else
             m_Warnings->append(where + ": skipped an access point whose APN is not valid");
+    }
+
+    void readBalanceCheck(Provider* provider) {
+        m_In.forEachChild([&](const QStringRef& name) {
+            BalanceQuery query;
+            query.way = BalanceQuery::wayOf(name.toString());
+            if (query.way == BalanceQuery::WayCount) return skip();
+            query.text = m_In.attribute("text").trimmed();
+            query.number = m_In.text();
+            if (isSendable(query))
+                provider->balanceQueries.append(query);
+            else
+                warn("skipped a way to ask for the balance that can't be sent");
+        });
     }
 
     void readCdma(Provider* provider) {

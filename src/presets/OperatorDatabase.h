@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "OperatorIndex.h"
+
 // What an access point is for, the likeliest for a computer's data connection first.
 enum class Usage { Internet, Unstated, Other };
 
@@ -26,14 +28,17 @@ struct AccessPoint {
 struct Provider {
     QString country;  // ISO 3166-1 alpha-2, lower case
     QString name;
+    QStringList otherNames;    // in other languages
     bool primary = false;      // runs the network itself, where others only rent it
     QStringList networkCodes;  // MCC and MNC joined (3GPP TS 23.003, clause 2.2), each once
     QList<AccessPoint> accessPoints;
+    QList<BalanceQuery> balanceQueries;
 };
 
 // Reads the providers in file order. Left out are access points for multimedia messages alone and, with a line in
-// `warnings`, those whose APN could not be saved on the settings page and network codes that are not numbers.
-// Throws PresetError when the file cannot be read to its end or is no such database.
+// `warnings`, those whose APN could not be saved on the settings page, network codes that are not numbers and ways to
+// ask for the balance that can't be sent. Throws PresetError when the file cannot be read to its end or is no such
+// database.
 QList<Provider> readOperatorDatabase(const QString& path, QStringList* warnings);
 
 #endif

@@ -99,6 +99,29 @@ QList<IMSIINFO> rowsOf(const QVector<const Preset*>& offered) {
     return rows;
 }
 
+OperatorEntry entryOf(const Provider& provider) {
+    OperatorEntry entry;
+    entry.country = provider.country.toLower();
+    entry.names = QStringList(provider.name) + provider.otherNames;
+    entry.balanceQueries = provider.balanceQueries;
+    return entry;
+}
+
+// The providers that have presets, each one's from the likeliest on.
+QList<OperatorEntry> operatorsOf(const QVector<Preset>& presets) {
+    QList<OperatorEntry> operators;
+    for (auto first = presets.begin(), next = first; first != presets.end(); first = next) {
+        next = std::find_if(first, presets.end(), [&](const Preset& p) { return p.provider != first->provider; });
+        QVector<Preset> own(int(next - first));
+        std::copy(first, next, own.begin());
+        std::stable_sort(own.begin(), own.end(),
+                         [](const Preset& a, const Preset& b) { return a.point.usage < b.point.usage; });
+        operators.append(entryOf(*first->provider));
+        for (const Preset& preset : qAsConst(own)) operators.last().presets.append(preset.name);
+    }
+    return operators;
+}
+
 }  // namespace
 
 PresetCatalogue buildCatalogue(const QList<Provider>& providers, const QStringList& reservedNames) {
@@ -112,5 +135,6 @@ PresetCatalogue buildCatalogue(const QList<Provider>& providers, const QStringLi
     }
     for (auto offer = offers.cbegin(); offer != offers.cend(); ++offer)
         catalogue.imsiLists.insert(offer.key(), rowsOf(offer.value()));
+    catalogue.operators = operatorsOf(presets);
     return catalogue;
 }

@@ -13,6 +13,7 @@
 struct PresetCatalogue {
     QList<DialupProfile> profiles;             // by provider, in the database's order
     QMap<QString, QList<IMSIINFO>> imsiLists;  // by network code; one row of each is "default"
+    QList<OperatorEntry> operators;            // those that have a profile, in the database's order
 };
 
 // One profile per provider and distinct APN, user name, password and method, named apart from the reserved names.

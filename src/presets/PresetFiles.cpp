@@ -73,6 +73,30 @@ private:
     bool m_Merged = false;
 };
 
+void writeBalanceQuery(const BalanceQuery& query, QXmlStreamWriter* out) {
+    out->writeEmptyElement("balance");
+    out->writeAttribute("way", BalanceQuery::wordOf(query.way));
+    out->writeAttribute("number", query.number);
+    if (!query.text.isEmpty()) out->writeAttribute("text", query.text);
+}
+
+void writeNamed(const QString& element, const QStringList& names, QXmlStreamWriter* out) {
+    for (const QString& name : names) {
+        out->writeEmptyElement(element);
+        out->writeAttribute("name", name);
+    }
+}
+
+void writeOperator(const OperatorEntry& entry, QXmlStreamWriter* out) {
+    out->writeStartElement("operator");
+    out->writeAttribute("country", entry.country);
+    out->writeAttribute("name", entry.names.first());
+    writeNamed("alias", entry.names.mid(1), out);
+    writeNamed("preset", entry.presets, out);
+    for (const BalanceQuery& query : entry.balanceQueries) writeBalanceQuery(query, out);
+    out->writeEndElement();
+}
+
 }  // namespace
 
 QList<DialupProfile> PresetFiles::readProfiles(const QString& path) {
@@ -95,6 +119,17 @@ QByteArray PresetFiles::profileFile(const QList<DialupProfile>& profiles) {
 
 QByteArray PresetFiles::configFile(const QString& templatePath, const QMap<QString, QList<IMSIINFO>>& imsiLists) {
     return ConfigMerger(templatePath, imsiLists).merge();
+}
+
+QByteArray PresetFiles::operatorFile(const QList<OperatorEntry>& operators) {
+    QByteArray result;
+    QXmlStreamWriter out(&result);
+    out.setAutoFormatting(true);
+    out.writeStartDocument();
+    out.writeStartElement("Operators");
+    for (const OperatorEntry& entry : operators) writeOperator(entry, &out);
+    out.writeEndDocument();
+    return result;
 }
 
 void PresetFiles::write(const QMap<QString, QByteArray>& files) {

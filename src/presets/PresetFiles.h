@@ -9,6 +9,8 @@
 #include <QMap>
 #include <QString>
 
+#include "OperatorIndex.h"
+
 // Every function here throws PresetError when a file cannot be read to its end or written.
 namespace PresetFiles {
 
@@ -20,6 +22,9 @@ QByteArray profileFile(const QList<DialupProfile>& profiles);
 
 // The configuration at `templatePath` with the lists in place of its one <PresetSections/> element.
 QByteArray configFile(const QString& templatePath, const QMap<QString, QList<IMSIINFO>>& imsiLists);
+
+// The index of the operators whose presets these are.
+QByteArray operatorFile(const QList<OperatorEntry>& operators);
 
 // Writes the files, by path, each readable by everyone. No file is replaced before all of them are complete.
 void write(const QMap<QString, QByteArray>& files);

@@ -1,4 +1,5 @@
-// orbis-presets: makes the shipped profile library and the configuration with the presets of the world's operators.
+// orbis-presets: makes the shipped profile library, the configuration with the presets of the world's operators, and
+// the index that tells whose they are.
 //
 // Exit status: 0 done, 1 failed with one line on stderr, 2 wrong usage.
 #include <QCommandLineParser>
@@ -39,7 +40,7 @@ QString installedTemplate(const QString& fileName) {
 void describeOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(
         "Makes ProfileLib.prof and NetConnectConfig.xml: the presets of the operator database, merged with a "
-        "hand-written profile library and configuration.");
+        "hand-written profile library and configuration; and Operators.xml, which tells whose they are.");
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({
@@ -48,7 +49,7 @@ void describeOptions(QCommandLineParser& parser) {
          installedTemplate("NetConnectConfig.template.xml")},
         {"library-template", "The profiles that come before the presets.", "FILE",
          installedTemplate("ProfileLib.template.prof")},
-        {"output-dir", "The folder for the two files, which must exist.", "DIR"},
+        {"output-dir", "The folder for the three files, which must exist.", "DIR"},
     });
 }
 
@@ -76,6 +77,7 @@ void makePresets(const Options& options) {
         {options.outputDir + "/ProfileLib.prof", PresetFiles::profileFile(handWritten + catalogue.profiles)},
         {options.outputDir + "/NetConnectConfig.xml",
          PresetFiles::configFile(options.configTemplate, catalogue.imsiLists)},
+        {options.outputDir + "/Operators.xml", PresetFiles::operatorFile(catalogue.operators)},
     });
     print(QString("%1 preset profiles, %2 network codes\n")
               .arg(catalogue.profiles.size())

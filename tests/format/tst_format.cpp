@@ -1,9 +1,10 @@
-// The writer and the scanner of our own documents do what Qt's writer and reader do.
+// The writer and the scanner of our own documents do what Qt's writer and reader do; the index of the operators.
 
 #include <QRandomGenerator>
 #include <QXmlStreamWriter>
 #include <algorithm>
 
+#include "OperatorIndex.h"
 #include "ProfileDocumentWriter.h"
 #include "Rows.h"
 #include "ScannerOracle.h"
@@ -137,6 +138,86 @@ private slots:
             agreed += answer == ScannerOracle::Agrees;
         }
         QVERIFY(agreed > 1000);
+    }
+
+    void tellsOperators_data() {
+        const Rows<QString, QString> row("operators",
+                                         "told");  // the card's name is the row's; two-letter country first
+        row("ALDI TALK", "de AldiTalk/MedionMobile|de blau.de", "AldiTalk/MedionMobile");
+        row("blau", "de AldiTalk/MedionMobile|de blau.de", "blau.de");
+        row("tuenti movil", QString::fromUtf8("es Movistar|es Tuenti M\xc3\xb3vil"),
+            QString::fromUtf8("Tuenti M\xc3\xb3vil"));
+        row("Telekom.de", "de T-Mobile(Telekom)|de Congstar", "T-Mobile(Telekom)");
+        row("TESCO", "gb O2|gb Tesco Mobile", "Tesco Mobile");
+        row("Tesco Mobile Ltd.", "gb O2|gb Tesco", "Tesco");
+        row("O2 - de", "de O2|de FONIC", "O2");
+        row("3 UK", "gb Superdrug|gb 3", "3");
+        row("Orange F", "fr Orange|fr Prixtel", "Orange");
+        row("F SFR", "fr SFR|fr Prixtel", "SFR");
+        row("Orange UK", "fr Orange|fr Prixtel", "");
+        row("T-Mobile", "pl T|pl T-Mobile", "T-Mobile");
+        row("Sunday", "hk PCCW (Sunday)|hk Sunday", "Sunday");
+        row("Virgin", "pl Virgin Mobile|pl Virgin Internet", "");
+        row("Sure", "gb Sure (A)|gb Sure (B)", "");
+        row("Other", "de O2|de FONIC", "");
+        row("Mobile", "de Mobil|de O2 Mobile", "");
+        row("-- ", "de O2|de ()", "");
+    }
+    void tellsOperators() {
+        QFETCH(QString, operators);
+        QByteArray content = "<Operators>";
+        QStringList offered;
+        for (const QString& text : operators.split('|')) {
+            const QByteArray name = text.mid(3).toUtf8();
+            content += "<operator country='" + text.left(2).toUtf8() + "' name='" + name + "'><preset name='" + name +
+                       "'/></operator>";
+            offered.append(text.mid(3));
+        }
+        QXmlStreamReader reader;
+        OperatorIndex index;
+        index.read(content + "</Operators>", &reader);
+        QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+        QTEST(index.proposalFor(QTest::currentDataTag(), offered, QString()).operatorName, "told");
+    }
+
+    void proposesAnOperatorsPreset_data() {
+        const Rows<QStringList, QString, QString> row("offered", "marked", "proposal");
+        row("its likeliest one", {"X", "B2", "B1"}, "", "B1");
+        row("in the place of another operator's", {"A", "B2", "B1"}, "A", "B1");
+        row("of those offered alone", {"A", "B2"}, "A", "B2");
+        row("not in the place of one of its own", {"A", "B2", "B1"}, "B2", "B2");
+        row("not in the place of one that nobody has", {"X", "B1"}, "X", "");
+        row("none when its own are not offered", {"A", "X"}, "A", "");
+    }
+    void proposesAnOperatorsPreset() {
+        QFETCH(QStringList, offered);
+        QFETCH(QString, marked);
+        const QByteArray operators =
+            "<operator country=\"de\" name=\"Host\"><preset name=\"A\"/></operator>"
+            "<operator country=\"de\" name=\"Guest\"><alias name=\"Gast\"/><preset name=\"B1\"/>"
+            "<preset name=\"B2\"/><balance way=\"ussd\" number=\"*100#\"/><balance way=\"pigeon\" number=\"1\"/>"
+            "<balance way=\"sms\" number=\"123\" text=\"a &amp; b\"/></operator>";
+        for (const char* before : {"<Operators>", "<!-- x --><Operators xmlns='x'>"}) {  // the second is Qt's
+            QXmlStreamReader reader;
+            OperatorIndex index;
+            index.read(before + operators + "</Operators>", &reader);
+            QTEST(index.proposalFor("gast", offered, marked).preset, "proposal");
+            const OperatorEntry* entry = index.operatorOf("B2");
+            QVERIFY(entry && index.operatorOf("A") != entry && !index.operatorOf("X"));
+            QCOMPARE(entry->balanceQueries.size(), 2);
+            QCOMPARE(entry->balanceQueries.first().way, BalanceQuery::Ussd);
+            QCOMPARE(entry->balanceQueries.last().text, QString("a & b"));
+        }
+    }
+
+    void aDamagedIndexTellsNothing() {
+        for (const char* content : {"<Operators><operator name=\"a\"/>", "<!DOCTYPE a [<!ENTITY b 'c'>]><a/>"}) {
+            QXmlStreamReader reader;
+            OperatorIndex index;
+            index.read(content, &reader);
+            QVERIFY(reader.hasError());
+            QVERIFY(index.operators().isEmpty());
+        }
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "FuzzFolder.h"
 #include "OperatorDatabase.h"
+#include "OperatorIndex.h"
 #include "PresetCatalogue.h"
 #include "PresetError.h"
 #include "PresetFiles.h"
@@ -17,6 +18,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         const QByteArray written = PresetFiles::profileFile(catalogue.profiles);
         FuzzFolder::write(library, reinterpret_cast<const uint8_t*>(written.constData()), size_t(written.size()));
         require(PresetFiles::readProfiles(library).size() == catalogue.profiles.size());
+        QXmlStreamReader reader;
+        OperatorIndex index;
+        index.read(PresetFiles::operatorFile(catalogue.operators), &reader);
+        require(!reader.hasError() && index.operators().size() == catalogue.operators.size());
     } catch (const PresetError& error) {
         require(*error.what() != 0);
     }

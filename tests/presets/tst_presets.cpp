@@ -81,6 +81,7 @@ const QByteArray Code = "<network-id mcc='999' mnc='01'/>";
 class Tool {
 public:
     QByteArray library() const { return TestFolder::read(out("ProfileLib.prof")); }
+    QByteArray index() const { return TestFolder::read(out("Operators.xml")); }
     QByteArray config() const { return TestFolder::read(out("NetConnectConfig.xml")); }
     QString out(const QString& name) const { return m_Folder.path("out/" + name); }
     QByteArray error;
@@ -119,6 +120,7 @@ private slots:
                  0);
         QCOMPARE(tool.library(), TestFolder::read(Data + "expected.prof"));
         QCOMPARE(tool.config(), TestFolder::read(Data + "expected.xml"));
+        QCOMPARE(tool.index(), TestFolder::read(Data + "expected.operators.xml"));
         QCOMPARE(int(QFile::permissions(tool.out("ProfileLib.prof")) & 0xf0ff), 0x6044);
         QCOMPARE(tool.error, QByteArray());
     }
@@ -202,6 +204,52 @@ private slots:
         QTEST(sectionsIn(tool.config()).join(' '), "sections");
     }
 
+    void asksForTheBalance_data() {
+        const Rows<QByteArray, QString, int> row("queries", "kept", "warnings");
+        row("all ways in their order", "<dtmf>*22</dtmf><sms text=''>1150</sms><ussd> *544# </ussd>",
+            "dtmf *22|sms 1150|ussd *544#", 0);
+        row("text of a message", "<sms text='EASY SALDO'>15400</sms>", "sms 15400 EASY SALDO", 0);
+        row("not a dialogue", "<ussd>#124#</ussd><ussd-response>4</ussd-response>", "ussd #124#", 0);
+        row("what can't be sent", "<ussd>100</ussd><ussd>*1#;2</ussd><sms>a</sms><dtmf/><ussd>*1#</ussd>", "ussd *1#",
+            4);
+    }
+    void asksForTheBalance() {
+        QFETCH(QByteArray, queries);
+        Tool tool;
+        QCOMPARE(tool.runOn(database(provider("<balance-check>" + queries + "</balance-check>" + apn("a1")))), 0);
+        QStringList kept;
+        for (const Element& element : elementsOf(tool.index()))
+            if (element.tag == "balance")
+                kept.append(
+                    (element.attributes["way"] + ' ' + element.attributes["number"] + ' ' + element.attributes["text"])
+                        .trimmed());
+        QTEST(kept.join('|'), "kept");
+        QTEST(tool.error.count('\n'), "warnings");
+    }
+
+    void indexesOperators_data() {
+        const Rows<QByteArray, QString> row("providers", "index");
+        row("likeliest preset first",
+            provider(apn("w", usage("wap")) + apn("n") + apn("i", usage("internet")) + apn("j", usage("internet"))),
+            "P|XY P - i|XY P - j|XY P - n|XY P - w");
+        row("each has its own",
+            provider("P", apn("i")) + provider("P", apn("j")) + provider("Q", apn("mms", usage("mms"))),
+            "P|XY P - i P|XY P - j");
+        row("other names",
+            "<provider><name xml:lang='ru'>R</name><name>P</name><name xml:lang='zh'>Z</name>" + QByteArray("<gsm>") +
+                apn("i") + "</gsm></provider>",
+            "P|R|Z|XY P - i");
+    }
+    void indexesOperators() {
+        QFETCH(QByteArray, providers);
+        Tool tool;
+        QCOMPARE(tool.runOn(database(providers)), 0);
+        QString index;
+        for (const Element& element : elementsOf(tool.index()).mid(1))
+            index += (element.tag == "operator" ? ' ' : '|') + element.attributes["name"];
+        QTEST(index.trimmed(), "index");
+    }
+
     void refusesBadInput_data() {
         const Rows<QByteArray, QByteArray, QByteArray, QByteArray> row("operators", "config", "library", "error");
         const QByteArray good = database(provider(apn("a1")));
@@ -228,7 +276,7 @@ private slots:
         QCOMPARE(tool.error.count('\n'), 1);
         QVERIFY2(tool.error.contains(error), tool.error);
         QCOMPARE(tool.library(), QByteArray("old"));
-        QCOMPARE(tool.config(), QByteArray());
+        QCOMPARE(tool.config() + tool.index(), QByteArray());
     }
 
     void replacesBothFilesOrNone() {
@@ -272,6 +320,17 @@ private slots:
         }
         QCOMPARE(codes.size(), sections.size());
         QVERIFY(names.contains("Generic GSM") && names.contains("Generic CDMA"));
+    }
+
+    void shippedPresetsHaveOneOperatorEach() {
+        QStringList names = namesIn(TestFolder::read(Shipped + "ProfileLib.prof"));
+        int balances = 0;
+        for (const Element& element : elementsOf(TestFolder::read(Shipped + "Operators.xml"))) {
+            if (element.tag == "preset") QVERIFY2(names.removeOne(element.attributes["name"]), "a preset of two");
+            balances += element.tag == "balance";
+        }
+        QCOMPARE(names, QStringList({"Generic GSM", "Generic CDMA"}));
+        QVERIFY2(balances > 120 && balances < 300, qPrintable(QString::number(balances)));
     }
 
     void shippedTemplateIsTheConfiguredOne() {
