@@ -15,11 +15,13 @@ enum { NetConnectSettingKind = 28689 };
 
 // What the object may tell besides, each as a QObject property of this name that holds text; one that is not
 // there has nothing to say. The last problem with a file of the profiles (empty when all is well), the leading
-// digits by which the SIM's IMSI selected its presets (empty when none matched), and the preset that they
-// propose as the default.
+// digits by which the SIM's IMSI selected its presets (empty when none matched), the preset that they propose as the
+// default, and the operator that it is proposed for, when the card's own name for its operator told one of those
+// offered (empty otherwise).
 #define ORBISDIAL_LAST_STORAGE_PROBLEM "lastStorageProblem"
 #define ORBISDIAL_MATCHED_IMSI_PREFIX "matchedIMSIPrefix"
 #define ORBISDIAL_PROPOSED_DEFAULT "proposedDefault"
+#define ORBISDIAL_PROPOSED_OPERATOR "proposedOperator"
 
 // A truth value: true while the user's profiles are still to be read. Many are read right after the page's first paint,
 // or soon after the start when another page is shown. To ask for one, or for the default, has them read at once.

@@ -87,6 +87,7 @@ int NetConnectSettingUILogic::Init() {
 
     m_IMSIProfileList.clear();
     m_strMatchedPrefix.clear();
+    m_strProposedOperator.clear();
     m_bIMSIRead = false;
     if (followsIMSI() && NetConnectDevice::isReady()) result = getIMSIProfileList();
     m_bLoading = false;
@@ -252,5 +253,6 @@ void NetConnectSettingUILogic::publishStatus() {
     m_pStatusObject->setProperty(ORBISDIAL_LAST_STORAGE_PROBLEM, problem.isNull() ? QString() : problem.text());
     m_pStatusObject->setProperty(ORBISDIAL_MATCHED_IMSI_PREFIX, m_strMatchedPrefix);
     m_pStatusObject->setProperty(ORBISDIAL_PROPOSED_DEFAULT, ProposedDefault());
+    m_pStatusObject->setProperty(ORBISDIAL_PROPOSED_OPERATOR, ProposedOperator());
     m_pStatusObject->setProperty(ORBISDIAL_PROFILES_AWAITED, AreProfilesAwaited());
 }

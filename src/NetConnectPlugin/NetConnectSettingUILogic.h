@@ -36,6 +36,7 @@ struct NetConnectIMSISelection {
     QString prefix;          // the IMSI prefix that matched; empty when none did
     QStringList names;       // the presets, as shown
     QString defaultProfile;  // the proposed default; empty when no row is marked
+    QString operatorName;    // whose the proposed default is, if the card's own name for its operator told
 };
 
 // An edit of a profile by somebody to whom a window showed it. Passwords are in plain text.
@@ -170,12 +171,16 @@ public:
     bool IsIMSIROAMSettingEnable();
     bool IsEhrpdSubMode();
 
-    // What a SIM with this IMSI selects; the prefix is empty when no section matches.
-    NetConnectIMSISelection SelectByIMSI(const QString& imsi);
+    // What a SIM with this IMSI selects, which calls its operator by this name or by none; the prefix is empty when no
+    // section matches. The name tells an operator that shares another one's codes; it decides on the default alone.
+    NetConnectIMSISelection SelectByIMSI(const QString& imsi, const QString& cardOperator = QString());
 
     // What is in force: the prefix that the present SIM matched (empty when none did), and the proposals.
     QString MatchedIMSIPrefix() const;
     QString ProposedDefault() const;
+
+    // The operator that the proposal was made for by the card's own name for it; empty when that told nothing.
+    QString ProposedOperator() const;
 
     // The proposal of the configuration's own list, for SIMs that select nothing; empty when it makes none.
     QString APNDefault() const { return m_strAPNDefaultProfile; }
@@ -273,6 +278,9 @@ private:
     bool isOfAwaitedCard();
 
     // presets
+    QString shownLibraryName(const QString& name);
+    void proposeForOperator(const QString& cardOperator, const QList<IMSIINFO>& rows,
+                            NetConnectIMSISelection* selection);
     void refreshLibraryNames();
     void collectLangids(const QList<DialupProfile>& library);
     QString translatedLibraryName(const QString& name);
@@ -320,6 +328,7 @@ private:
     int m_nConfigStatus;
     NetConnectStorageProblem m_ConfigProblem;
     QString m_strMatchedPrefix;
+    QString m_strProposedOperator;    // told by the present card
     bool m_bIMSIRead;                 // from the card that is there now
     QString m_strCardDefaultProfile;  // the proposal that was last stored for a card
     bool m_bForeignDefault;           // m_strDefaultProfile came from a file that was browsed

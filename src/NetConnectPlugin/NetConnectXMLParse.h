@@ -3,7 +3,7 @@
 // Its source is spread over topics:
 //   NetConnectXMLParse.cpp           life, places, problems
 //   logic/NetConnectXMLParse_Profiles.cpp  profile files
-//   logic/NetConnectXMLParse_Config.cpp    NetConnectConfig.xml
+//   logic/NetConnectXMLParse_Config.cpp    NetConnectConfig.xml, Operators.xml
 //   logic/NetConnectXMLParse_Template.cpp  SysProfile.prof
 #ifndef ORBISDIAL_NETCONNECTXMLPARSE_H
 #define ORBISDIAL_NETCONNECTXMLPARSE_H
@@ -23,6 +23,7 @@
 #include "NetConnectRecords.h"
 #include "NetConnectStatus.h"
 #include "NetConnectStorageProblem.h"
+#include "OperatorIndex.h"
 #include "ProfileDocument.h"
 
 // What the file layer remembers between calls of the defaults in the user's file.
@@ -73,6 +74,10 @@ public:
 
     // Takes the reader's current element as a prompt item, if it is one: 0, or 23 for a null prompt.
     int getUserPasswdPromptInfo(QXmlStreamReader& reader, UserPrompt* prompt);
+
+    // Whose presets the library holds; empty when the shipped set does not say, or its file is damaged, which is
+    // reported.
+    OperatorIndex operatorIndex();
 
     // --- profile template ---
 
@@ -144,6 +149,13 @@ private:
         NetConnectConfigDocument document;
     };
 
+    // The operators as last read.
+    struct KeptOperators {
+        QString path;
+        FileStamp stamp;  // taken before the file was read
+        OperatorIndex index;
+    };
+
     // Where the configuration's elements go.
     struct ConfigTargets {
         QHash<QString, NetConnectXML>* templates;
@@ -196,6 +208,7 @@ private:
     KeptFile m_Library;
     bool m_bUserFileRead;
     KeptConfig m_Config;
+    KeptOperators m_Operators;
     NetConnectRememberedDefaults m_Remembered;
     NetConnectConfigElement::Kind m_Section;  // in which the items stand
     QString m_strSpare;

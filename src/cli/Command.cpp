@@ -18,6 +18,7 @@ constexpr CommandOption Timeout{"timeout", "Wait no longer than so many seconds.
 constexpr CommandOption Hold{"hold", "Stay, and hang up on Ctrl-C.", nullptr};
 constexpr CommandOption Watch{"watch", "Stay, and show each change.", nullptr};
 constexpr CommandOption Roaming{"roaming", "While roaming, too.", nullptr};
+constexpr CommandOption Operator{"operator", "What the SIM cards call their operator.", "NAME"};
 
 constexpr int Any = Command::AnyNumber;
 
@@ -44,7 +45,7 @@ const Command Commands[] = {
     {"backup", "FILE", 1, 1, with(Force), "Save all profiles of one's own, and the chosen default, in a file.", backUp},
     {"restore", "FILE", 1, 1, NoOptions, "Take profiles and default from a backup; those of other names stay.",
      restore},
-    {"explain", "IMSI...", 1, Any, NoOptions, "Tell which presets SIM cards select; - reads IMSIs from standard input.",
+    {"explain", "IMSI...", 1, Any, with(Operator), "Tell which presets SIM cards select; - reads IMSIs from standard input.",
      explainIMSIs},
     {"config", "[KEY]", 0, 1, NoOptions, "Show a value of the function configuration, or all.", showConfiguration},
     {"device", "", 0, 0, NoOptions, "Show what the modem and its SIM card report, and the connection.", showDevice},

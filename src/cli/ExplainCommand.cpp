@@ -18,13 +18,17 @@ struct Explanation {
     QString imsi;
     QString prefix;  // null when no section matches
     QStringList offered;
-    QString proposal;  // null when there is none
+    QString proposal;      // null when there is none
+    QString cardOperator;  // what the card calls its operator; null when nobody says
+    QString operatorName;  // the operator offered that this told; empty when it told none
     bool isIMSI = true;
 };
 
 class Explainer {
 public:
-    Explainer(const ProfileSession& session, Output& output) : m_Session(session), m_Output(output) {}
+    // The operator's name is what the cards call it; null when it is not given.
+    Explainer(const ProfileSession& session, const QString& cardOperator, Output& output)
+        : m_Session(session), m_Output(output), m_CardOperator(cardOperator) {}
 
     void explain(const QString& imsi) {
         const Explanation explanation = explanationFor(imsi);
@@ -57,8 +61,10 @@ private:
         explanation.isIMSI = pattern.match(imsi).hasMatch();
         if (!explanation.isIMSI) return explanation;
 
+        explanation.cardOperator = cardOperatorFor(imsi);
         NetConnectIMSISelection selection;
-        if (m_bFollowsIMSI) selection = m_Session->SelectByIMSI(imsi);
+        if (m_bFollowsIMSI) selection = m_Session->SelectByIMSI(imsi, explanation.cardOperator);
+        explanation.operatorName = selection.operatorName;
         const bool isSelected = !selection.prefix.isEmpty();
         if (isSelected) explanation.prefix = selection.prefix;
         explanation.offered = isSelected ? selection.names : m_Configured;
@@ -66,7 +72,17 @@ private:
         const QString proposal =
             selection.defaultProfile.size() > 1 ? selection.defaultProfile : m_Session->APNDefault();
         if (explanation.offered.contains(proposal)) explanation.proposal = proposal;
+        // The list keeps its order but for a proposal that the card's own name asked for.
+        const int place = explanation.offered.indexOf(explanation.proposal);
+        if (!explanation.operatorName.isEmpty() && place > 0) explanation.offered.move(place, 0);
         return explanation;
+    }
+
+    // The present card is explained as the programs see it.
+    QString cardOperatorFor(const QString& imsi) const {
+        if (!m_CardOperator.isNull() || imsi != m_PresentIMSI) return m_CardOperator;
+        const QString name = NetConnectDevice::cardOperator();
+        return name.isEmpty() ? QString() : name;
     }
 
     QString apnOf(const QString& name) {
@@ -84,6 +100,8 @@ private:
         QJsonObject object{{"imsi", explanation.imsi}, {"offered", offered}};
         object["prefix"] = explanation.prefix.isNull() ? QJsonValue() : explanation.prefix;
         object["default"] = explanation.proposal.isNull() ? QJsonValue() : explanation.proposal;
+        if (!explanation.cardOperator.isNull())
+            object["operator"] = explanation.operatorName.isEmpty() ? QJsonValue() : explanation.operatorName;
         if (!explanation.isIMSI) object["note"] = "not an IMSI";
         return object;
     }
@@ -93,13 +111,22 @@ private:
         QStringList lines{explanation.imsi + ": " +
                           (explanation.prefix.isNull() ? "no prefix matches; the configuration's own presets"
                                                        : "prefix " + explanation.prefix)};
+        if (!explanation.cardOperator.isNull()) lines.append("  " + operatorLine(explanation));
         for (const QString& name : explanation.offered)
             lines.append(QString("  %1 %2 [%3]").arg(name == explanation.proposal ? "*" : " ", name, apnOf(name)));
         return lines;
     }
 
+    static QString operatorLine(const Explanation& explanation) {
+        const QString name = quoted(explanation.cardOperator);
+        if (explanation.operatorName.isEmpty()) return "the card's operator name " + name + " tells none of these";
+        return "by the card's operator name " + name + ": " + explanation.operatorName;
+    }
+
     const ProfileSession& m_Session;
     Output& m_Output;
+    const QString m_CardOperator;
+    const QString m_PresentIMSI = NetConnectDevice::imsi();
     const bool m_bFollowsIMSI = m_Session.isOn("IMSIAPN");
     const QStringList m_Configured = m_Session->getAPNListFromHash();
     QHash<QString, QString> m_APNs;
@@ -113,7 +140,8 @@ void explainIMSIs(const Invocation& invocation, Output& output) {
     ProfileSession session(ProfileSession::Reading);
     const QString note = session.presetsNote();
     if (!note.isNull()) printWarning(note);
-    Explainer explainer(session, output);
+    const QString cardOperator = invocation.isSet("operator") ? invocation.value("operator") : QString();
+    Explainer explainer(session, cardOperator, output);
     for (const QString& imsi : invocation.arguments()) {
         if (imsi == "-")
             explainer.explainStandardInput();

@@ -9,7 +9,8 @@ class OrbisctlFixture : public TestFolder {
 public:
     OrbisctlFixture() {
         const QString fixtures = ORBISDIAL_SOURCE_DIR "/tests/cli/fixtures/";
-        for (const char* file : {"NetConnectConfig.xml", "ProfileLib.prof"}) ship(file, read(fixtures + file));
+        for (const char* file : {"NetConnectConfig.xml", "Operators.xml", "ProfileLib.prof"})
+            ship(file, read(fixtures + file));
         ship("SysProfile.prof", "<vrksdoc/>");
         QFile::copy(ORBISDIAL_LIBRARY_DIR "/lang/orbisdial_en.qm", path("library/lang/orbisdial_en.qm"));
         qputenv("ORBISDIAL_DEVICE", "simulated");

@@ -51,6 +51,12 @@ private slots:
             R"({"apn":"alpha.example","name":"Alpha"}],"prefix":"26201"})");
         row("explain, no match", {"explain", "310260"},
             R"({"default":"Generic","imsi":"310260","offered":[{"apn":"","name":"Generic"}],"prefix":null})");
+        row("explain, operator", {"explain", "--operator", "beta", "26201"},
+            R"({"default":"Beta","imsi":"26201","offered":[{"apn":"beta.example","name":"Beta"},)"
+            R"({"apn":"alpha.example","name":"Alpha"}],"operator":"Beta Mobile","prefix":"26201"})");
+        row("explain, strange operator", {"explain", "26201", "--operator", "Gamma"},
+            R"({"default":"Alpha","imsi":"26201","offered":[{"apn":"beta.example","name":"Beta"},)"
+            R"({"apn":"alpha.example","name":"Alpha"}],"operator":null,"prefix":"26201"})");
         row("config", {"config", "ENCRYPT"}, R"({"ENCRYPT":"true"})");
         row("no device", {"--device", "none", "device"},
             R"({"backend":"none","cardMode":null,"connection":null,"customizeName":null,"imsi":null,"modem":null,)"
@@ -111,6 +117,18 @@ private slots:
         fixture.writeUser("<Profile name='Gr\u00fc\u00df&#x9b;2J'/>");  // a control sequence for terminals
         const QByteArray expected = "* preset Alpha\n  preset Beta\n  user   Gr\u00fc\u00df\ufffd2J\n";
         QCOMPARE(fixture.run({"list"}).out, expected);
+    }
+
+    void explainTakesThePresentCardsOperator() {
+        const OrbisctlFixture fixture;
+        qputenv("ORBISDIAL_SIM_CARD_OPERATOR", "ALPHA net");
+        const Outcome present = fixture.run({"explain", "262019876543210"}), other = fixture.run({"explain", "26201"});
+        qunsetenv("ORBISDIAL_SIM_CARD_OPERATOR");
+        COMPARE_DONE(present);
+        QCOMPARE(present.out, QByteArray("262019876543210: prefix 26201\n"
+                                         "  by the card's operator name \"ALPHA net\": Alpha Net\n"
+                                         "  * Alpha [alpha.example]\n    Beta [beta.example]\n"));
+        QCOMPARE(other.out, QByteArray("26201: prefix 26201\n    Beta [beta.example]\n  * Alpha [alpha.example]\n"));
     }
 
     void explainGoesOnAfterNonsense() {

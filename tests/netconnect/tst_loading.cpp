@@ -1,6 +1,7 @@
 // The logic's loading, presets, function queries, device events and passwords.
 
 #include "Change.h"
+#include "INetConnectSetting.h"
 #include "LogicFixture.h"
 
 static const char* const Failing = nullptr;  // a query of the device
@@ -55,6 +56,58 @@ private slots:
         QTEST(logic()->MatchedIMSIPrefix(), "prefix");
         QTEST(logic()->ProposedDefault(), "proposed");
         QTEST(logic()->SelectByIMSI(imsi).prefix, "prefix");
+    }
+
+    void cardOperator_data() {
+        const Rows<QString, QString, QString> row("cardOperator", "proposed", "proposedOperator");
+        row("names another operator", "GUEST", "Guest 1", "Guest Mobile");
+        row("names the marked one's", "host", "Host", "Host");
+        row("names nobody", "Stranger", "Host", "");
+        row("no name", "", "Host", "");
+        row("failing query", Failing, "Host", "");
+    }
+    void cardOperator() {
+        QFETCH(QString, proposed);
+        setDevice("CARD_OPERATOR", cell("cardOperator"));
+        shipGuest();
+        QObject status;
+        restart()->PublishStatus(&status);
+        QCOMPARE(logic()->GetDefaultAPNProfileList(), QStringList({"Guest 1", "Host", "Guest 2"}));
+        QTEST(logic()->ProposedOperator(), "proposedOperator");
+        QTEST(status.property(ORBISDIAL_PROPOSED_OPERATOR).toString(), "proposedOperator");
+        QCOMPARE(status.property(ORBISDIAL_PROPOSED_DEFAULT).toString(), proposed);
+        names();
+        QCOMPARE(defaultName(), proposed);
+        logic()->ResetFlags();
+        QCOMPARE(logic()->ProposedOperator(), QString());
+    }
+
+    void theUsersDefaultOutlivesACardsOperator() {
+        setDevice("CARD_OPERATOR", "guest");
+        shipGuest();
+        setUser(profile("Own"), "<Default name='Own' IsUserSet='1'/>");
+        restart();
+        names();
+        QCOMPARE(defaultName(), QString("Own"));
+        QCOMPARE(logic()->ProposedDefault(), QString("Guest 1"));
+        setDevice("CARD_OPERATOR", "host");
+        logic()->ResetFlags();
+        logic()->Init();
+        names();
+        QCOMPARE(defaultName(), QString("Own"));
+        QCOMPARE(logic()->ProposedOperator(), QString("Host"));
+    }
+
+    void anIndexThatIsMissingOrDamagedChangesNothing() {
+        setDevice("CARD_OPERATOR", "guest");
+        shipGuest();
+        ship("Operators.xml", "<Operators><operator name='Guest'><preset name='Guest 1'/>");
+        QCOMPARE(restart()->ProposedDefault(), QString("Host"));
+        const NetConnectStorageProblem problem = logic()->LastStorageProblem();
+        QVERIFY2(problem.file.endsWith("/Operators.xml") && problem.line == 1, qPrintable(problem.text()));
+        QFile::remove(pluginDir() + "/Operators.xml");
+        QCOMPARE(restart()->ProposedDefault(), QString("Host"));
+        QVERIFY(logic()->LastStorageProblem().isNull());
     }
 
     void aDeviceThatIsNotReadySelectsNothing() {
@@ -161,6 +214,16 @@ private slots:
             QVERIFY(!stored.contains(password));
             QCOMPARE(logic()->XorEncrypt(password, method) == stored, *method == '1');
         }
+    }
+
+private:
+    // Presets of a network's own operator and of a guest, who has no code of its own.
+    void shipGuest() {
+        shipConfig(section("Function", {"IMSIAPN=true"}) +
+                   section("IMSIProfileList imsi='31026'", {"Guest 2", "Host=default", "Guest 1"}));
+        ship("Operators.xml",
+             "<Operators><operator country='us' name='Host'><preset name='Host'/></operator><operator country='us' "
+             "name='Guest Mobile'><preset name='Guest 1'/><preset name='Guest 2'/></operator></Operators>");
     }
 };
 

@@ -24,6 +24,7 @@ QString longestPrefix(const QString& imsi, const QMultiHash<QString, IMSIINFO>& 
 int NetConnectSettingUILogic::getIMSIProfileList() {
     m_IMSIProfileList.clear();
     m_strMatchedPrefix.clear();
+    m_strProposedOperator.clear();
     if (m_bIMSIDefaultForgotten.exchange(false)) m_strIMSIDefaultProfile = QLatin1String("");
 
     qDebug("%s: %s: in Net Connect VRKS_DevSrv_GetImsiInfo called", __FILE__, "getIMSIProfileList");
@@ -32,14 +33,20 @@ int NetConnectSettingUILogic::getIMSIProfileList() {
     if (!m_pIMSIHash || m_pIMSIHash->isEmpty()) return FileMissing;
     m_bIMSIRead = imsi.size() >= ShortestIMSI;
 
-    const NetConnectIMSISelection selection = SelectByIMSI(imsi);
+    const NetConnectIMSISelection selection = SelectByIMSI(imsi, NetConnectDevice::cardOperator());
     m_strMatchedPrefix = selection.prefix;
+    m_strProposedOperator = selection.operatorName;
     m_IMSIProfileList = selection.names;
     if (!selection.defaultProfile.isNull()) m_strIMSIDefaultProfile = selection.defaultProfile;
     return Success;
 }
 
-NetConnectIMSISelection NetConnectSettingUILogic::SelectByIMSI(const QString& imsi) {
+QString NetConnectSettingUILogic::shownLibraryName(const QString& name) {
+    const QString translation = translatedLibraryName(name);
+    return translation.isEmpty() ? name : translation;
+}
+
+NetConnectIMSISelection NetConnectSettingUILogic::SelectByIMSI(const QString& imsi, const QString& cardOperator) {
     NetConnectIMSISelection selection;
     if (!m_pIMSIHash || imsi.size() < ShortestIMSI) return selection;
     selection.prefix = longestPrefix(imsi, *m_pIMSIHash);
@@ -48,12 +55,28 @@ NetConnectIMSISelection NetConnectSettingUILogic::SelectByIMSI(const QString& im
     refreshLibraryNames();
     const QList<IMSIINFO> rows = m_pIMSIHash->values(selection.prefix);
     for (int i = 0; i < rows.size(); ++i) {
-        const QString translation = translatedLibraryName(rows.at(i).name);
-        const QString shown = translation.isEmpty() ? rows.at(i).name : translation;
+        const QString shown = shownLibraryName(rows.at(i).name);
         selection.names.append(shown);
         if (rows.at(i).value == QLatin1String(DefaultValue)) selection.defaultProfile = shown;
     }
+    proposeForOperator(cardOperator, rows, &selection);
     return selection;
+}
+
+// Operators without a network of their own use the codes of another's, whose preset would be proposed to their users.
+void NetConnectSettingUILogic::proposeForOperator(const QString& cardOperator, const QList<IMSIINFO>& rows,
+                                                  NetConnectIMSISelection* selection) {
+    if (cardOperator.isEmpty() || !m_pXMLParse) return;
+    QStringList offered;
+    QString marked;
+    for (int i = 0; i < rows.size(); ++i) {
+        offered.append(rows.at(i).name);
+        if (rows.at(i).value == QLatin1String(DefaultValue)) marked = rows.at(i).name;
+    }
+    const OperatorProposal proposal = m_pXMLParse->operatorIndex().proposalFor(cardOperator, offered, marked);
+    if (proposal.preset.isEmpty()) return;
+    selection->operatorName = proposal.operatorName;
+    selection->defaultProfile = shownLibraryName(proposal.preset);
 }
 
 QStringList NetConnectSettingUILogic::getAPNListFromHash() {
@@ -96,6 +119,10 @@ QString NetConnectSettingUILogic::MatchedIMSIPrefix() const { return m_strMatche
 QString NetConnectSettingUILogic::ProposedDefault() const {
     const QString fromIMSI = imsiProposal();
     return fromIMSI.size() > 1 ? fromIMSI : m_strAPNDefaultProfile;
+}
+
+QString NetConnectSettingUILogic::ProposedOperator() const {
+    return imsiProposal().size() > 1 ? m_strProposedOperator : QString();
 }
 
 bool NetConnectSettingUILogic::HasIMSIPresets() const { return m_pIMSIHash && !m_pIMSIHash->isEmpty(); }

@@ -1,4 +1,4 @@
-// Reading of NetConnectConfig.xml.
+// Reading of NetConnectConfig.xml and Operators.xml.
 
 #include <algorithm>
 
@@ -109,6 +109,28 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
     m_Config.stamp = stamp;
     m_Config.document = *document;
     return 0;
+}
+
+OperatorIndex NetConnectXMLParse::operatorIndex() {
+    const QString path = shippedPath("Operators.xml");
+    const FileStamp stamp = FileStamp::of(path);
+    if (m_Operators.path == path && m_Operators.stamp.settled && m_Operators.stamp == stamp) return m_Operators.index;
+    m_Operators = KeptOperators();
+    QByteArray content;
+    if (!stamp.exists() || readFile(path, &content) != 0) return OperatorIndex();
+
+    QXmlStreamReader reader;
+    OperatorIndex index;
+    index.read(content, &reader);
+    if (reader.hasError()) {
+        reportReadError(reader, path);
+        return OperatorIndex();
+    }
+    clearProblem(path);
+    m_Operators.path = path;
+    m_Operators.stamp = stamp;
+    m_Operators.index = index;
+    return index;
 }
 
 // Files an element, and takes an item of the mode default section when it is meant for the card.

@@ -93,6 +93,14 @@ QString imsi() {
     return QString::fromLatin1(digits, int(qstrnlen(digits, VRKS_IMSI_SIZE - 1)));
 }
 
+QString cardOperator() {
+    VRKS_ModemInfo info;
+    memset(&info, 0, sizeof(info));
+    info.size = sizeof(info);
+    if (VRKS_DevSrv_GetModemInfo(&info) != 0) return QString();
+    return QString::fromUtf8(info.cardOperator, int(qstrnlen(info.cardOperator, VRKS_TEXT_SIZE)));
+}
+
 bool isEhrpd(const Caller& caller) {
     const unsigned int cdmaMode = 2;
     const unsigned int firstEhrpd = 31;

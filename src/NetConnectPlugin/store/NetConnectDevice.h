@@ -42,6 +42,9 @@ bool isCDMAProduct(const Caller& caller);
 // Null when the card can't be read.
 QString imsi();
 
+// What the card calls its own operator; empty when it does not say.
+QString cardOperator();
+
 // Whether the network is an enhanced high-rate packet data one; false, and traced, when that can't be had.
 bool isEhrpd(const Caller& caller);
 
