@@ -10,6 +10,7 @@
 #include "ConnectionWatch.h"
 #include "DataConnection.h"
 #include "DialCall.h"
+#include "PresetOperator.h"
 #include "Rows.h"
 #include "TestFolder.h"
 #include "TransferRate.h"
@@ -44,6 +45,29 @@ private slots:
         qputenv("ORBISDIAL_LIBRARY_PATH", QFile::encodeName(QFileInfo(TEXTS_DIR).path()));
         QFile::remove(m_Folder.path("config/orbisdial.ini"));
         vrks_simulated_reset();
+    }
+
+    void tellsWhoseAPresetIs_data() {
+        const Rows<QStringList, QString> row("profiles", "balance");
+        row("the first that anybody has", {"Own", "", "Guest", "Host"}, "*100#");
+        row("not the next one's way when it has none", {"Host", "Guest"}, "");
+        row("nobody's", {"Own"}, "none");
+        row("no profile", {}, "none");
+    }
+    void tellsWhoseAPresetIs() {
+        QFETCH(QStringList, profiles);
+        qputenv("ORBISDIAL_LIBRARY_PATH", QFile::encodeName(m_Folder.path("library")));
+        const QByteArray index =
+            "<Operators><operator name='H'><preset name='Host'/></operator><operator name='G'><preset name='Guest'/>"
+            "<balance way='ussd' number='*100#'/></operator>";
+        m_Folder.ship("Operators.xml", index);
+        QVERIFY(!presetOperator(profiles));  // damaged
+        m_Folder.ship("Operators.xml", index + "</Operators>");
+        const std::optional<OperatorEntry> found = presetOperator(profiles);
+        const QString balance = found ? found->balanceQueries.value(0).number : QString("none");
+        QTEST(balance, "balance");
+        QFile::remove(m_Folder.pluginDir() + "/Operators.xml");
+        QVERIFY(!presetOperator(profiles));
     }
 
     void makesTheRequest_data() {

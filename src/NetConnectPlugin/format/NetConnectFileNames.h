@@ -8,6 +8,7 @@ const char User[] = "UserProfile.prof";    // in the user data directory
 const char Library[] = "ProfileLib.prof";  // these beside the plug-in's library
 const char System[] = "SysProfile.prof";   // the template of new profiles
 const char Configuration[] = "NetConnectConfig.xml";
+const char Operators[] = "Operators.xml";
 
 }  // namespace NetConnectFileNames
 

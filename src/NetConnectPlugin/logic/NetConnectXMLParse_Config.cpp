@@ -112,7 +112,7 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
 }
 
 OperatorIndex NetConnectXMLParse::operatorIndex() {
-    const QString path = shippedPath("Operators.xml");
+    const QString path = shippedPath(NetConnectFileNames::Operators);
     const FileStamp stamp = FileStamp::of(path);
     if (m_Operators.path == path && m_Operators.stamp.settled && m_Operators.stamp == stamp) return m_Operators.index;
     m_Operators = KeptOperators();
