@@ -39,6 +39,7 @@ NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
       m_Mutex(QMutex::Recursive),
       m_bIMSIDefaultForgotten(false),
       m_bLoading(false),
+      m_bLibraryWhole(false),
       m_nConfigStatus(FileMissing),
       m_bIMSIRead(false),
       m_bForeignDefault(false),
@@ -118,11 +119,8 @@ int NetConnectSettingUILogic::getConfigData() {
         return ObjectMissing;
     }
 
+    m_nConfigStatus = Success;
     int result = readConfigPair("common", "common", &m_UserPrompt);
-    m_nConfigStatus = result;
-    m_ConfigProblem = LastStorageProblem();
-    if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath(NetConnectFileNames::Configuration))
-        m_ConfigProblem = NetConnectStorageProblem();
     const NetConnectDevice::Caller caller = {__FILE__, "getConfigData"};
     const QString deviceName = NetConnectDevice::customizeName(caller);
     if (NetConnectDevice::isCustomized(deviceName)) {
@@ -130,12 +128,46 @@ int NetConnectSettingUILogic::getConfigData() {
         result = readConfigPair("customize", deviceName, 0);
     }
     if (NetConnectDevice::isCDMAProduct(caller)) result = readConfigPair("common", "CDMA", 0);
+    m_ConfigProblem = LastStorageProblem();
+    if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath(NetConnectFileNames::Configuration))
+        m_ConfigProblem = NetConnectStorageProblem();
+    keepConfiguration();
     return result;
 }
 
+// Without its configuration a program that is running would lose every preset, and store plain passwords: where the
+// file can't be read again, what was read before stays in force.
+void NetConnectSettingUILogic::keepConfiguration() {
+    KeptConfiguration& kept = m_KeptConfiguration;
+    if (m_nConfigStatus == Success) {
+        kept.isKnown = true;
+        kept.templates = *m_pProfileTemplateHash;
+        kept.functions = *m_pFunctionHash;
+        kept.profileList = *m_pProfileListHash;
+        kept.imsiProfiles = *m_pIMSIHash;
+        kept.prompt = m_UserPrompt;
+    } else if (kept.isKnown) {
+        *m_pProfileTemplateHash = kept.templates;
+        *m_pFunctionHash = kept.functions;
+        *m_pProfileListHash = kept.profileList;
+        *m_pIMSIHash = kept.imsiProfiles;
+        m_UserPrompt = kept.prompt;
+        reportKept(NetConnectFileNames::Configuration);
+    }
+}
+
+// A file that is just not there is no problem by itself, but it is where it was there before.
+void NetConnectSettingUILogic::reportKept(const char* fileName) {
+    const QString path = NetConnectXMLParse::shippedPath(fileName);
+    if (LastStorageProblem().file != path)
+        m_pXMLParse->reportProblem(path, QLatin1String("can't be read now; what was last read of it stays in force"));
+}
+
 int NetConnectSettingUILogic::readConfigPair(QString group, QString module, UserPrompt* prompt) {
-    return m_pXMLParse->GetSettingsFromXML(&group, &module, m_pProfileTemplateHash, m_pFunctionHash, m_pProfileListHash,
-                                           m_pIMSIHash, prompt);
+    const int status = m_pXMLParse->GetSettingsFromXML(&group, &module, m_pProfileTemplateHash, m_pFunctionHash,
+                                                       m_pProfileListHash, m_pIMSIHash, prompt);
+    if (m_nConfigStatus == Success) m_nConfigStatus = status;
+    return status;
 }
 
 QString NetConnectSettingUILogic::translated(const QString& langid) {
@@ -156,8 +188,14 @@ bool NetConnectSettingUILogic::translateName(QList<DialupProfile>* profiles, int
 void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
     const QList<DialupProfile> before = m_ProfileLibList;
     m_ProfileLibList.clear();
-    readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(NetConnectFileNames::Library));
-    collectLangids(m_ProfileLibList);
+    const int status = readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(NetConnectFileNames::Library));
+    if (status != Success && m_bLibraryWhole && !before.isEmpty()) {
+        m_ProfileLibList = before;
+        reportKept(NetConnectFileNames::Library);
+    } else {
+        m_bLibraryWhole = status == Success;
+        collectLangids(m_ProfileLibList);
+    }
     for (int i = 0; i < m_ProfileLibList.size(); ++i) translateName(&m_ProfileLibList, i);
     if (m_ProfileLibList.isSharedWith(before)) return;
 

@@ -90,7 +90,7 @@ public:
     // Reads every file again. 23 is usual without a SIM card, and no failure.
     int Init();
 
-    // Reads the configuration into the caches.
+    // Reads the configuration into the caches. What was read whole before stays when that fails.
     int getConfigData();
 
     // How that went last, and what was wrong with the file; no problem when it was just missing.
@@ -246,6 +246,8 @@ private:
     // loading
     void attachStore();
     int readConfigPair(QString group, QString module, UserPrompt* prompt);
+    void keepConfiguration();
+    void reportKept(const char* fileName);
     static bool isUserFileLarge();
     void readLibrary(QString* defaultName);
     int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);
@@ -299,6 +301,18 @@ private:
     void publishStatus();
     void letGo();
 
+    // The configuration as last read whole.
+    struct KeptConfiguration {
+        KeptConfiguration() : isKnown(false) {}
+
+        bool isKnown;
+        QHash<QString, NetConnectXML> templates;
+        QHash<QString, NetConnectXML> functions;
+        QHash<QString, NetConnectXML> profileList;
+        QMultiHash<QString, IMSIINFO> imsiProfiles;
+        UserPrompt prompt;
+    };
+
     UserStore& m_Store;
     NetConnectXMLParse* m_pXMLParse;
     QHash<QString, NetConnectXML>* m_pProfileTemplateHash;
@@ -306,6 +320,7 @@ private:
     QHash<QString, NetConnectXML>* m_pProfileListHash;
     QMultiHash<QString, IMSIINFO>* m_pIMSIHash;
     UserPrompt m_UserPrompt;
+    KeptConfiguration m_KeptConfiguration;
     QStringList m_IMSIProfileList;
     QString m_strIMSIDefaultProfile;
     QStringList m_APNProfileList;
@@ -324,7 +339,8 @@ private:
     // The device's event makes the IMSI's proposal void on its own thread, where the text must not be touched.
     std::atomic<bool> m_bIMSIDefaultForgotten;
 
-    bool m_bLoading;  // Init has just read the library
+    bool m_bLoading;       // Init has just read the library
+    bool m_bLibraryWhole;  // m_ProfileLibList is all that the library held
     int m_nConfigStatus;
     NetConnectStorageProblem m_ConfigProblem;
     QString m_strMatchedPrefix;

@@ -207,6 +207,41 @@ private slots:
         QCOMPARE(names(), QStringList({"Kept"}));
     }
 
+    void whatWasReadStaysInForce_data() {
+        const Rows<QString> row("fate");
+        for (const char* fate : {"gone", "unreadable", "damaged"}) row(fate, fate);
+    }
+    void whatWasReadStaysInForce() {
+        shipTexts();
+        for (int i = 0; i < 2; ++i) {
+            const QString file = pluginDir() + (i == 0 ? "/NetConnectConfig.xml" : "/ProfileLib.prof");
+            shipConfig(section("Function", {"ENCRYPT=true"}) + section("ProfileList", {"Start=default", "Stored"}));
+            shipLibrary(profile("Stored", "langid='IDS_OK'"));
+            setUser("", "<Default name='OK' IsUserSet='1'/>");
+            restart();
+            const QStringList before = names();
+            QCOMPARE(before, QStringList({"OK", "Start"}));
+            const QByteArray content = read(file);
+            QFile::remove(file);
+            if (cell("fate") == "unreadable") QDir().mkpath(file);
+            if (cell("fate") == "damaged") write(file, "<vrksdoc><broken");
+
+            logic()->Init();
+            QCOMPARE(logic()->LastStorageProblem().file, file);
+            QCOMPARE(names(), before);
+            QCOMPARE(defaultName(), QString("OK"));
+            QVERIFY(logic()->IsDefaultUserSet());
+            QCOMPARE(logic()->SaveDialUpProfile(named("Mine", "secret")), 0);
+            QVERIFY2(user().contains("Mine") && !user().contains("secret"), user());
+
+            QDir().rmdir(file);
+            write(file, QByteArray(content).replace("Start", "Other").replace("IDS_OK", ""));
+            logic()->Init();
+            QVERIFY(logic()->LastStorageProblem().isNull());
+            QVERIFY(names() != before + QStringList("Mine"));
+        }
+    }
+
     void passwords() {
         for (const char* method : {"1", "2"}) {
             const QString password = QString::fromUtf8("caf\xc3\xa9"), stored = logic()->XorEncrypt(password, method);

@@ -48,8 +48,8 @@ void NetConnectSettingUILogic::refreshLibraryNames() {
     if (!m_pXMLParse || m_bLoading) return;
     QList<DialupProfile> library;
     QString ignoredDefault;
-    readForeignFile(&library, &ignoredDefault, QLatin1String(NetConnectFileNames::Library));
-    collectLangids(library);
+    const int status = readForeignFile(&library, &ignoredDefault, QLatin1String(NetConnectFileNames::Library));
+    if (status == Success || !m_bLibraryWhole) collectLangids(library);
 }
 
 void NetConnectSettingUILogic::collectLangids(const QList<DialupProfile>& library) {
