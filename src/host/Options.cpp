@@ -5,11 +5,20 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "StandardOutput.h"
+
 namespace {
 
 [[noreturn]] void refuse(const QString& problem) {
     std::fprintf(stderr, "orbisdial: %s\n", qPrintable(problem));
     std::exit(2);
+}
+
+// Whoever asked for a text that can't be written has not been answered.
+[[noreturn]] void answer(const QString& text) {
+    const QString problem = StandardOutput::writeText(text);
+    if (!problem.isNull()) StandardOutput::writeDiagnostic("orbisdial", problem);
+    std::exit(problem.isNull() ? 0 : 1);
 }
 
 }  // namespace
@@ -28,8 +37,8 @@ Options Options::fromArguments(const QCoreApplication& application) {
     parser.addVersionOption();
     parser.addOptions({language, device, screenshot, page, tray, trace});
     if (!parser.parse(application.arguments())) refuse(parser.errorText());
-    if (parser.isSet("help")) parser.showHelp();
-    if (parser.isSet("version")) parser.showVersion();
+    if (parser.isSet("help")) answer(parser.helpText());
+    if (parser.isSet("version")) answer(QString("orbisdial %1\n").arg(QCoreApplication::applicationVersion()));
     const QStringList others = parser.positionalArguments();
     if (!others.isEmpty()) refuse("unexpected argument: " + others.first());
     return {parser.value(language), parser.value(device), parser.value(screenshot),

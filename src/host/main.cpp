@@ -1,4 +1,4 @@
-// orbisdial: the reference host. Exit status: 0 done, 1 the picture can't be written or memory is out, 2 wrong
+// orbisdial: the reference host. Exit status: 0 done, 1 something can't be written or memory is out, 2 wrong
 // usage.
 #include <vrks_simulated.h>
 

@@ -116,6 +116,8 @@ private slots:
         row("full, help", "$bin/orbisctl --help >/dev/full", 1, full);
         row("full, a command's help", "$bin/orbisctl list --help >/dev/full", 1, full);
         row("full, version", "$bin/orbisctl --version >/dev/full", 1, full);
+        row("window: closed output", "$bin/orbisdial --version >&-", 1, closed);
+        row("window: full, help", "$bin/orbisdial --help >/dev/full", 1, full);
         row("full, diagnostics", "$bin/orbisctl frob 2>/dev/full", 2, "");
         row("reader gone", "sleep 0.2 | { $bin/orbisctl list; echo $? >&2; } | true", 0, "Broken pipe\n1\n");
         row("reader of traces gone", "{ $bin/orbisctl --trace add A phonenumber=1; echo $? >&3; } 3>&2 2>&1 | true", 0,
