@@ -73,7 +73,7 @@ QString networkText(const ConnectionFacts& facts) {
     if (modem.registration == VRKS_REGISTRATION_ROAMING) parts.append(hostText("IDS_HOST_ROAMING"));
     parts.removeAll(QString());
     for (QString& part : parts) part = isolated(part);
-    return parts.join(QStringLiteral(" \u00b7 "));
+    return directed(parts.join(QStringLiteral(" \u00b7 ")));
 }
 
 bool isRegistered(const ConnectionFacts& facts) {

@@ -8,6 +8,11 @@ QString isolated(const QString& value) {
     return QChar(FirstStrongIsolate) + value + QChar(PopDirectionalIsolate);
 }
 
+QString directed(const QString& line) {
+    constexpr ushort RightToLeftMark = 0x200f;
+    return QGuiApplication::isRightToLeft() && !line.isEmpty() ? QChar(RightToLeftMark) + line : line;
+}
+
 QString hostText(const char* id, const QStringList& values) {
     const QStringList parts = hostText(id).split(QLatin1Char('%'));
     QString text = parts.first();
@@ -16,5 +21,5 @@ QString hostText(const char* id, const QStringList& values) {
         const bool isPlace = number >= 1 && number <= values.size();
         text += isPlace ? isolated(values[number - 1]) + parts[i].mid(1) : QLatin1Char('%') + parts[i];
     }
-    return text;
+    return directed(text);
 }

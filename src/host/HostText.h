@@ -17,4 +17,7 @@ QString hostText(const char* id, const QStringList& values);
 // From right to left a name keeps to itself, or its figures and signs would change places with the words around it.
 QString isolated(const QString& value);
 
+// The line runs as the language does, whatever it begins with.
+QString directed(const QString& line);
+
 #endif

@@ -112,7 +112,16 @@ void MainWindow::refresh() {
     m_UnlockAction->setEnabled(m_Picture.canUnlock);
     if (m_Unlock) m_Unlock->refresh();
     if (m_ModemPanel) m_ModemPanel->refresh();
+    if (isVisible()) makeRoom();
     emit refreshed();
+}
+
+// What has come, such as a failure, is not cut off.
+void MainWindow::makeRoom() {
+    QLayout* const layout = centralWidget()->layout();
+    layout->activate();
+    const int missing = layout->totalHeightForWidth(centralWidget()->width()) - centralWidget()->height();
+    if (missing > 0 && !isMaximized() && !isFullScreen()) resize(width(), height() + missing);
 }
 
 void MainWindow::retranslate() {

@@ -72,8 +72,9 @@ void ProfileChooser::fill() {
     if (!own.contains(m_Chosen) && !presets.contains(m_Chosen)) m_Chosen.clear();
     const QSignalBlocker quiet(this);
     m_Items->clear();
-    addSection("IDS_HOST_PROFILES_OWN", own);
-    addSection("IDS_HOST_PROFILES_PRESETS", presets);
+    const bool isMixed = !own.isEmpty() && !presets.isEmpty();
+    addSection(isMixed ? "IDS_HOST_PROFILES_OWN" : nullptr, own);
+    addSection(isMixed ? "IDS_HOST_PROFILES_PRESETS" : nullptr, presets);
     showCurrent();
 }
 
@@ -92,14 +93,17 @@ void ProfileChooser::focusInEvent(QFocusEvent* event) {
 void ProfileChooser::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void ProfileChooser::addSection(const char* id, const QStringList& names) {
-    if (names.isEmpty()) return;
+    if (id) addTitle(id);
+    for (const QString& name : names) addProfile(name);
+}
+
+void ProfileChooser::addTitle(const char* id) {
     auto* const title = new QStandardItem(hostText(id));
     title->setFlags(Qt::NoItemFlags);
     QFont bold = font();
     bold.setBold(true);
     title->setFont(bold);
     m_Items->appendRow(title);
-    for (const QString& name : names) addProfile(name);
 }
 
 void ProfileChooser::addProfile(const QString& name) {

@@ -1,4 +1,4 @@
-// The box that chooses the profile to connect with: the user's own ones, then the presets; typing finds.
+// The box that chooses the profile to connect with: those that can be changed, then the others; typing finds.
 #ifndef ORBISDIAL_PROFILECHOOSER_H
 #define ORBISDIAL_PROFILECHOOSER_H
 
@@ -39,6 +39,7 @@ protected:
 
 private:
     void addSection(const char* id, const QStringList& names);
+    void addTitle(const char* id);
     void addProfile(const QString& name);
     void showCurrent();
     void takeTyped();
