@@ -16,6 +16,7 @@
 
 namespace {
 
+constexpr int AddressMs = 1000;
 constexpr int HangUpSeconds = 15;  // the service takes a second or two
 
 struct Wanted {
@@ -92,6 +93,7 @@ public:
     void run(const Wanted& wanted) {
         begin(wanted);
         const DataConnection connection = waitUntilUp();
+        if (!connection.isUp()) throw ConnectionReport::error(connection);
         warn({ConnectionText::addressNote(wanted.profile, connection)});
         showUp(connection);
         if (m_bHolds) hold(connection.name);
@@ -113,11 +115,20 @@ private:
     DataConnection waitUntilUp() {
         for (;;) {
             const DataConnection connection = DataConnection::current();
-            if (connection.isUp()) return connection;
+            if (connection.isUp()) return withAddress(connection);
             if (connection.isDown()) throw ConnectionReport::error(connection);
             showStep(connection);
             waitForMore("no connection in time");
         }
+    }
+
+    // Services tell the address a moment after the connection is up.
+    DataConnection withAddress(DataConnection connection) const {
+        const QDeadlineTimer deadline(AddressMs);
+        while (connection.isUp() && connection.address.isEmpty() && connection.address6.isEmpty() &&
+               m_Events.wait(deadline) == DeviceEvents::Changed)
+            connection = DataConnection::current();
+        return connection;
     }
 
     void waitForMore(const char* late) {
