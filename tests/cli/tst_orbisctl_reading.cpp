@@ -192,10 +192,11 @@ private slots:
         fixture.writeUser("<Profile name='My own'/>");
         const QString script =
             "source \"$0\"; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _orbisctl; echo \"${COMPREPLY[*]}\"";
-        const QPair<QStringList, QByteArray> rows[] = {{{"ex"}, "export explain"},
-                                                       {{"delete", "X", "Al"}, "Alpha"},
-                                                       {{"show", "My\\ o"}, "My\\ own"},
-                                                       {{"set", "X", "chap", "=", "f"}, "false"}};
+        const QPair<QStringList, QByteArray> rows[] = {
+            {{"ex"}, "export explain"},        {{"connect", "Be"}, "Beta"},
+            {{"modem", ""}, "/simulated/1"},   {{"autoconnect", "X", "o"}, "on off"},
+            {{"-f", "name", "sta"}, "status"}, {{"delete", "X", "Al"}, "Alpha"},
+            {{"show", "My\\ o"}, "My\\ own"},  {{"set", "X", "chap", "=", "f"}, "false"}};
         for (const auto& [words, expected] : rows) {
             const QStringList source = {"-c", script, ORBISDIAL_SOURCE_DIR "/data/completions/orbisctl", ORBISCTL};
             QCOMPARE(runProgram("bash", source + words).out.trimmed(), expected);
