@@ -155,6 +155,9 @@ public:
     int GetDefaultDialUpProfileName(QString* name);
     int SetDefaultDialUpProfileName(QString name, bool isUserSet);
 
+    // Leaves no default when it is this profile, which goes. What it only stands in for stays stored.
+    int ForgetDefault(const QString& name);
+
     // Takes a default that the configuration proposed out of the user's file, as Destroy() does. In an action of its
     // own, which then stores once, Destroy() finds nothing more to do.
     void ClearAutomaticDefault();

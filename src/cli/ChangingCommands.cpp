@@ -108,8 +108,7 @@ void deleteProfiles(const Invocation& invocation, Output& output) {
     ProfileSession session(ProfileSession::Changing);
     for (const QString& name : names) session.requireOwn(session.profile(name));
     for (const QString& name : names) {
-        if (!name.isEmpty() && session.defaultName() == name)
-            session.require(session->SetDefaultDialUpProfileName(QString(""), false), "the default can't be cleared");
+        session.require(session->ForgetDefault(name), "the default can't be cleared");
         session.require(session->DelDialUpProfile(name), "the profile can't be deleted");
     }
     session.finish();

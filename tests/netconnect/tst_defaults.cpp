@@ -39,6 +39,22 @@ private slots:
         QVERIFY(logic()->IsDefaultUserSet());
     }
 
+    // The profile that stands in for it may go.
+    void theWaitingDefaultOutlivesItsStandIn() {
+        shipPresets();
+        setUser(profile("Apn"), "<Default name='Card' IsUserSet='1'/>");
+        setDevice("IMSI", QString());
+        restart();
+        names();
+        QCOMPARE(defaultName(), QString("Apn"));
+        QCOMPARE(logic()->DelDialUpProfile("Apn"), 0);
+        QCOMPARE(logic()->ForgetDefault("Apn"), 0);
+        QCOMPARE(defaultName(), QString());
+        QVERIFY(isStored("Card", true));
+        QCOMPARE(logic()->SaveDialUpProfile(named("Another")), 0);
+        QVERIFY(isStored("Card", true));
+    }
+
     void whatTheUserChoosesMeanwhileCounts() {
         shipPresets();
         setUser(profile("Mine"), "<Default name='Card' IsUserSet='1'/>");

@@ -26,6 +26,14 @@ int NetConnectSettingUILogic::SetDefaultDialUpProfileName(QString name, bool isU
     return operation.storeDefault(NetConnectDefault(name, isUserSet && !isProposed(name)));
 }
 
+int NetConnectSettingUILogic::ForgetDefault(const QString& name) {
+    m_Store.readAwaited();
+    if (name.isEmpty() || m_strDefaultProfile != name) return Success;
+    if (!m_Store.isProposalForNow()) return SetDefaultDialUpProfileName(QLatin1String(""), false);
+    m_Store.proposeForNow(QLatin1String(""));
+    return Success;
+}
+
 // To choose what the configuration proposes is no choice: the configuration may replace it later.
 bool NetConnectSettingUILogic::isProposed(const QString& name) {
     if (m_IMSIProfileList.isEmpty()) return name == m_strAPNDefaultProfile;

@@ -163,10 +163,7 @@ void CNetConnectUIService::deleteProfile(const QString& name) {
     {
         NetConnectStoreAction action;
         m_pLogic->DelDialUpProfile(name);  // first, since it takes in a default that another program has set
-        QString defaultName;
-        m_pLogic->GetDefaultDialUpProfileName(&defaultName);
-        if (!name.isEmpty() && defaultName == name)
-            m_pLogic->SetDefaultDialUpProfileName(QString::fromLatin1(""), false);
+        m_pLogic->ForgetDefault(name);
         action.commit();
     }
     rebuildList();
