@@ -1,4 +1,4 @@
-// Lets one look at a file fail: $ORBISDIAL_TEST_LOOK is "n:errno:end of its path". The n-th open to read, read or stat
+// Lets one look at a file fail: $ORBISDIAL_TEST_LOOK is "n:errno:its name". The n-th open to read, read or stat
 // of it then fails, and the file named by $ORBISDIAL_TEST_LOOK_FAILED is made. The calls are defined here, which the
 // linker prefers to the C library's, and are passed on.
 
@@ -18,7 +18,7 @@ namespace {
 
 int looksLeft = 0;
 int failure = 0;
-char ending[64] = "";
+char fileName[64] = "";
 
 template <class Function>
 Function* next(const char* name) {
@@ -27,14 +27,15 @@ Function* next(const char* name) {
 
 __attribute__((constructor)) void takeFaultFromEnvironment() {
     const char* fault = getenv("ORBISDIAL_TEST_LOOK");
-    if (fault && sscanf(fault, "%d:%d:%63s", &looksLeft, &failure, ending) != 3) abort();
+    if (fault && sscanf(fault, "%d:%d:%63s", &looksLeft, &failure, fileName) != 3) abort();
 }
 
 // Counts a look; true when it is to fail, errno then being set.
 bool fails(const char* path) {
     const size_t size = path ? strlen(path) : 0;
-    const size_t endSize = strlen(ending);
-    if (looksLeft == 0 || size < endSize || strcmp(path + size - endSize, ending) != 0 || --looksLeft > 0) return false;
+    const size_t endSize = strlen(fileName);
+    if (looksLeft == 0 || size < endSize || strcmp(path + size - endSize, fileName) != 0) return false;
+    if ((size > endSize && path[size - endSize - 1] != '/') || --looksLeft > 0) return false;
     const char* const mark = getenv("ORBISDIAL_TEST_LOOK_FAILED");
     close(next<decltype(open)>("open")(mark, O_WRONLY | O_CREAT, 0600));
     errno = failure;

@@ -82,7 +82,7 @@ private:
     }
 
     static Outcome runWithFault(const OrbisctlFixture& fixture, const QStringList& command, int n, int error) {
-        const QString fault = QString("%1:%2:/UserProfile.prof").arg(n).arg(error);
+        const QString fault = QString("%1:%2:UserProfile.prof").arg(n).arg(error);
         qputenv("ORBISDIAL_TEST_LOOK", fault.toLatin1());
         qputenv("ORBISDIAL_TEST_LOOK_FAILED", QFile::encodeName(fixture.path("failed")));
         const Outcome outcome = OrbisctlFixture::run(command);
