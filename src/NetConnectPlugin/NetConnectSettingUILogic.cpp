@@ -71,6 +71,7 @@ int NetConnectSettingUILogic::Init() {
     qDebug("%s: %s: ", __FILE__, "Init");
     if (!m_pXMLParse) return NoXMLParse;
     attachStore();
+    Follow(false);
 
     delete m_pProfileTemplateHash;
     delete m_pFunctionHash;
@@ -284,6 +285,8 @@ void NetConnectSettingUILogic::letGo() {
 }
 
 bool NetConnectSettingUILogic::AreProfilesAwaited() const { return m_Store.isAwaited(); }
+
+void NetConnectSettingUILogic::Follow(bool follows) { m_Store.follow(follows); }
 
 void NetConnectSettingUILogic::publishStatus() {
     if (!m_pStatusObject) return;

@@ -150,6 +150,11 @@ public:
     // True while the user's profiles are still to be read.
     bool AreProfilesAwaited() const;
 
+    // What another program stored is to be shown: until something is stored here, the files are read anew or the
+    // language changes, listings store nothing, and a proposed default and translated names are for now. Two windows of
+    // different languages would answer each other without an end.
+    void Follow(bool follows);
+
     // --- the default profile ---
 
     int GetDefaultDialUpProfileName(QString* name);

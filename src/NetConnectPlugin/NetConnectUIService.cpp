@@ -100,6 +100,7 @@ bool CNetConnectUIService::isObjectMemoryAllocationFail() const {
 
 int CNetConnectUIService::Notify(unsigned int event, unsigned int, unsigned int) {
     if (event == NotifyLanguageChanged) {
+        if (m_pLogic) m_pLogic->Follow(false);
         if (m_pNetConnectWidget) setLanguage();
         if (m_pAdvancedDlg) m_pAdvancedDlg->SetLanguage();
     }

@@ -3,6 +3,7 @@
 #define ORBISDIAL_FAKEPEERS_H
 
 #include <QStringList>
+#include <functional>
 
 #include "IDialupUIService.h"
 #include "INotifyService.h"
@@ -45,6 +46,7 @@ public:
     void RemoveListener(INotify* listener) override { hostListeners.removeAll(listener); }
     int SendNotify(QString clsid, unsigned int event, unsigned int param1, unsigned int param2) override {
         sent.append(QString("%1 %2 %3 %4").arg(clsid).arg(event).arg(param1).arg(param2));
+        if (told) told();
         return 0;
     }
 
@@ -54,6 +56,7 @@ public:
     }
 
     QStringList sent;
+    std::function<void()> told;  // what a listener does
     QList<INotify*> hostListeners;
 };
 

@@ -164,6 +164,25 @@ private slots:
         QTRY_COMPARE(f->listed(), expected);
     }
 
+    // Nor may the host's own listing store: two windows that differ in card or language would never end.
+    void followingStoresNothing() {
+        f->presets = "<item name='Proposed' value='default'/>";
+        f->start(F::profile("Home"), "<Default name='Home' IsUserSet='1'/>");
+        QString told;
+        f->notify->told = [&] { f->profiles->GetDefaultDialUpProfileName(&told); };
+        const QByteArray theirs = F::document(F::profile("Stored", "langid='IDS_OK'"));
+        QVERIFY(F::replaceFile(f->userFile(), theirs));
+        QTRY_COMPARE(f->notify->sent.size(), 2);
+        QCOMPARE(told, QString("Proposed"));
+        QCOMPARE(f->listed().last(), QString("Proposed (Default)"));
+        QCOMPARE(TestFolder::read(f->userFile()), theirs);
+        f->profiles->GetDefaultDialUpProfileName(&told);  // as a host that refreshes later
+        QCOMPARE(TestFolder::read(f->userFile()), theirs);
+        QCOMPARE(f->save("Mine"), 0);
+        QCOMPARE(f->stored(), QStringList({"Mine", "OK"}));
+        QCOMPARE(f->storedDefault(), QString("Proposed/"));
+    }
+
     // An open edit meets what came meanwhile at its end.
     void anOpenEditDoesNotFollow() {
         f->start(F::profile("Home"));

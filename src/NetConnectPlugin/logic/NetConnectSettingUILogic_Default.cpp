@@ -59,7 +59,7 @@ bool NetConnectSettingUILogic::isOfAwaitedCard() {
 // Makes the configuration's proposal the default. It is not stored over what another process has set meanwhile, nor
 // into a file that may hold another one, for all we know.
 void NetConnectSettingUILogic::replaceDefault(const QString& proposal, bool isFileRead) {
-    if (waitsForCard() || isOfAwaitedCard()) return m_Store.proposeForNow(proposal);
+    if (m_Store.isFollowing() || waitsForCard() || isOfAwaitedCard()) return m_Store.proposeForNow(proposal);
     const NetConnectDefault stored = m_Store.storedDefault();
     const NetConnectOperation operation;
     if (m_Store.storedDefault() != stored) return;
@@ -70,7 +70,8 @@ void NetConnectSettingUILogic::replaceDefault(const QString& proposal, bool isFi
 
 bool NetConnectSettingUILogic::isAutomaticDefault() {
     m_Store.readAwaited();
-    if (m_strDefaultProfile.isEmpty() || waitsForCard()) return false;
+    const bool isStandIn = m_Store.isProposalForNow() && m_Store.storedDefault().isUserSet;
+    if (m_strDefaultProfile.isEmpty() || isStandIn || waitsForCard()) return false;
     const bool isIMSIListInForce = !m_IMSIProfileList.isEmpty() && followsIMSI();
     return m_strDefaultProfile == (isIMSIListInForce ? imsiProposal() : m_strAPNDefaultProfile);
 }

@@ -22,7 +22,7 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
     }
     forgetForeignDefault();
     const bool isReadable = m_Store.read() != FileNotOpened;
-    if (translateUserProfiles()) {
+    if (translateUserProfiles() && !m_Store.isFollowing()) {
         NetConnectOperation operation;
         translateUserProfiles();  // what another process changed meanwhile
         operation.store();

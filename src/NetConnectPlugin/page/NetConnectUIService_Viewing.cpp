@@ -1,9 +1,6 @@
-#include <QFileInfo>
-
 #include "CallTrace.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"
-#include "NetConnectStoreAction.h"
 #include "NetConnectUIService.h"
 #include "NetConnectWipe.h"
 #include "Trace.h"
@@ -33,14 +30,8 @@ void CNetConnectUIService::rebuildListUnderSelection() {
 void CNetConnectUIService::followUserFile() {
     if (!m_pLogic || !m_Page.profiles || m_bListAwaited || m_bImporting || m_Edit.open) return;
     if (!m_pLogic->IsUserFileNewer(m_nShownRevision)) return;
-    if (!QFileInfo(m_pLogic->UserFilePath()).exists()) {
-        NetConnectStoreAction look;  // that it is gone is believed only under the lock
-        look.lock();
-    }
-    {
-        const NetConnectStoreAction browse(NetConnectStoreAction::Browse);
-        rebuildListUnderSelection();
-    }
+    m_pLogic->Follow(true);  // for whoever is told and lists, too
+    rebuildListUnderSelection();
     notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
     notifyProfilesChanged(ORBISDIAL_HOST_LISTENER_CLSID);
 }

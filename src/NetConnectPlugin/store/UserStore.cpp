@@ -14,6 +14,7 @@ UserStore::UserStore()
       m_nRevision(0),
       m_bStoredKnown(false),
       m_bKeepsDefault(false),
+      m_bFollows(false),
       m_bAwaited(false),
       m_bWhole(false),
       m_nActions(0),
@@ -37,7 +38,7 @@ void UserStore::detach() {
     m_Stamp = FileStamp();
     m_StoredDefault = NetConnectDefault();
     m_StoredProfiles.clear();
-    m_bAwaited = m_bWhole = m_bStoredKnown = m_bKeepsDefault = false;
+    m_bAwaited = m_bWhole = m_bStoredKnown = m_bKeepsDefault = m_bFollows = false;
     if (m_bPending && m_Kind == Change) m_bFailed = true;
     m_Index = ProfileIndex();
     m_Snapshot = Snapshot();
@@ -185,6 +186,7 @@ int UserStore::write() {
     if (status == NetConnectStatus::Success) {
         m_pFiles->clearProblem(m_strLockPath);  // a lock alone is no reason to forget why the last save failed
         m_bWhole = m_bStoredKnown = true;
+        m_bFollows = false;
         m_StoredProfiles = *m_Members.profiles;
         m_StoredDefault = value;
         m_Stamp = m_pFiles->userFileStamp();

@@ -66,6 +66,10 @@ public:
     void proposeForNow(const QString& name);
     bool isProposalForNow() const { return m_bKeepsDefault; }
 
+    // Whether listings leave the file as it is, for it is another program's; the next write ends that.
+    void follow(bool follows) { m_bFollows = follows; }
+    bool isFollowing() const { return m_bFollows; }
+
     // --- for the scope objects ---
 
     void beginOperation();
@@ -130,6 +134,7 @@ private:
     NetConnectDefault m_StoredDefault;
     bool m_bStoredKnown;   // the two are what the file holds
     bool m_bKeepsDefault;  // the default in memory is for now: m_StoredDefault is to be written
+    bool m_bFollows;
     bool m_bAwaited;
     bool m_bWhole;  // the profiles in memory are all that a file held
     ProfileIndex m_Index;
