@@ -3,11 +3,14 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <ctime>
 
 namespace {
 
 constexpr unsigned LookingMs = 5000;  // a modem reaches NetworkManager some tenths of a second after ModemManager
+constexpr unsigned AnswerMs = 3000;   // of a modem that dials
+constexpr unsigned EndingMs = 3000;   // of a connection, in NetworkManager's hands
 constexpr unsigned SettlingMs = 100;  // two daemons tell of one failure, in any order
 const char RadioIsOff[] = "Mobile broadband is switched off";
 constexpr auto RadioSettling = std::chrono::seconds(1);  // a radio that came on may be switched once more in this time
@@ -26,6 +29,14 @@ std::string ownerName() {
 void wipe(std::string& text) {
     ::explicit_bzero(text.data(), text.size());
     text.clear();
+}
+
+// A modem with a network interface takes a call back at any time; one that dials over a serial port does not.
+bool dialsOverSerialPort(MMModem* modem) {
+    const MMModemPortInfo* ports = nullptr;
+    guint count = 0;
+    return mm_modem_peek_ports(modem, &ports, &count) &&
+           std::none_of(ports, ports + count, [](const auto& port) { return port.type == MM_MODEM_PORT_TYPE_NET; });
 }
 
 bool isReadyToDial(NMDevice* device) { return device && nm_device_get_state(device) == NM_DEVICE_STATE_DISCONNECTED; }
@@ -163,7 +174,8 @@ void DataConnection::observe() {
     if (marked) return adopt(marked);
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
     NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
-    publishUser(foreign && m_Watch->has(foreign) ? textOf(nm_active_connection_get_id(foreign)) : std::string());
+    publishUser(foreign && m_Watch->has(foreign) && !isEnding(foreign) ? textOf(nm_active_connection_get_id(foreign))
+                                                                       : std::string());
 }
 
 // Another process of ours made it.
@@ -237,13 +249,14 @@ void DataConnection::asked(NMActiveConnection* connection, const Error& error) {
     }
     m_Watch->follow(connection);
     m_Phase = Phase::Activating;
-    if (m_Dialled.isHangingUp) deactivate();
+    if (m_Dialled.isHangingUp) giveBack();
     watch();
 }
 
 void DataConnection::watch() {
     NMActiveConnection* connection = m_Watch ? m_Watch->connection() : nullptr;
     if (!connection || !m_Watch->has(connection)) return waitForReason();
+    if (m_Dialled.isHangingUp && !m_Dialled.isDeactivating && !isAnswerDue()) deactivate();
     if (m_Phase == Phase::Activating &&
         nm_active_connection_get_state(connection) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED)
         comeUp();
@@ -264,13 +277,39 @@ void DataConnection::end() {
     m_Dialled.isHangingUp = m_Phase != Phase::Idle;
     --m_WaitingHangUps;
     if (m_Phase == Phase::Looking) return finish({});
-    if (m_Phase == Phase::Activating || m_Phase == Phase::Up) deactivate();
+    if (m_Phase == Phase::Activating || m_Phase == Phase::Up) giveBack();
+}
+
+void DataConnection::giveBack() {
+    if (!isAnswerDue()) return deactivate();
+    m_Patience.start(AnswerMs, [this] { deactivate(); });
+}
+
+// A call must not be taken back while a modem dials over its serial port. When the modem answers all the same,
+// ModemManager takes the port for connected for ever after: nothing can be dialled until the modem is plugged in anew.
+// And NetworkManager aborts when it learns of an answer that it no longer waits for. So the call is taken back when
+// NetworkManager has the answer, or there will hardly be one. Before it is registered a modem does not dial.
+bool DataConnection::isAnswerDue() const {
+    NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
+    MMModem* modem = m_Modem.get();
+    return m_Phase == Phase::Activating && device && nm_device_get_state(device) <= NM_DEVICE_STATE_PREPARE && modem &&
+           mm_modem_get_state(modem) >= MM_MODEM_STATE_REGISTERED && dialsOverSerialPort(modem);
 }
 
 void DataConnection::deactivate() {
+    m_Dialled.isDeactivating = true;
+    m_Patience.start(EndingMs, [this] { stopWaiting(); });
     m_Counters.get();
     nm_client_deactivate_connection_async(m_Watch->client(), m_Watch->connection(), m_Cancellation.get(), onDeactivated,
                                           this);
+}
+
+// NetworkManager has the device until the modem has answered, which may take a minute. Nothing will come of it, and
+// without a link nothing is left of it.
+void DataConnection::stopWaiting() {
+    NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
+    if (!device || textOf(nm_device_get_ip_iface(device)).empty()) return finish({});
+    m_Patience.start(EndingMs, [this] { stopWaiting(); });
 }
 
 void DataConnection::onDeactivated(GObject* source, GAsyncResult* result, gpointer self) {
@@ -280,7 +319,9 @@ void DataConnection::onDeactivated(GObject* source, GAsyncResult* result, gpoint
     if (!failure || isCancelled(failure)) return;
     auto* connection = static_cast<DataConnection*>(self);
     if (connection->m_Phase != Phase::Activating && connection->m_Phase != Phase::Up) return;
+    connection->m_Patience.stop();
     connection->m_Dialled.isHangingUp = false;
+    connection->m_Dialled.isDeactivating = false;
     connection->updateSoon();
 }
 
@@ -295,6 +336,7 @@ void DataConnection::deviceStateChanged(NMDeviceState now, unsigned reason) {
 
 void DataConnection::waitForReason() {
     m_Phase = Phase::Ended;
+    m_Patience.stop();
     m_Dialled.endedAt = Clock::now();
     m_Counters.stop();
     m_Settling.start(SettlingMs, [this] { conclude(); });

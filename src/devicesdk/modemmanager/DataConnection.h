@@ -48,6 +48,7 @@ private:
         bool isIpv4Only = false;
         bool isRepeated = false;  // it was ended by a radio that had just come on
         bool isHangingUp = false;
+        bool isDeactivating = false;  // NetworkManager was asked to end it
         bool wasUp = false;
         std::int64_t since = 0;
         std::optional<Clock::time_point> upSince;
@@ -70,7 +71,10 @@ private:
     void watch();
     void comeUp();
     void end();
+    void giveBack();
+    bool isAnswerDue() const;
     void deactivate();
+    void stopWaiting();
     static void onDeactivated(GObject* source, GAsyncResult* result, gpointer self);
     void deviceStateChanged(NMDeviceState now, unsigned reason);
     void waitForReason();

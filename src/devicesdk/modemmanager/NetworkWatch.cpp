@@ -11,12 +11,12 @@ Item* findIn(const GPtrArray* items, Condition condition) {
     return nullptr;
 }
 
+}  // namespace
+
 bool isEnding(NMActiveConnection* connection) {
     const NMActiveConnectionState state = nm_active_connection_get_state(connection);
     return state == NM_ACTIVE_CONNECTION_STATE_DEACTIVATING || state == NM_ACTIVE_CONNECTION_STATE_DEACTIVATED;
 }
-
-}  // namespace
 
 NetworkWatch::NetworkWatch(GDBusConnection* bus, Handlers handlers)
     : m_Handlers(std::move(handlers)),

@@ -64,6 +64,8 @@ private:
     Cancellation m_Cancellation;
 };
 
+bool isEnding(NMActiveConnection* connection);
+
 inline DialMark markOf(NMActiveConnection* connection) {
     NMRemoteConnection* profile = nm_active_connection_get_connection(connection);
     return markOf(profile ? NM_CONNECTION(profile) : nullptr);
