@@ -1,6 +1,6 @@
 /* A program in C, without any event loop, that lives with real modems: prints the modem's status, or "?" when nothing
- * can tell it, at first and at each change, and ends when its input does. "fork" prints how many calls succeed in a
- * child instead; "exit" ends within an event. */
+ * can tell it, at first and at each change, and ends when its input does. "once" ends after the first; "fork" prints
+ * how many calls succeed in a child instead; "exit" ends within an event. */
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -34,6 +34,7 @@ static int successesInChild(void) {
 int main(int count, char** arguments) {
     const char* task = count > 1 ? arguments[1] : "";
     printStatus();
+    if (strcmp(task, "once") == 0) return 0;
     VRKS_DevSrv_RegisterEventCallback(onEvent, strcmp(task, "exit") == 0 ? &task : 0);
     if (strcmp(task, "fork") == 0) {
         printf("%d\n", successesInChild());
