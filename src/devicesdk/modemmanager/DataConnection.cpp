@@ -11,6 +11,7 @@ namespace {
 constexpr unsigned LookingMs = 5000;  // a modem reaches NetworkManager some tenths of a second after ModemManager
 constexpr unsigned AnswerMs = 3000;   // of a modem that dials
 constexpr unsigned EndingMs = 3000;   // of a connection, in NetworkManager's hands
+constexpr unsigned RadioMs = 1000;    // until a switch of it is known
 constexpr unsigned SettlingMs = 100;  // two daemons tell of one failure, in any order
 const char RadioIsOff[] = "Mobile broadband is switched off";
 constexpr auto RadioSettling = std::chrono::seconds(1);  // a radio that came on may be switched once more in this time
@@ -195,7 +196,7 @@ void DataConnection::adopt(NMActiveConnection* connection) {
 
 void DataConnection::look() {
     if (!m_Watch || (m_Watch->hasBegun() && !m_Watch->isRunning())) return fail({VRKS_FAILURE_NO_NETWORK_SERVICE, {}});
-    if (m_Watch->isRadioOff()) return fail({VRKS_FAILURE_NOT_READY, RadioIsOff});
+    if (m_Watch->isRadioOff()) return awaitRadio();
     NMDevice* device = m_Watch->device();
     NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
     if (foreign && m_Watch->has(foreign) && nm_device_get_state(device) > NM_DEVICE_STATE_DISCONNECTED &&
@@ -203,6 +204,16 @@ void DataConnection::look() {
         return fail({VRKS_FAILURE_IN_USE, textOf(nm_active_connection_get_id(foreign))});
     if (isReadyToDial(device) && !isRadioSettling()) return ask();
     publish();
+}
+
+// That it was switched on just before may not be known yet.
+void DataConnection::awaitRadio() {
+    publish();
+    if (m_Settling.isRunning()) return;
+    m_Settling.start(RadioMs, [this] {
+        if (m_Phase != Phase::Looking || !m_Watch) return;
+        m_Watch->isRadioOff() ? fail({VRKS_FAILURE_NOT_READY, RadioIsOff}) : update();
+    });
 }
 
 // What is dialled now might be ended by the radio's switching.

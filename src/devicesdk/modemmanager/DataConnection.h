@@ -64,6 +64,7 @@ private:
     void observe();
     void adopt(NMActiveConnection* connection);
     void look();
+    void awaitRadio();
     bool isRadioSettling();
     void ask();
     static void onAsked(GObject* source, GAsyncResult* result, gpointer self);
