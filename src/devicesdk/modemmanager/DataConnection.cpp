@@ -355,6 +355,7 @@ void DataConnection::waitForReason() {
 
 void DataConnection::conclude() {
     if (isHangingUp()) return finish({});
+    if (isRadioInDoubt()) return;
     if (!isWorthRepeating()) return finish(seenFailure());
     m_Phase = Phase::Looking;
     if (m_Watch) m_Watch->follow(static_cast<NMActiveConnection*>(nullptr));
@@ -362,6 +363,16 @@ void DataConnection::conclude() {
         if (m_Phase == Phase::Looking) finish(seenFailure());
     });
     update();
+}
+
+// The device becomes unavailable before NetworkManager says that it was switched off.
+bool DataConnection::isRadioInDoubt() {
+    const bool isInDoubt = m_Watch && m_Watch->isRunning() && m_Watch->has(m_Watch->device()) &&
+                           nm_device_get_state(m_Watch->device()) == NM_DEVICE_STATE_UNAVAILABLE &&
+                           !m_Watch->isRadioOff() && !m_Dialled.wasInDoubt;
+    if (!isInDoubt) return false;
+    m_Settling.start(RadioMs, [this] { conclude(); });
+    return m_Dialled.wasInDoubt = true;
 }
 
 // A radio that comes on ends what it finds, in NetworkManager's hands; and a network may refuse PPP because of one

@@ -50,6 +50,7 @@ private:
         bool isHangingUp = false;
         bool isDeactivating = false;  // NetworkManager was asked to end it
         bool wasUp = false;
+        bool wasInDoubt = false;  // whether the radio was switched off
         std::int64_t since = 0;
         std::optional<Clock::time_point> upSince;
         Clock::time_point endedAt;
@@ -80,6 +81,7 @@ private:
     void deviceStateChanged(NMDeviceState now, unsigned reason);
     void waitForReason();
     void conclude();
+    bool isRadioInDoubt();
     bool isWorthRepeating();
     Failure seenFailure() const;
     void fail(const Failure& failure);
