@@ -1,4 +1,5 @@
-// Dials for a test as a program of ours does, and stays until its standard input ends: dialler NAME BOUND [USER-ID]
+// Dials at once for a test, as a program of ours does, and stays until its standard input ends:
+// dialler NAME BOUND [USER-ID]
 #include <unistd.h>
 
 #include <cstdio>
@@ -14,10 +15,6 @@ VRKS_Connection connection() {
     record.size = sizeof record;
     VRKS_NetConnectSrv_GetConnection(&record);
     return record;
-}
-
-void waitForModem() {
-    for (int status = -1; status != VRKS_DEV_STATUS_READY; ::usleep(10000)) VRKS_DevSrv_GetDevStatus(&status);
 }
 
 // A line for each state, as "STATE FAILURE", until it is up or down.
@@ -42,7 +39,6 @@ int main(int argumentCount, char** arguments) {
     request.name = arguments[1];
     request.apn = "internet.example";
     request.endsWithProcess = std::strcmp(arguments[2], "bound") == 0;
-    waitForModem();
     VRKS_NetConnectSrv_Dial(&request);
     tellUntilSettled();
     while (std::getchar() != EOF) continue;

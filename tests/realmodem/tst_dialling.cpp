@@ -52,6 +52,7 @@ class TestDialling : public QObject {
 private slots:
     void initTestCase() {
         qputenv("ORBISDIAL_MODEM", "gsm-port");  // of the processes that are started here too
+        qputenv("ORBISDIAL_DEVICE_WAIT_MS", "15000");
         QVERIFY(m_Stack.plug("gsm", {"GSM"}));
         QVERIFY(m_Stack.plug("cdma", {"GSM", "CDMA"}));
         QTRY_COMPARE_WITH_TIMEOUT(modemCount(), 2, 15000);
