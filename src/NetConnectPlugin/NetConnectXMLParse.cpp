@@ -2,7 +2,6 @@
 
 #include "CommonUtilsBase.h"
 #include "Trace.h"
-#include "XmlText.h"
 
 #ifndef ORBISDIAL_BUILD_TIME
 #define ORBISDIAL_BUILD_TIME "unknown build time"
@@ -83,9 +82,12 @@ int NetConnectXMLParse::reportReadError(const QXmlStreamReader& reader, const QS
 
 int NetConnectXMLParse::writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
                                   FileReplacement::Placing placing) {
-    QString reason = content.isEmpty() ? QLatin1String("can't be written as XML") : XmlText::refusal(content);
+    QString reason = QLatin1String("can't be written as XML");
     FileReplacement::Outcome outcome = FileReplacement::Failed;
-    if (reason.isEmpty()) outcome = FileReplacement::write(path, content, purpose, placing, &reason);
+    if (!content.isEmpty()) {
+        reason.clear();
+        outcome = FileReplacement::write(path, content, purpose, placing, &reason);
+    }
     if (outcome == FileReplacement::Taken) return TargetAppeared;
     if (outcome != FileReplacement::Done) {
         qDebug("Error open file: ");

@@ -200,7 +200,7 @@ private:
     int reportReadError(const QXmlStreamReader& reader, const QString& path);
     static void traceReadError(const char* function);
 
-    // Writes a file: 0 or 25, traced and reported, or TargetAppeared.
+    // Writes a document that ProfileDocumentWriter finished: 0 or 25, traced and reported, or TargetAppeared.
     int writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
                   FileReplacement::Placing placing);
 

@@ -186,8 +186,10 @@ void ProfileDocument::clean() {
     for (int i = 0; i < before.size(); ++i) {
         for (int field = 0; field < DialupProfileFieldCount; ++field) {
             QString DialupProfile::*const member = DialupProfileFields[field].member;
-            const QString text = XmlText::clean(before.at(i).*member);
-            if (text.size() != (before.at(i).*member).size()) profiles[i].*member = text;
+            const QString& dirty = before.at(i).*member;
+            if (dirty.isEmpty()) continue;
+            const QString text = XmlText::clean(dirty);
+            if (text.size() != dirty.size()) profiles[i].*member = text;
         }
     }
     for (int i = 0; i < defaults.size(); ++i) defaults[i].value.name = XmlText::clean(defaults.at(i).value.name);
