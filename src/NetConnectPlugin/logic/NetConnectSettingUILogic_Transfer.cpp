@@ -1,5 +1,7 @@
 // Import and export.
 
+#include <QVector>
+
 #include "FileReplacement.h"
 #include "NetConnectLogicHold.h"
 #include "NetConnectOperation.h"
@@ -10,15 +12,25 @@
 // Where the profiles of a name stand in a list, which may hold several of one name.
 class NetConnectSettingUILogic::ProfilesByName {
 public:
-    explicit ProfilesByName(const QList<DialupProfile>& profiles) : m_Profiles(profiles) {
-        for (int i = 0; i < profiles.size(); ++i) m_Places[profiles.at(i).name].append(i);
+    explicit ProfilesByName(const QList<DialupProfile>& profiles) : m_Profiles(profiles), m_Next(profiles.size(), -1) {
+        m_First.reserve(profiles.size());
+        for (int i = profiles.size() - 1; i >= 0; --i) {
+            m_Next[i] = m_First.value(profiles.at(i).name, -1);
+            m_First.insert(profiles.at(i).name, i);
+        }
     }
-    QList<int> places(const QString& name) const { return m_Places.value(name); }
+    bool contains(const QString& name) const { return m_First.contains(name); }
+    QList<int> places(const QString& name) const {
+        QList<int> result;
+        for (int i = m_First.value(name, -1); i >= 0; i = m_Next.at(i)) result.append(i);
+        return result;
+    }
     const DialupProfile& at(int place) const { return m_Profiles.at(place); }
 
 private:
     QList<DialupProfile> m_Profiles;
-    QHash<QString, QList<int> > m_Places;
+    QHash<QString, int> m_First;  // place of a name
+    QVector<int> m_Next;          // place of the same name after a place; -1 for none
 };
 
 int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QString path) {
@@ -48,6 +60,7 @@ QList<DialupProfile> NetConnectSettingUILogic::ImportCandidates() const { return
 struct NetConnectSettingUILogic::ImportChoice {
     QString name;
     QString storedName;  // which is cut to length
+    bool isTwice;        // an earlier choice has the same stored name
     bool isAsked;
     bool isTaken;
 };
@@ -56,12 +69,18 @@ struct NetConnectSettingUILogic::ImportChoice {
 QList<NetConnectSettingUILogic::ImportChoice> NetConnectSettingUILogic::importChoices(const QStringList& names) {
     QList<ImportChoice> choices;
     QSet<QString> known;
+    QSet<QString> cut;  // stored names of the long ones
+    known.reserve(names.size());
     for (int i = 0; i < names.size(); ++i) {
-        if (known.contains(names.at(i))) continue;
-        known.insert(names.at(i));
-        const QString stored =
-            NetConnectProfileRules::cutToLength(names.at(i), NetConnectProfileRules::DefaultNameLength);
-        const ImportChoice choice = {names.at(i), stored, false, true};
+        const QString& name = names.at(i);
+        const QString stored = NetConnectProfileRules::cutToLength(name, NetConnectProfileRules::DefaultNameLength);
+        const bool isCut = stored.size() != name.size();
+        const bool isTwice = cut.contains(stored) || (isCut && known.contains(stored));
+        const int before = known.size();
+        known.insert(name);
+        if (known.size() == before) continue;
+        if (isCut) cut.insert(stored);
+        const ImportChoice choice = {name, stored, isTwice, false, true};
         choices.append(choice);
     }
     return choices;
@@ -71,12 +90,11 @@ QList<NetConnectSettingUILogic::ImportChoice> NetConnectSettingUILogic::importCh
 // them.
 QList<int> NetConnectSettingUILogic::openClashes(const QList<ImportChoice>& choices, const QSet<QString>& listed) {
     QList<int> clashes;
-    QSet<QString> earlier;
     for (int i = 0; i < choices.size(); ++i) {
-        const QString& name = choices.at(i).storedName;
-        const bool isTwice = earlier.contains(name);
-        earlier.insert(name);
-        if (!choices.at(i).isAsked && (isTwice || listed.contains(name) || HasUserProfile(name))) clashes.append(i);
+        const ImportChoice& choice = choices.at(i);
+        if (choice.isAsked) continue;
+        if (choice.isTwice || listed.contains(choice.storedName) || HasUserProfile(choice.storedName))
+            clashes.append(i);
     }
     return clashes;
 }
@@ -92,6 +110,7 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
     const QList<DialupProfile> candidates = m_ImportList;
     QList<ImportChoice> choices = importChoices(names);
     QSet<QString> listed;
+    listed.reserve(m_ProfileNameList.size());
     for (int i = 0; i < m_ProfileNameList.size(); ++i) listed.insert(m_ProfileNameList.at(i));
     for (;;) {
         const QList<int> clashes = openClashes(choices, listed);
@@ -115,21 +134,28 @@ int NetConnectSettingUILogic::ImportChosenProfiles(const QStringList& names, Net
 // Adds the chosen candidates; a replaced profile goes only when one of its name comes. False when none came.
 bool NetConnectSettingUILogic::addCandidates(const QList<ImportChoice>& choices) {
     const ProfilesByName candidates(m_ImportList);
-    QHash<QString, int> last;  // of the choices that will have one name, the last one takes the place of the others
-    QSet<QString> leaving;
+    // Of the choices that will have one name, the last one takes the place of the others.
+    struct Winner {
+        Winner() : choice(-1), isReplacing(false) {}
+        int choice;
+        bool isReplacing;
+    };
+    QHash<QString, Winner> winners;
+    winners.reserve(choices.size());
     for (int i = 0; i < choices.size(); ++i) {
         const ImportChoice& choice = choices.at(i);
-        if (!choice.isTaken || candidates.places(choice.name).isEmpty()) continue;
-        last.insert(choice.storedName, i);
-        if (choice.isAsked) leaving.insert(choice.storedName);
+        if (!choice.isTaken || !candidates.contains(choice.name)) continue;
+        Winner& winner = winners[choice.storedName];
+        winner.choice = i;
+        winner.isReplacing = winner.isReplacing || choice.isAsked;
     }
-    if (last.isEmpty()) return false;
+    if (winners.isEmpty()) return false;
 
     QList<DialupProfile> result;
     for (int i = 0; i < m_UserProfileList.size(); ++i)
-        if (!leaving.contains(m_UserProfileList.at(i).name)) result.append(m_UserProfileList.at(i));
+        if (!winners.value(m_UserProfileList.at(i).name).isReplacing) result.append(m_UserProfileList.at(i));
     for (int i = 0; i < choices.size(); ++i) {
-        if (last.value(choices.at(i).storedName, -1) != i) continue;
+        if (winners.value(choices.at(i).storedName).choice != i) continue;
         const QList<int> found = candidates.places(choices.at(i).name);
         for (int j = 0; j < found.size(); ++j) {
             result.append(candidates.at(found.at(j)));
