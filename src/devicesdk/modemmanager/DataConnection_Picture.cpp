@@ -40,7 +40,7 @@ std::string DataConnection::modemPath() const {
 // NetworkManager's preparing holds all that the modem does until it is connected.
 int DataConnection::step() const {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
-    if (m_Phase < Phase::Asking || !device) return VRKS_STEP_PREPARING;
+    if (m_Phase <= Phase::Asking || !device) return VRKS_STEP_PREPARING;
     const NMDeviceState state = nm_device_get_state(device);
     if (state >= NM_DEVICE_STATE_IP_CONFIG) return VRKS_STEP_ADDRESSING;
     if (state > NM_DEVICE_STATE_PREPARE) return VRKS_STEP_CONNECTING;
