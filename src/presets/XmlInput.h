@@ -7,8 +7,8 @@
 #include <QString>
 #include <QXmlStreamReader>
 
-#include "XmlText.h"
 #include "PresetError.h"
+#include "XmlText.h"
 
 class XmlInput {
 public:
