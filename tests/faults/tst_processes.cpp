@@ -30,6 +30,9 @@ class tst_processes : public QObject {
     static NetConnectSettingUILogic* logic() { return NetConnectSettingUILogic::GetInstance(); }
 
 private slots:
+    // A busy machine gives each its turn late; who waits less says so.
+    void init() { UserFileLock::setLongestWait(15000); }
+
     void bothAdd() {
         FaultsFixture fixture;
         QProcess others;
@@ -62,7 +65,6 @@ private slots:
     void busyWritersAreAllServed() {
         FaultsFixture fixture;
         NetConnectSettingUILogic::Destroy();
-        UserFileLock::setLongestWait(15000);
         QCOMPARE(failuresOf(Writers,
                             [](int writer) {
                                 for (int i = 0; i < WritesByEach; ++i) {
@@ -82,7 +84,6 @@ private slots:
         NetConnectSettingUILogic::Destroy();
         const QString file = fixture.path("exports/all.prof");
         QDir().mkpath(fixture.path("exports"));
-        UserFileLock::setLongestWait(15000);
         QCOMPARE(failuresOf(Writers,
                             [&](int writer) {
                                 qputenv("ORBISDIAL_DATA_DIR", QFile::encodeName(fixture.path("data%1").arg(writer)));
