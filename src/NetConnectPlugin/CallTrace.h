@@ -7,7 +7,7 @@
 // Writes a line filled with file and function when made, and the exit line, if there is one, when it goes.
 class CallTrace {
 public:
-    CallTrace(const char* file, const char* function, const char* entry = "%s: %s called", const char* exit = 0)
+    CallTrace(const char* file, const char* function, const char* entry = "%s: %s called", const char* exit = nullptr)
         : m_File(file), m_Function(function), m_Exit(exit) {
         qDebug(entry, m_File, m_Function);
     }

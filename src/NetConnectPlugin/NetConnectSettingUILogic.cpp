@@ -12,7 +12,7 @@
 #include "vrks.h"
 
 // Atomic, since the device's thread asks whether there is an instance.
-static std::atomic<NetConnectSettingUILogic*> m_pNetConnectSettingUILogic(0);
+static std::atomic<NetConnectSettingUILogic*> m_pNetConnectSettingUILogic(nullptr);
 
 NetConnectSettingUILogic* NetConnectSettingUILogic::GetInstance(LoadMoment moment) {
     if (!m_pNetConnectSettingUILogic) m_pNetConnectSettingUILogic = new NetConnectSettingUILogic(moment);
@@ -25,16 +25,16 @@ void NetConnectSettingUILogic::Destroy() {
     // A callback that is running still uses the instance; once this returns, none is.
     VRKS_DevSrv_UnRegisterDevInitEventCallback(&NetConnectSettingUILogic::OnDevInitEvent);
     delete logic;
-    m_pNetConnectSettingUILogic = 0;
+    m_pNetConnectSettingUILogic = nullptr;
 }
 
 NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
     : m_Store(UserStore::instance()),
-      m_pXMLParse(0),
-      m_pProfileTemplateHash(0),
-      m_pFunctionHash(0),
-      m_pProfileListHash(0),
-      m_pIMSIHash(0),
+      m_pXMLParse(nullptr),
+      m_pProfileTemplateHash(nullptr),
+      m_pFunctionHash(nullptr),
+      m_pProfileListHash(nullptr),
+      m_pIMSIHash(nullptr),
       m_bIsUserSet(false),
       m_Mutex(QMutex::Recursive),
       m_bIMSIDefaultForgotten(false),
@@ -77,8 +77,8 @@ int NetConnectSettingUILogic::Init() {
     delete m_pFunctionHash;
     delete m_pProfileListHash;
     delete m_pIMSIHash;
-    m_pProfileTemplateHash = m_pFunctionHash = m_pProfileListHash = 0;
-    m_pIMSIHash = 0;
+    m_pProfileTemplateHash = m_pFunctionHash = m_pProfileListHash = nullptr;
+    m_pIMSIHash = nullptr;
     int result = getConfigData();
 
     forgetForeignDefault();
@@ -126,9 +126,9 @@ int NetConnectSettingUILogic::getConfigData() {
     const QString deviceName = NetConnectDevice::customizeName(caller);
     if (NetConnectDevice::isCustomized(deviceName)) {
         m_pIMSIHash->clear();
-        result = readConfigPair("customize", deviceName, 0);
+        result = readConfigPair("customize", deviceName, nullptr);
     }
-    if (NetConnectDevice::isCDMAProduct(caller)) result = readConfigPair("common", "CDMA", 0);
+    if (NetConnectDevice::isCDMAProduct(caller)) result = readConfigPair("common", "CDMA", nullptr);
     m_ConfigProblem = LastStorageProblem();
     if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath(NetConnectFileNames::Configuration))
         m_ConfigProblem = NetConnectStorageProblem();
@@ -209,7 +209,7 @@ void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
 int NetConnectSettingUILogic::readForeignFile(QList<DialupProfile>* profiles, QString* defaultName,
                                               const QString& fileName) {
     const NetConnectRememberedDefaults remembered = m_pXMLParse->rememberedDefaults();
-    const int status = m_pXMLParse->GetAllProfileFromUserDataXML(profiles, defaultName, fileName, 0);
+    const int status = m_pXMLParse->GetAllProfileFromUserDataXML(profiles, defaultName, fileName, nullptr);
     m_pXMLParse->setRememberedDefaults(remembered);
     return status;
 }

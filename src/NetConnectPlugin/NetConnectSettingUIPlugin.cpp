@@ -10,7 +10,7 @@ extern "C" Q_DECL_EXPORT const char* qt_plugin_query_verification_data() {
     return "pattern=QT_PLUGIN_VERIFICATION_DATA\nversion=4.6.2\ndebug=false\nbuildkey=i386 linux g++-4 full-config";
 }
 
-CNetConnectSettingUIPlugin::CNetConnectSettingUIPlugin() : m_pNetConnectUIService(0) {
+CNetConnectSettingUIPlugin::CNetConnectSettingUIPlugin() : m_pNetConnectUIService(nullptr) {
     CallTrace trace(__FILE__, "CNetConnectSettingUIPlugin");
     m_pNetConnectUIService = CNetConnectUIService::instance();
 }
@@ -72,7 +72,7 @@ int CNetConnectSettingUIPlugin::GetLastError() { return 0; }
 
 void CNetConnectSettingUIPlugin::OnDestroy() {
     CNetConnectUIService::Destroy();
-    m_pNetConnectUIService = 0;
+    m_pNetConnectUIService = nullptr;
 }
 
 int CNetConnectSettingUIPlugin::Notify(unsigned int event, unsigned int param1, unsigned int param2) {

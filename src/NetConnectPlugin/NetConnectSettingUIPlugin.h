@@ -17,31 +17,31 @@ class CNetConnectSettingUIPlugin : public QObject, public IUIPlugin, public INot
 public:
     CNetConnectSettingUIPlugin();
 
-    virtual int ShowWindow(QWidget* parent, QRect& rect);
-    virtual int DoModal();
-    virtual void Hide();
-    virtual void FitSize(QRect& rect);
-    virtual bool IsReady();
+    int ShowWindow(QWidget* parent, QRect& rect) override;
+    int DoModal() override;
+    void Hide() override;
+    void FitSize(QRect& rect) override;
+    bool IsReady() override;
 
     // True for any language code; the texts follow the host's event 320 instead.
-    virtual bool ChangeLang(const QString& lang);
+    bool ChangeLang(const QString& lang) override;
 
-    virtual int Init();
-    virtual int GetPluginType();
-    virtual QString GetCLSID();
-    virtual int GetVersion();
-    virtual QString GetPluginName();
-    virtual bool IsAllowRelease();
+    int Init() override;
+    int GetPluginType() override;
+    QString GetCLSID() override;
+    int GetVersion() override;
+    QString GetPluginName() override;
+    bool IsAllowRelease() override;
 
     // The numbers 4098 and 28689 both give the settings service, to be cast to ISettingUIPlugin or
     // INetConnectSetting.
-    virtual int QueryInterface(int id, QObject** out);
+    int QueryInterface(int id, QObject** out) override;
 
-    virtual void UnSDKRegisterEvent();
-    virtual void Release();
-    virtual int GetLastError();
-    virtual void OnDestroy();
-    virtual int Notify(unsigned int event, unsigned int param1, unsigned int param2);
+    void UnSDKRegisterEvent() override;
+    void Release() override;
+    int GetLastError() override;
+    void OnDestroy() override;
+    int Notify(unsigned int event, unsigned int param1, unsigned int param2) override;
 
 private:
     bool hasService(const char* function) const;

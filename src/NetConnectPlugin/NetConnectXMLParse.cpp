@@ -7,7 +7,7 @@
 #define ORBISDIAL_BUILD_TIME "unknown build time"
 #endif
 
-static NetConnectXMLParse* m_pNetConnectXMLParse = 0;
+static NetConnectXMLParse* m_pNetConnectXMLParse = nullptr;
 
 NetConnectXMLParse* NetConnectXMLParse::GetInstance() {
     if (!m_pNetConnectXMLParse) m_pNetConnectXMLParse = new NetConnectXMLParse;
@@ -16,7 +16,7 @@ NetConnectXMLParse* NetConnectXMLParse::GetInstance() {
 
 void NetConnectXMLParse::Destroy() {
     delete m_pNetConnectXMLParse;
-    m_pNetConnectXMLParse = 0;
+    m_pNetConnectXMLParse = nullptr;
 }
 
 NetConnectDeviceInfo* NetConnectXMLParse::GetCurrentDeviceInfo() { return &m_DeviceInfo; }

@@ -7,7 +7,7 @@ static QByteArray document(const QByteArray& profiles, const QByteArray& rest = 
     return "<vrksdoc><ProfileGroup>" + profiles + "</ProfileGroup>" + rest + "</vrksdoc>";
 }
 
-class TestOrbisctlChanging : public QObject {
+class tst_orbisctl_changing : public QObject {
     Q_OBJECT
 
 private slots:
@@ -344,5 +344,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOrbisctlChanging)
+QTEST_GUILESS_MAIN(tst_orbisctl_changing)
 #include "tst_orbisctl_changing.moc"

@@ -42,7 +42,7 @@ private:
 
 }  // namespace
 
-class TestOrbisctlConnection : public QObject {
+class tst_orbisctl_connection : public QObject {
     Q_OBJECT
 
 private slots:
@@ -235,5 +235,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOrbisctlConnection)
+QTEST_GUILESS_MAIN(tst_orbisctl_connection)
 #include "tst_orbisctl_connection.moc"

@@ -5,7 +5,7 @@
 #include "SimulatedSettings.h"
 #include "Terminal.h"
 
-class TestOrbisctlModem : public QObject {
+class tst_orbisctl_modem : public QObject {
     Q_OBJECT
 
 private slots:
@@ -117,5 +117,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOrbisctlModem)
+QTEST_GUILESS_MAIN(tst_orbisctl_modem)
 #include "tst_orbisctl_modem.moc"

@@ -3,7 +3,7 @@
 #include "OrbisctlFixture.h"
 #include "Rows.h"
 
-class TestOrbisctlReading : public QObject {
+class tst_orbisctl_reading : public QObject {
     Q_OBJECT
 
 private slots:
@@ -204,5 +204,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOrbisctlReading)
+QTEST_GUILESS_MAIN(tst_orbisctl_reading)
 #include "tst_orbisctl_reading.moc"

@@ -4,7 +4,7 @@
 #include "Rows.h"
 #include "Terminal.h"
 
-class TestOrbisctlTerminal : public QObject {
+class tst_orbisctl_terminal : public QObject {
     Q_OBJECT
 
 private slots:
@@ -103,5 +103,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOrbisctlTerminal)
+QTEST_GUILESS_MAIN(tst_orbisctl_terminal)
 #include "tst_orbisctl_terminal.moc"

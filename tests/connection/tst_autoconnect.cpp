@@ -2,7 +2,7 @@
 #include "AutoConnectPolicy.h"
 #include "Rows.h"
 
-class AutoConnectTest : public QObject {
+class tst_autoconnect : public QObject {
     Q_OBJECT
 
 private slots:
@@ -156,5 +156,5 @@ private:
     qint64 m_Now = 0;
 };
 
-QTEST_GUILESS_MAIN(AutoConnectTest)
+QTEST_GUILESS_MAIN(tst_autoconnect)
 #include "tst_autoconnect.moc"

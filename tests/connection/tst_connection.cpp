@@ -37,7 +37,7 @@ QString lineOf(const VRKS_DialRequest& request) {
 
 }  // namespace
 
-class ConnectionTest : public QObject {
+class tst_connection : public QObject {
     Q_OBJECT
 
 private slots:
@@ -225,5 +225,5 @@ private:
     TestFolder m_Folder;
 };
 
-QTEST_GUILESS_MAIN(ConnectionTest)
+QTEST_GUILESS_MAIN(tst_connection)
 #include "tst_connection.moc"

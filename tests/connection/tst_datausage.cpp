@@ -33,7 +33,7 @@ DataConnection down(quint64 received, quint64 sent) {
 
 }  // namespace
 
-class DataUsageTest : public QObject {
+class tst_datausage : public QObject {
     Q_OBJECT
 
 private slots:
@@ -211,5 +211,5 @@ private:
     QString m_File;
 };
 
-QTEST_GUILESS_MAIN(DataUsageTest)
+QTEST_GUILESS_MAIN(tst_datausage)
 #include "tst_datausage.moc"

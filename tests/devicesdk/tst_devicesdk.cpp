@@ -145,7 +145,7 @@ Answers askEverything() {
 
 }  // namespace
 
-class TestDeviceSdk : public QObject {
+class tst_devicesdk : public QObject {
     Q_OBJECT
 
 private slots:
@@ -432,5 +432,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDeviceSdk)
+QTEST_GUILESS_MAIN(tst_devicesdk)
 #include "tst_devicesdk.moc"

@@ -93,7 +93,7 @@ int cardModeOf(const Picture& picture) { return static_cast<int>(picture.multiMo
 
 Q_DECLARE_METATYPE(KnownModem)
 
-class tst_ModemPicture : public QObject {
+class tst_modempicture : public QObject {
     Q_OBJECT
 
 private slots:
@@ -280,5 +280,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_ModemPicture)
+QTEST_APPLESS_MAIN(tst_modempicture)
 #include "tst_modempicture.moc"

@@ -108,7 +108,7 @@ const QStringList AtOnce = {"DIAL_MS=0", "HANG_UP_MS=0", "UNLOCK_MS=0", "USSD_MS
 
 }  // namespace
 
-class TestModems : public QObject {
+class tst_modems : public QObject {
     Q_OBJECT
 
 private slots:
@@ -504,5 +504,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestModems)
+QTEST_GUILESS_MAIN(tst_modems)
 #include "tst_modems.moc"

@@ -172,7 +172,7 @@ QProcessEnvironment withVariable(const QString& name, const QString& value) {
 
 }  // namespace
 
-class tst_RealModems : public QObject {
+class tst_realmodems : public QObject {
     Q_OBJECT
 
 private:
@@ -491,5 +491,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_RealModems)
+QTEST_GUILESS_MAIN(tst_realmodems)
 #include "tst_realmodems.moc"

@@ -26,7 +26,7 @@ const char Key[] = "0123456789abcdefghijklmno";
 
 }  // namespace
 
-class TestHostCore : public QObject {
+class tst_hostcore : public QObject {
     Q_OBJECT
 
 private slots:
@@ -125,5 +125,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestHostCore)
+QTEST_GUILESS_MAIN(tst_hostcore)
 #include "tst_hostcore.moc"

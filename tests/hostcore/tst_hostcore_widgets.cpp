@@ -31,7 +31,7 @@ QString text(const char* id) { return Change::tr(id, "NetConnectPlugin"); }
 
 }  // namespace
 
-class TestWidgets : public QObject {
+class tst_hostcore_widgets : public QObject {
     Q_OBJECT
 
 private slots:
@@ -145,5 +145,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestWidgets)
+QTEST_MAIN(tst_hostcore_widgets)
 #include "tst_hostcore_widgets.moc"

@@ -36,7 +36,7 @@ void click(const char* role) { QTest::mouseClick(find<QAbstractButton>(role), Qt
 
 }  // namespace
 
-class TestAdvancedDialog : public QObject {
+class tst_advanced_dialog : public QObject {
     Q_OBJECT
 
 private slots:
@@ -116,5 +116,5 @@ private:
     Answers m_Answers;
 };
 
-QTEST_MAIN(TestAdvancedDialog)
+QTEST_MAIN(tst_advanced_dialog)
 #include "tst_advanced_dialog.moc"

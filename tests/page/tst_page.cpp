@@ -7,7 +7,7 @@
 
 using F = PageFixture;
 
-class TestPage : public PageTest {
+class tst_page : public PageTest {
     Q_OBJECT
 
     enum { ManyNames = 2000 };
@@ -424,5 +424,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPage)
+QTEST_MAIN(tst_page)
 #include "tst_page.moc"

@@ -41,7 +41,7 @@ bool isSecretInMemory() {
 
 }  // namespace
 
-class TestPageEditing : public PageTest {
+class tst_page_editing : public PageTest {
     Q_OBJECT
 
 private slots:
@@ -424,5 +424,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestPageEditing)
+QTEST_MAIN(tst_page_editing)
 #include "tst_page_editing.moc"

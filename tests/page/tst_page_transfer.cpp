@@ -6,7 +6,7 @@
 
 using F = PageFixture;
 
-class TestPageTransfer : public PageTest {
+class tst_page_transfer : public PageTest {
     Q_OBJECT
 
 private slots:
@@ -200,5 +200,5 @@ private:
     }
 };
 
-QTEST_MAIN(TestPageTransfer)
+QTEST_MAIN(tst_page_transfer)
 #include "tst_page_transfer.moc"

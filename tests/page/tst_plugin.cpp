@@ -30,7 +30,7 @@ const int AfterQObject = slotOf(&QObject::event) + 7;  // event is followed by s
 
 }  // namespace
 
-class TestPlugin : public PageTest {
+class tst_plugin : public PageTest {
     Q_OBJECT
 
 private slots:
@@ -131,5 +131,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPlugin)
+QTEST_MAIN(tst_plugin)
 #include "tst_plugin.moc"

@@ -109,7 +109,7 @@ private:
 
 }  // namespace
 
-class PresetsTest : public QObject {
+class tst_presets : public QObject {
     Q_OBJECT
 
 private slots:
@@ -347,5 +347,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(PresetsTest)
+QTEST_GUILESS_MAIN(tst_presets)
 #include "tst_presets.moc"

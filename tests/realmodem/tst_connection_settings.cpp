@@ -50,7 +50,7 @@ QByteArray nameServersOf(NMConnection* connection) {
 
 }  // namespace
 
-class TestConnectionSettings : public QObject {
+class tst_connection_settings : public QObject {
     Q_OBJECT
 
 private slots:
@@ -217,5 +217,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestConnectionSettings)
+QTEST_GUILESS_MAIN(tst_connection_settings)
 #include "tst_connection_settings.moc"

@@ -46,7 +46,7 @@ QStringList sorted(QStringList list) {
 
 }  // namespace
 
-class TestDialling : public QObject {
+class tst_dialling : public QObject {
     Q_OBJECT
 
 private slots:
@@ -405,5 +405,5 @@ private:
     int m_Failures = 0;
 };
 
-QTEST_GUILESS_MAIN(TestDialling)
+QTEST_GUILESS_MAIN(tst_dialling)
 #include "tst_dialling.moc"

@@ -12,7 +12,7 @@ QByteArray outputOf(const QString& program, const QStringList& arguments) {
 
 }  // namespace
 
-class StoreysTest : public QObject {
+class tst_storeys : public QObject {
     Q_OBJECT
 
 private slots:
@@ -39,6 +39,6 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(StoreysTest)
+QTEST_GUILESS_MAIN(tst_storeys)
 
 #include "tst_storeys.moc"

@@ -123,7 +123,7 @@ void addLanguageRows() {
 
 }  // namespace
 
-class TextsTest : public QObject {
+class tst_texts : public QObject {
     Q_OBJECT
 
 private slots:
@@ -183,5 +183,5 @@ private:
     QMap<QString, Texts> m_Texts;  // by language
 };
 
-QTEST_MAIN(TextsTest)
+QTEST_MAIN(tst_texts)
 #include "tst_texts.moc"

@@ -73,7 +73,7 @@ private:
 
 }  // namespace
 
-class TestThreads : public QObject {
+class tst_threads : public QObject {
     Q_OBJECT
 
 private slots:
@@ -157,5 +157,5 @@ private:
     std::unique_ptr<LogicFixture> m_pFixture;
 };
 
-QTEST_MAIN(TestThreads)
+QTEST_MAIN(tst_threads)
 #include "tst_threads.moc"

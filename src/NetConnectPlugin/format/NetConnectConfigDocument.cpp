@@ -74,7 +74,7 @@ QString UserPrompt::*NetConnectConfigDocument::promptField(const QStringRef& nam
     };
     for (size_t i = 0; i < sizeof(fields) / sizeof(fields[0]); ++i)
         if (name == fields[i].name) return fields[i].field;
-    return 0;
+    return nullptr;
 }
 
 bool NetConnectConfigDocument::scan(const QByteArray& content) {

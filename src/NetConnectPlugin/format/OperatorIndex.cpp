@@ -75,7 +75,7 @@ void OperatorIndex::start(const Element& element) {
 const OperatorEntry* OperatorIndex::operatorOf(const QString& preset) const {
     for (int i = 0; i < m_Operators.size(); ++i)
         if (m_Operators.at(i).presets.contains(preset)) return &m_Operators.at(i);
-    return 0;
+    return nullptr;
 }
 
 OperatorProposal OperatorIndex::proposalFor(const QString& cardOperator, const QStringList& offered,

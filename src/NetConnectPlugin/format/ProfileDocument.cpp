@@ -75,7 +75,7 @@ public:
 
 private:
     struct Known {
-        Known() : name(0), field(-1) {}
+        Known() : name(nullptr), field(-1) {}
         const char* name;
         int field;
     };

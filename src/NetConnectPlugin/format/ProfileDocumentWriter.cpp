@@ -54,7 +54,7 @@ const char* escaped(ushort c) {
         case '\r':
             return "&#13;";
         default:
-            return 0;
+            return nullptr;
     }
 }
 

@@ -22,7 +22,7 @@ public:
           m_Around(Content),
           m_Quote(0),
           m_Matched(0),
-          m_End(0),
+          m_End(nullptr),
           m_IsEmptyElement(false),
           m_Depth(0),
           m_Declarations(0),

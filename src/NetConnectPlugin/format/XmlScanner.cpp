@@ -103,7 +103,7 @@ XmlScanner::XmlScanner(const QByteArray& document)
 const XmlPiece* XmlScanner::find(const char* attribute) const {
     for (int i = 0; i < m_AttributeCount; ++i)
         if (m_AttributeNames[i] == attribute) return &m_AttributeValues[i];
-    return 0;
+    return nullptr;
 }
 
 QString XmlScanner::value(const char* attribute) const {

@@ -42,7 +42,7 @@ typedef void (*Cipher)(const char* data, const char* key, char*& out);
 QString passThrough(Cipher cipher, const QString& text) {
     const CipherKey key;
     QByteArray data = text.toLatin1();
-    char* out = 0;
+    char* out = nullptr;
     cipher(data.constData(), key.text(), out);
     const QString result = out ? QString::fromLatin1(out) : QString();
     CommonUtilsBase::CryptLocalFree(out);

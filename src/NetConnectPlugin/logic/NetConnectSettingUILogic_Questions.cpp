@@ -16,9 +16,9 @@ public:
           m_bSame(false),
           m_bLast(false) {}
 
-    bool replace(const QString& name) { return replaceFirstOf(name, 1); }
+    bool replace(const QString& name) override { return replaceFirstOf(name, 1); }
 
-    bool replaceFirstOf(const QString& name, int count) {
+    bool replaceFirstOf(const QString& name, int count) override {
         if (m_bSame) return m_bLast;
         if (!m_pParent) return false;  // the dialog went while an earlier question was on screen
         const QString question = name + QLatin1String(" ") + m_strClash;

@@ -15,7 +15,7 @@ QString NetConnectXMLParse::profilePath(const QString& fileName) {
 
 NetConnectXMLParse::KeptFile* NetConnectXMLParse::keptFile(const QString& fileName) {
     if (fileName.isEmpty()) return &m_User;
-    return fileName == QLatin1String(NetConnectFileNames::Library) ? &m_Library : 0;
+    return fileName == QLatin1String(NetConnectFileNames::Library) ? &m_Library : nullptr;
 }
 
 int NetConnectXMLParse::GetAllProfileFromUserDataXML(QList<DialupProfile>* profiles, QString* defaultName,

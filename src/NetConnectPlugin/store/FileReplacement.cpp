@@ -156,7 +156,7 @@ bool isTemporary(const QByteArray& candidate, const QByteArray& name) {
 bool removeLeftover(int folder, const char* name) {
     struct stat info;
     const bool isOld = ::fstatat(folder, name, &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(info.st_mode) &&
-                       info.st_mtime < ::time(0) - LeftoverAge;
+                       info.st_mtime < ::time(nullptr) - LeftoverAge;
     return isOld && ::unlinkat(folder, name, 0) == 0;
 }
 
@@ -180,7 +180,7 @@ bool removeLeftovers(const FilePlace& place) {
 
 // The owner that a new file should have, as one of these files has it; null for whoever writes. Only root can choose.
 const struct stat* ownerFor(FileReplacement::Purpose purpose, const struct stat* before, const struct stat* folder) {
-    if (::geteuid() != 0 || purpose == FileReplacement::Export) return 0;
+    if (::geteuid() != 0 || purpose == FileReplacement::Export) return nullptr;
     return purpose == FileReplacement::UserFile ? folder : before;
 }
 
@@ -193,7 +193,7 @@ bool applyRights(int fd, const FilePlace& place, FileReplacement::Purpose purpos
     if (!existed && errno != ENOENT) return systemFailure("can't be looked at", reason);
     if (::fstat(place.folder(), &folder) != 0 || ::fstat(fd, &now) != 0)
         return systemFailure("can't look at the folder", reason);
-    const struct stat* const owner = ownerFor(purpose, existed ? &before : 0, &folder);
+    const struct stat* const owner = ownerFor(purpose, existed ? &before : nullptr, &folder);
     const bool isOwned = !owner || (owner->st_uid == now.st_uid && owner->st_gid == now.st_gid);
     if (!isOwned && ::fchown(fd, owner->st_uid, owner->st_gid) != 0)
         return systemFailure("can't set the file's owner", reason);

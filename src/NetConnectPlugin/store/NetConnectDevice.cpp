@@ -21,7 +21,7 @@ QString textAt(const char* record, int offset) {
 bool askCardMode(NetConnectCardMode* card) {
     unsigned char isMultiMode = 0;
     unsigned int mode = 0;
-    if (VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, 0, 0, &mode) != 0) return false;
+    if (VRKS_DevSrv_GetMultiModeCardStatus(&isMultiMode, nullptr, nullptr, &mode) != 0) return false;
     card->isMultiMode = isMultiMode != 0;
     card->mode = mode;
     return true;
@@ -129,7 +129,7 @@ bool credentials(QString* user, QString* password, const Caller& caller) {
 }
 
 QString userDataDirectory(long* answer) {
-    unsigned short* directory = 0;
+    unsigned short* directory = nullptr;
     *answer = VRKS_GetUserDataDirectory(&directory);
     QString result;
     if (*answer == 0 && directory) result = QString::fromUtf16(directory);

@@ -10,7 +10,7 @@ UserStore& UserStore::instance() {
 }
 
 UserStore::UserStore()
-    : m_pFiles(0),
+    : m_pFiles(nullptr),
       m_nRevision(0),
       m_bStoredKnown(false),
       m_bKeepsDefault(false),
@@ -33,7 +33,7 @@ void UserStore::attach(const UserStoreMembers& members, NetConnectXMLParse* file
 
 void UserStore::detach() {
     m_Members = UserStoreMembers();
-    m_pFiles = 0;
+    m_pFiles = nullptr;
     m_Changed = std::function<void()>();
     m_Stamp = FileStamp();
     m_StoredDefault = NetConnectDefault();

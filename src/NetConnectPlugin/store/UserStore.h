@@ -16,7 +16,7 @@ class NetConnectXMLParse;
 
 // What of the user's file is in memory. It belongs to the logic; the store keeps it in step with the file.
 struct UserStoreMembers {
-    UserStoreMembers() : profiles(0), defaultName(0), isUserSet(0) {}
+    UserStoreMembers() : profiles(nullptr), defaultName(nullptr), isUserSet(nullptr) {}
 
     QList<DialupProfile>* profiles;
     QString* defaultName;

@@ -12,7 +12,7 @@ class HOSTCORE_EXPORT ExtendDialog : public QDialog {
 
 public:
     // The widget type is a hint for the host's style sheets (the dynamic property "widgetType").
-    explicit ExtendDialog(QWidget* parent = 0, Qt::WindowFlags flags = Qt::WindowFlags(), int widgetType = 0);
+    explicit ExtendDialog(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags(), int widgetType = 0);
 
     // Makes the widget fill the frame and takes it over; a previous main widget is handed back to its maker
     // hidden and without a parent. Null is ignored.

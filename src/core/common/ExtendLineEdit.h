@@ -10,7 +10,7 @@ class HOSTCORE_EXPORT ExtendLineEdit : public QLineEdit {
     Q_OBJECT
 
 public:
-    explicit ExtendLineEdit(QWidget* parent = 0);
+    explicit ExtendLineEdit(QWidget* parent = nullptr);
 };
 
 #endif
