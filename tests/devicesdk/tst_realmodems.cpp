@@ -375,8 +375,8 @@ private slots:
 
     void ussdAnswersAndAsks() {
         QVERIFY(m_Stack.plug("ussd", {"GSM", "USSD"}));
-        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        QCOMPARE(info().hasUssd, 1);
+        QTRY_VERIFY_WITH_TIMEOUT(isRegistered() && status() == VRKS_DEV_STATUS_READY, Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(info().hasUssd, 1, Patience);
         QCOMPARE(VRKS_NetSrv_SendUssd("*100#"), 0L);
         QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_USSD_RESULT), Patience);
         QCOMPARE(ussd().state, int(VRKS_USSD_ANSWER));
