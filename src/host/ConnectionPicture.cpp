@@ -121,12 +121,25 @@ void describeUp(const ConnectionFacts& facts, Picture* picture) {
     }
 }
 
+// What befalls a connection that is up, and hardly one that is only dialled.
+bool tellsOfAnEnd(int failure) {
+    switch (failure) {
+        case VRKS_FAILURE_DROPPED:
+        case VRKS_FAILURE_ENDED_OUTSIDE:
+        case VRKS_FAILURE_SUSPENDED:
+        case VRKS_FAILURE_TAKEN:
+            return true;
+        default:
+            return false;
+    }
+}
+
 void describeFailure(const ConnectionFacts& facts, Picture* picture) {
     const bool wasAborted = facts.connection.failure == VRKS_FAILURE_CANCELLED;
     picture->hasFailed = facts.isDown() && !facts.failure.isEmpty() && !wasAborted;
     if (!picture->hasFailed) return;
     const QString& profile = facts.connection.name;
-    const bool wasUp = facts.connection.failure == VRKS_FAILURE_DROPPED;
+    const bool wasUp = tellsOfAnEnd(facts.connection.failure);
     picture->failedProfile = profile;
     picture->failureText = facts.failure;
     picture->failureTitle = profile.isEmpty()

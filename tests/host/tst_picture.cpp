@@ -167,6 +167,18 @@ private slots:
         QVERIFY(picture.hasFailed && picture.canUnlock && picture.sign == Picture::Attention);
     }
 
+    void saysWhatBefell_data() {
+        const Rows<int, QString> row("failure", "title");
+        row("never up", VRKS_FAILURE_AUTHENTICATION, "Could not connect with Work");
+        row("dropped", VRKS_FAILURE_DROPPED, "The connection with Work broke");
+        row("ended by another program", VRKS_FAILURE_ENDED_OUTSIDE, "The connection with Work broke");
+    }
+    void saysWhatBefell() {
+        ConnectionFacts facts = failedFacts();
+        facts.connection.failure = cell<int>("failure");
+        QTEST(Picture::of(facts).failureTitle, "title");
+    }
+
     void notices_data() {
         const Rows<int, int, QString> row("before", "now", "title");
         row("comes up", Down, Up, "Connected with Work");
