@@ -28,7 +28,7 @@ QString autostartFile() {
            QStringLiteral("/autostart/orbisdial.desktop");
 }
 
-// Quoted as the desktop entry specification wants it.
+// Quoted as the value of Exec in a desktop entry must be.
 QByteArray quoted(const QString& program) {
     QString text;
     for (const QChar c : program) {
