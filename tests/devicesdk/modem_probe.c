@@ -18,9 +18,14 @@ static void printStatus(void) {
     fflush(stdout);
 }
 
-static void onEvent(int event, void* exits) {
-    if (exits) exit(0);
+static void printChange(int event, void* unused) {
+    (void)unused;
     if (event == VRKS_EVENT_MODEM_CHANGED) printStatus();
+}
+
+static void endWithin(int event, void* unused) {
+    (void)event, (void)unused;
+    exit(0);
 }
 
 static int successesInChild(void) {
@@ -35,11 +40,11 @@ int main(int count, char** arguments) {
     const char* task = count > 1 ? arguments[1] : "";
     printStatus();
     if (strcmp(task, "once") == 0) return 0;
-    VRKS_DevSrv_RegisterEventCallback(onEvent, strcmp(task, "exit") == 0 ? &task : 0);
     if (strcmp(task, "fork") == 0) {
         printf("%d\n", successesInChild());
         return 0;
     }
+    VRKS_DevSrv_RegisterEventCallback(strcmp(task, "exit") == 0 ? endWithin : printChange, 0);
     while (getchar() != EOF) {
     }
     return 0;
