@@ -28,6 +28,7 @@
 #include "NetConnectStorageProblem.h"
 #include "NetConnectXMLParse.h"
 
+class NetConnectOperation;
 class QWidget;
 class UserStore;
 
@@ -127,6 +128,10 @@ public:
     // Puts a profile in the place of a user's profile, in one write: the default moves along with the flag
     // that it had, and a new name loses the langid. 114 when the new name is another profile's (nothing changes).
     int ReplaceDialUpProfile(const QString& oldName, const DialupProfile& profile);
+
+    // DelDialUpProfile and SaveDialUpProfile in one write, for callers that know no more than the profile. A password
+    // that can't be opened, which they get as empty, stays stored when they give it back so.
+    int OverwriteDialUpProfile(const DialupProfile& profile);
 
     // ReplaceDialUpProfile for an edit that took its time: a field in which what was entered differs from what was
     // shown takes the entered value, every other one what the file holds now.
@@ -271,6 +276,7 @@ private:
     bool translateUserProfiles();
     bool openPassword(DialupProfile* profile);
     void reportUnopened(const DialupProfile& profile);
+    int putInPlaceOf(const QString& oldName, const DialupProfile& profile, NetConnectOperation* operation);
     void keepUnopened(const DialupProfile& before, const DialupProfile& after);
     void fillFromDevice(DialupProfile* profile, const char* function);
     void removePreset(const QString& name);

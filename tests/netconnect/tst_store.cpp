@@ -105,18 +105,30 @@ private slots:
         QCOMPARE(logic()->LastStorageProblem().reason.contains("sealed password"), attributes.contains("orbis1:"));
     }
 
-    // What can't be opened is shown as empty, which is no wish to have it empty.
-    void anEditLosesNoPasswordThatCanNotBeOpened() {
+    // What can't be opened is shown as empty, which is no wish to have it empty. An edit by us, and by another plug-in,
+    // of the first of two profiles of one name.
+    void anEditLosesNothing_data() {
+        const Rows<bool, QByteArray> row("isOurs", "second");
+        row("ours", true, "");
+        row("another's", false, "");
+        row("another's, of two", false, profile("A", "apn='second'"));
+    }
+    void anEditLosesNothing() {
         shipConfig(section("Function", {"ENCRYPT=true"}));
-        setUser(profile("A", "password='orbis1:AAAA' encrypttype='2'"));
+        setUser(profile("A", "password='orbis1:AAAA' encrypttype='2'") + cell<QByteArray>("second"));
         restart();
+        const auto store = [](const DialupProfile& edited) {
+            return cell<bool>("isOurs") ? logic()->ReplaceDialUpProfile("A", edited)
+                                        : logic()->OverwriteDialUpProfile(edited);
+        };
         DialupProfile edited = fetch("A");
         edited.apn = "changed";
-        QCOMPARE(logic()->ReplaceDialUpProfile("A", edited), 0);
+        QCOMPARE(store(edited), 0);
         const QByteArray stored = read(userFile());
         QVERIFY2(stored.contains("password=\"orbis1:AAAA\"") && stored.contains("apn=\"changed\""), stored);
+        QCOMPARE(stored.contains("apn=\"second\""), !cell<QByteArray>("second").isEmpty());
         edited.password = "typed";
-        QCOMPARE(logic()->ReplaceDialUpProfile("A", edited), 0);
+        QCOMPARE(store(edited), 0);
         QCOMPARE(fetch("A").password, QString("typed"));
     }
 

@@ -254,18 +254,35 @@ int NetConnectSettingUILogic::ReplaceDialUpProfile(const QString& oldName, const
     DialupProfile stored = profile;
     if (isRenamed) stored.langid = QLatin1String("");
     if (m_strDefaultProfile == oldName && !oldName.isEmpty()) renameDefault(profile.name);
+    const int status = putInPlaceOf(oldName, stored, &operation);
+    return status == Success ? action.commit() : status;
+}
+
+int NetConnectSettingUILogic::OverwriteDialUpProfile(const DialupProfile& profile) {
+    const Hold hold(this);
+    if (!m_pXMLParse) return ObjectMissing;
+    NetConnectStoreAction action;
+    NetConnectOperation operation;
+    if (!HasUserProfile(profile.name)) removePreset(profile.name);
+    const int status = putInPlaceOf(profile.name, profile, &operation);
+    return status == Success ? action.commit() : status;
+}
+
+// Deletes the user's profile of the old name, if there is one, and adds another; inside an action.
+int NetConnectSettingUILogic::putInPlaceOf(const QString& oldName, const DialupProfile& profile,
+                                           NetConnectOperation* operation) {
     const int index = m_Store.find(oldName);
     const DialupProfile before = index >= 0 ? m_UserProfileList.at(index) : DialupProfile();
     if (index >= 0) DelDialUpProfile(oldName);
-    int status = AddDialUpProfile(stored);
-    if (status == NameTaken && sealPassword(&stored)) {
+    int status = AddDialUpProfile(profile);
+    DialupProfile stored = profile;
+    if (status == NameTaken && index >= 0 && sealPassword(&stored)) {
         // An import may have brought in two of that name: the edited one keeps its place before the other.
         m_UserProfileList.insert(index, stored);
-        status = operation.store();
+        status = operation->store();
     }
-    if (status != Success) return status;
-    keepUnopened(before, stored);
-    return action.commit();
+    if (status == Success) keepUnopened(before, profile);
+    return status;
 }
 
 // A password that can't be opened is shown as empty: an edit that leaves it so must not lose what is stored, which

@@ -1,5 +1,4 @@
 #include "NetConnectSettingUILogic.h"
-#include "NetConnectStoreAction.h"
 #include "NetConnectUIService.h"
 
 int CNetConnectUIService::IsIMSIROAMEnable() { return logic(false) ? m_pLogic->IsIMSIROAMSettingEnable() : 0; }
@@ -14,11 +13,7 @@ int CNetConnectUIService::GetDialUpProfile(QString name, DialupProfile* profile)
 
 int CNetConnectUIService::SaveDialUpProfile(DialupProfile profile) {
     if (!logic(false)) return StatusNoLogic;
-    {
-        NetConnectStoreAction action;
-        m_pLogic->DelDialUpProfile(profile.name);
-        if (m_pLogic->SaveDialUpProfile(profile) == 0) action.commit();  // or the old one would be lost
-    }
+    m_pLogic->OverwriteDialUpProfile(profile);
     rebuildList();
     if (m_Edit.open || !m_Page.profiles) return 0;
     selectProfile(profile.name);
