@@ -18,6 +18,7 @@ constexpr CommandOption Timeout{"timeout", "Wait no longer than so many seconds.
 constexpr CommandOption Hold{"hold", "Stay, and hang up on Ctrl-C.", nullptr};
 constexpr CommandOption Watch{"watch", "Stay, and show each change.", nullptr};
 constexpr CommandOption Roaming{"roaming", "While roaming, too.", nullptr};
+constexpr CommandOption Check{"check", "Tell what is wrong with the shipped files, or with these.", nullptr};
 constexpr CommandOption Operator{"operator", "What the SIM cards call their operator.", "NAME"};
 
 constexpr int Any = Command::AnyNumber;
@@ -47,7 +48,8 @@ const Command Commands[] = {
      restore},
     {"explain", "IMSI...", 1, Any, with(Operator),
      "Tell which presets SIM cards select; - reads IMSIs from standard input.", explainIMSIs},
-    {"config", "[KEY]", 0, 1, NoOptions, "Show a value of the function configuration, or all.", showConfiguration},
+    {"config", "[KEY] | --check [FILE...]", 0, Any, with(Check), "Show a value of the function configuration, or all.",
+     showConfiguration},
     {"device", "", 0, 0, NoOptions, "Show what the modem and its SIM card report, and the connection.", showDevice},
     {"modems", "", 0, 0, NoOptions, "List the modems; * marks the one in use.", listModems},
     {"modem", "[ID]", 0, 1, with(Clear), "Show the modem in use, or choose one by its key, IMEI or port.", chooseModem},

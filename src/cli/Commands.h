@@ -12,6 +12,9 @@ void listProfiles(const Invocation& invocation, Output& output);
 void showProfiles(const Invocation& invocation, Output& output);
 void showConfiguration(const Invocation& invocation, Output& output);
 
+// CheckCommand.cpp
+void checkShippedFiles(const Invocation& invocation, Output& output);
+
 // ChangingCommands.cpp
 QString settableFieldsHelp();  // what add and set take; ProfileFields.cpp
 void addProfile(const Invocation& invocation, Output& output);

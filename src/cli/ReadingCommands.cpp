@@ -53,6 +53,8 @@ void showProfiles(const Invocation& invocation, Output& output) {
 }
 
 void showConfiguration(const Invocation& invocation, Output& output) {
+    if (invocation.isSet("check")) return checkShippedFiles(invocation, output);
+    if (invocation.arguments().size() > 1) throw CommandError::usage("config takes one key; see config --check");
     ProfileSession session(ProfileSession::Reading);
     const QStringList all = session->FunctionConfigKeys();
     const QStringList keys = invocation.arguments().isEmpty() ? all : invocation.arguments();

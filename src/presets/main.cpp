@@ -7,12 +7,14 @@
 #include <QDir>
 #include <new>
 
+#include "FilesCheck.h"
 #include "OperatorDatabase.h"
 #include "PresetCatalogue.h"
 #include "PresetError.h"
 #include "PresetFiles.h"
 #include "ProgramStart.h"
 #include "StandardOutput.h"
+#include "TerminalText.h"
 
 namespace {
 
@@ -23,6 +25,7 @@ struct Options {
     QString configTemplate;
     QString libraryTemplate;
     QString outputDir;
+    QStringList files;  // to check
 };
 
 void say(const QString& line) { StandardOutput::writeDiagnostic("orbis-presets", line); }
@@ -41,6 +44,7 @@ void describeOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(
         "Makes ProfileLib.prof and NetConnectConfig.xml: the presets of the operator database, merged with a "
         "hand-written profile library and configuration; and Operators.xml, which tells whose they are.");
+    parser.addPositionalArgument("FILE", "What to check, with --check.", "[FILE...]");
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({
@@ -50,11 +54,14 @@ void describeOptions(QCommandLineParser& parser) {
         {"library-template", "The profiles that come before the presets.", "FILE",
          installedTemplate("ProfileLib.template.prof")},
         {"output-dir", "The folder for the three files, which must exist.", "DIR"},
+        {"check", "Tell what is wrong with the two templates, or with these files, and write none."},
     });
 }
 
 // What is wrong with the command line, or empty text.
 QString usageProblem(const QCommandLineParser& parser) {
+    if (parser.isSet("check"))
+        return parser.isSet("output-dir") ? QString("--check writes nothing into an --output-dir") : QString();
     if (!parser.positionalArguments().isEmpty())
         return QString("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst());
     return parser.isSet("output-dir") ? QString() : QString("--output-dir is missing");
@@ -66,10 +73,43 @@ QStringList namesOf(const QList<DialupProfile>& profiles) {
     return names;
 }
 
-void makePresets(const Options& options) {
+QList<Provider> readProviders(const QString& database) {
     QStringList warnings;
-    const QList<Provider> providers = readOperatorDatabase(options.database, &warnings);
+    const QList<Provider> providers = readOperatorDatabase(database, &warnings);
     for (const QString& warning : qAsConst(warnings)) say(warning);
+    return providers;
+}
+
+QStringList readNames(const QString& library) {
+    try {
+        return namesOf(PresetFiles::readProfiles(library));
+    } catch (const PresetError&) {  // which the check tells better
+        return {};
+    }
+}
+
+// Without files, what makePresets() would read. The library that names are looked for in is the one that it would make.
+FilesToCheck filesToCheck(const Options& options) {
+    const bool areNamed = !options.files.isEmpty();
+    const PresetCatalogue catalogue =
+        buildCatalogue(readProviders(options.database), readNames(options.libraryTemplate));
+    FilesToCheck what;
+    what.files = areNamed ? options.files : QStringList{options.configTemplate, options.libraryTemplate};
+    what.libraries = QStringList(options.libraryTemplate);
+    what.presets = namesOf(catalogue.profiles);
+    what.presetSections = areNamed ? PresetSections::Allowed : PresetSections::Required;
+    return what;
+}
+
+ExitStatus check(const Options& options) {
+    const QList<Finding> findings = checkFiles(filesToCheck(options));
+    for (const Finding& finding : findings) print(TerminalText::printable(finding.asLine()) + '\n');
+    if (findings.isEmpty()) print("nothing to mend\n");
+    return findings.isEmpty() ? Done : Failed;
+}
+
+void makePresets(const Options& options) {
+    const QList<Provider> providers = readProviders(options.database);
     const QList<DialupProfile> handWritten = PresetFiles::readProfiles(options.libraryTemplate);
     const PresetCatalogue catalogue = buildCatalogue(providers, namesOf(handWritten));
     if (catalogue.profiles.isEmpty()) throw PresetError(options.database + ": no provider has a usable access point");
@@ -98,8 +138,10 @@ ExitStatus run(const QCommandLineParser& parser) {
         say(wrong);
         return WrongUsage;
     }
-    makePresets({parser.value("database"), parser.value("template"), parser.value("library-template"),
-                 parser.value("output-dir")});
+    const Options options{parser.value("database"), parser.value("template"), parser.value("library-template"),
+                          parser.value("output-dir"), parser.positionalArguments()};
+    if (parser.isSet("check")) return check(options);
+    makePresets(options);
     return Done;
 }
 

@@ -112,6 +112,31 @@ private slots:
         QVERIFY2(!help.contains("langid"), help);
     }
 
+    void check() {
+        const OrbisctlFixture fixture;
+        const Outcome found = fixture.run({"config", "--check"});  // 26201 hides 262, and the system file is a stub
+        QVERIFY2(found.out.contains("NetConnectConfig.xml:21:13: ") && found.out.count('\n') == 1, found.out);
+        COMPARE_REFUSED(found, 1, "1 fault");
+        const QJsonObject json = fixture.run({"--json", "config", "--check"}).json();
+        QCOMPARE(json["findings"].toArray().at(0).toObject()["line"].toInt(), 21);
+        QCOMPARE(fixture.run({"-f", "line,column", "config", "--check"}).out, QByteArray("21\t13\n"));
+
+        TestFolder::write(fixture.path("ok.prof"), "<vrksdoc/>");
+        COMPARE_DONE(fixture.run({"config", "--check", fixture.path("ok.prof")}));
+        COMPARE_REFUSED(fixture.run({"config", "--check", fixture.path("none")}), 1, "1 fault");
+        COMPARE_REFUSED(fixture.run({"config", "IMSIAPN", "ENCRYPT"}), 2, "one key");
+    }
+
+    // As they are built and will be installed.
+    void whatWeShipIsClean() {
+        QStringList files;
+        for (const char* name : {"NetConnectConfig.xml", "ProfileLib.prof", "SysProfile.prof", "Operators.xml"})
+            files.append(QString(ORBISDIAL_LIBRARY_DIR "/plugins/NetConnectPlugin/") + name);
+        const OrbisctlFixture fixture;
+        const Outcome outcome = fixture.run(QStringList{"config", "--check"} + files);
+        QVERIFY2(outcome.status == 0, outcome.out);
+    }
+
     void listTellsSourcesAndDefault() {
         const OrbisctlFixture fixture;
         fixture.writeUser("<Profile name='Gr\u00fc\u00df&#x9b;2J'/>");  // a control sequence for terminals

@@ -113,6 +113,27 @@ class tst_presets : public QObject {
     Q_OBJECT
 
 private slots:
+    // Templates name what the library will have; what they became is judged as it is.
+    void checks() {
+        const TestFolder folder;
+        const QString data = ORBISDIAL_SOURCE_DIR "/data/";
+        const QStringList ours{"--check", "--template", data + "NetConnectConfig.template.xml", "--library-template",
+                               data + "ProfileLib.template.prof"};
+        const Outcome clean = runProgram(PRESET_TOOL, ours);
+        QVERIFY2(clean.status == 0 && clean.err.isEmpty(), clean.out + clean.err);
+        const QByteArray wrong = TestFolder::read(ours.at(2)).replace("Generic GSM", "Generic LTE");
+        TestFolder::write(folder.path("wrong.xml"), wrong);
+        const Outcome found =
+            runProgram(PRESET_TOOL, ours.mid(0, 2) + QStringList{folder.path("wrong.xml")} + ours.mid(3));
+        QVERIFY2(found.out.contains("wrong.xml:81:17: the library has no profile \"Generic LTE\""), found.out);
+        QCOMPARE(found.status, 1);
+        QCOMPARE(runProgram(PRESET_TOOL, {"--check", Shipped + "NetConnectConfig.xml", Shipped + "ProfileLib.prof",
+                                          Shipped + "Operators.xml"})
+                     .status,
+                 0);
+        QCOMPARE(runProgram(PRESET_TOOL, {"--check", "--output-dir", folder.path("")}).status, 2);
+    }
+
     void writesExactlyTheExpectedFiles() {
         Tool tool;
         QCOMPARE(tool.runOn(TestFolder::read(Data + "operators.xml"), TestFolder::read(Data + "config.template.xml"),

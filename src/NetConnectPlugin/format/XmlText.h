@@ -31,6 +31,8 @@ QString clean(const QString& text);
 // A document of more elements is refused, and none is written: each costs far more memory than bytes of the file.
 enum { MostElements = 1000000 };
 
+const qint64 LargestDocument = 256 * 1024 * 1024;  // bytes; a larger file is neither read nor written
+
 // Why a document can't be given to the reader at all, in English; null when it can. Whatever encoding it has, the
 // reader's time and memory stay in proportion to its size then; without that a hostile element of very many
 // attributes would hold the program up for hours.

@@ -6,11 +6,12 @@
 #include <QString>
 
 #include "FilePlace.h"
+#include "XmlText.h"
 
 // Links are followed as FilePlace says; reasons are in English.
 namespace FileReplacement {
 
-const qint64 LargestFile = 256 * 1024 * 1024;  // bytes; a larger one is neither read nor written
+const qint64 LargestFile = XmlText::LargestDocument;
 
 // Who owns and who may read a new file.
 enum Purpose {

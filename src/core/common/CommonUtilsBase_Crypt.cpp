@@ -5,11 +5,12 @@
 #include <vector>
 
 #include "CommonUtilsBase.h"
+#include "SealedText.h"
 
 namespace {
 
-constexpr char Mark[] = "orbis1:";
-constexpr std::size_t MarkLength = sizeof Mark - 1;
+constexpr const char* Mark = SealedTextMark;
+constexpr std::size_t MarkLength = sizeof SealedTextMark - 1;
 constexpr int Base64 = sodium_base64_VARIANT_ORIGINAL;
 
 constexpr std::size_t NonceSize = crypto_secretbox_NONCEBYTES;
