@@ -117,7 +117,10 @@ QList<OperatorEntry> operatorsOf(const QVector<Preset>& presets) {
         std::stable_sort(own.begin(), own.end(),
                          [](const Preset& a, const Preset& b) { return a.point.usage < b.point.usage; });
         operators.append(entryOf(*first->provider));
-        for (const Preset& preset : qAsConst(own)) operators.last().presets.append(preset.name);
+        for (const Preset& preset : qAsConst(own)) {
+            operators.last().presets.append(preset.name);
+            operators.last().plans.append({preset.point.label, preset.point.plan});
+        }
     }
     return operators;
 }

@@ -80,19 +80,24 @@ void writeBalanceQuery(const BalanceQuery& query, QXmlStreamWriter* out) {
     if (!query.text.isEmpty()) out->writeAttribute("text", query.text);
 }
 
-void writeNamed(const QString& element, const QStringList& names, QXmlStreamWriter* out) {
-    for (const QString& name : names) {
-        out->writeEmptyElement(element);
-        out->writeAttribute("name", name);
-    }
+void writeAlias(const QString& name, QXmlStreamWriter* out) {
+    out->writeEmptyElement("alias");
+    out->writeAttribute("name", name);
+}
+
+void writePreset(const QString& name, const PresetPlan& plan, QXmlStreamWriter* out) {
+    out->writeEmptyElement("preset");
+    out->writeAttribute("name", name);
+    if (!plan.name.isEmpty()) out->writeAttribute("plan", plan.name);
+    if (!plan.billing.isEmpty()) out->writeAttribute("billing", plan.billing);
 }
 
 void writeOperator(const OperatorEntry& entry, QXmlStreamWriter* out) {
     out->writeStartElement("operator");
     out->writeAttribute("country", entry.country);
     out->writeAttribute("name", entry.names.first());
-    writeNamed("alias", entry.names.mid(1), out);
-    writeNamed("preset", entry.presets, out);
+    for (const QString& alias : entry.names.mid(1)) writeAlias(alias, out);
+    for (int i = 0; i < entry.presets.size(); ++i) writePreset(entry.presets.at(i), entry.plans.at(i), out);
     for (const BalanceQuery& query : entry.balanceQueries) writeBalanceQuery(query, out);
     out->writeEndElement();
 }

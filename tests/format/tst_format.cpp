@@ -195,7 +195,8 @@ private slots:
         const QByteArray operators =
             "<operator country=\"de\" name=\"Host\"><preset name=\"A\"/></operator>"
             "<operator country=\"de\" name=\"Guest\"><alias name=\"Gast\"/><preset name=\"B1\"/>"
-            "<preset name=\"B2\"/><balance way=\"ussd\" number=\"*100#\"/><balance way=\"pigeon\" number=\"1\"/>"
+            "<preset name=\"B2\" plan=\"Flat &gt; 5\" billing=\"prepaid\"/><balance way=\"ussd\" "
+            "number=\"*100#\"/><balance way=\"pigeon\" number=\"1\"/>"
             "<balance way=\"sms\" number=\"123\" text=\"a &amp; b\"/></operator>";
         for (const char* before : {"<Operators>", "<!-- x --><Operators xmlns='x'>"}) {  // the second is Qt's
             QXmlStreamReader reader;
@@ -204,6 +205,8 @@ private slots:
             QTEST(index.proposalFor("gast", offered, marked).preset, "proposal");
             const OperatorEntry* entry = index.operatorOf("B2");
             QVERIFY(entry && index.operatorOf("A") != entry && !index.operatorOf("X"));
+            QCOMPARE(entry->plans.last().name + entry->plans.last().billing, QString("Flat > 5prepaid"));
+            QCOMPARE(entry->plans.size(), entry->presets.size());
             QCOMPARE(entry->balanceQueries.size(), 2);
             QCOMPARE(entry->balanceQueries.first().way, BalanceQuery::Ussd);
             QCOMPARE(entry->balanceQueries.last().text, QString("a & b"));

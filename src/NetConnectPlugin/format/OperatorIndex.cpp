@@ -63,7 +63,11 @@ void OperatorIndex::start(const Element& element) {
     if (m_Operators.isEmpty()) return;
     OperatorEntry& entry = m_Operators.last();
     if (element.isNamed("alias")) entry.names.append(name);
-    if (element.isNamed("preset")) entry.presets.append(name);
+    if (element.isNamed("preset")) {
+        entry.presets.append(name);
+        const PresetPlan plan = {element.value("plan"), element.value("billing")};
+        entry.plans.append(plan);
+    }
     if (!element.isNamed("balance")) return;
     BalanceQuery query;
     query.way = BalanceQuery::wayOf(element.value("way"));

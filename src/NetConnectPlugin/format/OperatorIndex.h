@@ -1,5 +1,5 @@
-// Operators.xml: which operators the library's presets belong to, what their SIM cards may call them, and how their
-// balance is asked for. Written by orbis-presets; read here.
+// Operators.xml: which operators and plans the library's presets belong to, what their SIM cards may call them, and how
+// their balance is asked for. Written by orbis-presets; read here.
 #ifndef ORBISDIAL_OPERATORINDEX_H
 #define ORBISDIAL_OPERATORINDEX_H
 
@@ -24,10 +24,17 @@ struct BalanceQuery {
     QString text;    // of the message; may be empty
 };
 
+// What an operator sells, as it calls it, and how it is paid; either is empty where nobody says.
+struct PresetPlan {
+    QString name;
+    QString billing;  // "prepaid" or "postpaid"
+};
+
 struct OperatorEntry {
     QString country;                     // ISO 3166-1 alpha-2, lower case
     QStringList names;                   // the usual one first; never empty
     QStringList presets;                 // as the library stores their names, the likeliest for the internet first
+    QList<PresetPlan> plans;             // each preset's, at its place
     QList<BalanceQuery> balanceQueries;  // the usual one first
 };
 
