@@ -6,6 +6,7 @@
 //   logic/NetConnectSettingUILogic_Merge.cpp     edits that meet another program's
 //   logic/NetConnectSettingUILogic_Default.cpp   the default profile
 //   logic/NetConnectSettingUILogic_Lists.cpp     presets by IMSI and by configuration
+//   logic/NetConnectSettingUILogic_Presets.cpp   the shipped library, operator by operator
 //   logic/NetConnectSettingUILogic_Config.cpp    function configuration
 //   logic/NetConnectSettingUILogic_Password.cpp  sealing of passwords
 //   logic/NetConnectSettingUILogic_Transfer.cpp  import and export
@@ -25,6 +26,7 @@
 #include <QStringList>
 #include <atomic>
 
+#include "IPresetLibrary.h"
 #include "NetConnectStorageProblem.h"
 #include "NetConnectXMLParse.h"
 
@@ -201,6 +203,16 @@ public:
     // True when the configuration names presets by IMSI at all; a customised configuration may empty them.
     bool HasIMSIPresets() const;
 
+    // --- the shipped library ---
+
+    // Whose its presets are; last, without a country and a name, those of nobody knows whom.
+    QList<PresetOperator> Operators();
+
+    // A shipped preset as it is, whatever the user has under its name; false when there is none.
+    bool GetLibraryProfile(const QString& name, DialupProfile* profile);
+
+    bool HasUserProfiles() const;
+
     // --- function configuration ---
 
     int GetFunctionConfigValue(QString key, bool* on);
@@ -297,6 +309,7 @@ private:
     QString shownLibraryName(const QString& name);
     void proposeForOperator(const QString& cardOperator, const QList<IMSIINFO>& rows,
                             NetConnectIMSISelection* selection);
+    void addPreset(const QString& name, const PresetPlan& plan, PresetOperator* to);
     void refreshLibraryNames();
     void collectLangids(const QList<DialupProfile>& library);
     QString translatedLibraryName(const QString& name);

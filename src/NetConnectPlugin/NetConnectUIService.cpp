@@ -7,6 +7,7 @@
 #include "CommonUtils.h"
 #include "NetConnectAdvancedSettingDlg.h"
 #include "NetConnectPageWatch.h"
+#include "NetConnectPresetLibrary.h"
 #include "NetConnectReloadGate.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectWipe.h"
@@ -39,6 +40,8 @@ void CNetConnectUIService::Destroy() {
 
 void CNetConnectUIService::OnDestroy() {
     m_pReloadGate->close();
+    delete m_pPresetLibrary;
+    m_pPresetLibrary = nullptr;
     NetConnectSettingUILogic::Destroy();
     NetConnectAdvancedSettingDlg::Destroy();
     m_pLogic = nullptr;
@@ -79,6 +82,8 @@ bool CNetConnectUIService::Init() {
     connect(this, SIGNAL(SysModeChangedSignal()), this, SLOT(onDeviceInitailize()), Qt::UniqueConnection);
     m_pLogic->PublishStatus(this);
     m_pLogic->RegisterDevice();
+    m_pPresetLibrary = new NetConnectPresetLibrary(m_pLogic, this);
+    connect(m_pPresetLibrary, SIGNAL(added(QString)), this, SLOT(onProfileAdded(QString)));
     initailizeUI();
     if (m_pAdvancedDlg) m_pAdvancedDlg->InitAdvanceUI(m_pNetConnectWidget);
     enableDisableUiWidget(false);

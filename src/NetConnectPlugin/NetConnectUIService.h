@@ -11,6 +11,7 @@
 //   page/NetConnectUIService_Validation.cpp  what a profile must be to be saved
 //   page/NetConnectUIService_Transfer.cpp    the import/export dialog
 //   page/NetConnectPageWatch.h               what happens around the page
+//   page/NetConnectPresetLibrary.h           the world's presets for other plug-ins
 #ifndef ORBISDIAL_NETCONNECTUISERVICE_H
 #define ORBISDIAL_NETCONNECTUISERVICE_H
 
@@ -41,6 +42,7 @@
 
 class NetConnectAdvancedSettingDlg;
 class NetConnectPageWatch;
+class NetConnectPresetLibrary;
 class NetConnectReloadGate;
 class NetConnectSettingUILogic;
 
@@ -115,6 +117,7 @@ private slots:
     void onFileSelected(QString path);
     void onClickDialupProfileItem(QTreeWidgetItem* pParent, int index);
     void onDeviceInitailize();
+    void onProfileAdded(const QString& name);
 
 private:
     friend class NetConnectPageWatch;
@@ -329,13 +332,14 @@ private:
     int m_nOperation = Idle;
 
     OpenEdit m_Edit;
-    NetConnectReloadGate* m_pReloadGate;         // before onDeviceInitailize(), for the device's events
-    QPointer<NetConnectPageWatch> m_pPageWatch;  // the page's
-    int m_nShownRevision = 0;                    // of the user's file, as the list shows it
-    bool m_bBrowsed = false;                     // a file that may be imported from left its default in the logic
-    bool m_bImporting = false;                   // a clash question may be on screen
-    bool m_bReloadPending = false;               // a reload that came meanwhile
-    bool m_bListAwaited = false;                 // the list is filled after the page's first paint
+    NetConnectPresetLibrary* m_pPresetLibrary = nullptr;  // while there is a page
+    NetConnectReloadGate* m_pReloadGate;                  // before onDeviceInitailize(), for the device's events
+    QPointer<NetConnectPageWatch> m_pPageWatch;           // the page's
+    int m_nShownRevision = 0;                             // of the user's file, as the list shows it
+    bool m_bBrowsed = false;        // a file that may be imported from left its default in the logic
+    bool m_bImporting = false;      // a clash question may be on screen
+    bool m_bReloadPending = false;  // a reload that came meanwhile
+    bool m_bListAwaited = false;    // the list is filled after the page's first paint
 };
 
 #endif

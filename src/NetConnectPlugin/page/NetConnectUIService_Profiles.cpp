@@ -21,6 +21,14 @@ int CNetConnectUIService::SaveDialUpProfile(DialupProfile profile) {
     return 0;
 }
 
+void CNetConnectUIService::onProfileAdded(const QString& name) {
+    rebuildListUnderSelection();
+    if (!m_Edit.open) selectProfile(name);
+    if (!notifyService()) findNotifyService();
+    notifyProfilesChanged(ORBISDIAL_DIALUP_CLSID);
+    notifyProfilesChanged(ORBISDIAL_HOST_LISTENER_CLSID);
+}
+
 int CNetConnectUIService::GetDefaultDialUpProfileName(QString* name) {
     if (!name || !logic(true)) return StatusNoLogic;
     QList<QString> names;

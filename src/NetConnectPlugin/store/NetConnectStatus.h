@@ -8,6 +8,7 @@ enum {
     NoXMLParse = 1,
     ReadError = 6,       // a file is not well-formed
     ObjectMissing = 13,  // a needed object is missing
+    NameRefused = 22,    // a profile can't have the name
     FileMissing = 23,    // also: an argument that must not be null is null
     FileNotOpened = 25,  // a file can't be opened, written or locked
     NothingImported = 113,
