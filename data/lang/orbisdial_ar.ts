@@ -500,7 +500,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
-        <translation>ملف التعريف هذا معدّ مسبقًا. لتغييره، اضغط «جديد» وأدخل قيمه باسم آخر.</translation>
+        <translation>ملف التعريف هذا معدّ مسبقًا. لتغييره، أغلق الإعدادات واضغط Ctrl+N في النافذة الرئيسية: يُنشأ ملف تعريف خاص بك بالقيم نفسها.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
@@ -702,6 +702,146 @@
         <translation>الإعدادات الجاهزة لبطاقة SIM هذه</translation>
     </message>
     <message>
+        <source>IDS_HOST_PRESETS</source>
+        <translation>الإعدادات الجاهزة…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_TITLE</source>
+        <translation>الإعدادات الجاهزة لمشغّلي العالم</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH</source>
+        <translation>بحث:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH_HINT</source>
+        <translation>البلد أو المشغّل أو الباقة أو APN أو رمز الشبكة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_LIST</source>
+        <translation>البلدان والمشغّلون والباقات</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_NAME</source>
+        <translation>البلد، المشغّل، الباقة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COUNT</source>
+        <translation>عدد الباقات: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_NONE</source>
+        <translation>لم يُعثر على شيء. جرّب كلمات أقل أو تهجئة أخرى.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_OTHER</source>
+        <translation>إعدادات جاهزة أخرى</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_PREPAID</source>
+        <translation>%1 (مسبق الدفع)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_POSTPAID</source>
+        <translation>%1 (باشتراك)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_HINT</source>
+        <translation>اختر باقة لعرض إعداداتها.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_USE</source>
+        <translation>استخدام كملف تعريف جديد…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_COUNTRY</source>
+        <translation>البلد:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_OPERATOR</source>
+        <translation>المشغّل:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PLAN</source>
+        <translation>الباقة:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN</source>
+        <translation>APN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN_AUTOMATIC</source>
+        <translation>تحدّده الشبكة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_NUMBER</source>
+        <translation>رقم الاتصال:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_USER</source>
+        <translation>اسم المستخدم:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_ASKED</source>
+        <translation>يُطلب عند الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PASSWORD</source>
+        <translation>كلمة المرور:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_AUTHENTICATION</source>
+        <translation>المصادقة:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_DNS</source>
+        <translation>DNS:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_CODES</source>
+        <translation>رموز الشبكة:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_FROM</source>
+        <translation>جديد من هذا…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_TITLE</source>
+        <translation>ملف تعريف جديد</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_INTRO</source>
+        <translation>ملف تعريف خاص بك بقيم «%1». يمكنك تغييرها في الإعدادات.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_NAME</source>
+        <translation>الاسم:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_DEFAULT</source>
+        <translation>تعيين كافتراضي</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_CONNECTED</source>
+        <translation>لا يمكن تغيير ملف التعريف الافتراضي أثناء الاتصال.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_MAKE</source>
+        <translation>إنشاء</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR</source>
+        <translation>اختيار المشغّل…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
+        <translation>لا يوجد إعداد جاهز معروف لبطاقة SIM هذه. اختر المشغّل أو أي ملف تعريف أدناه.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SETTINGS</source>
         <translation>الإعدادات…</translation>
     </message>
@@ -745,7 +885,7 @@
         <source>IDS_HOST_ABOUT_TEXT</source>
         <translation>مدير اتصال لأجهزة مودم النطاق العريض المحمول.
 
-رخصة MIT. يستخدم Qt %1 (LGPL) وlibsodium (ISC) وقاعدة البيانات العامة mobile-broadband-provider-info.</translation>
+رخصة MIT. يستخدم Qt %1 (LGPL) وlibsodium (ISC) وICU (Unicode) وICU (Unicode) وقاعدة البيانات العامة mobile-broadband-provider-info.</translation>
     </message>
     <message>
         <source>IDS_HOST_CLOSE</source>

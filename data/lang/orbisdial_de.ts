@@ -500,7 +500,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
-        <translation>Dieses Profil ist vorgegeben. Um es zu ändern, drücken Sie „Neu“ und geben Sie seine Werte unter einem anderen Namen ein.</translation>
+        <translation>Dieses Profil ist vorgegeben. Um es zu ändern, schließen Sie die Einstellungen und drücken Sie im Hauptfenster Strg+N: Das legt ein eigenes Profil mit denselben Werten an.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
@@ -702,6 +702,146 @@
         <translation>Vorgaben für diese SIM-Karte</translation>
     </message>
     <message>
+        <source>IDS_HOST_PRESETS</source>
+        <translation>Vorgaben…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_TITLE</source>
+        <translation>Vorgaben der Anbieter weltweit</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH_HINT</source>
+        <translation>Land, Anbieter, Tarif, APN oder Netzkennung</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_LIST</source>
+        <translation>Länder, Anbieter und Tarife</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_NAME</source>
+        <translation>Land, Anbieter, Tarif</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COUNT</source>
+        <translation>Tarife: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_NONE</source>
+        <translation>Nichts gefunden. Versuchen Sie es mit weniger Wörtern oder einer anderen Schreibweise.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_OTHER</source>
+        <translation>Weitere Vorgaben</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_PREPAID</source>
+        <translation>%1 (Prepaid)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_POSTPAID</source>
+        <translation>%1 (Vertrag)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_HINT</source>
+        <translation>Wählen Sie einen Tarif, um seine Werte zu sehen.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_USE</source>
+        <translation>Als neues Profil verwenden…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_COUNTRY</source>
+        <translation>Land:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_OPERATOR</source>
+        <translation>Anbieter:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PLAN</source>
+        <translation>Tarif:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN</source>
+        <translation>APN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN_AUTOMATIC</source>
+        <translation>vom Netz bestimmt</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_NUMBER</source>
+        <translation>Einwahlnummer:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_USER</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_ASKED</source>
+        <translation>wird beim Verbinden erfragt</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PASSWORD</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_AUTHENTICATION</source>
+        <translation>Authentifizierung:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_DNS</source>
+        <translation>DNS:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_CODES</source>
+        <translation>Netzkennungen:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_FROM</source>
+        <translation>Neu aus diesem…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_TITLE</source>
+        <translation>Neues Profil</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_INTRO</source>
+        <translation>Ein eigenes Profil mit den Werten von „%1“. Ändern können Sie sie in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_NAME</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_DEFAULT</source>
+        <translation>Als Standard verwenden</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_CONNECTED</source>
+        <translation>Der Standard kann nicht geändert werden, solange eine Verbindung besteht.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_MAKE</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR</source>
+        <translation>Anbieter wählen…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
+        <translation>Für diese SIM-Karte ist keine Vorgabe bekannt. Wählen Sie Ihren Anbieter oder unten ein Profil.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SETTINGS</source>
         <translation>Einstellungen…</translation>
     </message>
@@ -745,7 +885,7 @@
         <source>IDS_HOST_ABOUT_TEXT</source>
         <translation>Ein Verbindungsmanager für Mobilfunkmodems.
 
-MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC) und der gemeinfreien Datenbank mobile-broadband-provider-info.</translation>
+MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der gemeinfreien Datenbank mobile-broadband-provider-info.</translation>
     </message>
     <message>
         <source>IDS_HOST_CLOSE</source>

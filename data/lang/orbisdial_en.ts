@@ -623,8 +623,8 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
-        <extracomment>Tool tip of the disabled buttons Edit and Delete: the profile comes with the configuration. Names the button New as it is written there.</extracomment>
-        <translation>This profile is a preset. To change it, press New and enter its values under another name.</translation>
+        <extracomment>Tool tip of the disabled buttons Edit and Delete: the profile comes with the configuration. Says how a profile of the user's own is made from it.</extracomment>
+        <translation>This profile is a preset. To change it, close the settings and press Ctrl+N in the main window: that makes a profile of your own with the same values.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
@@ -869,6 +869,152 @@
         <translation>Presets for this SIM card</translation>
     </message>
     <message>
+        <source>IDS_HOST_PRESETS</source>
+        <translation>Presets…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_TITLE</source>
+        <translation>Presets of the World's Operators</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH</source>
+        <translation>Search:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH_HINT</source>
+        <translation>Country, operator, plan, APN or network code</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_LIST</source>
+        <translation>Countries, operators and plans</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_NAME</source>
+        <translation>Country, operator, plan</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COUNT</source>
+        <extracomment>Line below the list of the world's presets; %1 is how many plans are shown.</extracomment>
+        <translation>Plans: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_NONE</source>
+        <translation>Nothing found. Try fewer words, or another spelling.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_OTHER</source>
+        <translation>Other presets</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_PREPAID</source>
+        <extracomment>A plan (%1) that is paid in advance.</extracomment>
+        <translation>%1 (prepaid)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_POSTPAID</source>
+        <extracomment>A plan (%1) that is paid by contract, afterwards.</extracomment>
+        <translation>%1 (contract)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_HINT</source>
+        <translation>Choose a plan to see what it sets.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_USE</source>
+        <translation>Use as a new profile…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_COUNTRY</source>
+        <translation>Country:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_OPERATOR</source>
+        <translation>Operator:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PLAN</source>
+        <translation>Plan:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN</source>
+        <translation>APN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN_AUTOMATIC</source>
+        <translation>chosen by the network</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_NUMBER</source>
+        <translation>Access number:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_USER</source>
+        <translation>User name:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_ASKED</source>
+        <translation>asked for when connecting</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PASSWORD</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_AUTHENTICATION</source>
+        <translation>Authentication:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_DNS</source>
+        <translation>DNS:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_CODES</source>
+        <translation>Network codes:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_FROM</source>
+        <extracomment>Menu entry and tool tip: makes a profile of the user's own from the one that is chosen.</extracomment>
+        <translation>New from this one…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_TITLE</source>
+        <translation>New Profile</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_INTRO</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>A profile of your own with the values of "%1". You can change them in the settings.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_NAME</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_DEFAULT</source>
+        <translation>Make it the default</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_CONNECTED</source>
+        <translation>The default can't be changed while a connection is up.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_MAKE</source>
+        <translation>Create</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR</source>
+        <extracomment>The window's large button on a first start with an unknown SIM card; up to 22 characters.</extracomment>
+        <translation>Choose operator…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
+        <translation>No preset is known for this SIM card. Choose your operator, or any profile below.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SETTINGS</source>
         <translation>Settings…</translation>
     </message>
@@ -912,7 +1058,7 @@
         <source>IDS_HOST_ABOUT_TEXT</source>
         <translation>A connection manager for mobile-broadband modems.
 
-MIT licence. Made with Qt %1 (LGPL), libsodium (ISC) and the public-domain database mobile-broadband-provider-info.</translation>
+MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the public-domain database mobile-broadband-provider-info.</translation>
     </message>
     <message>
         <source>IDS_HOST_CLOSE</source>

@@ -500,7 +500,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
-        <translation>Este perfil está predefinido. Para cambiarlo, pulse «Nuevo» e introduzca sus valores con otro nombre.</translation>
+        <translation>Este perfil está predefinido. Para cambiarlo, cierre los ajustes y pulse Ctrl+N en la ventana principal: se creará un perfil propio con los mismos valores.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
@@ -702,6 +702,146 @@
         <translation>Preajustes para esta tarjeta SIM</translation>
     </message>
     <message>
+        <source>IDS_HOST_PRESETS</source>
+        <translation>Preajustes…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_TITLE</source>
+        <translation>Preajustes de los operadores de todo el mundo</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH</source>
+        <translation>Buscar:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH_HINT</source>
+        <translation>País, operador, tarifa, APN o código de red</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_LIST</source>
+        <translation>Países, operadores y tarifas</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_NAME</source>
+        <translation>País, operador, tarifa</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COUNT</source>
+        <translation>Tarifas: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_NONE</source>
+        <translation>No se encontró nada. Pruebe con menos palabras o con otra grafía.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_OTHER</source>
+        <translation>Otros preajustes</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_PREPAID</source>
+        <translation>%1 (prepago)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_POSTPAID</source>
+        <translation>%1 (contrato)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_HINT</source>
+        <translation>Elija una tarifa para ver sus valores.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_USE</source>
+        <translation>Usar como perfil nuevo…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_COUNTRY</source>
+        <translation>País:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_OPERATOR</source>
+        <translation>Operador:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PLAN</source>
+        <translation>Tarifa:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN</source>
+        <translation>APN:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN_AUTOMATIC</source>
+        <translation>lo elige la red</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_NUMBER</source>
+        <translation>Número de acceso:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_USER</source>
+        <translation>Usuario:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_ASKED</source>
+        <translation>se pide al conectar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PASSWORD</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_AUTHENTICATION</source>
+        <translation>Autenticación:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_DNS</source>
+        <translation>DNS:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_CODES</source>
+        <translation>Códigos de red:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_FROM</source>
+        <translation>Nuevo a partir de este…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_TITLE</source>
+        <translation>Perfil nuevo</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_INTRO</source>
+        <translation>Un perfil propio con los valores de «%1». Puede cambiarlos en los ajustes.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_NAME</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_DEFAULT</source>
+        <translation>Usar por defecto</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_CONNECTED</source>
+        <translation>El perfil predeterminado no se puede cambiar durante una conexión.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_MAKE</source>
+        <translation>Crear</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR</source>
+        <translation>Elegir operador…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
+        <translation>No se conoce ningún preajuste para esta tarjeta SIM. Elija su operador o un perfil de los de abajo.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SETTINGS</source>
         <translation>Ajustes…</translation>
     </message>
@@ -745,7 +885,7 @@
         <source>IDS_HOST_ABOUT_TEXT</source>
         <translation>Un gestor de conexiones para módems de banda ancha móvil.
 
-Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC) y la base de datos de dominio público mobile-broadband-provider-info.</translation>
+Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base de datos de dominio público mobile-broadband-provider-info.</translation>
     </message>
     <message>
         <source>IDS_HOST_CLOSE</source>

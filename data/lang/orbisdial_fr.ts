@@ -500,7 +500,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
-        <translation>Ce profil est prédéfini. Pour le modifier, appuyez sur «&#xa0;Nouveau&#xa0;» et saisissez ses valeurs sous un autre nom.</translation>
+        <translation>Ce profil est prédéfini. Pour le modifier, fermez les paramètres et appuyez sur Ctrl+N dans la fenêtre principale&#xa0;: un profil à vous sera créé avec les mêmes valeurs.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
@@ -702,6 +702,146 @@
         <translation>Préréglages pour cette carte SIM</translation>
     </message>
     <message>
+        <source>IDS_HOST_PRESETS</source>
+        <translation>Préréglages…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_TITLE</source>
+        <translation>Préréglages des opérateurs du monde entier</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH</source>
+        <translation>Rechercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_SEARCH_HINT</source>
+        <translation>Pays, opérateur, forfait, APN ou code de réseau</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_LIST</source>
+        <translation>Pays, opérateurs et forfaits</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_NAME</source>
+        <translation>Pays, opérateur, forfait</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COLUMN_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_COUNT</source>
+        <translation>Forfaits&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_NONE</source>
+        <translation>Rien trouvé. Essayez avec moins de mots ou une autre orthographe.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_OTHER</source>
+        <translation>Autres préréglages</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_PREPAID</source>
+        <translation>%1 (prépayé)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_POSTPAID</source>
+        <translation>%1 (abonnement)</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_HINT</source>
+        <translation>Choisissez un forfait pour voir ses réglages.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESETS_USE</source>
+        <translation>Utiliser comme nouveau profil…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_COUNTRY</source>
+        <translation>Pays&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_OPERATOR</source>
+        <translation>Opérateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PLAN</source>
+        <translation>Forfait&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN</source>
+        <translation>APN&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_APN_AUTOMATIC</source>
+        <translation>choisi par le réseau</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_NUMBER</source>
+        <translation>Numéro d’accès&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_USER</source>
+        <translation>Utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_ASKED</source>
+        <translation>demandé à la connexion</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_PASSWORD</source>
+        <translation>Mot de passe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_AUTHENTICATION</source>
+        <translation>Authentification&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_DNS</source>
+        <translation>DNS&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_PRESET_CODES</source>
+        <translation>Codes de réseau&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_FROM</source>
+        <translation>Nouveau à partir de celui-ci…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_TITLE</source>
+        <translation>Nouveau profil</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_INTRO</source>
+        <translation>Un profil à vous avec les valeurs de «&#xa0;%1&#xa0;». Vous pourrez les modifier dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_NAME</source>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_DEFAULT</source>
+        <translation>L’utiliser par défaut</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_CONNECTED</source>
+        <translation>Le profil par défaut ne peut pas être changé pendant une connexion.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NEW_PROFILE_MAKE</source>
+        <translation>Créer</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR</source>
+        <translation>Choisir l’opérateur…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
+        <translation>Aucun préréglage n’est connu pour cette carte SIM. Choisissez votre opérateur ou un profil ci-dessous.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SETTINGS</source>
         <translation>Paramètres…</translation>
     </message>
@@ -745,7 +885,7 @@
         <source>IDS_HOST_ABOUT_TEXT</source>
         <translation>Un gestionnaire de connexions pour modems mobiles à haut débit.
 
-Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC) et la base de données du domaine public mobile-broadband-provider-info.</translation>
+Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la base de données du domaine public mobile-broadband-provider-info.</translation>
     </message>
     <message>
         <source>IDS_HOST_CLOSE</source>

@@ -2,6 +2,7 @@
 
 #include <QVariant>
 
+#include "HostSettings.h"
 #include "INetConnectSetting.h"
 #include "Plugins.h"
 
@@ -40,6 +41,14 @@ void askDialer(ConnectionFacts* facts) {
     if (!dialer->GetConnectedProfileName(&facts->profile)) facts->profile = facts->connection.name;
 }
 
+// The first start with a card that no preset matches: what is offered for any card may do, but who knows.
+bool isFirstStart(const ConnectionFacts& facts) {
+    const bool isCardUnknown = !facts.imsi.isEmpty() && facts.matchedPrefix && facts.matchedPrefix->isEmpty();
+    IPresetLibrary* const presets = Plugins::presets();
+    if (!isCardUnknown || !presets || presets->HasOwnProfiles()) return false;
+    return facts.defaultProfile.isEmpty() || !HostSettings::isOn(HostSettings::HasConnected);
+}
+
 void askProfiles(ConnectionFacts* facts) {
     QObject* const object = Plugins::profilesObject();
     if (!object) return;
@@ -52,6 +61,7 @@ void askProfiles(ConnectionFacts* facts) {
     if (facts->areProfilesAwaited) return;
     if (INetConnectSetting* const profiles = Plugins::profiles())
         profiles->GetDefaultDialUpProfileName(&facts->defaultProfile);
+    facts->wantsOperator = isFirstStart(*facts);
 }
 
 }  // namespace

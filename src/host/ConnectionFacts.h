@@ -35,6 +35,7 @@ struct ConnectionFacts {
     // The profiles.
     bool areProfilesAwaited = false;
     QString defaultProfile;
+    bool wantsOperator = false;            // nothing is known of the card yet, and nobody chose what to connect with
     std::optional<QString> matchedPrefix;  // nothing: nobody tells
     QString proposedPreset;
     QString storageProblem;

@@ -93,6 +93,10 @@ void describeDown(const ConnectionFacts& facts, Picture* picture) {
     picture->isActionAllowed = facts.usedBy.isEmpty();
     picture->detail = facts.usedBy.isEmpty() ? networkText(facts) : facts.usedBy;
     if (!facts.usedBy.isEmpty()) picture->sign = Picture::Attention;
+    if (!facts.wantsOperator || !picture->isActionAllowed) return;
+    picture->action = Picture::ChooseOperator;
+    picture->sign = Picture::Attention;
+    picture->detail = hostText("IDS_HOST_CHOOSE_OPERATOR_DETAIL");
 }
 
 void describeUp(const ConnectionFacts& facts, Picture* picture) {
@@ -190,7 +194,7 @@ ConnectionPicture ConnectionPicture::of(const ConnectionFacts& facts) {
 }
 
 QString ConnectionPicture::actionText(Action action) {
-    static const char* const Texts[] = {"IDS_HOST_CONNECT", "IDS_HOST_CANCEL", "IDS_HOST_DISCONNECT",
-                                        "IDS_HOST_UNLOCK"};
+    static const char* const Texts[] = {"IDS_HOST_CONNECT", "IDS_HOST_CANCEL", "IDS_HOST_DISCONNECT", "IDS_HOST_UNLOCK",
+                                        "IDS_HOST_CHOOSE_OPERATOR"};
     return hostText(Texts[action]);
 }

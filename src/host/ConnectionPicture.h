@@ -10,7 +10,7 @@ struct ConnectionPicture {
     // Each is a shape of its own, so that nobody must tell colours apart.
     enum Sign { Idle, Missing, Attention, Busy, Online, Failed };
 
-    enum Action { Connect, Cancel, Disconnect, Unlock };
+    enum Action { Connect, Cancel, Disconnect, Unlock, ChooseOperator };
 
     Sign sign = Idle;
     QString headline;  // the state in a few words
@@ -32,6 +32,9 @@ struct ConnectionPicture {
     QString notes;           // lines about the connection; empty: none
     QString usageWarning;    // the month\'s volume comes to its limit; empty: it does not
     QString storageProblem;  // a sentence; empty: none
+
+    // Whether a connection with any profile may begin now.
+    bool mayConnect() const { return isActionAllowed && (action == Connect || action == ChooseOperator); }
 
     // In the current language.
     static ConnectionPicture of(const ConnectionFacts& facts);

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolButton>
 
 #include "Amounts.h"
 #include "DataUsage.h"
@@ -63,6 +64,8 @@ ConnectionView::ConnectionView(QWidget* parent)
       m_Failure(new FailurePanel),
       m_ProfileLabel(makeLabel("Host_ProfileLabel", false)),
       m_Chooser(new ProfileChooser),
+      m_Copy(new QToolButton),
+      m_Presets(makeButton("Host_PresetsButton")),
       m_Settings(makeButton("Host_SettingsButton")),
       m_Notes(makeLabel("Host_ConnectionNotes")),
       m_Card(makeLabel("Host_SimSummary")),
@@ -70,10 +73,16 @@ ConnectionView::ConnectionView(QWidget* parent)
     setObjectName(QStringLiteral("Host_ConnectionView"));
     buildState();
     m_ProfileLabel->setBuddy(m_Chooser);
+    m_Copy->setObjectName(QStringLiteral("Host_CopyButton"));
+    m_Copy->setText(QStringLiteral("+"));
     m_EachSecond.setInterval(SecondMs);
     connect(&m_EachSecond, &QTimer::timeout, this, &ConnectionView::count);
     connect(m_Action, &QPushButton::clicked, this, &ConnectionView::act);
     connect(m_Settings, &QPushButton::clicked, this, &ConnectionView::settingsWanted);
+    connect(m_Presets, &QPushButton::clicked, this, &ConnectionView::presetsWanted);
+    connect(m_Copy, &QToolButton::clicked, this, &ConnectionView::copyWanted);
+    connect(m_Chooser, &ProfileChooser::copyWanted, this, &ConnectionView::copyWanted);
+    connect(m_Chooser, &ProfileChooser::chosenByUser, this, &ConnectionView::acted);
     connect(m_Failure, &FailurePanel::unlockWanted, this, &ConnectionView::unlockWanted);
     connect(m_Failure, &FailurePanel::triedAgain, this, [this] { connectWith(m_Picture.failedProfile); });
 }
@@ -89,6 +98,8 @@ void ConnectionView::buildState() {
     auto* profile = new QHBoxLayout;
     profile->addWidget(m_ProfileLabel);
     profile->addWidget(m_Chooser, 1);
+    profile->addWidget(m_Copy);
+    profile->addWidget(m_Presets);
     profile->addWidget(m_Settings);
 
     auto* grid = new QGridLayout(this);
@@ -147,6 +158,9 @@ void ConnectionView::retranslate() {
     m_Failure->retranslate();
     m_ProfileLabel->setText(hostText("IDS_HOST_PROFILE_LABEL"));
     m_Chooser->retranslate();
+    m_Copy->setToolTip(hostText("IDS_HOST_NEW_FROM"));
+    m_Copy->setAccessibleName(hostText("IDS_HOST_NEW_FROM"));
+    m_Presets->setText(hostText("IDS_HOST_PRESETS"));
     m_Settings->setText(hostText("IDS_HOST_SETTINGS"));
     m_Curve->setAccessibleName(hostText("IDS_HOST_CURVE"));
     m_Curve->setToolTip(hostText("IDS_HOST_CURVE"));
@@ -158,6 +172,12 @@ void ConnectionView::act() {
         case ConnectionPicture::Unlock:
             emit unlockWanted();
             return;
+        case ConnectionPicture::ChooseOperator:
+            if (m_Chooser->chosen().isEmpty()) {
+                emit presetsWanted();
+                return;
+            }
+            [[fallthrough]];
         case ConnectionPicture::Connect:
             connectWith(m_Chooser->chosen());
             return;

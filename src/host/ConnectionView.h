@@ -17,6 +17,7 @@ class QPushButton;
 class RateCurve;
 class SignalBars;
 class StateSign;
+class QToolButton;
 
 class ConnectionView : public QWidget {
     Q_OBJECT
@@ -41,6 +42,8 @@ public:
 signals:
     void unlockWanted();
     void settingsWanted();
+    void presetsWanted();
+    void copyWanted();  // of the profile that the chooser stands at
 
     // The dialler was asked for something.
     void acted();
@@ -73,6 +76,8 @@ private:
     FailurePanel* m_Failure;
     QLabel* m_ProfileLabel;
     ProfileChooser* m_Chooser;
+    QToolButton* m_Copy;
+    QPushButton* m_Presets;
     QPushButton* m_Settings;
     QLabel* m_Notes;
     QLabel* m_Card;

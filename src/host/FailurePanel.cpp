@@ -65,7 +65,7 @@ void FailurePanel::show(const ConnectionPicture& picture) {
     m_Details->setText(picture.failureDetails);
     m_ShowDetails->setVisible(!picture.failureDetails.isEmpty());
     m_Unlock->setVisible(picture.canUnlock);
-    m_TryAgain->setEnabled(picture.isActionAllowed && picture.action == ConnectionPicture::Connect);
+    m_TryAgain->setEnabled(picture.mayConnect());
     m_TryAgain->setToolTip(m_TryAgain->isEnabled() ? QString() : picture.headline);
     setVisible(picture.hasFailed);
     if (!isNew) return;

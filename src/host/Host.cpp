@@ -53,7 +53,9 @@ void Host::useTray() {
     connect(m_Tray.get(), &Tray::windowWanted, &m_Window, &MainWindow::present);
     connect(m_Tray.get(), &Tray::quitWanted, &m_Window, &MainWindow::quit);
     connect(m_Tray.get(), &Tray::acted, this, [this] {
-        if (m_Window.picture().action == ConnectionPicture::Unlock) m_Window.present();
+        const ConnectionPicture::Action action = m_Window.picture().action;
+        const bool opensDialog = action == ConnectionPicture::Unlock || action == ConnectionPicture::ChooseOperator;
+        if (opensDialog) m_Window.present();
         m_Window.view()->act();
     });
     connect(m_Tray.get(), &Tray::connectWanted, m_Window.view(), &ConnectionView::connectWith);

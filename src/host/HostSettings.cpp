@@ -21,7 +21,10 @@ struct Place {
 };
 
 // By HostSettings::Switch. The first is one that the settings plug-in reads.
-const Place Places[] = {{"ConnectionSetting", "load", false}, {"Host", "closeToTray", false}, {"Host", "notify", true}};
+const Place Places[] = {{"ConnectionSetting", "load", false},
+                        {"Host", "closeToTray", false},
+                        {"Host", "notify", true},
+                        {"Host", "hasConnected", false}};
 
 QString autostartFile() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +

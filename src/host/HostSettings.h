@@ -9,7 +9,8 @@ namespace HostSettings {
 enum Switch {
     KeepsDefault,  // the settings page hides its button for another default
     ClosesToTray,  // closing the window leaves the program in the tray
-    Notifies       // the desktop shows messages about the connection; on unless it was switched off
+    Notifies,      // the desktop shows messages about the connection; on unless it was switched off
+    HasConnected   // a connection has been up: what is offered serves the user
 };
 
 bool isOn(Switch which);

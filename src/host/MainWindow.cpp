@@ -21,6 +21,9 @@
 #include "HostSettings.h"
 #include "HostText.h"
 #include "ModemPanel.h"
+#include "NewProfileDialog.h"
+#include "Plugins.h"
+#include "PresetsDialog.h"
 #include "ProfileChooser.h"
 #include "SettingsDialog.h"
 #include "SettingsPages.h"
@@ -68,6 +71,8 @@ MainWindow::MainWindow(QWidget* parent)
     connect(m_View, &ConnectionView::acted, this, &MainWindow::refresh);
     connect(m_View, &ConnectionView::unlockWanted, this, &MainWindow::unlock);
     connect(m_View, &ConnectionView::settingsWanted, this, &MainWindow::openSettings);
+    connect(m_View, &ConnectionView::presetsWanted, this, &MainWindow::openPresets);
+    connect(m_View, &ConnectionView::copyWanted, this, &MainWindow::copyProfile);
     m_SinceStart.start();
     m_Settled.setSingleShot(true);
     connect(&m_Settled, &QTimer::timeout, this, &MainWindow::refresh);
@@ -105,13 +110,16 @@ void MainWindow::setProblems(const QVector<PluginProblem>& problems) {
 void MainWindow::refresh() {
     ConnectionFacts facts = ConnectionFacts::now();
     facts.isSettling = !m_SinceStart.hasExpired(SettlingMs);
+    facts.wantsOperator = facts.wantsOperator && !m_View->chooser()->isChosen();
     m_Picture = ConnectionPicture::of(facts);
     m_View->refresh(facts, m_Picture);
     m_Action->setText(ConnectionPicture::actionText(m_Picture.action));
     m_Action->setEnabled(m_Picture.isActionAllowed);
     m_UnlockAction->setEnabled(m_Picture.canUnlock);
     if (m_Unlock) m_Unlock->refresh();
+    if (m_Presets) m_Presets->refresh(m_Picture);
     if (m_ModemPanel) m_ModemPanel->refresh();
+    if (m_Picture.isUp) rememberConnection();
     if (isVisible()) makeRoom();
     emit refreshed();
 }
@@ -132,6 +140,8 @@ void MainWindow::retranslate() {
     if (m_Settings) m_Settings->retranslate();
     m_View->retranslate();
     if (m_Unlock) m_Unlock->retranslate();
+    if (m_Presets) m_Presets->retranslate();
+    if (m_Copy) m_Copy->retranslate();
     if (m_ModemPanel) m_ModemPanel->retranslate();
     if (m_Dock) retranslateDock();
     const QString problems = problemText();
@@ -174,6 +184,43 @@ void MainWindow::unlock() {
     m_Unlock->activateWindow();
 }
 
+void MainWindow::openPresets() {
+    if (!Plugins::presets()) return;
+    if (!m_Presets) {
+        m_Presets = new PresetsDialog(ConnectionFacts::now().imsi, this);
+        m_Presets->refresh(m_Picture);
+        connect(m_Presets, &PresetsDialog::connectWanted, this,
+                [this](const QString& preset) { m_View->connectWith(preset); });
+        connect(m_Presets, &PresetsDialog::profileMade, this, &MainWindow::useProfile);
+        m_Presets->open();
+    }
+    m_Presets->activateWindow();
+}
+
+void MainWindow::copyProfile() {
+    INetConnectSetting* const profiles = Plugins::profiles();
+    const QString name = m_View->chooser()->current();
+    if (m_Copy || name.isEmpty() || !profiles || !Plugins::presets()) return;
+    DialupProfile profile;
+    profiles->GetDialUpProfile(name, &profile);
+    m_Copy = new NewProfileDialog(profile, name, this);
+    connect(m_Copy, &NewProfileDialog::made, this, &MainWindow::useProfile);
+    m_Copy->open();
+}
+
+void MainWindow::useProfile(const QString& name) {
+    refresh();
+    m_View->chooser()->choose(name);
+    refresh();
+}
+
+// From then on it is no first start.
+void MainWindow::rememberConnection() {
+    if (m_IsConnectionRemembered) return;
+    m_IsConnectionRemembered = true;
+    HostSettings::set(HostSettings::HasConnected, true);
+}
+
 // Room for long names beside the button.
 QSize MainWindow::sizeHint() const {
     return QMainWindow::sizeHint().expandedTo({64 * fontMetrics().averageCharWidth(), 0});
@@ -192,6 +239,9 @@ void MainWindow::buildMenus() {
     m_ConnectionMenu = menuBar()->addMenu(QString());
     m_Action = m_ConnectionMenu->addAction(QString(), this, &MainWindow::act, QKeySequence(Qt::CTRL | Qt::Key_Return));
     m_UnlockAction = addEntry(m_ConnectionMenu, "IDS_HOST_UNLOCK", {}, &MainWindow::unlock);
+    m_ConnectionMenu->addSeparator();
+    addEntry(m_ConnectionMenu, "IDS_HOST_PRESETS", QKeySequence(Qt::CTRL | Qt::Key_P), &MainWindow::openPresets);
+    addEntry(m_ConnectionMenu, "IDS_HOST_NEW_FROM", QKeySequence::New, &MainWindow::copyProfile);
     m_ConnectionMenu->addSeparator();
     addEntry(m_ConnectionMenu, "IDS_HOST_SETTINGS", QKeySequence(Qt::CTRL | Qt::Key_Comma), &MainWindow::openSettings);
     m_ConnectionMenu->addSeparator();

@@ -12,6 +12,8 @@
 
 class ConnectionView;
 class ModemPanel;
+class NewProfileDialog;
+class PresetsDialog;
 class QDockWidget;
 class QLabel;
 class SettingsDialog;
@@ -68,6 +70,12 @@ public:
 
     void unlock();
 
+    // The world's presets, to connect with or to make profiles from.
+    void openPresets();
+
+    // A profile of the user's own from the one that the chooser stands at.
+    void copyProfile();
+
     QSize sizeHint() const override;
 
 signals:
@@ -96,11 +104,15 @@ private:
     void showAbout();
     void closeForGood();
     bool agreesToEnd();
+    void useProfile(const QString& name);
+    void rememberConnection();
     QString problemText() const;
 
     ConnectionView* m_View;
     SettingsDialog* m_Settings = nullptr;
     QPointer<UnlockDialog> m_Unlock;
+    QPointer<PresetsDialog> m_Presets;
+    QPointer<NewProfileDialog> m_Copy;
     ModemPanel* m_ModemPanel;
     QDockWidget* m_Dock = nullptr;
     QLabel* m_ProblemLabel;
@@ -116,6 +128,7 @@ private:
     QTimer m_Settled;
     bool m_HidesOnClose = false;
     bool m_IsEnding = false;
+    bool m_IsConnectionRemembered = false;
 };
 
 #endif

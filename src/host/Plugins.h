@@ -4,6 +4,7 @@
 
 #include "IDialupUIService.h"
 #include "INetConnectSetting.h"
+#include "IPresetLibrary.h"
 #include "Startup.h"
 
 namespace Plugins {
@@ -16,6 +17,8 @@ inline QObject* profilesObject() { return findPeer<QObject>(ORBISDIAL_NETCONNECT
 inline INetConnectSetting* profiles() {
     return findPeer<INetConnectSetting>(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
 }
+
+inline IPresetLibrary* presets() { return findPeer<IPresetLibrary>(ORBISDIAL_PRESETLIBRARY_CLSID, PresetLibraryKind); }
 
 }  // namespace Plugins
 

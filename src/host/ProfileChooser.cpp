@@ -2,10 +2,13 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
+#include <QSet>
 #include <QStandardItemModel>
 #include <QWheelEvent>
-#include <algorithm>
+#include <memory>
 
 #include "HostText.h"
 #include "Plugins.h"
@@ -15,10 +18,14 @@ namespace {
 constexpr int NameRole = Qt::UserRole;
 constexpr int LettersOfWidth = 24;
 
-bool isPreset(INetConnectSetting* profiles, const QString& name) {
-    DialupProfile profile;
-    profiles->GetDialUpProfile(name, &profile);
-    return profile.readonly == QLatin1String("true");
+// Those of the names that are the user's own; all of them where nobody tells presets apart.
+QSet<QString> ownNames(const QStringList& all) {
+    QList<QString> own = all;
+    if (IPresetLibrary* const library = Plugins::presets()) {
+        own.clear();
+        library->GetOwnProfileNames(&own);
+    }
+    return {own.begin(), own.end()};
 }
 
 }  // namespace
@@ -27,6 +34,7 @@ ProfileChooser::ProfileChooser(QWidget* parent) : QComboBox(parent), m_Items(new
     setObjectName(QStringLiteral("Host_ProfileChooser"));
     setModel(m_Items);
     setEditable(true);
+    lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);  // the box has one
     setInsertPolicy(NoInsert);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(LettersOfWidth);
@@ -57,6 +65,7 @@ void ProfileChooser::retranslate() {
 
 void ProfileChooser::choose(const QString& name) {
     m_Chosen = name == m_Default ? QString() : name;
+    m_IsChosen = true;
     showCurrent();
 }
 
@@ -67,9 +76,10 @@ void ProfileChooser::fill() {
     if (INetConnectSetting* const profiles = Plugins::profiles()) {
         QList<QString> names;
         profiles->GetAllDialUpProfile(&names);
-        for (const QString& name : qAsConst(names)) (isPreset(profiles, name) ? presets : own).append(name);
+        const QSet<QString> mine = ownNames(names);
+        for (const QString& name : qAsConst(names)) (mine.contains(name) ? own : presets).append(name);
     }
-    if (!own.contains(m_Chosen) && !presets.contains(m_Chosen)) m_Chosen.clear();
+    if (!m_Chosen.isEmpty() && !own.contains(m_Chosen) && !presets.contains(m_Chosen)) m_Chosen.clear();
     const QSignalBlocker quiet(this);
     m_Items->clear();
     const bool isMixed = !own.isEmpty() && !presets.isEmpty();
@@ -91,6 +101,17 @@ void ProfileChooser::focusInEvent(QFocusEvent* event) {
 
 // The wheel scrolls, and must not choose on the way.
 void ProfileChooser::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void ProfileChooser::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(lineEdit()->createStandardContextMenu());
+    QAction* const first = menu->actions().value(0);
+    auto* const copy = new QAction(hostText("IDS_HOST_NEW_FROM"), menu.get());
+    copy->setEnabled(!current().isEmpty());
+    connect(copy, &QAction::triggered, this, &ProfileChooser::copyWanted);
+    menu->insertAction(first, copy);
+    menu->insertSeparator(first);
+    menu->exec(event->globalPos());
+}
 
 void ProfileChooser::addSection(const char* id, const QStringList& names) {
     if (id) addTitle(id);
@@ -114,7 +135,7 @@ void ProfileChooser::addProfile(const QString& name) {
 
 void ProfileChooser::showCurrent() {
     const QSignalBlocker quiet(this);
-    const QString name = m_Chosen.isEmpty() ? m_Default : m_Chosen;
+    const QString name = current();
     if (!m_IsFilled) {
         m_Items->clear();
         if (!name.isEmpty()) addProfile(name);

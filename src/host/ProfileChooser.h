@@ -1,4 +1,4 @@
-// The box that chooses the profile to connect with: those that can be changed, then the others; typing finds.
+// The box that chooses the profile to connect with: the user's own ones, then the presets; typing finds.
 #ifndef ORBISDIAL_PROFILECHOOSER_H
 #define ORBISDIAL_PROFILECHOOSER_H
 
@@ -22,6 +22,12 @@ public:
     // The profile to connect with; empty: the default one.
     QString chosen() const { return m_Chosen; }
 
+    // Whether it stands where somebody put it, be it at the default.
+    bool isChosen() const { return m_IsChosen; }
+
+    // The profile at which it stands; empty when there is no default.
+    QString current() const { return m_Chosen.isEmpty() ? m_Default : m_Chosen; }
+
     // Stands at this profile, as if it had been chosen.
     void choose(const QString& name);
 
@@ -33,7 +39,11 @@ public:
 signals:
     void chosenByUser();
 
+    // A new profile from the one at which it stands.
+    void copyWanted();
+
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
@@ -50,6 +60,7 @@ private:
     QString m_Default;
     QString m_Chosen;
     bool m_IsFilled = false;
+    bool m_IsChosen = false;
 };
 
 #endif

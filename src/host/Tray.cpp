@@ -43,7 +43,7 @@ void Tray::refresh(const ConnectionPicture& picture) {
     m_State->setText(plain(picture.headline));
     m_Action->setText(plain(ConnectionPicture::actionText(picture.action)));
     m_Action->setEnabled(picture.isActionAllowed);
-    m_Profiles->setEnabled(picture.isActionAllowed && picture.action == ConnectionPicture::Connect);
+    m_Profiles->setEnabled(picture.mayConnect());
     // What was so before the program started is no news.
     if (notice && !m_IsFirst) say(notice->title, notice->text, notice->isWarning);
     m_IsFirst = false;

@@ -23,7 +23,6 @@
 #include "HostText.h"
 #include "IDialupUIService.h"
 #include "Languages.h"
-#include "ProfileChooser.h"
 #include "Rows.h"
 #include "SettingsPages.h"
 #include "Startup.h"
@@ -308,40 +307,6 @@ private slots:
         QCOMPARE(child<QPushButton>("Host_ConnectButton")->text(), QString("Disconnect"));
         QVERIFY(child<QWidget>("Host_Transfer")->isVisible());
         QVERIFY(Fake::calls().contains("Notify 528"));
-    }
-
-    // Typing finds; own profiles and presets stand apart; a name that is none gives way.
-    void choosesAProfile() {
-        Fake::set("fake.profiles", QStringList{"Home", "Preset 1", "Travel", "Preset 2"});
-        auto* chooser = child<QComboBox>("Host_ProfileChooser");
-        m_Host->window()->refresh();
-        QCOMPARE(chooser->currentText(), QString("Home (Default)"));
-        m_Host->window()->activateWindow();
-        chooser->setFocus();
-        QTRY_VERIFY(chooser->hasFocus());
-        QStringList shown;
-        for (int i = 0; i < chooser->count(); ++i) shown.append(chooser->itemText(i));
-        QCOMPARE(shown, (QStringList{"My profiles", "Home (Default)", "Travel", "Presets for this SIM card", "Preset 1",
-                                     "Preset 2"}));
-        const struct {
-            const char *typed, *shown;
-        } rows[] = {{"rave", "Travel"}, {"preset 2", "Preset 2"}, {"nothing such", "Preset 2"}, {"Preset", "Preset 2"}};
-        for (const auto& row : rows) {
-            chooser->lineEdit()->selectAll();
-            QTest::keyClicks(chooser, row.typed);
-            QTest::keyClick(chooser, Qt::Key_Escape);  // of what completes
-            QTest::keyClick(chooser, Qt::Key_Return);
-            QCOMPARE(chooser->currentText(), QString(row.shown));
-        }
-        click("Host_ConnectButton");
-        QTRY_COMPARE(child<QLabel>("Host_ConnectionState")->text(), QString("Connected with Preset 2"));
-        QVERIFY(!chooser->isEnabled());
-        m_Host->window()->view()->act();
-        QTRY_VERIFY(chooser->isEnabled());
-        Fake::set("fake.profiles", QStringList("Home"));
-        m_Host->window()->refresh();
-        static_cast<ProfileChooser*>(chooser)->fill();
-        QCOMPARE(chooser->currentText(), QString("Home (Default)"));
     }
 
     // The last attempt is spent only after somebody agreed, and a PUK needs a new PIN twice.
