@@ -626,6 +626,10 @@
         <translation>بطاقة SIM %1: ملف التعريف المعدّ مسبقًا «%2»، اختير حسب بادئتها %3</translation>
     </message>
     <message>
+        <source>IDS_HOST_SIM_OPERATOR</source>
+        <translation>بطاقة SIM %1: ملف التعريف المعدّ مسبقًا «%2»، اختير حسب بادئتها %3 واسم مشغّلها %4</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SIM_PREFIX</source>
         <translation>بطاقة SIM %1: البادئة %2 معروفة، لكن لم يُقترح أي من ملفات تعريفها كافتراضي</translation>
     </message>

@@ -626,6 +626,10 @@
         <translation>SIM-Karte %1: Vorgabe „%2“, ausgewählt durch ihr Präfix %3</translation>
     </message>
     <message>
+        <source>IDS_HOST_SIM_OPERATOR</source>
+        <translation>SIM-Karte %1: Vorgabe „%2“, ausgewählt durch ihr Präfix %3 und den Namen ihres Anbieters, %4</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SIM_PREFIX</source>
         <translation>SIM-Karte %1: Präfix %2 ist bekannt, aber keine seiner Vorgaben ist als Standard vorgeschlagen</translation>
     </message>

@@ -780,6 +780,11 @@
         <translation>SIM card %1: preset "%2", selected by its prefix %3</translation>
     </message>
     <message>
+        <source>IDS_HOST_SIM_OPERATOR</source>
+        <extracomment>Line below the bar; as IDS_HOST_SIM_PRESET; the card's own name for its operator told which of the operators with this prefix it is from, %4.</extracomment>
+        <translation>SIM card %1: preset "%2", selected by its prefix %3 and the name of its operator, %4</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SIM_PREFIX</source>
         <extracomment>Line below the bar; %1 is the card's IMSI (digits), %2 the leading digits that matched.</extracomment>
         <translation>SIM card %1: prefix %2 is known, but none of its presets is the proposed default</translation>

@@ -626,6 +626,10 @@
         <translation>Tarjeta SIM %1: perfil predefinido «%2», elegido por su prefijo %3</translation>
     </message>
     <message>
+        <source>IDS_HOST_SIM_OPERATOR</source>
+        <translation>Tarjeta SIM %1: perfil predefinido «%2», elegido por su prefijo %3 y el nombre de su operador, %4</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SIM_PREFIX</source>
         <translation>Tarjeta SIM %1: el prefijo %2 es conocido, pero ninguno de sus perfiles se propone por defecto</translation>
     </message>

@@ -626,6 +626,10 @@
         <translation>Carte SIM %1&#xa0;: profil prédéfini «&#xa0;%2&#xa0;», choisi d’après son préfixe %3</translation>
     </message>
     <message>
+        <source>IDS_HOST_SIM_OPERATOR</source>
+        <translation>Carte SIM %1&#xa0;: profil prédéfini «&#xa0;%2&#xa0;», choisi d’après son préfixe %3 et le nom de son opérateur, %4</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SIM_PREFIX</source>
         <translation>Carte SIM %1&#xa0;: le préfixe %2 est connu, mais aucun de ses profils prédéfinis n’est proposé par défaut</translation>
     </message>

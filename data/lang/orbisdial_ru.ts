@@ -626,6 +626,10 @@
         <translation>SIM-карта %1: готовый профиль «%2», выбран по префиксу %3</translation>
     </message>
     <message>
+        <source>IDS_HOST_SIM_OPERATOR</source>
+        <translation>SIM-карта %1: готовый профиль «%2», выбран по префиксу %3 и названию оператора %4</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SIM_PREFIX</source>
         <translation>SIM-карта %1: префикс %2 известен, но ни один из его профилей не предложен как основной</translation>
     </message>

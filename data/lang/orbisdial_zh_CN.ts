@@ -626,6 +626,10 @@
         <translation>SIM 卡 %1：预设“%2”，按其前缀 %3 选定</translation>
     </message>
     <message>
+        <source>IDS_HOST_SIM_OPERATOR</source>
+        <translation>SIM 卡 %1：预设“%2”，按其前缀 %3 和运营商名称“%4”选定</translation>
+    </message>
+    <message>
         <source>IDS_HOST_SIM_PREFIX</source>
         <translation>SIM 卡 %1：前缀 %2 已知，但其预设均未被建议为默认</translation>
     </message>

@@ -110,6 +110,7 @@ void showDevice(const Invocation&, Output& output) {
     object["connection"] = addConnection(&lines);
     add("prefix", "matched IMSI prefix", nullIfEmpty(session->MatchedIMSIPrefix()));
     add("proposedDefault", "proposed default", nullIfEmpty(session->ProposedDefault()));
+    add("proposedFor", "proposed for", nullIfEmpty(session->ProposedOperator()));
     add("note", "note", nullIfEmpty(session.presetsNote()));
     output.result(object, lines);
     session.finish();

@@ -55,6 +55,7 @@ void askProfiles(ConnectionFacts* facts) {
     const QVariant prefix = object->property(ORBISDIAL_MATCHED_IMSI_PREFIX);
     if (prefix.isValid()) facts->matchedPrefix = prefix.toString();
     facts->proposedPreset = object->property(ORBISDIAL_PROPOSED_DEFAULT).toString();
+    facts->proposedOperator = object->property(ORBISDIAL_PROPOSED_OPERATOR).toString();
     facts->storageProblem = object->property(ORBISDIAL_LAST_STORAGE_PROBLEM).toString();
     // The answer would take long just now; the property's change has everything asked again.
     facts->areProfilesAwaited = object->property(ORBISDIAL_PROFILES_AWAITED).toBool();

@@ -38,6 +38,7 @@ struct ConnectionFacts {
     bool wantsOperator = false;            // nothing is known of the card yet, and nobody chose what to connect with
     std::optional<QString> matchedPrefix;  // nothing: nobody tells
     QString proposedPreset;
+    QString proposedOperator;  // whose it is, where the card's own name for its operator told
     QString storageProblem;
 
     bool isDown() const { return state == IDialupUIService::Disconnected; }

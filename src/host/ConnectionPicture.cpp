@@ -167,7 +167,8 @@ QString cardText(const ConnectionFacts& facts) {
     const QString& prefix = *facts.matchedPrefix;
     if (prefix.isEmpty()) return hostText("IDS_HOST_SIM_NO_MATCH", {imsi});
     if (facts.proposedPreset.isEmpty()) return hostText("IDS_HOST_SIM_PREFIX", {imsi, prefix});
-    return hostText("IDS_HOST_SIM_PRESET", {imsi, facts.proposedPreset, prefix});
+    if (facts.proposedOperator.isEmpty()) return hostText("IDS_HOST_SIM_PRESET", {imsi, facts.proposedPreset, prefix});
+    return hostText("IDS_HOST_SIM_OPERATOR", {imsi, facts.proposedPreset, prefix, facts.proposedOperator});
 }
 
 // Sentences that matter only at times.

@@ -15,6 +15,7 @@ private slots:
         row("no signal", "SIGNAL=", "signal", QJsonValue(), "signal in percent         -\n");
         row("roaming", "REGISTRATION=roaming", "registration", "roaming", "registration              roaming\n");
         row("card's operator", "CARD_OPERATOR=Gr\u00fcn", "cardOperator", "Gr\u00fcn", "Gr\u00fcn\n");
+        row("proposal", "CARD_OPERATOR=beta", "cardOperator", "beta", "proposed for              Beta Mobile\n");
         row("locked", "LOCK=puk", "attempts", 10, "lock                      puk\n");
         row("CDMA", "PRODUCT_TYPE=1", "dialsAsCdma", true, "dials as CDMA             yes\n");
         row("no card", "IMSI=", "card", "none", "card                      none\n");

@@ -61,7 +61,7 @@ private slots:
         row("no device", {"--device", "none", "device"},
             R"({"backend":"none","cardMode":null,"connection":null,"customizeName":null,"imsi":null,"modem":null,)"
             R"("multiMode":null,"note":null,)"
-            R"("prefix":null,"productType":null,"proposedDefault":"Generic","simulated":false,"status":null,)"
+            R"("prefix":null,"productType":null,"proposedDefault":"Generic","proposedFor":null,"simulated":false,"status":null,)"
             R"("systemMode":null,"systemSubMode":null,"user":null})");
     }
 

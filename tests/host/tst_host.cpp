@@ -243,16 +243,20 @@ private slots:
         const QVariant known("26201"), none("");
         const struct {
             const char* imsi;
-            QVariant prefix, preset;
+            QVariant prefix, preset, provider;
             const char* line;
-        } rows[] = {{"262011234567890", known, "100%3 <b>&",
-                     "SIM card 262011234567890: preset \"100%3 <b>&\", selected by its prefix 26201"},
-                    {"262011234567890", none, none, "SIM card 262011234567890: no preset matches it"},
-                    {"", known, "A", ""}};
+        } rows[] = {
+            {"262011234567890", known, "100%3 <b>&", none,
+             "SIM card 262011234567890: preset \"100%3 <b>&\", selected by its prefix 26201"},
+            {"262011234567890", known, "A", "B",
+             "SIM card 262011234567890: preset \"A\", selected by its prefix 26201 and the name of its operator, B"},
+            {"262011234567890", none, none, none, "SIM card 262011234567890: no preset matches it"},
+            {"", known, "A", none, ""}};
         auto* edit = child<QLineEdit>("ModemPanel_Imsi");
         for (const auto& row : rows) {
             profiles()->setProperty(ORBISDIAL_MATCHED_IMSI_PREFIX, row.prefix);
             profiles()->setProperty(ORBISDIAL_PROPOSED_DEFAULT, row.preset);
+            profiles()->setProperty(ORBISDIAL_PROPOSED_OPERATOR, row.provider);
             edit->selectAll();
             QTest::keyClick(edit, Qt::Key_Delete);
             QTest::keyClicks(edit, row.imsi);
