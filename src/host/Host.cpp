@@ -82,6 +82,7 @@ void Host::watchPlugins() {
 }
 
 void Host::onDeviceEvent(int event) {
-    if (event == VRKS_EVENT_SYSTEM_MODE_CHANGED) m_Plugins.notifyAll(NotifySystemModeChanged);
+    if (event == VRKS_EVENT_SYSTEM_MODE_CHANGED && m_NetworkKind.hasChanged())
+        m_Plugins.notifyAll(NotifySystemModeChanged);
     m_Refresh.start();
 }

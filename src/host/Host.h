@@ -9,6 +9,7 @@
 #include "HostSettingsPage.h"
 #include "INotify.h"
 #include "MainWindow.h"
+#include "NetworkKind.h"
 #include "NotifyService.h"
 #include "PluginManager.h"
 #include "Tray.h"
@@ -43,6 +44,7 @@ private:
     void watchPlugins();
 
     DeviceEvents m_DeviceEvents;
+    NetworkKind m_NetworkKind;
     NotifyService m_NotifyService;
     PluginManager m_Plugins;
     HostSettingsPage m_SettingsPage;

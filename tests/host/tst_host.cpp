@@ -374,8 +374,18 @@ private slots:
         auto* detail = child<QLabel>("Host_ConnectionDetail");
         vrks_simulated_change("SIGNAL", "20");
         QTRY_VERIFY2(detail->text().contains("20 %"), qPrintable(detail->text()));
-        vrks_simulated_change("SYS_MODE", "5");
-        QTRY_COMPARE(Fake::calls().count("Notify 4101"), 1);
+        // LTE, UMTS, none, UMTS: nothing to read again; CDMA, its eHRPD.
+        const struct {
+            const char *mode, *subMode;
+            int told;
+        } modes[] = {{"4", "16", 0}, {"3", "9", 0}, {"0", "0", 0}, {"3", "9", 0}, {"2", "6", 1}, {"2", "31", 2}};
+        for (const auto& row : modes) {
+            vrks_simulated_change("SYS_SUBMODE", row.subMode);
+            vrks_simulated_change("SYS_MODE", row.mode);
+            vrks_simulated_wait_events();
+            QCoreApplication::processEvents();
+            QCOMPARE(Fake::calls().count("Notify 4101"), row.told);
+        }
         vrks_simulated_change("PRESENT", "0");
         QTRY_COMPARE(child<QLabel>("Host_ConnectionState")->text(), QString("No modem"));
         QVERIFY(!child<QPushButton>("Host_ConnectButton")->isEnabled());
