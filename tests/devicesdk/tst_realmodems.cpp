@@ -11,9 +11,9 @@
 
 namespace {
 
-constexpr int Patience = 10000;      // milliseconds; a modem is there after one second on an idle machine
-constexpr int Silence = 300;         // in which nothing more may come
-constexpr int WithoutWaiting = 200;  // an answer that waits for a daemon would take longer
+constexpr int Patience = 30000;       // milliseconds; a modem is there after one second on an idle machine
+constexpr int Silence = 300;          // in which nothing more may come
+constexpr int WithoutWaiting = 5000;  // an answer that waits for a frozen daemon never comes
 
 VRKS_ModemInfo info() {
     VRKS_ModemInfo info{};
@@ -21,6 +21,15 @@ VRKS_ModemInfo info() {
     VRKS_DevSrv_GetModemInfo(&info);
     return info;
 }
+
+// These came, and no other.
+#define TRY_EVENTS(...)                                                 \
+    do {                                                                \
+        const QVector<int> expected{__VA_ARGS__};                       \
+        QTRY_COMPARE_WITH_TIMEOUT(m_Log->device(), expected, Patience); \
+        QTest::qWait(Silence);                                          \
+        QCOMPARE(m_Log->device(), expected);                            \
+    } while (false)
 
 // All events since it was cleared.
 class EventLog {
@@ -183,29 +192,27 @@ private:
     bool areAllUnplugged() {
         char id[VRKS_MODEM_ID_SIZE];
         if (VRKS_DevSrv_GetModemAt(0, id) != 0) return status() == VRKS_DEV_STATUS_NO_MODEM;
-        if (m_Unplugging != id) m_Stack.unplug(QString(id).section('/', -1));
-        m_Unplugging = id;
+        if (m_Unplugging != id && m_Stack.unplug(QString(id).section('/', -1))) m_Unplugging = id;
         return false;
     }
 
-    // Answers to a question and tells it unasked, as a modem does that has moved.
-    void tell(const QString& id, const QString& command, const QString& name, const QString& state) {
-        QVERIFY(m_Stack.reply(id, command, name + ": 2," + state));
-        QVERIFY(m_Stack.send(id, name + ": " + state));
-    }
-
-    QVector<int> eventsAfterSilence() {
-        QTest::qWait(Silence);
-        return m_Log->device();
+    // Plugged in, in its network, and all of that told.
+    bool plugIn(const QString& id, const QJsonArray& tables = {"GSM"}) {
+        const auto isThere = [this] {
+            return isRegistered() && m_Log->device().contains(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
+        };
+        if (!m_Stack.plug(id, tables) || !QTest::qWaitFor(isThere, Patience)) return false;
+        m_Log->clear();
+        return true;
     }
 
 private slots:
     void initTestCase() {
+        qputenv("ORBISDIAL_DEVICE_WAIT_MS", QByteArray::number(Patience));
         m_Log = std::make_unique<EventLog>();
         QCOMPARE(status(), VRKS_DEV_STATUS_NO_MODEM);
     }
 
-    // Those that come back with a daemon included.
     void cleanup() {
         m_Unplugging.clear();
         m_Stack.thaw("ModemManager");
@@ -218,12 +225,13 @@ private slots:
     void tellsAllOfAModem() {
         QVERIFY(m_Stack.plug("gsm", {"GSM"}));
         QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+        TRY_EVENTS(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
         QVERIFY(m_Log->has(VRKS_EVENT_MODEM_LIST_CHANGED));
         QCOMPARE(status(), VRKS_DEV_STATUS_READY);
         QCOMPARE(imsi(), QByteArray("460110123456789"));
         QCOMPARE(productType(), 0);
         QCOMPARE(multiMode(), 0);
+        QTRY_COMPARE_WITH_TIMEOUT(QByteArray(info().operatorName), QByteArray("Example"), Patience);
         const VRKS_ModemInfo modem = info();
         QCOMPARE(modem.id, "/virtual/gsm");
         QCOMPARE(modem.port, "gsm-port");
@@ -233,7 +241,6 @@ private slots:
         QCOMPARE(modem.ownNumber, "+15555550100");
         QCOMPARE(modem.cardOperator, "Example");
         QCOMPARE(modem.gid1, "2AFF");
-        QCOMPARE(modem.operatorName, "Example");
         QCOMPARE(modem.operatorCode, "46011");
         QCOMPARE(modem.technology, "LTE");
         QCOMPARE(modem.generation, 4);
@@ -243,58 +250,53 @@ private slots:
     }
 
     void anotherCardFollowsAReplug() {
-        QVERIFY(m_Stack.plug("replug", {"GSM"}));
-        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        m_Log->clear();
+        QVERIFY(plugIn("replug"));
         QVERIFY(m_Stack.unplug("replug"));
         QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_NO_MODEM, Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+        TRY_EVENTS(VRKS_EVENT_DEV_CARD_CHANGED);
         m_Log->clear();
         QVERIFY(m_Stack.reply("replug", "AT+CIMI", "262011234567890"));
         QVERIFY(m_Stack.replug("replug"));
         QTRY_COMPARE_WITH_TIMEOUT(imsi(), QByteArray("262011234567890"), Patience);
         QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+        TRY_EVENTS(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
     }
 
     void aHandoverReloadsNothing() {
-        QVERIFY(m_Stack.plug("handover", {"GSM"}));
-        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        m_Log->clear();
-        tell("handover", "AT+CEREG?", "+CEREG", "0");
-        tell("handover", "AT+CGREG?", "+CGREG", "1,\"0A01\",\"0000B001\",2");
-        tell("handover", "AT+CREG?", "+CREG", "1,\"0A01\",\"0000B001\",2");
+        QVERIFY(plugIn("handover"));
+        QVERIFY(m_Stack.handOver("handover"));
         QTRY_COMPARE_WITH_TIMEOUT(QByteArray(info().technology), QByteArray("UMTS"), Patience);
-        QVERIFY(m_Log->has(VRKS_EVENT_MODEM_CHANGED));
-        QVERIFY(m_Log->has(VRKS_EVENT_SYSTEM_MODE_CHANGED));
-        QCOMPARE(eventsAfterSilence(), QVector<int>{});
+        QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_MODEM_CHANGED), Patience);
+        QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_SYSTEM_MODE_CHANGED), Patience);
+        TRY_EVENTS();
     }
 
     void theRadioReloadsNothing() {
-        QVERIFY(m_Stack.plug("radio", {"GSM"}));
-        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        m_Log->clear();
+        QVERIFY(plugIn("radio"));
         QCOMPARE(QProcess::execute("nmcli", {"radio", "wwan", "off"}), 0);
         QTRY_COMPARE_WITH_TIMEOUT(info().registration, int(VRKS_REGISTRATION_IDLE), Patience);
-        QCOMPARE(info().signal, -1);
+        QTRY_COMPARE_WITH_TIMEOUT(info().signal, -1, Patience);
         QCOMPARE(status(), VRKS_DEV_STATUS_READY);
         QCOMPARE(QProcess::execute("nmcli", {"radio", "wwan", "on"}), 0);
         QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{});
+        TRY_EVENTS();
     }
 
     void aPinUnlocks() {
         QVERIFY(m_Stack.plug("pin", {"GSM", "PIN"}));
         QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_LOCKED, Patience);
-        QCOMPARE(info().lock, int(VRKS_LOCK_PIN));
-        QCOMPARE(info().card, int(VRKS_CARD_PRESENT));
+        QTRY_COMPARE_WITH_TIMEOUT(info().lock, int(VRKS_LOCK_PIN), Patience);
+        QTRY_COMPARE_WITH_TIMEOUT(info().card, int(VRKS_CARD_PRESENT), Patience);
         QCOMPARE(m_Log->device(), QVector<int>{});
         QVERIFY(VRKS_DevSrv_EnterPuk("12345678", "1234") != 0);
 
-        QCOMPARE(info().attempts, 3);
+        QTRY_COMPARE_WITH_TIMEOUT(info().attempts, 3, Patience);
         QVERIFY(m_Stack.reply("pin", "AT+CSIM=10,\"0020000100\"", "+CSIM: 4,\"63C2\""));
+        QVERIFY(m_Stack.reply("pin", "AT+CPIN=*", "(silence)"));
         QCOMPARE(VRKS_DevSrv_EnterPin("0000"), 0L);
         QVERIFY(VRKS_DevSrv_EnterPin("0000") != 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_Stack.commands("pin").filter("AT+CPIN=").isEmpty(), Patience);
+        QVERIFY(m_Stack.send("pin", "+CME ERROR: 16"));
         QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_UNLOCK_RESULT), Patience);
         QCOMPARE(info().unlockResult, int(VRKS_UNLOCK_WRONG));
         QCOMPARE(m_Log->attemptsAtUnlockResult(), 2);
@@ -308,13 +310,13 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
         QCOMPARE(info().lock, int(VRKS_LOCK_NONE));
         QCOMPARE(imsi(), QByteArray("460110123456789"));
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+        TRY_EVENTS(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
     }
 
     void aPukUnlocks() {
         QVERIFY(m_Stack.plug("puk", {"GSM", "PUK"}));
         QTRY_COMPARE_WITH_TIMEOUT(info().lock, int(VRKS_LOCK_PUK), Patience);
-        QCOMPARE(info().attempts, 10);
+        QTRY_COMPARE_WITH_TIMEOUT(info().attempts, 10, Patience);
         QVERIFY(VRKS_DevSrv_EnterPin("1234") != 0);
         QCOMPARE(VRKS_DevSrv_EnterPuk("12345678", "1234"), 0L);
         QTRY_COMPARE_WITH_TIMEOUT(info().unlockResult, int(VRKS_UNLOCK_DONE), Patience);
@@ -324,9 +326,9 @@ private slots:
     void aMissingCardIsTold() {
         QVERIFY(m_Stack.plug("nocard", {"GSM", "NO_CARD"}));
         QTRY_COMPARE_WITH_TIMEOUT(status(), VRKS_DEV_STATUS_FAILED, Patience);
-        QCOMPARE(info().card, int(VRKS_CARD_NONE));
+        QTRY_COMPARE_WITH_TIMEOUT(info().card, int(VRKS_CARD_NONE), Patience);
         QCOMPARE(imsi(), QByteArray());
-        QCOMPARE(eventsAfterSilence(), QVector<int>{});
+        TRY_EVENTS();
     }
 
     void cdmaNeedsNoCard() {
@@ -337,7 +339,7 @@ private slots:
         QCOMPARE(imsi(), QByteArray());
         QTRY_COMPARE_WITH_TIMEOUT(info().registration, int(VRKS_REGISTRATION_HOME), Patience);
         QTRY_COMPARE_WITH_TIMEOUT(QByteArray(info().technology), QByteArray("EV-DO"), Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+        TRY_EVENTS(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
     }
 
     void aMultiModeCardHasTheModeOfItsNetwork() {
@@ -359,23 +361,22 @@ private slots:
         const auto secondStatus = [&] { return VRKS_DevSrv_GetModemInfoOf(id, &second) == 0 ? second.status : -1; };
         QTRY_COMPARE_WITH_TIMEOUT(secondStatus(), VRKS_DEV_STATUS_READY, Patience);
         QCOMPARE(info().id, "/virtual/two-a");
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+        TRY_EVENTS(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
 
         m_Log->clear();
         QCOMPARE(VRKS_DevSrv_SelectModem("/virtual/two-b"), 0L);
         QTRY_COMPARE_WITH_TIMEOUT(imsi(), QByteArray("262011234567890"), Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+        TRY_EVENTS(VRKS_EVENT_DEV_CARD_CHANGED);
 
         m_Log->clear();
         QCOMPARE(VRKS_DevSrv_SelectModem(nullptr), 0L);
         QVERIFY(m_Stack.unplug("two-b"));
         QTRY_COMPARE_WITH_TIMEOUT(imsi(), QByteArray("460110123456789"), Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+        TRY_EVENTS(VRKS_EVENT_DEV_CARD_CHANGED);
     }
 
     void ussdAnswersAndAsks() {
-        QVERIFY(m_Stack.plug("ussd", {"GSM", "USSD"}));
-        QTRY_VERIFY_WITH_TIMEOUT(isRegistered() && status() == VRKS_DEV_STATUS_READY, Patience);
+        QVERIFY(plugIn("ussd", {"GSM", "USSD"}));
         QTRY_COMPARE_WITH_TIMEOUT(info().hasUssd, 1, Patience);
         QCOMPARE(VRKS_NetSrv_SendUssd("*100#"), 0L);
         QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_USSD_RESULT), Patience);
@@ -399,22 +400,18 @@ private slots:
     }
 
     void survivesTheDaemonsDeath() {
-        QVERIFY(m_Stack.plug("killed", {"GSM"}));
-        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        m_Log->clear();
+        QVERIFY(plugIn("killed"));
         QVERIFY(m_Stack.kill("ModemManager"));
         QTRY_COMPARE_WITH_TIMEOUT(status(), -1, Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_CARD_CHANGED});
+        TRY_EVENTS(VRKS_EVENT_DEV_CARD_CHANGED);
         m_Log->clear();
         QVERIFY(m_Stack.start("ModemManager"));
         QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        QCOMPARE(eventsAfterSilence(), QVector<int>{VRKS_EVENT_DEV_DEVICE_INIT_FINISH});
+        TRY_EVENTS(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
     }
 
     void aFrozenDaemonHoldsNobody() {
-        QVERIFY(m_Stack.plug("frozen", {"GSM", "USSD"}));
-        QTRY_VERIFY_WITH_TIMEOUT(isRegistered(), Patience);
-        m_Log->clear();
+        QVERIFY(plugIn("frozen", {"GSM", "USSD"}));
         QVERIFY(m_Stack.freeze("ModemManager"));
         QElapsedTimer clock;
         clock.start();
@@ -430,8 +427,8 @@ private slots:
             QTRY_COMPARE_WITH_TIMEOUT(probe.line(), QByteArray("?"), Patience);
             probe.closeWriteChannel();
             QVERIFY(probe.waitForFinished());
-            QVERIFY2(clock.elapsed() < atoi(wait) + 2000, qPrintable(QString::number(clock.elapsed())));
             QVERIFY(clock.elapsed() >= atoi(wait));
+            QVERIFY2(clock.elapsed() < atoi(wait) + WithoutWaiting, qPrintable(QString::number(clock.elapsed())));
         }
         QVERIFY(m_Stack.thaw("ModemManager"));
         QVERIFY(isRegistered());
@@ -450,6 +447,7 @@ private slots:
         QVERIFY(silent.listen(folder.filePath("bus")));
         QProcessEnvironment environment = withVariable("ORBISDIAL_DEVICE", device);
         environment.insert("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + folder.filePath("bus"));
+        environment.insert("ORBISDIAL_DEVICE_WAIT_MS", "500");
         Probe probe({}, environment);
         probe.closeWriteChannel();
         QVERIFY(probe.waitForFinished(Patience));
@@ -482,8 +480,8 @@ private slots:
         QVERIFY(exit.waitForFinished());
         QCOMPARE(exit.exitStatus(), QProcess::NormalExit);
         QCOMPARE(exit.exitCode(), 0);
-        for (int i = 0; i < 10; ++i) {
-            Probe probe;
+        for (int i = 0; i < 10; ++i) {  // the first picture is there after some tens of milliseconds
+            Probe probe({}, withVariable("ORBISDIAL_DEVICE_WAIT_MS", QString::number(5 * i)));
             probe.closeWriteChannel();
             QVERIFY(probe.waitForFinished());
             QCOMPARE(probe.exitStatus(), QProcess::NormalExit);

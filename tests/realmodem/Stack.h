@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QLocalSocket>
 #include <QtTest>
+#include <algorithm>
 
 class Stack {
 public:
@@ -23,6 +24,15 @@ public:
         return isDone({"reply", modem, command, text});
     }
     bool send(const QString& modem, const QString& line) { return isDone({"send", modem, line}); }
+    // From LTE to UMTS, which the modem tells unasked.
+    bool handOver(const QString& modem) {
+        const char* const places[][2] = {
+            {"+CEREG", "0"}, {"+CGREG", "1,\"0A01\",\"0000B001\",2"}, {"+CREG", "1,\"0A01\",\"0000B001\",2"}};
+        return std::all_of(std::begin(places), std::end(places), [&](const auto& place) {
+            const QString name = place[0], state = place[1];
+            return reply(modem, "AT" + name + "?", name + ": 2," + state) && send(modem, name + ": " + state);
+        });
+    }
     bool kill(const QString& daemon) { return isDone({"daemon", "kill", daemon}); }
     bool freeze(const QString& daemon) { return isDone({"daemon", "stop", daemon}); }
     bool thaw(const QString& daemon) { return isDone({"daemon", "cont", daemon}); }

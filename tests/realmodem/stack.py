@@ -3,7 +3,7 @@ beside them the test program, whose status it ends with. The program controls it
 a JSON array with a command and its arguments a line, answered by a line, {"answer": …} or {"error": …}. Commands:
 
     plug ID [TABLE, …]    a new modem, ModemManager's device /virtual/ID, that answers by these tables (answers.py)
-    unplug ID, replug ID  it goes, it comes again
+    unplug ID, replug ID  it goes, it comes again, as long as ModemManager lives
     reply ID COMMAND TEXT its answer from now on
     send ID TEXT          a line that nobody asked for
     commands ID           what it was sent so far
@@ -30,7 +30,7 @@ from modem import Modem
 HERE = os.path.dirname(os.path.abspath(__file__))
 FOLDER = sys.argv[1]
 MM, NM, POLKIT = "org.freedesktop.ModemManager1", "org.freedesktop.NetworkManager", "org.freedesktop.PolicyKit1"
-STARTING_MS, POLLING_MS = 20000, 20
+STARTING_MS, POLLING_MS = 60000, 20
 
 
 def place(*names):
@@ -149,7 +149,7 @@ class Polkit(dbus.service.Object):
         pass
 
 
-processes, modems = {}, {}
+processes, modems, unplugged = {}, {}, set()
 
 
 # Calls done() once the condition holds, or failed() when that takes too long.
@@ -187,7 +187,7 @@ def start(name, done, failed):
 
     def attach_all():
         if name == "ModemManager":
-            for modem_id in modems:
+            for modem_id in modems.keys() - unplugged:
                 attach(modem_id, lambda: None, print)
         done()
 
@@ -195,6 +195,7 @@ def start(name, done, failed):
 
 
 def command_plug(done, failed, modem_id, tables):
+    unplugged.discard(modem_id)
     modems[modem_id] = Modem(place("ports", modem_id + "-port"), tables)
     attach(modem_id, done, failed)
 
@@ -205,10 +206,12 @@ def inhibit(done, failed, modem_id, is_inhibited):
 
 
 def command_unplug(done, failed, modem_id):
+    unplugged.add(modem_id)
     inhibit(done, failed, modem_id, True)
 
 
 def command_replug(done, failed, modem_id):
+    unplugged.discard(modem_id)
     inhibit(done, failed, modem_id, False)
 
 

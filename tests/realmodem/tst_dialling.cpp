@@ -5,7 +5,6 @@
 
 #include <ctime>
 
-#include <QElapsedTimer>
 #include <QProcess>
 
 #include "Connections.h"
@@ -52,10 +51,10 @@ class tst_dialling : public QObject {
 private slots:
     void initTestCase() {
         qputenv("ORBISDIAL_MODEM", "gsm-port");  // of the processes that are started here too
-        qputenv("ORBISDIAL_DEVICE_WAIT_MS", "15000");
+        qputenv("ORBISDIAL_DEVICE_WAIT_MS", QByteArray::number(Patience));
         QVERIFY(m_Stack.plug("gsm", {"GSM"}));
         QVERIFY(m_Stack.plug("cdma", {"GSM", "CDMA"}));
-        QTRY_COMPARE_WITH_TIMEOUT(modemCount(), 2, 15000);
+        QTRY_COMPARE_WITH_TIMEOUT(modemCount(), 2, Patience);
         QVERIFY(use("gsm"));
     }
 
@@ -67,8 +66,9 @@ private slots:
         QVERIFY(use("gsm"));
         QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
         QVERIFY(m_Stack.setPppd("up"));
-        QTRY_COMPARE_WITH_TIMEOUT(deviceStatus(), VRKS_DEV_STATUS_READY, 15000);
-        QTRY_VERIFY2_WITH_TIMEOUT(connection().state == VRKS_CONNECTION_DOWN && !*connection().usedBy, shown(), 15000);
+        QTRY_COMPARE_WITH_TIMEOUT(deviceStatus(), VRKS_DEV_STATUS_READY, Patience);
+        QTRY_VERIFY2_WITH_TIMEOUT(connection().state == VRKS_CONNECTION_DOWN && !*connection().usedBy, shown(),
+                                  Patience);
     }
 
     void cleanup() { m_IsSpoilt = QTest::currentTestFailed(); }
@@ -109,6 +109,7 @@ private slots:
         const long long began = std::time(nullptr);
         QVERIFY(dial());
         TRY_UP();
+        TRY_CONNECTION(hasAddress());
         const VRKS_Connection up = connection();
         QVERIFY(up.isOwn && up.endsWithProcess);
         QCOMPARE(up.name, "Home");
@@ -182,11 +183,11 @@ private slots:
         const int where = cell<int>("where");
         if (where == Unmanaged) QVERIFY(nmcli("device set gsm-port managed no"));
         if (where == Frozen) QVERIFY(m_Stack.freeze("NetworkManager"));
-        if (where >= InVain) QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
+        if (where == Begun || where >= InVain) QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
         if (where == NoAddress) QVERIFY(m_Stack.setPppd("silence"));
         const int calls = pppdCalls();
         QVERIFY(dial());
-        if (where == NoAddress) QTRY_COMPARE_WITH_TIMEOUT(pppdCalls(), calls + 1, 15000);
+        if (where == NoAddress) QTRY_COMPARE_WITH_TIMEOUT(pppdCalls(), calls + 1, Patience);
         if (where != Begun) {
             TRY_CONNECTION(connection().step == cell<int>("step"));
             QTest::qWait(100);
@@ -205,7 +206,7 @@ private slots:
         QVERIFY2(connection().failure == VRKS_FAILURE_CANCELLED, shown());
         QVERIFY(!hangUp());
         if (where == Unmanaged) QVERIFY(nmcli("device set gsm-port managed yes"));
-        if (where == Silent) QVERIFY(m_Stack.send("gsm", NoCarrier));
+        if (where == Begun || where == Silent) QVERIFY(m_Stack.send("gsm", NoCarrier));
 
         QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
         QVERIFY(m_Stack.setPppd("up"));
@@ -244,8 +245,11 @@ private slots:
         QVERIFY(dial());
         TRY_UP();
         QVERIFY(m_Stack.unplug("gsm"));
-        TRY_DOWN(VRKS_FAILURE_ENDED_OUTSIDE);
-        QTRY_COMPARE_WITH_TIMEOUT(deviceStatus(), VRKS_DEV_STATUS_NO_MODEM, 15000);
+        TRY_CONNECTION(connection().state == VRKS_CONNECTION_DOWN);
+        // The daemon hangs up before it lets go of a modem; which of the two is heard of first is open.
+        const int failure = connection().failure;
+        QVERIFY2(failure == VRKS_FAILURE_ENDED_OUTSIDE || failure == VRKS_FAILURE_MODEM_GONE, shown());
+        QTRY_COMPARE_WITH_TIMEOUT(deviceStatus(), VRKS_DEV_STATUS_NO_MODEM, Patience);
         QVERIFY(!dial());
         QVERIFY2(connection().failure == VRKS_FAILURE_NO_MODEM, shown());
         QVERIFY(m_Stack.replug("gsm"));
@@ -274,7 +278,7 @@ private slots:
         QVERIFY(m_Stack.start(cell("daemon")));
         QVERIFY(use("gsm"));
         QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
-        QTRY_VERIFY2_WITH_TIMEOUT(isUpAgain(), shown(), 15000);
+        QTRY_VERIFY2_WITH_TIMEOUT(isUpAgain(), shown(), Patience);
         QVERIFY(hangUp());
         TRY_DOWN(VRKS_FAILURE_NONE);
     }
@@ -304,6 +308,7 @@ private slots:
         QProcess other;
         other.start(DIALLER, {"Other", cell("kind")});
         TRY_UP();
+        TRY_CONNECTION(hasAddress());
         const VRKS_Connection up = connection();
         QCOMPARE(up.name, "Other");
         QVERIFY(!up.isOwn);
@@ -311,12 +316,10 @@ private slots:
         QCOMPARE(up.interfaceName, "ppp0");
         QVERIFY(!dial());
 
-        QElapsedTimer timer;
-        timer.start();
         other.kill();
         QVERIFY(other.waitForFinished());
         if (isBound) {
-            QTRY_VERIFY_WITH_TIMEOUT(!hasLink(), 1000);
+            QTRY_VERIFY_WITH_TIMEOUT(!hasLink(), Patience);
             TRY_CONNECTION(connection().state == VRKS_CONNECTION_DOWN);
             return;
         }
@@ -342,7 +345,7 @@ private slots:
         QByteArray last;
         const QByteArray expected = QByteArray::number(isPermitted ? VRKS_CONNECTION_UP : VRKS_CONNECTION_DOWN) + ' ' +
                                     QByteArray::number(cell<int>("failure")) + '\n';
-        QTRY_VERIFY2_WITH_TIMEOUT((last += other.readAllStandardOutput()).endsWith(expected), last, 15000);
+        QTRY_VERIFY2_WITH_TIMEOUT((last += other.readAllStandardOutput()).endsWith(expected), last, Patience);
         other.closeWriteChannel();
         QVERIFY(other.waitForFinished());
         QVERIFY(m_Stack.permit(true));
@@ -376,7 +379,7 @@ private:
                 info.size = sizeof info;
                 return VRKS_DevSrv_GetModemInfo(&info) == 0 && id == info.id && info.status == VRKS_DEV_STATUS_READY;
             },
-            15000);
+            Patience);
     }
 
     // Dials anew when a daemon that has just come was not ready.
