@@ -5,9 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QLoggingCategory>
 #include <QThread>
 #include <algorithm>
 #include <chrono>
@@ -104,15 +102,3 @@ void require(bool done, const char* what) {
 }
 
 }  // namespace Measure
-
-// The applications write no traces either, unless they are asked for.
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("ORBISDIAL_DEVICE", "simulated");
-    QLoggingCategory::setFilterRules("default.debug=false\ndefault.warning=false");
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return EXIT_FAILURE;
-    benchmark::RunSpecifiedBenchmarks();
-    return EXIT_SUCCESS;
-}

@@ -1,4 +1,5 @@
-// The settings page's bare widgets, without profiles, texts' translations or logic; ends when it has been painted.
+// The settings page's bare widgets, without profiles, texts' translations or logic; ends when it has been painted,
+// or with an argument stays.
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -59,5 +60,7 @@ int main(int argc, char** argv) {
         buttons->addWidget(new QPushButton(text));
     buttons->addStretch();
     layout->addLayout(buttons);
-    return FirstPaint::of(&window);
+    if (argc == 1) return FirstPaint::of(&window);
+    window.show();
+    return QApplication::exec();
 }
