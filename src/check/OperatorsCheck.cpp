@@ -11,9 +11,11 @@ std::vector<ElementRule> rules() {
     return {{"", "Operators", ""},
             {"Operators", "operator", "country name"},
             {"operator", "alias", "name"},
-            {"operator", "preset", "name"},
+            {"operator", "preset", "name plan billing"},
             {"operator", "balance", "way number text"}};
 }
+
+const QStringList Billings{"prepaid", "postpaid"};
 
 QStringList ways() {
     QStringList words;
@@ -42,6 +44,9 @@ void OperatorsCheck::start(const XmlElement& element) {
 
 void OperatorsCheck::checkPreset(const XmlElement& element) {
     const QString name = element.value("name");
+    const QString billing = element.value("billing");
+    if (!billing.isEmpty() && !Billings.contains(billing))
+        find(element.place, "billing " + inQuotes(billing) + " is passed over", Spelling::advice(billing, Billings));
     if (name.isEmpty()) return;
     if (m_Presets.lacks(name))
         find(element.place, "the library has no profile " + inQuotes(name), m_Presets.adviceFor(name));
