@@ -130,8 +130,7 @@ int NetConnectSettingUILogic::getConfigData() {
     }
     if (NetConnectDevice::isCDMAProduct(caller)) result = readConfigPair("common", "CDMA", nullptr);
     m_ConfigProblem = LastStorageProblem();
-    if (m_ConfigProblem.file != NetConnectXMLParse::shippedPath(NetConnectFileNames::Configuration))
-        m_ConfigProblem = NetConnectStorageProblem();
+    if (m_ConfigProblem.file != NetConnectXMLParse::configurationPath()) m_ConfigProblem = NetConnectStorageProblem();
     keepConfiguration();
     return result;
 }
@@ -153,13 +152,12 @@ void NetConnectSettingUILogic::keepConfiguration() {
         *m_pProfileListHash = kept.profileList;
         *m_pIMSIHash = kept.imsiProfiles;
         m_UserPrompt = kept.prompt;
-        reportKept(NetConnectFileNames::Configuration);
+        reportKept(NetConnectXMLParse::configurationPath());
     }
 }
 
 // A file that is just not there is no problem by itself, but it is where it was there before.
-void NetConnectSettingUILogic::reportKept(const char* fileName) {
-    const QString path = NetConnectXMLParse::shippedPath(fileName);
+void NetConnectSettingUILogic::reportKept(const QString& path) {
     if (LastStorageProblem().file != path)
         m_pXMLParse->reportProblem(path, QLatin1String("can't be read now; what was last read of it stays in force"));
 }
@@ -192,7 +190,7 @@ void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
     const int status = readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(NetConnectFileNames::Library));
     if (status != Success && m_bLibraryWhole && !before.isEmpty()) {
         m_ProfileLibList = before;
-        reportKept(NetConnectFileNames::Library);
+        reportKept(NetConnectXMLParse::shippedPath(NetConnectFileNames::Library));
     } else {
         m_bLibraryWhole = status == Success;
         collectLangids(m_ProfileLibList);

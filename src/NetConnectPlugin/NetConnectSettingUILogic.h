@@ -272,7 +272,7 @@ private:
     void attachStore();
     int readConfigPair(QString group, QString module, UserPrompt* prompt);
     void keepConfiguration();
-    void reportKept(const char* fileName);
+    void reportKept(const QString& path);
     static bool isUserFileLarge();
     void readLibrary(QString* defaultName);
     int readForeignFile(QList<DialupProfile>* profiles, QString* defaultName, const QString& fileName);

@@ -1,5 +1,8 @@
 #include "NetConnectXMLParse.h"
 
+#include <QFileInfo>
+#include <QStringList>
+
 #include "CommonUtilsBase.h"
 #include "Trace.h"
 
@@ -41,6 +44,18 @@ QString NetConnectXMLParse::userProfilePath() {
 QString NetConnectXMLParse::shippedPath(const char* fileName) {
     return CommonUtilsBase::GetPluginLibraryPath() + QLatin1String("/plugins/NetConnectPlugin/") +
            QLatin1String(fileName);
+}
+
+// What can't be looked at counts too, and a link that leads nowhere: whoever put it there wants to hear of it.
+static bool isThere(const QString& path) { return FileStamp::of(path).exists() || QFileInfo(path).isSymLink(); }
+
+QString NetConnectXMLParse::configurationPath() {
+    const QStringList folders = CommonUtilsBase::GetConfigurationFolders();
+    for (int i = 0; i < folders.size(); ++i) {
+        const QString path = folders.at(i) + QLatin1Char('/') + QLatin1String(NetConnectFileNames::Configuration);
+        if (isThere(path)) return path;
+    }
+    return shippedPath(NetConnectFileNames::Configuration);
 }
 
 void NetConnectXMLParse::reportProblem(const QString& file, const QString& reason, qint64 line, qint64 column) {

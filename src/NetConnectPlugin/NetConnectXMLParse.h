@@ -98,6 +98,9 @@ public:
     // A file of the shipped set, by its bare name.
     static QString shippedPath(const char* fileName);
 
+    // The configuration in force: the first in the configuration folders, readable or not, else the shipped one.
+    static QString configurationPath();
+
     // --- state ---
 
     // Lives as long as the singleton.

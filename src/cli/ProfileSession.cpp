@@ -114,8 +114,7 @@ void ProfileSession::finish() {
 QString ProfileSession::configurationProblem() const {
     if (m_pLogic->ConfigurationStatus() == NetConnectSettingUILogic::Success) return QString();
     const NetConnectStorageProblem problem = m_pLogic->ConfigurationProblem();
-    return problem.isNull() ? missingText(NetConnectXMLParse::shippedPath(NetConnectFileNames::Configuration))
-                            : problem.text();
+    return problem.isNull() ? missingText(NetConnectXMLParse::configurationPath()) : problem.text();
 }
 
 QString ProfileSession::problem() const {

@@ -44,7 +44,7 @@ QString modemProblem() {
 // In the folder of an installation, or of a build, which has the same shape.
 QString guideFile() {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../share/doc/orbisdial/guide/index.html"));
+                           QStringLiteral("/../share/orbisdial/guide/index.html"));
 }
 
 }  // namespace

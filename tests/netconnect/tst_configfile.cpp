@@ -1,5 +1,6 @@
 // NetConnectConfig.xml: groups, modules, sections, prompt items, and the mode default.
 
+#include "CommonUtilsBase.h"
 #include "LogicFixture.h"
 
 class tst_configfile : public LogicTest {
@@ -90,7 +91,73 @@ private slots:
         QCOMPARE(m_Functions.value("F").value, QString("theirs"));
     }
 
+    // The user's, the session's in their order, the machine's, at last the shipped one.
+    void theFirstConfigurationCounts() {
+        const QStringList places{path("config"), path("first/orbisdial"), path("second/orbisdial")};
+        for (const QString& place : places)
+            write(place + "/NetConnectConfig.xml", configuration(QFileInfo(place).path().toUtf8()));
+        shipConfig(section("Function", {"F=library path"}));
+        QCOMPARE(readPair("common", "common"), 0);
+        QCOMPARE(m_Functions.value("F").value, QString("library path"));  // which is a whole set
+
+        useConfigurationFolders();
+        for (const QString& place : places) {
+            QCOMPARE(readPair("common", "common"), 0);
+            QCOMPARE(m_Functions.value("F").value, QFileInfo(place).path());
+            QVERIFY(QFile::remove(place + "/NetConnectConfig.xml"));
+        }
+        QCOMPARE(CommonUtilsBase::GetConfigurationFolders(), places + QStringList("/etc/orbisdial"));
+        if (QFile::exists("/etc/orbisdial/NetConnectConfig.xml")) QSKIP("this computer has a configuration");
+        QCOMPARE(readPair("common", "common"), 0);
+        QCOMPARE(m_Functions.value("ENCRYPT").value, QString("true"));
+    }
+
+    // Another one in its place would have other switches, and read stored passwords otherwise.
+    void aBrokenConfigurationIsNamed_data() {
+        const Rows<QString, int> row("kind", "line");
+        row("damaged", "damaged", 4);
+        row("a folder", "folder", 0);
+        row("a link to nothing", "link to nothing", 0);
+    }
+    void aBrokenConfigurationIsNamed() {
+        const QString file = path("second/orbisdial/NetConnectConfig.xml");
+        QVERIFY(QDir().mkpath(path("second/orbisdial")));
+        if (cell("kind") == "damaged") write(file, configuration("broken").chopped(5));
+        if (cell("kind") == "folder") QVERIFY(QDir().mkpath(file));
+        if (cell("kind") == "link to nothing") QVERIFY(QFile::link(path("nowhere"), file));
+        setUser(profile("Mine", "password='aXQ=' encrypttype='1'"), "<Default DefaultName='Mine' IsUserSet='1'/>");
+        const QByteArray before = user();
+
+        useConfigurationFolders();
+        NetConnectSettingUILogic* const logic = restart();
+        logic->Init();
+        QVERIFY(logic->ConfigurationStatus() != 0);
+        QCOMPARE(logic->ConfigurationProblem().file, file);
+        QTEST(int(logic->ConfigurationProblem().line), "line");
+        QVERIFY(!logic->ConfigurationProblem().reason.isEmpty());
+        QVERIFY(names().contains("Mine"));
+        QCOMPARE(logic->FunctionConfigKeys().contains("IMPORT"), false);  // nothing of the shipped one
+        end();
+        QCOMPARE(user(), before);
+    }
+
+    void cleanup() {
+        qunsetenv("XDG_CONFIG_DIRS");
+        qputenv("ORBISDIAL_LIBRARY_PATH", QFile::encodeName(path("library")));
+    }
+
 private:
+    static QByteArray configuration(const QByteArray& value) {
+        return "<x><group name='common'><module name='common'>" + section("Function", {"F=" + value}) +
+               "</module></group></x>";
+    }
+
+    // The shipped files are then those of the build.
+    void useConfigurationFolders() {
+        qunsetenv("ORBISDIAL_LIBRARY_PATH");
+        qputenv("XDG_CONFIG_DIRS", QFile::encodeName(path("first") + ":" + path("second")));
+    }
+
     enum { SettlingTime = 150 };  // milliseconds; a file that changed just now is read again in any case
 
     int readPair(const char* group, const char* module) {

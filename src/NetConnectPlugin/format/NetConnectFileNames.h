@@ -4,10 +4,10 @@
 
 namespace NetConnectFileNames {
 
-const char User[] = "UserProfile.prof";    // in the user data directory
-const char Library[] = "ProfileLib.prof";  // these beside the plug-in's library
-const char System[] = "SysProfile.prof";   // the template of new profiles
-const char Configuration[] = "NetConnectConfig.xml";
+const char User[] = "UserProfile.prof";               // in the user data directory
+const char Library[] = "ProfileLib.prof";             // these in the library path
+const char System[] = "SysProfile.prof";              // the template of new profiles
+const char Configuration[] = "NetConnectConfig.xml";  // or in a configuration folder
 const char Operators[] = "Operators.xml";
 
 }  // namespace NetConnectFileNames

@@ -87,7 +87,7 @@ int NetConnectXMLParse::GetSettingsFromXML(QString* group, QString* module, QHas
 
 // Parses the file, or takes what is kept of it when it has not changed: 0, 6 or 23.
 int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
-    const QString path = shippedPath(NetConnectFileNames::Configuration);
+    const QString path = configurationPath();
     const FileStamp stamp = FileStamp::of(path);
     if (m_Config.path == path && m_Config.stamp.settled && m_Config.stamp == stamp) {
         *document = m_Config.document;
@@ -95,6 +95,8 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
     }
     m_Config = KeptConfig();
     QByteArray content;
+    if (!stamp.exists() && path != shippedPath(NetConnectFileNames::Configuration))
+        reportProblem(path, QLatin1String("leads to no file"));
     if (!stamp.exists() || readFile(path, &content) != 0) return NetConnectStatus::FileMissing;
 
     if (!document->scan(content)) {

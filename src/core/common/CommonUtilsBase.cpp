@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QStringList>
 
 namespace {
 
@@ -21,6 +20,8 @@ QString settingsFolder() {
 QString settingsFile() { return settingsFolder() + "/orbisdial.ini"; }
 
 QString settingsKey(const QString& group, const QString& key) { return group.isEmpty() ? key : group + '/' + key; }
+
+QString namedLibraryPath() { return qEnvironmentVariable("ORBISDIAL_LIBRARY_PATH"); }
 
 bool makeSettingsFolder() {
     const QString folder = QDir::cleanPath(settingsFolder());
@@ -53,9 +54,19 @@ bool CommonUtilsBase::SetSettings(const QString& group, const QString& key, cons
 
 QString CommonUtilsBase::GetSettingsFile() { return QDir::cleanPath(settingsFile()); }
 
+QStringList CommonUtilsBase::GetConfigurationFolders() {
+    if (!namedLibraryPath().isEmpty()) return QStringList();
+    QStringList folders(QDir::cleanPath(settingsFolder()));
+    const QStringList places = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+    for (const QString& place : places.mid(1))
+        folders << QDir::cleanPath(place + "/orbisdial");  // the first is the user's
+    folders << QStringLiteral("/etc/orbisdial");
+    return folders;
+}
+
 QString CommonUtilsBase::GetPluginLibraryPath() {
     static const QString besideThisLibrary = folderOfThisLibrary() + "/orbisdial";
-    const QString configured = qEnvironmentVariable("ORBISDIAL_LIBRARY_PATH");
+    const QString configured = namedLibraryPath();
     return configured.isEmpty() ? besideThisLibrary : QDir::cleanPath(configured);
 }
 

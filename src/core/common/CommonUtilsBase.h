@@ -1,11 +1,12 @@
 // What the host core library offers without a window: settings, places, sealed texts.
 //
-// Encrypt, Decrypt, CryptLocalFree, ParanthesisCorrection and GetPluginLibraryPath are safe from any thread; the
-// settings are for the thread that runs the application.
+// Encrypt, Decrypt, CryptLocalFree, ParanthesisCorrection, GetConfigurationFolders and GetPluginLibraryPath are safe
+// from any thread; the settings are for the thread that runs the application.
 #ifndef ORBISDIAL_COMMONUTILSBASE_H
 #define ORBISDIAL_COMMONUTILSBASE_H
 
 #include <QString>
+#include <QStringList>
 
 #include "HostCoreExport.h"
 
@@ -22,6 +23,12 @@ public:
 
     // Where they are, to be watched for what other programs store; the file may be missing, and its folder.
     static QString GetSettingsFile();
+
+    // Where a configuration may lie that takes the shipped one's place, the first that counts first, without a slash
+    // at the end: $ORBISDIAL_CONFIG_DIR or "orbisdial" in the user's XDG configuration directory, then in those of
+    // $XDG_CONFIG_DIRS, then /etc/orbisdial. None while $ORBISDIAL_LIBRARY_PATH names a set of files, which is
+    // whole. The folders may be missing.
+    static QStringList GetConfigurationFolders();
 
     // The directory that holds "plugins" and "lang", without a slash at its end: $ORBISDIAL_LIBRARY_PATH, or
     // else "orbisdial" beside this library.
