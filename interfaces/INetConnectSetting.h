@@ -23,6 +23,11 @@ enum { NetConnectSettingKind = 28689 };
 #define ORBISDIAL_PROPOSED_DEFAULT "proposedDefault"
 #define ORBISDIAL_PROPOSED_OPERATOR "proposedOperator"
 
+// The object may also be asked to offer a file's profiles for import, by an invokable operation of this name that takes
+// the path and answers a QString: why it can't be done, in words for the user, or nothing when the choice is on screen.
+// Its settings page must be on show. Nothing is imported before the user agrees.
+#define ORBISDIAL_OFFER_IMPORT "OfferImport"
+
 // A truth value: true while the user's profiles are still to be read. Many are read right after the page's first paint,
 // or soon after the start when another page is shown. To ask for one, or for the default, has them read at once.
 #define ORBISDIAL_PROFILES_AWAITED "profilesAwaited"

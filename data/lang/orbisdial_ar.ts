@@ -562,6 +562,18 @@
         <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
         <translation>موجود بالفعل. سيتم الاحتفاظ بملفات التعريف الموجودة فيه واستبدال ما يحمل الاسم نفسه. هل تريد التصدير إليه؟</translation>
     </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_OFF</source>
+        <translation>لا تسمح التهيئة بالاستيراد.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_MISSING</source>
+        <translation>الملف غير موجود.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_NONE</source>
+        <translation>لا يحتوي الملف على ملفات تعريف.</translation>
+    </message>
 </context>
 <context>
     <name>OrbisDial</name>
@@ -1230,6 +1242,15 @@
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>لم يُستورد شيء من %1.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>أنهِ أولاً ما هو مفتوح، ثم افتح الملف مجددًا.</translation>
     </message>
 </context>
 </TS>

@@ -562,6 +562,18 @@
         <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
         <translation>ist bereits vorhanden. Die Profile der Datei bleiben erhalten, gleichnamige werden ersetzt. In diese Datei exportieren?</translation>
     </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_OFF</source>
+        <translation>Die Konfiguration erlaubt keinen Import.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_MISSING</source>
+        <translation>Die Datei ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_NONE</source>
+        <translation>Die Datei enthält keine Profile.</translation>
+    </message>
 </context>
 <context>
     <name>OrbisDial</name>
@@ -1230,6 +1242,15 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>Verbindung kappen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>Aus %1 wurde nichts importiert.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>Schließen Sie zuerst ab, was gerade offen ist, und öffnen Sie die Datei dann erneut.</translation>
     </message>
 </context>
 </TS>

@@ -701,6 +701,21 @@
         <extracomment>Question before an export into an existing file: follows the file's name and a blank, and ends the sentence that the name begins.</extracomment>
         <translation>exists already. Its profiles are kept; those of the same name are replaced. Export into it?</translation>
     </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_OFF</source>
+        <extracomment>Message: a profile file was opened, but the configuration has no import.</extracomment>
+        <translation>The configuration does not allow imports.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_MISSING</source>
+        <extracomment>Message: the profile file that was opened is not there.</extracomment>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_NONE</source>
+        <extracomment>Message: the file that was opened holds no profile.</extracomment>
+        <translation>The file holds no profiles.</translation>
+    </message>
 </context>
 <context>
     <name>OrbisDial</name>
@@ -1423,6 +1438,17 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
         <source>IDS_HOST_MODEM_DROP</source>
         <extracomment>Button in the panel: the network ends the connection; up to 20 characters. No mnemonic.</extracomment>
         <translation>Drop connection</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <extracomment>Message: %1 is the path of a file that was opened, %2 a sentence that says why.</extracomment>
+        <translation>Nothing was imported from %1.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <extracomment>Message: a profile file was opened while the program asks something else.</extracomment>
+        <translation>Finish what is open first, then open the file again.</translation>
     </message>
 </context>
 </TS>

@@ -562,6 +562,18 @@
         <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
         <translation>ya existe. Sus perfiles se conservan y los del mismo nombre se reemplazan. ¿Desea exportar a este archivo?</translation>
     </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_OFF</source>
+        <translation>La configuración no permite importar.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_MISSING</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_NONE</source>
+        <translation>El archivo no contiene perfiles.</translation>
+    </message>
 </context>
 <context>
     <name>OrbisDial</name>
@@ -1230,6 +1242,15 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>Cortar conexión</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>No se importó nada de %1.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>Termine primero lo que está abierto y vuelva a abrir el archivo.</translation>
     </message>
 </context>
 </TS>

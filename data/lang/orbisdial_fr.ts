@@ -562,6 +562,18 @@
         <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
         <translation>existe déjà. Ses profils sont conservés&#xa0;; ceux de même nom sont remplacés. Exporter dans ce fichier&#xa0;?</translation>
     </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_OFF</source>
+        <translation>La configuration n’autorise pas l’importation.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_MISSING</source>
+        <translation>Le fichier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_NONE</source>
+        <translation>Le fichier ne contient aucun profil.</translation>
+    </message>
 </context>
 <context>
     <name>OrbisDial</name>
@@ -1230,6 +1242,15 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>Couper</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>Rien n’a été importé de %1.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>Terminez d’abord ce qui est ouvert, puis rouvrez le fichier.</translation>
     </message>
 </context>
 </TS>

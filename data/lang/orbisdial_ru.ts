@@ -562,6 +562,18 @@
         <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
         <translation>уже существует. Профили этого файла сохранятся, одноимённые будут заменены. Экспортировать в него?</translation>
     </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_OFF</source>
+        <translation>Конфигурация не разрешает импорт.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_MISSING</source>
+        <translation>Файл не существует.</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_NONE</source>
+        <translation>В файле нет профилей.</translation>
+    </message>
 </context>
 <context>
     <name>OrbisDial</name>
@@ -1230,6 +1242,15 @@
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>Оборвать связь</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>Из %1 ничего не импортировано.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>Сначала завершите начатое, затем откройте файл снова.</translation>
     </message>
 </context>
 </TS>

@@ -562,6 +562,18 @@
         <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
         <translation>已存在。其中的配置文件将保留，同名的将被替换。是否导出到此文件？</translation>
     </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_OFF</source>
+        <translation>配置不允许导入。</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_MISSING</source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message>
+        <source>IDS_NETCONNECT_MSG_IMPORT_NONE</source>
+        <translation>文件中没有配置文件。</translation>
+    </message>
 </context>
 <context>
     <name>OrbisDial</name>
@@ -1230,6 +1242,15 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>断开连接</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>未从 %1 导入任何内容。
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>请先完成当前打开的操作，然后重新打开该文件。</translation>
     </message>
 </context>
 </TS>

@@ -95,6 +95,10 @@ public:
     UserPrompt GetUserPromptInfo() override;
     int GetFunctionConfigStringValues(QString key, QString* values) override;
 
+    // Shows the import dialog with all profiles of the file ticked; see ORBISDIAL_OFFER_IMPORT. A file that can't be
+    // read to its end offers nothing.
+    Q_INVOKABLE QString OfferImport(const QString& path);
+
 signals:
     void SysModeChangedSignal();
 
@@ -239,6 +243,7 @@ private:
 
     // --- import and export ---
     void openTransferDialog(bool import);
+    QString offerProblem(const QString& path);
     void finishTransfer();
     void initImportExportDialog();
     void createTransferWidgets();

@@ -2,9 +2,9 @@
 
 #include <vrks_simulated.h>
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QDockWidget>
@@ -20,6 +20,7 @@
 #include "ConnectionView.h"
 #include "HostSettings.h"
 #include "HostText.h"
+#include "INetConnectSetting.h"
 #include "ModemPanel.h"
 #include "NewProfileDialog.h"
 #include "Plugins.h"
@@ -27,6 +28,7 @@
 #include "ProfileChooser.h"
 #include "SettingsDialog.h"
 #include "SettingsPages.h"
+#include "Startup.h"
 #include "UnlockDialog.h"
 
 namespace {
@@ -160,6 +162,36 @@ void MainWindow::present() {
     show();
     raise();
     activateWindow();
+}
+
+void MainWindow::offerImport(const QString& file) {
+    present();
+    const QString problem = importProblem(file);
+    if (problem.isEmpty()) return;
+    CommonUtils::ShowMessage(QMessageBox::Warning, QApplication::activeWindow(), hostText("IDS_HOST_TITLE"),
+                             hostText("IDS_HOST_IMPORT_FAILED", {file, problem}), QStringLiteral("IDS_OK"));
+}
+
+// Empty when the user is being asked now.
+QString MainWindow::importProblem(const QString& file) {
+    if (QApplication::activeModalWidget()) return hostText("IDS_HOST_IMPORT_BUSY");
+    QObject* const profiles =
+        Startup::GetPluginContainer()->FindPlugin(ORBISDIAL_NETCONNECT_CLSID, NetConnectSettingKind);
+    if (!profiles || !openPage(profiles)) return hostText("IDS_HOST_IMPORT_BUSY");
+    QString answer;
+    const bool called = QMetaObject::invokeMethod(profiles, ORBISDIAL_OFFER_IMPORT, Q_RETURN_ARG(QString, answer),
+                                                  Q_ARG(QString, file));
+    return called ? answer : hostText("IDS_HOST_IMPORT_BUSY");
+}
+
+// False when the page on show refuses to go, or this one is not there.
+bool MainWindow::openPage(const QObject* page) {
+    for (const SettingsPage& candidate : qAsConst(m_Pages)) {
+        if (candidate.object != page || !pages()->showPage(candidate.pluginName)) continue;
+        openSettings();
+        return true;
+    }
+    return false;
 }
 
 bool MainWindow::quit() {

@@ -62,6 +62,9 @@ public:
     // Comes to the front, from wherever it is.
     void present();
 
+    // Comes to the front, and has the settings page of the profiles offer this file's for import, or tells why not.
+    void offerImport(const QString& file);
+
     // Ends the program; false when a page or the user refuses.
     bool quit();
 
@@ -107,6 +110,8 @@ private:
     void useProfile(const QString& name);
     void rememberConnection();
     QString problemText() const;
+    QString importProblem(const QString& file);
+    bool openPage(const QObject* page);
 
     ConnectionView* m_View;
     SettingsDialog* m_Settings = nullptr;

@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <cstdio>
 #include <cstdlib>
 
@@ -35,12 +36,15 @@ Options Options::fromArguments(const QCoreApplication& application) {
     parser.setApplicationDescription("Connection manager for mobile-broadband modems.");
     parser.addHelpOption();
     parser.addVersionOption();
+    parser.addPositionalArgument("file", "A profile file to import; the window asks first.", "[FILE]");
     parser.addOptions({language, device, screenshot, page, tray, trace});
     if (!parser.parse(application.arguments())) refuse(parser.errorText());
     if (parser.isSet("help")) answer(parser.helpText());
     if (parser.isSet("version")) answer(QString("orbisdial %1\n").arg(QCoreApplication::applicationVersion()));
     const QStringList others = parser.positionalArguments();
-    if (!others.isEmpty()) refuse("unexpected argument: " + others.first());
-    return {parser.value(language), parser.value(device), parser.value(screenshot),
-            parser.value(page),     parser.isSet(tray),   parser.isSet(trace)};
+    if (others.size() > 1) refuse("unexpected argument: " + others[1]);
+    if (!others.isEmpty() && parser.isSet(screenshot)) refuse("a picture is taken without a file to import");
+    const QString file = others.isEmpty() ? QString() : QFileInfo(others.first()).absoluteFilePath();
+    return {parser.value(language), parser.value(device), parser.value(screenshot), parser.value(page), file,
+            parser.isSet(tray),     parser.isSet(trace)};
 }

@@ -11,6 +11,7 @@ struct Options {
     QString device;      // empty: what the environment says
     QString screenshot;  // the file to write; empty: none
     QString page;        // of the settings, which it opens; empty: none
+    QString file;        // absolute path of a profile file to import; empty: none
     bool tray = false;   // start without a window where there is a tray
     bool trace = false;
 

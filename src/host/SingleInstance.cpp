@@ -34,13 +34,15 @@ QString serviceName() {
 
 }  // namespace
 
-SingleInstance::SingleInstance() {
+SingleInstance::SingleInstance(const QString& file) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return;
     const QString name = serviceName();
     bus.registerObject(Path, this, QDBusConnection::ExportScriptableSlots);
     if (bus.registerService(name)) return;
-    const auto raise = QDBusMessage::createMethodCall(name, Path, Interface, QStringLiteral("Raise"));
-    const bool failed = bus.call(raise, QDBus::Block, AnswerMs).type() == QDBusMessage::ErrorMessage;
+    const QString wanted = file.isEmpty() ? QStringLiteral("Raise") : QStringLiteral("Import");
+    auto call = QDBusMessage::createMethodCall(name, Path, Interface, wanted);
+    if (!file.isEmpty()) call << file;
+    const bool failed = bus.call(call, QDBus::Block, AnswerMs).type() == QDBusMessage::ErrorMessage;
     m_IsFirst = failed && !bus.interface()->isServiceRegistered(name);  // it has just ended
 }

@@ -86,16 +86,23 @@ void showWindow(Host* host, const Options& options) {
     QTimer::singleShot(0, host, &Host::useTray);  // after the first paint
 }
 
+// Queued, since a message on the screen must not keep the other start waiting.
+void followOtherStarts(const SingleInstance& instance, MainWindow* window) {
+    QObject::connect(&instance, &SingleInstance::raised, window, &MainWindow::present);
+    QObject::connect(&instance, &SingleInstance::importWanted, window, &MainWindow::offerImport, Qt::QueuedConnection);
+}
+
 int run(const Options& options) {
     const bool isPicture = !options.screenshot.isEmpty();
     const EndSignals endSignals;  // for longer than the host, whose end a signal must not cut short
-    const auto instance = isPicture ? nullptr : std::make_unique<SingleInstance>();
+    const auto instance = isPicture ? nullptr : std::make_unique<SingleInstance>(options.file);
     if (instance && !instance->isFirst()) return Done;
     Host host;
     if (!usePage(&host, options.page)) return WrongUsage;
-    if (instance) QObject::connect(instance.get(), &SingleInstance::raised, host.window(), &MainWindow::present);
+    if (instance) followOtherStarts(*instance, host.window());
     isPicture ? takeScreenshotLater(&host, options) : showWindow(&host, options);
     if (!options.page.isEmpty()) host.window()->openSettings();
+    if (!options.file.isEmpty()) QTimer::singleShot(0, &host, [&] { host.window()->offerImport(options.file); });
     return QCoreApplication::exec();
 }
 

@@ -28,6 +28,7 @@ private slots:
         row("unknown modem", picture + QStringList{"--device", "wrong"}, 0, "ORBISDIAL_DEVICE");
         row("picture not written", {"--screenshot", nowhere}, 1, nowhere);
         row("language", {"--lang", "xx"}, 2, "en, ar, de, es, fr, ru, zh_CN");
+        row("picture of an import", picture + QStringList("x.prof"), 2, "a file to import");
         row("page", {"--page", "None"}, 2, "FakeSettingsPlugin, Host");
     }
 

@@ -173,7 +173,56 @@ private slots:
         QCOMPARE(QDir(f->path("")).entryList({"*.prof"}), QStringList());
     }
 
+    void offersAFileThatIsOpened() {
+        f->start(F::profile("Mine"), "<Default name='Mine' IsUserSet='1'/>");
+        const QString file = f->path("opened.prof");
+        F::write(file, F::document(F::profile("One") + F::profile("Two")));
+        QCOMPARE(offer(file), QString());
+        QCOMPARE(offered(), QStringList({"One", "Two"}));
+        tickName("Two");  // which was ticked
+        f->click("ButtonImportOK");
+        QCOMPARE(f->stored(), QStringList({"Mine", "One"}));
+        QCOMPARE(f->combo()->currentText(), QString("Mine (Default)"));
+    }
+
+    // It says why, and leaves the user's file and default as they are.
+    void offersNothing_data() {
+        const Rows<QByteArray, QString> row("content", "said");
+        row("no file", "", "IDS_NETCONNECT_MSG_IMPORT_MISSING");
+        row("damaged", F::document(F::profile("One")).chopped(20), "opened.prof:1:");
+        row("with declarations", "<!DOCTYPE x [<!ENTITY e 'x'>]>" + F::document(F::profile("&e;")), "opened.prof:1:");
+        row("no XML",
+            "\x7f"
+            "ELF",
+            "opened.prof:1:");
+        row("another document", "<html/>", "IDS_NETCONNECT_MSG_IMPORT_NONE");
+        row("during an edit", F::document(F::profile("One")), "IDS_NETCONNECT_TIP_EDIT_OPEN");
+        row("not allowed", F::document(F::profile("One")), "IDS_NETCONNECT_MSG_IMPORT_OFF");
+    }
+    void offersNothing() {
+        const QByteArray row = QTest::currentDataTag();
+        if (row == "not allowed") f->functions = "<item name='APN' value='true'/>";
+        f->start(F::profile("Home") + F::profile("Mine"), "<Default name='Mine' IsUserSet='1'/>");
+        const QString file = f->path("opened.prof");
+        if (row != "no file") F::write(file, cell<QByteArray>("content"));
+        const QByteArray before = F::read(f->userFile());
+        if (row == "during an edit") f->click("BtnEditProfile");
+        const QString said =
+            cell("said").startsWith("IDS") ? Change::tr(cell("said"), "NetConnectPlugin") : cell("said");
+        QVERIFY2(offer(file).contains(said), qPrintable(offer(file)));
+        QVERIFY(!f->find("DialogImportExport"));
+        QCOMPARE(F::read(f->userFile()), before);
+        QVERIFY(f->combo()->currentText().startsWith("Mine"));
+    }
+
 private:
+    QString offer(const QString& file) const {
+        QString answer = "not called";
+        QMetaObject::invokeMethod(dynamic_cast<QObject*>(f->profiles), ORBISDIAL_OFFER_IMPORT,
+                                  Q_RETURN_ARG(QString, answer), Q_ARG(QString, file));
+        return answer;
+    }
+
     QTreeWidgetItem* root() const { return f->find<QTreeWidget>("TreeWidgetImportExport")->topLevelItem(0); }
     QStringList offered() const {
         QStringList names;

@@ -38,6 +38,34 @@ void CNetConnectUIService::openTransferDialog(bool import) {
     m_bBrowsed = false;  // what the opening read is forgotten
 }
 
+QString CNetConnectUIService::OfferImport(const QString& path) {
+    if (!m_pLogic || !m_pNetConnectWidget || !isFunctionOn("IMPORT")) return text("IDS_NETCONNECT_MSG_IMPORT_OFF");
+    if (m_Edit.open) return text("IDS_NETCONNECT_TIP_EDIT_OPEN");
+    const QString problem = offerProblem(path);
+    if (!problem.isEmpty()) return problem;
+    openTransferDialog(true);
+    readProfileFromFile(path);
+    m_pImportExportTree->setRootIsDecorated(true);
+    m_pProfileRootItem->setCheckState(0, Qt::Checked);  // and so every profile
+    return QString();
+}
+
+// Why a file has nothing to offer. The reading leaves nothing behind.
+QString CNetConnectUIService::offerProblem(const QString& path) {
+    QList<QString> names;
+    m_bBrowsed = true;
+    const int status = m_pLogic->GetDialUpProfileFromFile(&names, path);
+    QString problem;
+    if (status == NetConnectSettingUILogic::FileMissing)
+        problem = text("IDS_NETCONNECT_MSG_IMPORT_MISSING");
+    else if (status != NetConnectSettingUILogic::Success)
+        problem = m_pLogic->LastStorageProblem().text();
+    else if (names.isEmpty())
+        problem = text("IDS_NETCONNECT_MSG_IMPORT_NONE");
+    finishTransfer();
+    return problem;
+}
+
 // Reading a file to import from leaves its default name in the logic: reading everything again puts the user's back.
 void CNetConnectUIService::finishTransfer() {
     if (!m_bBrowsed || !m_pLogic) return;
