@@ -1,0 +1,38 @@
+# cmake -D MANIFEST=FILE -P Uninstall.cmake: removes what an installation listed there, from below $DESTDIR when that is
+# set, and the folders of ours that are empty then.
+if(NOT EXISTS "${MANIFEST}")
+    message(FATAL_ERROR "Nothing was installed from this build folder: there is no ${MANIFEST}")
+endif()
+
+file(STRINGS "${MANIFEST}" files ENCODING UTF-8)
+set(folders)
+foreach(file IN LISTS files)
+    set(path "$ENV{DESTDIR}${file}")
+    if(EXISTS "${path}" OR IS_SYMLINK "${path}")
+        message(STATUS "Removing: ${path}")
+        file(REMOVE "${path}")
+    else()
+        message(STATUS "Not there: ${path}")
+    endif()
+    if(EXISTS "${path}" OR IS_SYMLINK "${path}")
+        message(SEND_ERROR "${path} could not be removed")
+    endif()
+    # Folders that others have files in, such as bin, do not bear our name.
+    get_filename_component(folder "${file}" DIRECTORY)
+    while(folder MATCHES "/[Oo]rbis[Dd]ial(/|$)")
+        list(APPEND folders "${folder}")
+        get_filename_component(folder "${folder}" DIRECTORY)
+    endwhile()
+endforeach()
+
+# The deepest first.
+list(REMOVE_DUPLICATES folders)
+list(SORT folders ORDER DESCENDING)
+foreach(folder IN LISTS folders)
+    set(path "$ENV{DESTDIR}${folder}")
+    file(GLOB content "${path}/*" "${path}/.*")
+    list(FILTER content EXCLUDE REGEX "/\\.\\.?$")
+    if(IS_DIRECTORY "${path}" AND NOT content)
+        file(REMOVE_RECURSE "${path}")
+    endif()
+endforeach()
