@@ -15,12 +15,11 @@ namespace {
 
 QString shipped(const char* name) { return NetConnectXMLParse::shippedPath(name); }
 
-// All that the programs read; the index of operators may be missing.
+// All that the programs read, the configuration where it lies; the index of operators may be missing.
 FilesToCheck shippedFiles() {
     FilesToCheck what;
-    for (const char* name :
-         {NetConnectFileNames::Configuration, NetConnectFileNames::Library, NetConnectFileNames::System})
-        what.files.append(shipped(name));
+    what.files = QStringList{NetConnectXMLParse::configurationPath(), shipped(NetConnectFileNames::Library),
+                             shipped(NetConnectFileNames::System)};
     if (QFileInfo::exists(shipped(NetConnectFileNames::Operators)))
         what.files.append(shipped(NetConnectFileNames::Operators));
     return what;
