@@ -1,6 +1,6 @@
 #include "ModemManagerBackend.h"
 
-#include "DataConnection.h"
+#include "Dialler.h"
 #include "ModemPicture.h"
 
 ModemManagerBackend::ModemManagerBackend(EventSink& events)
@@ -9,7 +9,7 @@ ModemManagerBackend::ModemManagerBackend(EventSink& events)
       m_Unlocking(m_Thread, m_Watch, m_Board),
       m_Ussd(m_Thread, m_Watch, m_Board),
       m_Bus(m_Thread, {[this](GDBusConnection* bus) { busCame(bus); }, [this] { busWent(); }}),
-      m_Connecting(new DataConnection(*this)) {
+      m_Connecting(new Dialler(*this)) {
     m_Thread.start();
     m_Thread.invoke([this] { m_Bus.connect(); });
 }

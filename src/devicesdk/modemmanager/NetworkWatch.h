@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "ConnectionSettings.h"
+#include "DialSettings.h"
 #include "Follower.h"
 #include "Ref.h"
 

@@ -1,8 +1,8 @@
 // Dials with NetworkManager, and tells of the connections that other processes of ours dialled.
 //
-// The machine behind it is in DataConnection.cpp, what it tells in DataConnection_Picture.cpp.
-#ifndef ORBISDIAL_DATACONNECTION_H
-#define ORBISDIAL_DATACONNECTION_H
+// The machine behind it is in Dialler.cpp, what it tells in Dialler_Picture.cpp.
+#ifndef ORBISDIAL_DIALLER_H
+#define ORBISDIAL_DIALLER_H
 
 #include <atomic>
 #include <chrono>
@@ -15,9 +15,9 @@
 #include "NetworkWatch.h"
 #include "Timer.h"
 
-class DataConnection : public ConnectionPart {
+class Dialler : public ConnectionPart {
 public:
-    explicit DataConnection(ConnectionHost& host);
+    explicit Dialler(ConnectionHost& host);
 
     void busCame(GDBusConnection* bus) override;
     void busWent() override;

@@ -1,6 +1,6 @@
 // What NetworkManager is given to dial with.
-#ifndef ORBISDIAL_CONNECTIONSETTINGS_H
-#define ORBISDIAL_CONNECTIONSETTINGS_H
+#ifndef ORBISDIAL_DIALSETTINGS_H
+#define ORBISDIAL_DIALSETTINGS_H
 
 #include <NetworkManager.h>
 
@@ -16,7 +16,7 @@ struct DialTarget {
     std::string user;  // login name of whom it belongs to; empty: everybody's
 };
 
-Ref<NMConnection> connectionSettings(const DialRequest& request, const DialTarget& target);
+Ref<NMConnection> dialSettings(const DialRequest& request, const DialTarget& target);
 
 // How NetworkManager is to keep it: gone when it ends, which it does with this process if the request wants that.
 Variant activationOptions(const DialRequest& request);

@@ -1,4 +1,4 @@
-#include "DataConnection.h"
+#include "Dialler.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -44,10 +44,10 @@ bool isReadyToDial(NMDevice* device) { return device && nm_device_get_state(devi
 
 }  // namespace
 
-DataConnection::DataConnection(ConnectionHost& host)
+Dialler::Dialler(ConnectionHost& host)
     : m_Host(host), m_Modem([this] { updateSoon(); }), m_Patience(host.thread()), m_Settling(host.thread()) {}
 
-void DataConnection::busCame(GDBusConnection* bus) {
+void Dialler::busCame(GDBusConnection* bus) {
     m_BearerErrors = std::make_unique<BearerErrors>(bus);
     const auto begun = [this] {
         update();
@@ -58,7 +58,7 @@ void DataConnection::busCame(GDBusConnection* bus) {
                                     [this](NMDeviceState now, unsigned reason) { deviceStateChanged(now, reason); }});
 }
 
-void DataConnection::busWent() {
+void Dialler::busWent() {
     m_Cancellation.renew();
     m_Watch.reset();
     m_BearerErrors.reset();
@@ -67,7 +67,7 @@ void DataConnection::busWent() {
     m_Host.setConnectionKnown();
 }
 
-void DataConnection::stop() {
+void Dialler::stop() {
     m_Cancellation.renew();
     m_Patience.stop();
     m_Settling.stop();
@@ -77,13 +77,13 @@ void DataConnection::stop() {
     wipe(m_Dialled.request.password);
 }
 
-void DataConnection::modemChanged() {
+void Dialler::modemChanged() {
     MMObject* modem = m_Host.modemInUse();
     m_Modem.follow(modem ? mm_object_peek_modem(modem) : nullptr);
     updateSoon();
 }
 
-bool DataConnection::dial(const DialRequest& request) {
+bool Dialler::dial(const DialRequest& request) {
     Refusal refusal{};
     bool isBusy = false;
     m_Host.change([&](Picture& picture) {
@@ -110,7 +110,7 @@ bool DataConnection::dial(const DialRequest& request) {
     return true;
 }
 
-bool DataConnection::hangUp() {
+bool Dialler::hangUp() {
     const bool isOurs = m_Host.change([&](Picture& picture) {
         int& state = picture.connection.state;
         if (state != VRKS_CONNECTION_DIALLING && state != VRKS_CONNECTION_UP) return false;
@@ -123,9 +123,9 @@ bool DataConnection::hangUp() {
     return isOurs;
 }
 
-Traffic DataConnection::traffic() { return m_Counters.get(); }
+Traffic Dialler::traffic() { return m_Counters.get(); }
 
-void DataConnection::begin(const DialRequest& request) {
+void Dialler::begin(const DialRequest& request) {
     m_Dialled = {};
     m_Dialled.request = request;
     m_Dialled.isOwn = true;
@@ -139,13 +139,13 @@ void DataConnection::begin(const DialRequest& request) {
 }
 
 // Changes come in swarms; one look afterwards is enough.
-void DataConnection::updateSoon() {
+void Dialler::updateSoon() {
     if (m_IsUpdateDue) return;
     m_IsUpdateDue = true;
     m_Host.thread().invoke([this] { update(); });
 }
 
-void DataConnection::update() {
+void Dialler::update() {
     m_IsUpdateDue = false;
     followDevice();
     switch (m_Phase) {
@@ -164,12 +164,12 @@ void DataConnection::update() {
 }
 
 // A connection's own device stays followed until it is over.
-void DataConnection::followDevice() {
+void Dialler::followDevice() {
     if (!m_Watch || m_Phase > Phase::Looking) return;
     m_Watch->follow(m_Watch->deviceOf(modemPath()));
 }
 
-void DataConnection::observe() {
+void Dialler::observe() {
     if (m_WaitingDials > 0) return;
     NMActiveConnection* marked = m_Watch ? m_Watch->markedConnection() : nullptr;
     if (marked) return adopt(marked);
@@ -180,7 +180,7 @@ void DataConnection::observe() {
 }
 
 // Another process of ours made it.
-void DataConnection::adopt(NMActiveConnection* connection) {
+void Dialler::adopt(NMActiveConnection* connection) {
     const DialMark mark = markOf(connection);
     m_Dialled = {};
     m_Dialled.request.name = mark.name;
@@ -194,7 +194,7 @@ void DataConnection::adopt(NMActiveConnection* connection) {
     watch();
 }
 
-void DataConnection::look() {
+void Dialler::look() {
     if (!m_Watch || (m_Watch->hasBegun() && !m_Watch->isRunning())) return fail({VRKS_FAILURE_NO_NETWORK_SERVICE, {}});
     if (m_Watch->isRadioOff()) return awaitRadio();
     NMDevice* device = m_Watch->device();
@@ -207,7 +207,7 @@ void DataConnection::look() {
 }
 
 // That it was switched on just before may not be known yet.
-void DataConnection::awaitRadio() {
+void Dialler::awaitRadio() {
     publish();
     if (m_Settling.isRunning()) return;
     m_Settling.start(RadioMs, [this] {
@@ -217,7 +217,7 @@ void DataConnection::awaitRadio() {
 }
 
 // What is dialled now might be ended by the radio's switching.
-bool DataConnection::isRadioSettling() {
+bool Dialler::isRadioSettling() {
     const auto left = m_RadioOnAt + RadioSettling - Clock::now();
     if (left <= Clock::duration::zero()) return false;
     const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(left).count();
@@ -225,7 +225,7 @@ bool DataConnection::isRadioSettling() {
     return true;
 }
 
-void DataConnection::ask() {
+void Dialler::ask() {
     m_Patience.stop();
     m_Phase = Phase::Asking;
     m_Dialled.ending = {};
@@ -236,23 +236,23 @@ void DataConnection::ask() {
         (nm_device_modem_get_current_capabilities(NM_DEVICE_MODEM(device)) &
          (NM_DEVICE_MODEM_CAPABILITY_GSM_UMTS | NM_DEVICE_MODEM_CAPABILITY_LTE | NM_DEVICE_MODEM_CAPABILITY_5GNR)) == 0,
         m_Dialled.isIpv4Only, ownerName()};
-    const Ref<NMConnection> settings = connectionSettings(m_Dialled.request, target);
+    const Ref<NMConnection> settings = dialSettings(m_Dialled.request, target);
     const Variant options = activationOptions(m_Dialled.request);
     nm_client_add_and_activate_connection2(m_Watch->client(), settings.get(), device, nullptr, options.get(),
                                            m_Cancellation.get(), onAsked, this);
     publish();
 }
 
-void DataConnection::onAsked(GObject* source, GAsyncResult* result, gpointer self) {
+void Dialler::onAsked(GObject* source, GAsyncResult* result, gpointer self) {
     GError* error = nullptr;
     const Ref<NMActiveConnection> connection(
         nm_client_add_and_activate_connection2_finish(NM_CLIENT(source), result, nullptr, &error));
     const Error failure(error);
-    if (!isCancelled(failure)) static_cast<DataConnection*>(self)->asked(connection.get(), failure);
+    if (!isCancelled(failure)) static_cast<Dialler*>(self)->asked(connection.get(), failure);
 }
 
 // What failed at once is over before the answer is here: then the device knows why.
-void DataConnection::asked(NMActiveConnection* connection, const Error& error) {
+void Dialler::asked(NMActiveConnection* connection, const Error& error) {
     if (m_Phase != Phase::Asking) return;
     if (!connection) {
         const bool isOver = isHangingUp() || m_Dialled.ending.reason != NM_DEVICE_STATE_REASON_NONE;
@@ -264,7 +264,7 @@ void DataConnection::asked(NMActiveConnection* connection, const Error& error) {
     watch();
 }
 
-void DataConnection::watch() {
+void Dialler::watch() {
     NMActiveConnection* connection = m_Watch ? m_Watch->connection() : nullptr;
     if (!connection || !m_Watch->has(connection)) return waitForReason();
     if (m_Dialled.isHangingUp && !m_Dialled.isDeactivating && !isAnswerDue()) deactivate();
@@ -275,7 +275,7 @@ void DataConnection::watch() {
 }
 
 // Since when another process has it nobody knows.
-void DataConnection::comeUp() {
+void Dialler::comeUp() {
     m_Phase = Phase::Up;
     m_Dialled.wasUp = true;
     wipe(m_Dialled.request.password);
@@ -284,14 +284,14 @@ void DataConnection::comeUp() {
     m_Dialled.upSince = Clock::now();
 }
 
-void DataConnection::end() {
+void Dialler::end() {
     m_Dialled.isHangingUp = m_Phase != Phase::Idle;
     --m_WaitingHangUps;
     if (m_Phase == Phase::Looking) return finish({});
     if (m_Phase == Phase::Activating || m_Phase == Phase::Up) giveBack();
 }
 
-void DataConnection::giveBack() {
+void Dialler::giveBack() {
     if (!isAnswerDue()) return deactivate();
     m_Patience.start(AnswerMs, [this] { deactivate(); });
 }
@@ -300,14 +300,14 @@ void DataConnection::giveBack() {
 // ModemManager takes the port for connected for ever after: nothing can be dialled until the modem is plugged in anew.
 // And NetworkManager aborts when it learns of an answer that it no longer waits for. So the call is taken back when
 // NetworkManager has the answer, or there will hardly be one. Before it is registered a modem does not dial.
-bool DataConnection::isAnswerDue() const {
+bool Dialler::isAnswerDue() const {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
     MMModem* modem = m_Modem.get();
     return m_Phase == Phase::Activating && device && nm_device_get_state(device) <= NM_DEVICE_STATE_PREPARE && modem &&
            mm_modem_get_state(modem) >= MM_MODEM_STATE_REGISTERED && dialsOverSerialPort(modem);
 }
 
-void DataConnection::deactivate() {
+void Dialler::deactivate() {
     m_Dialled.isDeactivating = true;
     m_Patience.start(EndingMs, [this] { stopWaiting(); });
     m_Counters.get();
@@ -317,18 +317,18 @@ void DataConnection::deactivate() {
 
 // NetworkManager has the device until the modem has answered, which may take a minute. Nothing will come of it, and
 // without a link nothing is left of it.
-void DataConnection::stopWaiting() {
+void Dialler::stopWaiting() {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
     if (!device || textOf(nm_device_get_ip_iface(device)).empty()) return finish({});
     m_Patience.start(EndingMs, [this] { stopWaiting(); });
 }
 
-void DataConnection::onDeactivated(GObject* source, GAsyncResult* result, gpointer self) {
+void Dialler::onDeactivated(GObject* source, GAsyncResult* result, gpointer self) {
     GError* error = nullptr;
     nm_client_deactivate_connection_finish(NM_CLIENT(source), result, &error);
     const Error failure(error);
     if (!failure || isCancelled(failure)) return;
-    auto* connection = static_cast<DataConnection*>(self);
+    auto* connection = static_cast<Dialler*>(self);
     if (connection->m_Phase != Phase::Activating && connection->m_Phase != Phase::Up) return;
     connection->m_Patience.stop();
     connection->m_Dialled.isHangingUp = false;
@@ -337,7 +337,7 @@ void DataConnection::onDeactivated(GObject* source, GAsyncResult* result, gpoint
 }
 
 // The first reason tells; the states after it only clean up.
-void DataConnection::deviceStateChanged(NMDeviceState now, unsigned reason) {
+void Dialler::deviceStateChanged(NMDeviceState now, unsigned reason) {
     if (now == NM_DEVICE_STATE_DISCONNECTED && reason == NM_DEVICE_STATE_REASON_MODEM_AVAILABLE)
         m_RadioOnAt = Clock::now();
     const bool isEnd = now <= NM_DEVICE_STATE_DISCONNECTED || now >= NM_DEVICE_STATE_DEACTIVATING;
@@ -345,7 +345,7 @@ void DataConnection::deviceStateChanged(NMDeviceState now, unsigned reason) {
     m_Dialled.ending.reason = reason;
 }
 
-void DataConnection::waitForReason() {
+void Dialler::waitForReason() {
     m_Phase = Phase::Ended;
     m_Patience.stop();
     m_Dialled.endedAt = Clock::now();
@@ -353,7 +353,7 @@ void DataConnection::waitForReason() {
     m_Settling.start(SettlingMs, [this] { conclude(); });
 }
 
-void DataConnection::conclude() {
+void Dialler::conclude() {
     if (isHangingUp()) return finish({});
     if (isRadioInDoubt()) return;
     if (!isWorthRepeating()) return finish(seenFailure());
@@ -366,7 +366,7 @@ void DataConnection::conclude() {
 }
 
 // The device becomes unavailable before NetworkManager says that it was switched off.
-bool DataConnection::isRadioInDoubt() {
+bool Dialler::isRadioInDoubt() {
     const bool isInDoubt = m_Watch && m_Watch->isRunning() && m_Watch->has(m_Watch->device()) &&
                            nm_device_get_state(m_Watch->device()) == NM_DEVICE_STATE_UNAVAILABLE &&
                            !m_Watch->isRadioOff() && !m_Dialled.wasInDoubt;
@@ -377,7 +377,7 @@ bool DataConnection::isRadioInDoubt() {
 
 // A radio that comes on ends what it finds, in NetworkManager's hands; and a network may refuse PPP because of one
 // version of IP without a word, which looks like wrong credentials unless there are none.
-bool DataConnection::isWorthRepeating() {
+bool Dialler::isWorthRepeating() {
     if (!m_Dialled.isOwn || m_Dialled.wasUp || !m_Watch || !m_Watch->isRunning()) return false;
     const unsigned reason = m_Dialled.ending.reason;
     const bool isByRadio = m_Dialled.endedAt - m_RadioOnAt < 2 * RadioSettling;
@@ -394,7 +394,7 @@ bool DataConnection::isWorthRepeating() {
     return m_Dialled.isIpv4Only = true;
 }
 
-Failure DataConnection::seenFailure() const {
+Failure Dialler::seenFailure() const {
     if (!m_Watch || !m_Watch->isRunning()) return {VRKS_FAILURE_NO_NETWORK_SERVICE, {}};
     if (m_Watch->isRadioOff()) return {VRKS_FAILURE_ENDED_OUTSIDE, RadioIsOff};
     Ending ending = m_Dialled.ending;
@@ -404,10 +404,10 @@ Failure DataConnection::seenFailure() const {
     return failureOf(ending);
 }
 
-void DataConnection::fail(const Failure& failure) { finish(isHangingUp() ? Failure{} : failure); }
+void Dialler::fail(const Failure& failure) { finish(isHangingUp() ? Failure{} : failure); }
 
 // Without a failure: it was hung up.
-void DataConnection::finish(Failure failure) {
+void Dialler::finish(Failure failure) {
     m_Patience.stop();
     m_Settling.stop();
     m_Phase = Phase::Idle;

@@ -1,5 +1,5 @@
 // What the picture shows of the connection.
-#include "DataConnection.h"
+#include "Dialler.h"
 
 namespace {
 
@@ -32,13 +32,13 @@ int stepOfModem(MMModemState state) {
 
 }  // namespace
 
-std::string DataConnection::modemPath() const {
+std::string Dialler::modemPath() const {
     MMObject* modem = m_Host.modemInUse();
     return modem ? textOf(mm_object_get_path(modem)) : std::string();
 }
 
 // NetworkManager's preparing holds all that the modem does until it is connected.
-int DataConnection::step() const {
+int Dialler::step() const {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
     if (m_Phase <= Phase::Asking || !device) return VRKS_STEP_PREPARING;
     const NMDeviceState state = nm_device_get_state(device);
@@ -47,7 +47,7 @@ int DataConnection::step() const {
     return m_Modem.get() ? stepOfModem(mm_modem_get_state(m_Modem.get())) : VRKS_STEP_PREPARING;
 }
 
-void DataConnection::describeLink(Connection& connection) const {
+void Dialler::describeLink(Connection& connection) const {
     NMActiveConnection* active = m_Watch->connection();
     NMDevice* device = m_Watch->device();
     NMIPConfig* ipv4 = nm_active_connection_get_ip4_config(active);
@@ -59,7 +59,7 @@ void DataConnection::describeLink(Connection& connection) const {
     addNameServers(connection.dns, ipv6);
 }
 
-Connection DataConnection::described() const {
+Connection Dialler::described() const {
     Connection connection;
     connection.name = m_Dialled.request.name;
     connection.isOwn = m_Dialled.isOwn;
@@ -81,7 +81,7 @@ Connection DataConnection::described() const {
 }
 
 // A hanging up that the machine has not seen yet must not be taken back; hence it is looked at within the edit.
-void DataConnection::publish() {
+void Dialler::publish() {
     m_Host.change([this](Picture& picture) {
         const Connection connection = described();
         if (connection == picture.connection) return false;
@@ -91,7 +91,7 @@ void DataConnection::publish() {
     if (m_Phase == Phase::Up && m_Watch->device()) m_Counters.use(textOf(nm_device_get_ip_iface(m_Watch->device())));
 }
 
-void DataConnection::publishUser(const std::string& usedBy) {
+void Dialler::publishUser(const std::string& usedBy) {
     m_Host.change([&](Picture& picture) {
         if (m_WaitingDials > 0 || picture.connection.usedBy == usedBy) return false;
         picture.connection.usedBy = usedBy;

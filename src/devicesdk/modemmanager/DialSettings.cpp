@@ -1,4 +1,4 @@
-#include "ConnectionSettings.h"
+#include "DialSettings.h"
 
 namespace {
 
@@ -78,7 +78,7 @@ void addIpv6(NMConnection* connection, const DialRequest& request, const DialTar
 
 }  // namespace
 
-Ref<NMConnection> connectionSettings(const DialRequest& request, const DialTarget& target) {
+Ref<NMConnection> dialSettings(const DialRequest& request, const DialTarget& target) {
     Ref<NMConnection> connection(nm_simple_connection_new());
     addConnection(connection.get(), request, target);
     addMark(connection.get(), request);

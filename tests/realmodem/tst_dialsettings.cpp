@@ -2,7 +2,7 @@
 #include <NetworkManager.h>
 
 #include "ConnectionFailure.h"
-#include "ConnectionSettings.h"
+#include "DialSettings.h"
 #include "Rows.h"
 #include "vrks.h"
 
@@ -50,7 +50,7 @@ QByteArray nameServersOf(NMConnection* connection) {
 
 }  // namespace
 
-class tst_connection_settings : public QObject {
+class tst_dialsettings : public QObject {
     Q_OBJECT
 
 private slots:
@@ -74,7 +74,7 @@ private slots:
         request.password = given[2].toStdString();
         request.number = given[3].toStdString();
         const bool isCdma = cell<bool>("isCdma");
-        const Ref<NMConnection> connection = connectionSettings(request, {isCdma, false, ""});
+        const Ref<NMConnection> connection = dialSettings(request, {isCdma, false, ""});
         const QStringList found = chosen(valuesOf(connection.get()), isCdma ? "cdma." : "gsm.");
         const QStringList plain = QStringList(found).replaceInStrings(
             QRegularExpression("^password-flags=.*"), "password-flags=NM_SETTING_SECRET_FLAG_NOT_REQUIRED");
@@ -95,16 +95,16 @@ private slots:
         DialRequest request = plainRequest();
         request.allowsChap = cell<bool>("chap");
         request.allowsPap = cell<bool>("pap");
-        const Ref<NMConnection> connection = connectionSettings(request, {});
+        const Ref<NMConnection> connection = dialSettings(request, {});
         QCOMPARE(chosen(valuesOf(connection.get()), "ppp.refuse"), cell<QStringList>("refused"));
     }
 
     void nameServersStandForTheNetworks() {
         DialRequest request = plainRequest();
-        QCOMPARE(nameServersOf(connectionSettings(request, {}).get()), QByteArray());
-        QVERIFY(chosen(valuesOf(connectionSettings(request, {}).get()), "ipv4.ignore").isEmpty());
+        QCOMPARE(nameServersOf(dialSettings(request, {}).get()), QByteArray());
+        QVERIFY(chosen(valuesOf(dialSettings(request, {}).get()), "ipv4.ignore").isEmpty());
         request.dns = {"192.0.2.1", "192.0.2.2"};
-        const Ref<NMConnection> connection = connectionSettings(request, {});
+        const Ref<NMConnection> connection = dialSettings(request, {});
         QCOMPARE(nameServersOf(connection.get()), QByteArray("192.0.2.1 192.0.2.2"));
         QCOMPARE(chosen(valuesOf(connection.get()), "ipv4.ignore"), QStringList{"ignore-auto-dns=TRUE"});
         QCOMPARE(chosen(valuesOf(connection.get()), "ipv6.ignore"), QStringList{"ignore-auto-dns=TRUE"});
@@ -112,7 +112,7 @@ private slots:
 
     void versionsOfIp() {
         const auto method = [](bool isIpv4Only, const char* version) {
-            const Ref<NMConnection> connection = connectionSettings(plainRequest(), {false, isIpv4Only, ""});
+            const Ref<NMConnection> connection = dialSettings(plainRequest(), {false, isIpv4Only, ""});
             return valuesOf(connection.get())[QString("%1.method").arg(version)];
         };
         QCOMPARE(method(false, "ipv4"), QString("auto"));
@@ -123,12 +123,12 @@ private slots:
 
     void ownerAndLife() {
         DialRequest request = plainRequest();
-        const Ref<NMConnection> everybodys = connectionSettings(request, {});
+        const Ref<NMConnection> everybodys = dialSettings(request, {});
         NMSettingConnection* about = nm_connection_get_setting_connection(everybodys.get());
         QCOMPARE(nm_setting_connection_get_num_permissions(about), 0u);
         QVERIFY(!nm_setting_connection_get_autoconnect(about));
 
-        const Ref<NMConnection> anns = connectionSettings(request, {false, false, "ann"});
+        const Ref<NMConnection> anns = dialSettings(request, {false, false, "ann"});
         QVERIFY(
             nm_setting_connection_permissions_user_allowed(nm_connection_get_setting_connection(anns.get()), "ann"));
         QVERIFY(
@@ -143,10 +143,10 @@ private slots:
     // What one process of ours writes, another one reads; other programs' connections have no mark.
     void marks() {
         DialRequest request = plainRequest();
-        QCOMPARE(markOf(connectionSettings(request, {}).get()).name, request.name);
-        QVERIFY(!markOf(connectionSettings(request, {}).get()).endsWithProcess);
+        QCOMPARE(markOf(dialSettings(request, {}).get()).name, request.name);
+        QVERIFY(!markOf(dialSettings(request, {}).get()).endsWithProcess);
         request.endsWithProcess = true;
-        QVERIFY(markOf(connectionSettings(request, {}).get()).endsWithProcess);
+        QVERIFY(markOf(dialSettings(request, {}).get()).endsWithProcess);
         const Ref<NMConnection> foreign(nm_simple_connection_new());
         QVERIFY(markOf(foreign.get()).name.empty());
         QVERIFY(markOf(static_cast<NMConnection*>(nullptr)).name.empty());
@@ -217,5 +217,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_connection_settings)
-#include "tst_connection_settings.moc"
+QTEST_GUILESS_MAIN(tst_dialsettings)
+#include "tst_dialsettings.moc"
