@@ -33,17 +33,17 @@ DialupPlugin::DialupPlugin() {
 DialupPlugin::~DialupPlugin() { closePrompt(); }
 
 int DialupPlugin::Init() {
-    if (m_Watch) return 1;
-    m_Watch = std::make_unique<ConnectionWatch>();
-    connect(m_Watch.get(), &ConnectionWatch::connectionChanged, this, &DialupPlugin::readConnection);
-    connect(m_Watch.get(), &ConnectionWatch::modemChanged, &m_Automatic, &AutoConnector::modemChanged);
+    if (m_Events) return 1;
+    m_Events = std::make_unique<DeviceEvents>();
+    connect(m_Events.get(), &DeviceEvents::connectionChanged, this, &DialupPlugin::readConnection);
+    connect(m_Events.get(), &DeviceEvents::modemChanged, &m_Automatic, &AutoConnector::modemChanged);
     readConnection();
     m_Automatic.start();
     return 1;
 }
 
 void DialupPlugin::UnSDKRegisterEvent() {
-    if (m_Watch) m_Watch->stop();
+    if (m_Events) m_Events->stop();
 }
 
 void DialupPlugin::OnDestroy() {

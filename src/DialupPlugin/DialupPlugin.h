@@ -9,8 +9,8 @@
 #include <memory>
 
 #include "AutoConnector.h"
-#include "ConnectionWatch.h"
 #include "DataConnection.h"
+#include "DeviceEvents.h"
 #include "IBasePlugin.h"
 #include "IDialupUIService.h"
 #include "INotify.h"
@@ -88,7 +88,7 @@ private:
     DialupProfile m_Dialled;  // without its password
     int m_UsedPercent = 0;
     QPointer<CredentialsPrompt> m_Prompt;
-    std::unique_ptr<ConnectionWatch> m_Watch;
+    std::unique_ptr<DeviceEvents> m_Events;
     AutoConnector m_Automatic;
     UsageRecorder m_Usage;
 };

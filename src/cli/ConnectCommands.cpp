@@ -8,8 +8,8 @@
 #include "Commands.h"
 #include "ConnectionReport.h"
 #include "ConnectionText.h"
-#include "DeviceEvents.h"
 #include "DialCall.h"
+#include "EventWait.h"
 #include "HiddenInput.h"
 #include "Output.h"
 #include "ProfileSession.h"
@@ -79,9 +79,9 @@ void warn(const QStringList& notes) {
 }
 
 // False when it did not end in time.
-bool waitUntilDown(const DeviceEvents& events, const QDeadlineTimer& deadline) {
+bool waitUntilDown(const EventWait& events, const QDeadlineTimer& deadline) {
     while (!DataConnection::current().isDown())
-        if (events.wait(deadline) == DeviceEvents::TimeIsUp) return false;
+        if (events.wait(deadline) == EventWait::TimeIsUp) return false;
     return true;
 }
 
@@ -126,16 +126,16 @@ private:
     DataConnection withAddress(DataConnection connection) const {
         const QDeadlineTimer deadline(AddressMs);
         while (connection.isUp() && connection.address.isEmpty() && connection.address6.isEmpty() &&
-               m_Events.wait(deadline) == DeviceEvents::Changed)
+               m_Events.wait(deadline) == EventWait::Changed)
             connection = DataConnection::current();
         return connection;
     }
 
     void waitForMore(const char* late) {
-        const DeviceEvents::Waking waking = m_Events.wait(m_Deadline);
-        if (waking == DeviceEvents::Changed) return;
+        const EventWait::Waking waking = m_Events.wait(m_Deadline);
+        if (waking == EventWait::Changed) return;
         hangUpOwn();
-        if (waking == DeviceEvents::SignalCame) EndingSignals::obey();
+        if (waking == EventWait::SignalCame) EndingSignals::obey();
         throw CommandError::timedOut(late);
     }
 
@@ -160,7 +160,7 @@ private:
     void hold(const QString& name) {
         m_Deadline = QDeadlineTimer(QDeadlineTimer::Forever);
         while (!DataConnection::current().isDown()) {
-            if (m_Events.wait(m_Deadline) != DeviceEvents::SignalCame) continue;
+            if (m_Events.wait(m_Deadline) != EventWait::SignalCame) continue;
             const bool isEnded =
                 VRKS_NetConnectSrv_HangUp() == 0 && waitUntilDown(m_Events, QDeadlineTimer(HangUpSeconds * 1000));
             if (!isEnded) printDiagnostic("the connection can't be ended");
@@ -180,7 +180,7 @@ private:
     QDeadlineTimer m_Deadline;
     Output& m_Output;
     const EndingSignals m_Signals;
-    const DeviceEvents m_Events;
+    const EventWait m_Events;
     QString m_Step;
 };
 
@@ -190,15 +190,14 @@ void requireKnown() {
 
 // Shows each state once. What a reader does not take ends it.
 void watch(Output& output) {
-    const DeviceEvents events;
+    const EventWait events;
     QJsonObject shown;
     do {
         const DataConnection connection = DataConnection::current();
         const QJsonObject now = ConnectionReport::lasting(connection);
         if (now != shown) output.result(ConnectionReport::object(connection), {ConnectionReport::line(connection)});
         shown = now;
-    } while (events.wait(QDeadlineTimer(QDeadlineTimer::Forever), DeviceEvents::StandardOutput) !=
-             DeviceEvents::ReaderGone);
+    } while (events.wait(QDeadlineTimer(QDeadlineTimer::Forever), EventWait::StandardOutput) != EventWait::ReaderGone);
 }
 
 }  // namespace
@@ -215,7 +214,7 @@ void connectProfile(const Invocation& invocation, Output& output) {
 void disconnect(const Invocation& invocation, Output& output) {
     requireKnown();
     const QDeadlineTimer deadline(invocation.patience(HangUpSeconds));
-    const DeviceEvents events;
+    const EventWait events;
     const DataConnection before = DataConnection::current();
     if (!before.usedBy.isEmpty())
         throw CommandError::refused("the connection of " + quoted(before.usedBy) + " is not ours to end");

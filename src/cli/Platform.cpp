@@ -68,7 +68,7 @@ void checkDataFolder() {
 
 void Platform::prepare(int argc, char** argv) {
     qInstallMessageHandler(dropTrace);
-    qputenv("QT_NO_GLIB", "1");  // there is no event loop, and GLib crashes a program when memory runs out
+    qputenv("QT_NO_GLIB", "1");  // GLib crashes a program when memory runs out
     QLoggingCategory::setFilterRules("default.debug=false");
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     for (int i = 1; i < argc; ++i)

@@ -5,7 +5,7 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
-#include "DeviceEvents.h"
+#include "EventWait.h"
 #include "HiddenInput.h"
 #include "ModemReport.h"
 #include "Output.h"
@@ -87,10 +87,10 @@ QString readNewPin() {
 }
 
 // The events are listened to before the code is on its way, so that the result is never missed.
-void waitForResult(const DeviceEvents& events, const QDeadlineTimer& deadline, const LockKind& kind, Output& output) {
+void waitForResult(const EventWait& events, const QDeadlineTimer& deadline, const LockKind& kind, Output& output) {
     VRKS_ModemInfo info;
     while (ModemReport::current(&info) && info.unlockResult == VRKS_UNLOCK_PENDING)
-        if (events.wait(deadline) == DeviceEvents::TimeIsUp)
+        if (events.wait(deadline) == EventWait::TimeIsUp)
             throw CommandError::timedOut("the card does not answer; whether it took the code is not known");
     if (info.unlockResult != VRKS_UNLOCK_DONE) refuse(info, kind);
     output.result({{"unlocked", true}}, {"the card is unlocked"});
@@ -108,7 +108,7 @@ void enterPin(const Invocation& invocation, Output& output) {
     const VRKS_ModemInfo info = lockedModem(Pin, mayBeLast);
     const QString pin = readPin(QString("PIN (%1): ").arg(attemptsText(info.attempts)));
     lockedModem(Pin, mayBeLast);  // somebody may have tried meanwhile
-    const DeviceEvents events;
+    const EventWait events;
     requireBegun(VRKS_DevSrv_EnterPin(pin.toLatin1().constData()));
     waitForResult(events, QDeadlineTimer(patience), Pin, output);
 }
@@ -121,7 +121,7 @@ void enterPuk(const Invocation& invocation, Output& output) {
     const QString puk = checkedDigits(readHiddenLine(prompt, "PUK"), "PUK", 8);
     const QString pin = readNewPin();
     lockedModem(Puk, mayBeLast);
-    const DeviceEvents events;
+    const EventWait events;
     requireBegun(VRKS_DevSrv_EnterPuk(puk.toLatin1().constData(), pin.toLatin1().constData()));
     waitForResult(events, QDeadlineTimer(patience), Puk, output);
 }

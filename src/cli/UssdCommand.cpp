@@ -8,7 +8,7 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
-#include "DeviceEvents.h"
+#include "EventWait.h"
 #include "HiddenInput.h"
 #include "ModemReport.h"
 #include "Output.h"
@@ -74,9 +74,9 @@ private:
             const VRKS_Ussd ussd = session();
             if (ussd.state == VRKS_USSD_FAILED) throw errorOf(ussd);
             if (ussd.state != VRKS_USSD_SENT) return ussd;
-            const DeviceEvents::Waking waking = m_Events.wait(deadline);
-            if (waking == DeviceEvents::SignalCame) cancelAndEnd();
-            if (waking == DeviceEvents::TimeIsUp) throw CommandError::timedOut("the network did not answer in time");
+            const EventWait::Waking waking = m_Events.wait(deadline);
+            if (waking == EventWait::SignalCame) cancelAndEnd();
+            if (waking == EventWait::TimeIsUp) throw CommandError::timedOut("the network did not answer in time");
         }
     }
 
@@ -100,12 +100,12 @@ private:
 
     // False at the end of the input. The network may end the session meanwhile.
     bool readMore() {
-        const DeviceEvents::Waking waking =
-            m_Events.wait(QDeadlineTimer(QDeadlineTimer::Forever), DeviceEvents::StandardInput);
-        if (waking == DeviceEvents::SignalCame) cancelAndEnd();
+        const EventWait::Waking waking =
+            m_Events.wait(QDeadlineTimer(QDeadlineTimer::Forever), EventWait::StandardInput);
+        if (waking == EventWait::SignalCame) cancelAndEnd();
         const VRKS_Ussd ussd = session();
         if (ussd.state == VRKS_USSD_FAILED) throw errorOf(ussd);
-        if (waking != DeviceEvents::InputCame) return true;
+        if (waking != EventWait::InputCame) return true;
         char bytes[256];
         const ssize_t size = ::read(STDIN_FILENO, bytes, sizeof bytes);
         if (size > 0) m_Input.append(bytes, int(size));
@@ -122,7 +122,7 @@ private:
     const qint64 m_Patience;
     Output& m_Output;
     const EndingSignals m_Signals;
-    const DeviceEvents m_Events;
+    const EventWait m_Events;
     QByteArray m_Input;
     bool m_bOpen = false;
 };

@@ -1,7 +1,5 @@
 #include "Host.h"
 
-#include <vrks.h>
-
 #include <QApplication>
 #include <QEvent>
 
@@ -19,7 +17,10 @@ Host::Host() : m_Plugins(&m_NotifyService) {
     m_Refresh.setSingleShot(true);
     connect(&m_Refresh, &QTimer::timeout, &m_Window, &MainWindow::refresh);
     connect(&m_SettingsPage, &HostSettingsPage::languageChosen, this, &Host::changeLanguage);
-    connect(&m_DeviceEvents, &DeviceEvents::raised, this, &Host::onDeviceEvent);
+    connect(&m_DeviceEvents, &DeviceEvents::systemModeChanged, this, [this] {
+        if (m_NetworkKind.hasChanged()) m_Plugins.notifyAll(NotifySystemModeChanged);
+    });
+    connect(&m_DeviceEvents, &DeviceEvents::changed, this, [this] { m_Refresh.start(); });
     // A session that ends waits for no answer; a signal ends the event loop, and the pages go with what is open.
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { m_Window.abandon(); });
 
@@ -79,10 +80,4 @@ void Host::watchPlugins() {
     for (QObject* object : {Plugins::profilesObject(), Plugins::dialerObject()}) {
         if (object) object->installEventFilter(this);
     }
-}
-
-void Host::onDeviceEvent(int event) {
-    if (event == VRKS_EVENT_SYSTEM_MODE_CHANGED && m_NetworkKind.hasChanged())
-        m_Plugins.notifyAll(NotifySystemModeChanged);
-    m_Refresh.start();
 }

@@ -40,7 +40,6 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void onDeviceEvent(int event);
     void watchPlugins();
 
     DeviceEvents m_DeviceEvents;

@@ -7,8 +7,8 @@
 #include "Change.h"
 #include "ConnectionSettings.h"
 #include "ConnectionText.h"
-#include "ConnectionWatch.h"
 #include "DataConnection.h"
+#include "DeviceEvents.h"
 #include "DialCall.h"
 #include "PresetOperator.h"
 #include "Rows.h"
@@ -157,10 +157,10 @@ private slots:
     }
 
     void tellsManyEventsOnce() {
-        ConnectionWatch watch;
+        DeviceEvents events;
         QTest::qWait(20);  // what was kept from before
-        const QSignalSpy connection(&watch, &ConnectionWatch::connectionChanged);
-        const QSignalSpy modem(&watch, &ConnectionWatch::modemChanged);
+        const QSignalSpy connection(&events, &DeviceEvents::connectionChanged);
+        const QSignalSpy modem(&events, &DeviceEvents::modemChanged);
         for (const char* signal : {"11", "12", "13"}) vrks_simulated_change("SIGNAL", signal);
         vrks_simulated_change("USED_BY", "nmcli");
         vrks_simulated_wait_events();
@@ -170,7 +170,7 @@ private slots:
         QCOMPARE(DataConnection::current().usedBy, QString("nmcli"));
         vrks_simulated_change("SIGNAL", "14");
         vrks_simulated_wait_events();
-        watch.stop();
+        events.stop();
         QTest::qWait(20);
         QCOMPARE(modem.count(), 1);
     }

@@ -1,8 +1,10 @@
 // Waiting for what the device SDK reports; nothing is asked for again and again.
-#ifndef ORBISDIAL_CLI_DEVICEEVENTS_H
-#define ORBISDIAL_CLI_DEVICEEVENTS_H
+#ifndef ORBISDIAL_CLI_EVENTWAIT_H
+#define ORBISDIAL_CLI_EVENTWAIT_H
 
 #include <QDeadlineTimer>
+
+#include "DeviceEvents.h"
 
 // While one lives, the signals by which a user or the session ends a program wake a wait instead. Only the first that
 // comes does; those that were ignored stay so. One at a time.
@@ -17,8 +19,8 @@ public:
     [[noreturn]] static void obey();
 };
 
-// Listens to the SDK while it lives.
-class DeviceEvents {
+// Listens to the SDK while it lives. What happens between two waits ends the second one at once.
+class EventWait {
 public:
     enum Waking {
         Changed,     // something did; a query tells what it is now
@@ -29,15 +31,10 @@ public:
     };
     enum Also { NothingElse, StandardInput, StandardOutput };
 
-    DeviceEvents();
-    ~DeviceEvents();
-    DeviceEvents(const DeviceEvents&) = delete;
-    DeviceEvents& operator=(const DeviceEvents&) = delete;
-
     Waking wait(const QDeadlineTimer& deadline, Also also = NothingElse) const;
 
 private:
-    const int m_Bell;
+    const DeviceEvents m_Events;
 };
 
 #endif

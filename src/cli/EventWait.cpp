@@ -1,16 +1,18 @@
-#include "DeviceEvents.h"
+#include "EventWait.h"
 
-#include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
-#include <vrks.h>
 
+#include <QEventLoop>
+#include <QSocketNotifier>
+#include <QTimer>
 #include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <csignal>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 
 #include "CommandError.h"
 
@@ -19,7 +21,7 @@ namespace {
 constexpr int Endings[] = {SIGINT, SIGTERM, SIGHUP};
 
 volatile std::sig_atomic_t caught = 0;
-volatile int signalBell = -1;  // poll() passes over a negative one
+volatile int signalBell = -1;
 struct sigaction before[std::size(Endings)];
 
 int newBell() {
@@ -34,12 +36,6 @@ void ring(int bell) {
     (void)ignored;
 }
 
-void silence(int bell) {
-    std::uint64_t count = 0;
-    const ssize_t ignored = ::read(bell, &count, sizeof count);
-    (void)ignored;
-}
-
 // On whichever thread the signal comes.
 extern "C" void keepEnding(int signal) {
     const int error = errno;
@@ -48,11 +44,25 @@ extern "C" void keepEnding(int signal) {
     errno = error;
 }
 
-void onEvent(int, void* bell) { ring(*static_cast<const int*>(bell)); }
+// One cause to end a wait; none for a negative descriptor.
+class Waker {
+public:
+    Waker(QEventLoop* loop, int descriptor, QSocketNotifier::Type type, EventWait::Waking waking) {
+        if (descriptor < 0) return;
+        m_Notifier.emplace(descriptor, type);
+        QObject::connect(&*m_Notifier, &QSocketNotifier::activated, loop, [loop, waking] { loop->exit(waking); });
+    }
 
-int milliseconds(const QDeadlineTimer& deadline) {
-    if (deadline.isForever()) return -1;
-    return int(std::min<qint64>(deadline.remainingTime(), INT_MAX));
+private:
+    std::optional<QSocketNotifier> m_Notifier;
+};
+
+void endLoopAt(const QDeadlineTimer& deadline, QEventLoop* loop, QTimer* timer) {
+    if (deadline.isForever()) return;
+    timer->setTimerType(Qt::PreciseTimer);  // others may be early
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, loop, [loop] { loop->exit(EventWait::TimeIsUp); });
+    timer->start(int(std::min<qint64>(deadline.remainingTime(), INT_MAX)));
 }
 
 }  // namespace
@@ -81,27 +91,13 @@ void EndingSignals::obey() {
     std::_Exit(CommandError::Failed);
 }
 
-DeviceEvents::DeviceEvents() : m_Bell(newBell()) {
-    VRKS_DevSrv_RegisterEventCallback(onEvent, const_cast<int*>(&m_Bell));
-}
-
-DeviceEvents::~DeviceEvents() {
-    VRKS_DevSrv_UnRegisterEventCallback(onEvent, const_cast<int*>(&m_Bell));
-    ::close(m_Bell);
-}
-
-DeviceEvents::Waking DeviceEvents::wait(const QDeadlineTimer& deadline, Also also) const {
-    pollfd watched[] = {{signalBell, POLLIN, 0},
-                        {m_Bell, POLLIN, 0},
-                        {also == StandardInput ? STDIN_FILENO : -1, POLLIN, 0},
-                        {also == StandardOutput ? STDOUT_FILENO : -1, 0, 0}};
-    int ready = -1;
-    while ((ready = ::poll(watched, std::size(watched), milliseconds(deadline))) < 0 && errno == EINTR) continue;
-    if (ready <= 0) return TimeIsUp;
-    if (watched[0].revents) return SignalCame;
-    if (watched[1].revents) {
-        silence(m_Bell);
-        return Changed;
-    }
-    return watched[2].revents ? InputCame : ReaderGone;
+EventWait::Waking EventWait::wait(const QDeadlineTimer& deadline, Also also) const {
+    QEventLoop loop;
+    QTimer timer;
+    QObject::connect(&m_Events, &DeviceEvents::changed, &loop, [&loop] { loop.exit(Changed); });
+    endLoopAt(deadline, &loop, &timer);
+    const Waker input(&loop, also == StandardInput ? STDIN_FILENO : -1, QSocketNotifier::Read, InputCame);
+    const Waker output(&loop, also == StandardOutput ? STDOUT_FILENO : -1, QSocketNotifier::Exception, ReaderGone);
+    const Waker ending(&loop, signalBell, QSocketNotifier::Read, SignalCame);
+    return Waking(loop.exec());
 }

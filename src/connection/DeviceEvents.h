@@ -1,18 +1,18 @@
-// Brings the SDK's events about connection and modem to the thread of whoever listens.
-#ifndef ORBISDIAL_CONNECTIONWATCH_H
-#define ORBISDIAL_CONNECTIONWATCH_H
+// Brings the device SDK's events to the thread of whoever listens.
+#ifndef ORBISDIAL_DEVICEEVENTS_H
+#define ORBISDIAL_DEVICEEVENTS_H
 
 #include <QObject>
 #include <atomic>
 
 // Listens from its making until its end, or until stop(). Signals come on the object's own thread, from its event loop;
 // many events that come together are one signal.
-class ConnectionWatch : public QObject {
+class DeviceEvents : public QObject {
     Q_OBJECT
 
 public:
-    explicit ConnectionWatch(QObject* parent = nullptr);
-    ~ConnectionWatch() override;
+    explicit DeviceEvents(QObject* parent = nullptr);
+    ~DeviceEvents() override;
 
     // Returns when no event is on its way any more.
     void stop();
@@ -20,9 +20,11 @@ public:
 signals:
     void connectionChanged();  // ask DataConnection::current()
     void modemChanged();       // ask ModemState::current()
+    void systemModeChanged();
+    void changed();  // any of these, or anything else that the SDK tells of; behind them
 
 private:
-    static void onEvent(int event, void* watch);
+    static void onEvent(int event, void* events);
     Q_INVOKABLE void deliver();
 
     std::atomic<unsigned> m_Events{0};  // a bit each, which wait for delivery
