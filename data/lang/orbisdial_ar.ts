@@ -160,6 +160,42 @@
         <translation>تعذر إنهاء الاتصال. حاول مجددًا.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
+        <translation>المودم أو الشبكة لا تقبل مثل هذه الأوامر.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_REFUSED</source>
+        <translation>رفضت الشبكة الأمر.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NO_ANSWER</source>
+        <translation>لم تجب الشبكة.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_CANCELLED</source>
+        <translation>أُلغيت الجلسة.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
+        <translation>لا يُسمح لك بإرسال الأوامر على هذا الحاسوب. اطلب الإذن من المسؤول.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_FAILED</source>
+        <translation>فشل الأمر.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_CALL</source>
+        <translation>اتصل بالرقم %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_MESSAGE</source>
+        <translation>أرسل الرسالة النصية «%2» إلى %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
+        <translation>أرسل رسالة نصية فارغة إلى %1.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_BAD_NAME</source>
         <translation>لا يصلح اسم الملف «%1» للاتصال. اختصره.</translation>
     </message>
@@ -870,6 +906,10 @@
         <translation>إلغاء القفل…</translation>
     </message>
     <message>
+        <source>IDS_HOST_BALANCE</source>
+        <translation>الرصيد…</translation>
+    </message>
+    <message>
         <source>IDS_HOST_QUIT</source>
         <translation>إنهاء</translation>
     </message>
@@ -1078,6 +1118,46 @@
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>إلغاء قفل بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_TITLE</source>
+        <translation>رصيد بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_COMMAND</source>
+        <translation>يخبر المشغل %1 برصيد البطاقة مسبقة الدفع جوابًا عن الأمر %2. لا يُرسل شيء قبل أن تضغط «استعلام».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_HAND</source>
+        <translation>يخبر المشغل %1 بالرصيد بهذه الطريقة التي عليك اتباعها بنفسك:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_UNKNOWN</source>
+        <translation>لا يُعرف هنا كيف يخبر مشغلك بالرصيد. إن كنت تعرف أمره فاكتبه؛ لا يُرسل شيء قبل أن تضغط «استعلام».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_COMMAND</source>
+        <translation>الأمر:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_ASK</source>
+        <translation>استعلام</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_REPLY</source>
+        <translation>ردك:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_SEND</source>
+        <translation>إرسال</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_WAITING</source>
+        <translation>في انتظار الشبكة…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_NOT_NOW</source>
+        <translation>لا يوجد مودم جاهز يستطيع إرسال الأوامر إلى الشبكة.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN_INTRO</source>

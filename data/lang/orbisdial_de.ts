@@ -160,6 +160,42 @@
         <translation>Die Verbindung ließ sich nicht beenden. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
+        <translation>Das Modem oder das Netz nimmt solche Befehle nicht an.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_REFUSED</source>
+        <translation>Das Netz hat den Befehl abgelehnt.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NO_ANSWER</source>
+        <translation>Das Netz hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_CANCELLED</source>
+        <translation>Die Sitzung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
+        <translation>Sie dürfen auf diesem Rechner keine Befehle senden. Bitten Sie Ihren Verwalter um die Erlaubnis.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_FAILED</source>
+        <translation>Der Befehl ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_CALL</source>
+        <translation>Rufen Sie %1 an.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_MESSAGE</source>
+        <translation>Senden Sie die SMS „%2“ an %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
+        <translation>Senden Sie eine leere SMS an %1.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_BAD_NAME</source>
         <translation>Der Name des Profils „%1“ ist für eine Verbindung nicht brauchbar. Kürzen Sie ihn.</translation>
     </message>
@@ -870,6 +906,10 @@
         <translation>Entsperren…</translation>
     </message>
     <message>
+        <source>IDS_HOST_BALANCE</source>
+        <translation>Guthaben…</translation>
+    </message>
+    <message>
         <source>IDS_HOST_QUIT</source>
         <translation>Beenden</translation>
     </message>
@@ -1078,6 +1118,46 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>SIM-Karte entsperren</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_TITLE</source>
+        <translation>Guthaben der SIM-Karte</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_COMMAND</source>
+        <translation>%1 nennt das Guthaben einer Prepaid-Karte auf den Befehl %2 hin. Gesendet wird erst, wenn Sie „Abfragen“ drücken.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_HAND</source>
+        <translation>%1 nennt das Guthaben auf diesem Weg, den Sie selbst gehen müssen:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_UNKNOWN</source>
+        <translation>Wie Ihr Anbieter das Guthaben nennt, ist hier nicht bekannt. Wenn Sie seinen Befehl kennen, geben Sie ihn ein; gesendet wird erst, wenn Sie „Abfragen“ drücken.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_COMMAND</source>
+        <translation>Befehl:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_ASK</source>
+        <translation>Abfragen</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_REPLY</source>
+        <translation>Ihre Antwort:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_SEND</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_WAITING</source>
+        <translation>Warten auf das Netz…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_NOT_NOW</source>
+        <translation>Es ist kein Modem bereit, das dem Netz Befehle senden kann.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN_INTRO</source>

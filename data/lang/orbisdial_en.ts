@@ -199,6 +199,51 @@
         <translation>The connection could not be ended. Try again.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
+        <extracomment>Why a command such as *100# came to nothing.</extracomment>
+        <translation>The modem or the network takes no such commands.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_REFUSED</source>
+        <extracomment>The same.</extracomment>
+        <translation>The network refused the command.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NO_ANSWER</source>
+        <extracomment>The same.</extracomment>
+        <translation>The network did not answer.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_CANCELLED</source>
+        <extracomment>The same.</extracomment>
+        <translation>The session was cancelled.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
+        <extracomment>The same.</extracomment>
+        <translation>You may not send commands on this computer. Ask your administrator for the permission.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_FAILED</source>
+        <extracomment>The same.</extracomment>
+        <translation>The command failed.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_CALL</source>
+        <extracomment>What to do to learn the balance; %1 is a phone number.</extracomment>
+        <translation>Call %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_MESSAGE</source>
+        <extracomment>The same; %1 is a phone number, %2 the message.</extracomment>
+        <translation>Send the text message “%2” to %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
+        <extracomment>The same.</extracomment>
+        <translation>Send an empty text message to %1.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_BAD_NAME</source>
         <extracomment>Why connecting failed, and what to do. %1 is the profile's name.</extracomment>
         <translation>The name of the profile "%1" can't be used for a connection. Shorten it.</translation>
@@ -1047,6 +1092,11 @@
         <translation>Unlock…</translation>
     </message>
     <message>
+        <source>IDS_HOST_BALANCE</source>
+        <extracomment>Menu entry: asks the network for a prepaid card's balance.</extracomment>
+        <translation>Balance…</translation>
+    </message>
+    <message>
         <source>IDS_HOST_QUIT</source>
         <translation>Quit</translation>
     </message>
@@ -1255,6 +1305,51 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>Unlock the SIM card</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_TITLE</source>
+        <translation>Balance of the SIM card</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_COMMAND</source>
+        <extracomment>%1 is an operator, %2 a command such as *100#.</extracomment>
+        <translation>%1 tells the balance of a prepaid card in answer to the command %2. Nothing is sent before you press “Ask”.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_HAND</source>
+        <extracomment>%1 is an operator; lines such as "Call 123." follow.</extracomment>
+        <translation>%1 tells the balance this way, which you have to go yourself:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_UNKNOWN</source>
+        <translation>How your operator tells the balance is not known here. If you know its command, type it; nothing is sent before you press “Ask”.</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_COMMAND</source>
+        <translation>Command:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_ASK</source>
+        <extracomment>Button: sends the command.</extracomment>
+        <translation>Ask</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_REPLY</source>
+        <extracomment>What the user answers to the network's question.</extracomment>
+        <translation>Your reply:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_SEND</source>
+        <extracomment>Button: sends the reply.</extracomment>
+        <translation>Send</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_WAITING</source>
+        <translation>Waiting for the network…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_NOT_NOW</source>
+        <translation>There is no modem ready that can send commands to the network.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN_INTRO</source>

@@ -160,6 +160,42 @@
         <translation>No se pudo terminar la conexión. Vuelva a intentarlo.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
+        <translation>El módem o la red no admite estos códigos.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_REFUSED</source>
+        <translation>La red rechazó el código.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NO_ANSWER</source>
+        <translation>La red no respondió.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_CANCELLED</source>
+        <translation>La sesión se canceló.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
+        <translation>No tiene permiso para enviar códigos en este equipo. Pídalo a su administrador.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_FAILED</source>
+        <translation>El código falló.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_CALL</source>
+        <translation>Llame al %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_MESSAGE</source>
+        <translation>Envíe el SMS «%2» al %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
+        <translation>Envíe un SMS vacío al %1.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_BAD_NAME</source>
         <translation>El nombre del perfil «%1» no sirve para una conexión. Acórtelo.</translation>
     </message>
@@ -870,6 +906,10 @@
         <translation>Desbloquear…</translation>
     </message>
     <message>
+        <source>IDS_HOST_BALANCE</source>
+        <translation>Saldo…</translation>
+    </message>
+    <message>
         <source>IDS_HOST_QUIT</source>
         <translation>Salir</translation>
     </message>
@@ -1078,6 +1118,46 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>Desbloquear la tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_TITLE</source>
+        <translation>Saldo de la tarjeta SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_COMMAND</source>
+        <translation>%1 indica el saldo de una tarjeta de prepago en respuesta al código %2. No se envía nada hasta que pulse «Consultar».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_HAND</source>
+        <translation>%1 indica el saldo de esta manera, que debe seguir usted mismo:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_UNKNOWN</source>
+        <translation>Aquí no se sabe cómo indica el saldo su operador. Si conoce el código, escríbalo; no se envía nada hasta que pulse «Consultar».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_COMMAND</source>
+        <translation>Código:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_ASK</source>
+        <translation>Consultar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_REPLY</source>
+        <translation>Su respuesta:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_SEND</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_WAITING</source>
+        <translation>Esperando a la red…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_NOT_NOW</source>
+        <translation>No hay ningún módem listo que pueda enviar códigos a la red.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN_INTRO</source>

@@ -160,6 +160,42 @@
         <translation>La connexion n’a pas pu être terminée. Réessayez.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
+        <translation>Le modem ou le réseau n’accepte pas de tels codes.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_REFUSED</source>
+        <translation>Le réseau a refusé le code.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NO_ANSWER</source>
+        <translation>Le réseau n’a pas répondu.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_CANCELLED</source>
+        <translation>La session a été annulée.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
+        <translation>Vous n’êtes pas autorisé à envoyer des codes sur cet ordinateur. Demandez la permission à votre administrateur.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_FAILED</source>
+        <translation>Le code a échoué.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_CALL</source>
+        <translation>Appelez le %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_MESSAGE</source>
+        <translation>Envoyez le SMS «&#xa0;%2&#xa0;» au %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
+        <translation>Envoyez un SMS vide au %1.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_BAD_NAME</source>
         <translation>Le nom du profil «&#xa0;%1&#xa0;» ne convient pas à une connexion. Raccourcissez-le.</translation>
     </message>
@@ -870,6 +906,10 @@
         <translation>Déverrouiller…</translation>
     </message>
     <message>
+        <source>IDS_HOST_BALANCE</source>
+        <translation>Solde…</translation>
+    </message>
+    <message>
         <source>IDS_HOST_QUIT</source>
         <translation>Quitter</translation>
     </message>
@@ -1078,6 +1118,46 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>Déverrouiller la carte SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_TITLE</source>
+        <translation>Solde de la carte SIM</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_COMMAND</source>
+        <translation>%1 indique le solde d’une carte prépayée en réponse au code %2. Rien n’est envoyé avant que vous n’appuyiez sur «&#xa0;Demander&#xa0;».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_HAND</source>
+        <translation>%1 indique le solde de cette façon, à faire vous-même&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_UNKNOWN</source>
+        <translation>La façon dont votre opérateur indique le solde n’est pas connue ici. Si vous connaissez son code, saisissez-le&#xa0;; rien n’est envoyé avant que vous n’appuyiez sur «&#xa0;Demander&#xa0;».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_COMMAND</source>
+        <translation>Code&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_ASK</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_REPLY</source>
+        <translation>Votre réponse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_SEND</source>
+        <translation>Envoyer</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_WAITING</source>
+        <translation>En attente du réseau…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_NOT_NOW</source>
+        <translation>Aucun modem capable d’envoyer des codes au réseau n’est prêt.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN_INTRO</source>

@@ -160,6 +160,42 @@
         <translation>Не удалось завершить соединение. Повторите попытку.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
+        <translation>Модем или сеть не принимает такие команды.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_REFUSED</source>
+        <translation>Сеть отклонила команду.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NO_ANSWER</source>
+        <translation>Сеть не ответила.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_CANCELLED</source>
+        <translation>Сеанс прерван.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
+        <translation>Вам не разрешено отправлять команды на этом компьютере. Попросите разрешения у администратора.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_FAILED</source>
+        <translation>Команда не выполнена.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_CALL</source>
+        <translation>Позвоните по номеру %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_MESSAGE</source>
+        <translation>Отправьте SMS «%2» на номер %1.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
+        <translation>Отправьте пустое SMS на номер %1.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_BAD_NAME</source>
         <translation>Имя профиля «%1» не годится для соединения. Сократите его.</translation>
     </message>
@@ -870,6 +906,10 @@
         <translation>Разблокировать…</translation>
     </message>
     <message>
+        <source>IDS_HOST_BALANCE</source>
+        <translation>Баланс…</translation>
+    </message>
+    <message>
         <source>IDS_HOST_QUIT</source>
         <translation>Выйти</translation>
     </message>
@@ -1078,6 +1118,46 @@
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>Разблокировка SIM-карты</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_TITLE</source>
+        <translation>Баланс SIM-карты</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_COMMAND</source>
+        <translation>%1 сообщает баланс предоплаченной карты в ответ на команду %2. Ничего не отправляется, пока вы не нажмёте «Запросить».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_HAND</source>
+        <translation>%1 сообщает баланс таким способом, которым нужно воспользоваться самостоятельно:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_UNKNOWN</source>
+        <translation>Как ваш оператор сообщает баланс, здесь неизвестно. Если вы знаете его команду, введите её; ничего не отправляется, пока вы не нажмёте «Запросить».</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_COMMAND</source>
+        <translation>Команда:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_ASK</source>
+        <translation>Запросить</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_REPLY</source>
+        <translation>Ваш ответ:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_SEND</source>
+        <translation>Отправить</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_WAITING</source>
+        <translation>Ожидание ответа сети…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_NOT_NOW</source>
+        <translation>Нет готового модема, который может отправлять команды в сеть.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN_INTRO</source>

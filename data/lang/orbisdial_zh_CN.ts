@@ -160,6 +160,42 @@
         <translation>无法结束连接。请重试。</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
+        <translation>调制解调器或网络不接受此类代码。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_REFUSED</source>
+        <translation>网络拒绝了该代码。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NO_ANSWER</source>
+        <translation>网络没有应答。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_CANCELLED</source>
+        <translation>会话已取消。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
+        <translation>您无权在这台计算机上发送代码。请向管理员申请权限。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_USSD_FAILED</source>
+        <translation>代码发送失败。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_CALL</source>
+        <translation>请拨打 %1。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_MESSAGE</source>
+        <translation>请发送短信“%2”到 %1。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
+        <translation>请发送一条空短信到 %1。</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_BAD_NAME</source>
         <translation>配置文件名称“%1”不能用于连接。请缩短它。</translation>
     </message>
@@ -870,6 +906,10 @@
         <translation>解锁…</translation>
     </message>
     <message>
+        <source>IDS_HOST_BALANCE</source>
+        <translation>余额…</translation>
+    </message>
+    <message>
         <source>IDS_HOST_QUIT</source>
         <translation>退出</translation>
     </message>
@@ -1078,6 +1118,46 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>解锁 SIM 卡</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_TITLE</source>
+        <translation>SIM 卡余额</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_COMMAND</source>
+        <translation>%1 会在收到代码 %2 后告知预付费卡的余额。在您按“查询”之前不会发送任何内容。</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_BY_HAND</source>
+        <translation>%1 通过以下方式告知余额，需要您自行操作：</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_UNKNOWN</source>
+        <translation>这里不知道您的运营商如何告知余额。如果您知道它的代码，请输入；在您按“查询”之前不会发送任何内容。</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_COMMAND</source>
+        <translation>代码：</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_ASK</source>
+        <translation>查询</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_REPLY</source>
+        <translation>您的回复：</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_SEND</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_WAITING</source>
+        <translation>正在等待网络…</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_BALANCE_NOT_NOW</source>
+        <translation>没有可向网络发送代码的就绪调制解调器。</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN_INTRO</source>

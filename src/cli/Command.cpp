@@ -63,6 +63,7 @@ const Command Commands[] = {
     {"autoconnect", "NAME [on|off]", 1, 2, with(Roaming), "Whether the window connects with a profile by itself.",
      setAutoConnect},
     {"ussd", "CODE", 1, 1, with(Timeout), "Send a command such as *100# to the network and show its answer.", sendUssd},
+    {"balance", "", 0, 0, with(Timeout), "Ask the network for a prepaid card's balance.", askBalance},
 };
 
 const Command* findCommand(const QString& name) {

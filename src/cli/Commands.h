@@ -54,5 +54,6 @@ void setAutoConnect(const Invocation& invocation, Output& output);
 
 // UssdCommand.cpp
 void sendUssd(const Invocation& invocation, Output& output);
+void askBalance(const Invocation& invocation, Output& output);
 
 #endif

@@ -1,4 +1,4 @@
-// ussd.
+// ussd, balance.
 
 #include <unistd.h>
 #include <vrks.h>
@@ -8,29 +8,32 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
+#include "ConnectionText.h"
+#include "DataConnection.h"
 #include "EventWait.h"
 #include "HiddenInput.h"
 #include "ModemReport.h"
 #include "Output.h"
+#include "PresetOperator.h"
+#include "ProfileSession.h"
 #include "StandardOutput.h"
 
 namespace {
 
 constexpr int PatienceSeconds = 120;  // networks give up earlier
 
-// By VRKS_USSD_FAILURE_...
-const struct {
-    CommandError::ExitStatus status;
-    const char* text;
-} Failures[] = {
-    {CommandError::Failed, "the command failed"},
-    {CommandError::Refused, "the modem or the network takes no such commands"},
-    {CommandError::Refused, "the network refused the command"},
-    {CommandError::TimedOut, "the network did not answer"},
-    {CommandError::Failed, "the session was cancelled"},
-    {CommandError::Refused, "this user may not send commands"},
-    {CommandError::Failed, "the command failed"},
-};
+CommandError::ExitStatus exitStatus(int failure) {
+    switch (failure) {
+        case VRKS_USSD_FAILURE_NOT_SUPPORTED:
+        case VRKS_USSD_FAILURE_NETWORK:
+        case VRKS_USSD_FAILURE_NOT_ALLOWED:
+            return CommandError::Refused;
+        case VRKS_USSD_FAILURE_TIMEOUT:
+            return CommandError::TimedOut;
+        default:
+            return CommandError::Failed;
+    }
+}
 
 VRKS_Ussd session() {
     VRKS_Ussd ussd{};
@@ -40,16 +43,27 @@ VRKS_Ussd session() {
 }
 
 CommandError errorOf(const VRKS_Ussd& ussd) {
-    const bool isListed = ussd.failure >= 0 && ussd.failure < int(std::size(Failures));
-    const auto& failure = Failures[isListed ? ussd.failure : 0];
-    const QString words = QString::fromUtf8(ussd.words);
-    return {failure.status, words.isEmpty() ? QString(failure.text) : QString("%1 (%2)").arg(failure.text, words)};
+    const QString text = ConnectionText::ussdFailure(ussd.failure), words = QString::fromUtf8(ussd.words);
+    return {exitStatus(ussd.failure), words.isEmpty() ? text : QString("%1 (%2)").arg(text, words)};
+}
+
+void requireModem() {
+    VRKS_ModemInfo info;
+    if (!ModemReport::current(&info)) throw CommandError::failed("nothing can tell which modem is in use");
+    if (!*info.id) throw CommandError::notFound("there is no modem");
 }
 
 // A conversation, which is ended however the command ends: networks let a session stay open, and cost for it.
 class Conversation {
 public:
-    Conversation(qint64 patience, Output& output) : m_Patience(patience), m_Output(output) {}
+    // What is told of it: members of each answer's object, and a line before the first.
+    struct About {
+        QJsonObject object;
+        QStringList lines;
+    };
+
+    Conversation(const About& about, qint64 patience, Output& output)
+        : m_About(about), m_Patience(patience), m_Output(output) {}
     ~Conversation() {
         if (m_bOpen) VRKS_NetSrv_CancelUssd();
     }
@@ -84,7 +98,11 @@ private:
     bool show(const VRKS_Ussd& ussd) {
         const bool asks = m_bOpen = ussd.state == VRKS_USSD_ASKS;
         const QString text = QString::fromUtf8(ussd.text);
-        m_Output.result({{"text", text}, {"asks", asks}}, text.split('\n'));
+        QJsonObject object = m_About.object;
+        object["text"] = text;
+        object["asks"] = asks;
+        m_Output.result(object, m_About.lines + text.split('\n'));
+        m_About.lines.clear();
         return !asks;
     }
 
@@ -119,6 +137,7 @@ private:
 
     static constexpr char Prompt[] = "Answer (none ends the session): ";
 
+    About m_About;
     const qint64 m_Patience;
     Output& m_Output;
     const EndingSignals m_Signals;
@@ -127,11 +146,51 @@ private:
     bool m_bOpen = false;
 };
 
+// Whose balance: the operator of the profile in use, of the default, or of what is proposed for the card.
+OperatorEntry operatorInUse() {
+    const DataConnection connection = DataConnection::current();
+    ProfileSession session(ProfileSession::Reading);
+    QStringList profiles{session.defaultName(), session->ProposedDefault()};
+    if (!connection.isDown()) profiles.prepend(connection.name);
+    const std::optional<OperatorEntry> found = presetOperator(profiles);
+    if (!found)
+        throw CommandError::notFound("neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE");
+    return *found;
+}
+
+QJsonObject about(const OperatorEntry& entry, const BalanceQuery& query) {
+    return {{"operator", entry.names.first()},
+            {"country", entry.country},
+            {"way", BalanceQuery::wordOf(query.way)},
+            {"number", query.number}};
+}
+
+// There is nothing to send: the user is told, and does it.
+[[noreturn]] void tellByHand(const OperatorEntry& entry, Output& output) {
+    const QString& name = entry.names.first();
+    if (entry.balanceQueries.isEmpty())
+        throw CommandError::notFound("how " + name + " tells a balance is not known; see orbisctl ussd CODE");
+    for (const BalanceQuery& query : entry.balanceQueries) {
+        QJsonObject object = about(entry, query);
+        object["message"] = query.way == BalanceQuery::Message ? QJsonValue(query.text) : QJsonValue();
+        output.result(object, {ConnectionText::balanceByHand(query)});
+    }
+    throw CommandError::refused("nothing was sent: " + name + " tells a balance by message or phone alone");
+}
+
 }  // namespace
 
 void sendUssd(const Invocation& invocation, Output& output) {
-    VRKS_ModemInfo info;
-    if (!ModemReport::current(&info)) throw CommandError::failed("nothing can tell which modem is in use");
-    if (!*info.id) throw CommandError::notFound("there is no modem");
-    Conversation(invocation.patience(PatienceSeconds), output).run(invocation.arguments().first());
+    requireModem();
+    Conversation({}, invocation.patience(PatienceSeconds), output).run(invocation.arguments().first());
+}
+
+void askBalance(const Invocation& invocation, Output& output) {
+    const qint64 patience = invocation.patience(PatienceSeconds);
+    requireModem();
+    const OperatorEntry entry = operatorInUse();
+    const BalanceQuery* const query = balanceCommand(entry);
+    if (!query) tellByHand(entry, output);
+    const QString line = QString("%1, %2:").arg(entry.names.first(), query->number);
+    Conversation({about(entry, *query), {line}}, patience, output).run(query->number);
 }

@@ -5,6 +5,7 @@
 #include "DataConnection.h"
 #include "DialCall.h"
 #include "DialupNotes.h"
+#include "OperatorIndex.h"
 
 namespace {
 
@@ -61,6 +62,16 @@ const char* const Holds[] = {nullptr,
                              "IDS_DIALUP_AUTO_FAILED",
                              "IDS_DIALUP_AUTO_MUST_ASK"};
 static_assert(sizeof Holds / sizeof *Holds == AutoConnectMustAsk + 1, "each hold has its place");
+
+// By VRKS_USSD_FAILURE_...
+const char* const UssdFailures[] = {nullptr,
+                                    "IDS_DIALUP_USSD_NOT_SUPPORTED",
+                                    "IDS_DIALUP_USSD_REFUSED",
+                                    "IDS_DIALUP_USSD_NO_ANSWER",
+                                    "IDS_DIALUP_USSD_CANCELLED",
+                                    "IDS_DIALUP_USSD_NOT_ALLOWED",
+                                    "IDS_DIALUP_USSD_FAILED"};
+static_assert(sizeof UssdFailures / sizeof *UssdFailures == VRKS_USSD_FAILURE_OTHER + 1, "each failure has its place");
 
 // By the profile's attribute, and by what the SDK calls the member where that differs.
 const struct {
@@ -126,6 +137,15 @@ QString ConnectionText::addressNote(const DialupProfile& profile, const DataConn
     if (!isAsked || !connection.isUp() || connection.address.isEmpty()) return QString();
     const bool isHad = profile.ip.trimmed() == connection.address;
     return isHad ? QString() : text("IDS_DIALUP_NOTE_OTHER_ADDRESS", connection.address);
+}
+
+QString ConnectionText::ussdFailure(int failure) { return textAt(UssdFailures, failure); }
+
+QString ConnectionText::balanceByHand(const BalanceQuery& query) {
+    if (query.way == BalanceQuery::Call) return text("IDS_DIALUP_BALANCE_CALL", query.number);
+    if (query.way != BalanceQuery::Message) return QString();
+    if (query.text.isEmpty()) return text("IDS_DIALUP_BALANCE_EMPTY_MESSAGE", query.number);
+    return text("IDS_DIALUP_BALANCE_MESSAGE", query.number).replace(QLatin1String("%2"), query.text);
 }
 
 QString ConnectionText::usageWarning(int percent) {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+struct BalanceQuery;
 struct DataConnection;
 struct DialupProfile;
 
@@ -36,6 +37,12 @@ QStringList notes(const DialupProfile& profile);
 
 // The note on the address once the connection is up: empty unless the profile asks for one that it did not get.
 QString addressNote(const DialupProfile& profile, const DataConnection& connection);
+
+// Why a USSD command came to nothing, VRKS_USSD_FAILURE_...; empty for none.
+QString ussdFailure(int failure);
+
+// What to do by hand to learn the balance; empty for a USSD command, which the programs send.
+QString balanceByHand(const BalanceQuery& query);
 
 // 80 or 100 percent of the month's limit are used; empty for any other number.
 QString usageWarning(int percent);

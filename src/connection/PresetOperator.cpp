@@ -23,3 +23,9 @@ std::optional<OperatorEntry> presetOperator(const QStringList& profiles) {
         if (const OperatorEntry* entry = index.operatorOf(profile)) return *entry;
     return std::nullopt;
 }
+
+const BalanceQuery* balanceCommand(const OperatorEntry& entry) {
+    for (const BalanceQuery& query : entry.balanceQueries)
+        if (query.way == BalanceQuery::Ussd) return &query;
+    return nullptr;
+}

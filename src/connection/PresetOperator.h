@@ -12,4 +12,7 @@
 // is none when that is missing or damaged.
 std::optional<OperatorEntry> presetOperator(const QStringList& profiles);
 
+// The first of its USSD commands that tell a balance; null when it has none.
+const BalanceQuery* balanceCommand(const OperatorEntry& entry);
+
 #endif

@@ -16,6 +16,7 @@
 #include <QUrl>
 
 #include "AboutBox.h"
+#include "BalanceDialog.h"
 #include "CommonUtils.h"
 #include "ConnectionView.h"
 #include "HostSettings.h"
@@ -120,6 +121,7 @@ void MainWindow::refresh() {
     m_UnlockAction->setEnabled(m_Picture.canUnlock);
     if (m_Unlock) m_Unlock->refresh();
     if (m_Presets) m_Presets->refresh(m_Picture);
+    if (m_Balance) m_Balance->refresh();
     if (m_ModemPanel) m_ModemPanel->refresh();
     if (m_Picture.isUp) rememberConnection();
     if (isVisible()) makeRoom();
@@ -144,6 +146,7 @@ void MainWindow::retranslate() {
     if (m_Unlock) m_Unlock->retranslate();
     if (m_Presets) m_Presets->retranslate();
     if (m_Copy) m_Copy->retranslate();
+    if (m_Balance) m_Balance->retranslate();
     if (m_ModemPanel) m_ModemPanel->retranslate();
     if (m_Dock) retranslateDock();
     const QString problems = problemText();
@@ -253,6 +256,19 @@ void MainWindow::rememberConnection() {
     HostSettings::set(HostSettings::HasConnected, true);
 }
 
+// The profile in use tells the operator, else the default, else what is proposed for the card.
+void MainWindow::askBalance() {
+    if (!m_Balance) {
+        const ConnectionFacts facts = ConnectionFacts::now();
+        QStringList profiles{facts.defaultProfile, facts.proposedPreset};
+        if (!facts.isDown()) profiles.prepend(facts.profile);
+        m_Balance = new BalanceDialog(profiles, this);
+        m_Balance->setAttribute(Qt::WA_DeleteOnClose);
+        m_Balance->open();
+    }
+    m_Balance->activateWindow();
+}
+
 // Room for long names beside the button.
 QSize MainWindow::sizeHint() const {
     return QMainWindow::sizeHint().expandedTo({64 * fontMetrics().averageCharWidth(), 0});
@@ -271,6 +287,7 @@ void MainWindow::buildMenus() {
     m_ConnectionMenu = menuBar()->addMenu(QString());
     m_Action = m_ConnectionMenu->addAction(QString(), this, &MainWindow::act, QKeySequence(Qt::CTRL | Qt::Key_Return));
     m_UnlockAction = addEntry(m_ConnectionMenu, "IDS_HOST_UNLOCK", {}, &MainWindow::unlock);
+    addEntry(m_ConnectionMenu, "IDS_HOST_BALANCE", {}, &MainWindow::askBalance);
     m_ConnectionMenu->addSeparator();
     addEntry(m_ConnectionMenu, "IDS_HOST_PRESETS", QKeySequence(Qt::CTRL | Qt::Key_P), &MainWindow::openPresets);
     addEntry(m_ConnectionMenu, "IDS_HOST_NEW_FROM", QKeySequence::New, &MainWindow::copyProfile);

@@ -10,6 +10,7 @@
 #include "ConnectionPicture.h"
 #include "PluginManager.h"
 
+class BalanceDialog;
 class ConnectionView;
 class ModemPanel;
 class NewProfileDialog;
@@ -72,6 +73,7 @@ public:
     void abandon();
 
     void unlock();
+    void askBalance();
 
     // The world's presets, to connect with or to make profiles from.
     void openPresets();
@@ -118,6 +120,7 @@ private:
     QPointer<UnlockDialog> m_Unlock;
     QPointer<PresetsDialog> m_Presets;
     QPointer<NewProfileDialog> m_Copy;
+    QPointer<BalanceDialog> m_Balance;
     ModemPanel* m_ModemPanel;
     QDockWidget* m_Dock = nullptr;
     QLabel* m_ProblemLabel;

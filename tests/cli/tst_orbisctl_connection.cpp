@@ -233,6 +233,30 @@ private slots:
             QCOMPARE(outcome.out, cell<QByteArray>("words"));
         }
     }
+
+    void balance_data() {
+        const Rows<QString, QStringList, int, QByteArray, QByteArray> row("profile", "network", "status", "out",
+                                                                          "words");
+        row("by command", "Alpha", {}, 0, "Alpha Net, *100#:\nSeven left\n", "");
+        row("by message", "Beta", {}, 4, "Send the text message \xe2\x80\x9cSALDO\xe2\x80\x9d to 111.\n",
+            "Beta Mobile");
+        row("no card", "Alpha", {"IMSI="}, 3, "", "tells the operator");
+        row("refused", "Alpha", {"USSD=network"}, 4, "", "refused");
+        row("no modem", "Alpha", {"PRESENT=0"}, 3, "", "no modem");
+    }
+    void balance() {
+        const OrbisctlFixture fixture;
+        COMPARE_DONE(fixture.run({"default", cell("profile")}));
+        const SimulatedSettings settings(QStringList{"USSD_TEXT=Seven left"} + cell<QStringList>("network"));
+        const Outcome outcome = fixture.run({"balance"});
+        QCOMPARE(outcome.out, cell<QByteArray>("out"));
+        if (cell<int>("status") != 0) {
+            COMPARE_REFUSED(outcome, cell<int>("status"), cell<QByteArray>("words"));
+        } else {
+            COMPARE_DONE(outcome);
+            QCOMPARE(fixture.run({"--json", "balance"}).json()["number"].toString(), QString("*100#"));
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_orbisctl_connection)

@@ -55,6 +55,12 @@ struct Listener : INotify {
     INotify* other = nullptr;
 };
 
+int ussdState() {
+    VRKS_Ussd ussd{};
+    ussd.size = sizeof ussd;
+    return VRKS_NetSrv_GetUssd(&ussd) == 0 ? ussd.state : -1;
+}
+
 }  // namespace
 
 class tst_host : public QObject {
@@ -344,6 +350,31 @@ private slots:
         QTest::mouseClick(ok, Qt::LeftButton);
         QTRY_COMPARE(child<QPushButton>("Host_ConnectButton")->text(), QString("Connect"));
         QTRY_VERIFY(!child<QWidget>("Host_UnlockDialog"));
+    }
+
+    // Nothing is sent unasked; what the network asks back can be answered, and a session does not outlive the dialog.
+    void asksForTheBalance() {
+        m_Folder->ship("Operators.xml",
+                       "<Operators><operator country='de' name='Guest'><preset name='Home'/>"
+                       "<balance way='ussd' number='*100#'/></operator></Operators>");
+        vrks_simulated_set("USSD", "asks");
+        vrks_simulated_set("USSD_MS", "1");
+        m_Host->window()->findChild<QAction*>("IDS_HOST_BALANCE")->trigger();
+        auto* answer = child<QLabel>("Balance_Answer");
+        QVERIFY(child<QLabel>("Balance_Way")->text().contains("Guest"));
+        QCOMPARE(child<QLineEdit>("Balance_Command")->text(), QString("*100#"));
+        QTest::qWait(30);
+        QCOMPARE(ussdState(), int(VRKS_USSD_IDLE));
+        click("Balance_Ask");
+        QTRY_VERIFY(child<QLineEdit>("Balance_Reply")->isVisible());
+        QCOMPARE(answer->text(), QString("1 Balance\n2 Tariff"));
+        QTest::keyClicks(child<QLineEdit>("Balance_Reply"), "1\r");
+        QTRY_COMPARE(answer->text(), QString("Your balance: 12.34"));
+        QVERIFY(!child<QLineEdit>("Balance_Reply")->isVisible());
+        click("Balance_Ask");
+        QTRY_VERIFY(child<QLineEdit>("Balance_Reply")->isVisible());
+        click("Balance_Close");
+        QTRY_COMPARE(ussdState(), int(VRKS_USSD_FAILED));
     }
 
     // Closing while connected says what happens; no answer keeps the window.

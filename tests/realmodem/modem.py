@@ -39,7 +39,10 @@ class Modem:
         return True
 
     def receive(self, connection, _):
-        data = connection.recv(4096)
+        try:
+            data = connection.recv(4096)
+        except ConnectionResetError:  # it was closed with an answer unread
+            data = b""
         if not data:
             del self.connections[connection]
             connection.close()
