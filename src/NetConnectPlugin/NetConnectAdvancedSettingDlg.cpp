@@ -4,6 +4,7 @@
 
 #include "Change.h"
 #include "CommonUtils.h"
+#include "NetConnectFieldNote.h"
 
 NetConnectAdvancedSettingDlg* NetConnectAdvancedSettingDlg::m_pNetConnectAdvancedSettingDlg = nullptr;
 
@@ -104,6 +105,8 @@ void NetConnectAdvancedSettingDlg::setLabelLanguage() {
                   {m_WINS.primaryLabel, "IDS_SETTING_STATIC_WINS1"},
                   {m_WINS.secondaryLabel, "IDS_SETTING_STATIC_WINS_SECOND"}};
     for (const auto& row : labels) row.label->setText(text(row.id));
+    if (m_IP.box) showFieldNote(m_IP.box, "ip");
+    if (m_WINS.box) showFieldNote(m_WINS.box, "wins");
 }
 
 void NetConnectAdvancedSettingDlg::setButtonLanguage() {

@@ -81,7 +81,7 @@ void addProfile(const Invocation& invocation, Output& output) {
     requireNameFree(status, name);
     session.require(status, "the profile can't be added");
     session.finish();
-    fields.warnOfShownPassword();
+    fields.warn();
     output.result({{"added", name}}, {});
 }
 
@@ -98,7 +98,7 @@ void setFields(const Invocation& invocation, Output& output) {
     session.require(status, "the profile can't be changed");
     session.finish();
     followChange(name, profile.name, changes);
-    changes.warnOfShownPassword();
+    changes.warn();
     output.result({{"changed", profile.name}}, {});
 }
 

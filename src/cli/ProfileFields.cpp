@@ -4,6 +4,7 @@
 
 #include "CommandError.h"
 #include "Commands.h"
+#include "ConnectionText.h"
 #include "HiddenInput.h"
 #include "NetConnectProfileRules.h"
 #include "Output.h"
@@ -84,9 +85,12 @@ FieldAssignments::FieldAssignments(const QStringList& arguments) {
     }
 }
 
-void FieldAssignments::warnOfShownPassword() const {
+void FieldAssignments::warn() const {
     if (m_bShowsPassword)
         printWarning("others can read a password on the command line in the list of processes; use password=-");
+    DialupProfile given;
+    applyTo(&given);
+    for (const QString& note : ConnectionText::notes(given)) printWarning(note);
 }
 
 bool FieldAssignments::contains(const char* field) const {

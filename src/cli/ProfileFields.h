@@ -16,8 +16,8 @@ public:
     bool contains(const char* field) const;
     void applyTo(DialupProfile* profile) const;
 
-    // Warns, when it is so, that the command line holds a password.
-    void warnOfShownPassword() const;
+    // Warns, when it is so, that the command line holds a password, and of fields that have no effect.
+    void warn() const;
 
 private:
     struct Assignment {

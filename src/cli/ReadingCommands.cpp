@@ -5,6 +5,7 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
+#include "ConnectionText.h"
 #include "Output.h"
 #include "ProfileSession.h"
 
@@ -48,6 +49,7 @@ void showProfiles(const Invocation& invocation, Output& output) {
         if (i > 0) lines.append(QString());
         const QJsonObject object = describe(profiles.at(i), invocation.isSet("secrets"), &lines);
         output.result(object, lines);
+        for (const QString& note : ConnectionText::notes(profiles.at(i))) printWarning(note);
     }
     session.finish();
 }

@@ -1,6 +1,7 @@
 #include <QRegExp>
 
 #include "CommonUtils.h"
+#include "NetConnectFieldNote.h"
 #include "NetConnectUIService.h"
 
 namespace {
@@ -70,6 +71,7 @@ void CNetConnectUIService::setAccessibleNames() {
                  {m_pImportExportTree, "IDS_NETCONNECT_ACC_TRANSFER_TREE"}};
     for (const auto& row : names)
         if (row.widget) row.widget->setAccessibleName(withoutMnemonic(text(row.id)));
+    if (m_Page.accessNumber) showFieldNote(m_Page.accessNumber, "phonenumber");
 }
 
 void CNetConnectUIService::setButtonLanguage() {
