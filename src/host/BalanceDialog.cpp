@@ -83,6 +83,7 @@ BalanceDialog::BalanceDialog(const QStringList& profiles, QWidget* parent)
     grid->addWidget(m_State, 4, 0, 1, 3);
     grid->addWidget(m_Close, 5, 2);
     grid->setColumnStretch(1, 1);
+    setMinimumWidth(60 * fontMetrics().averageCharWidth());  // answers are sentences
     grid->setRowStretch(2, 1);
     const BalanceQuery* const command = m_Operator ? balanceCommand(*m_Operator) : nullptr;
     if (command) m_Command->setText(command->number);
