@@ -148,6 +148,14 @@
         <translation>أُنهي الاتصال من خارج هذا البرنامج. اتصل مجددًا إن احتجت إليه.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_HUNG_UP</source>
+        <translation>أُنهي الاتصال في برنامج آخر من OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STUCK</source>
+        <translation>المودم عالق في مكالمة سابقة. افصله ثم صِله من جديد.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
         <translation>لا يُسمح لك بالاتصال على هذا الحاسوب. اطلب الإذن من المسؤول.</translation>
     </message>
@@ -1058,6 +1066,10 @@
     <message>
         <source>IDS_HOST_FAILED_UP</source>
         <translation>انقطع الاتصال باستخدام %1</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_ENDED</source>
+        <translation>أُنهي الاتصال باستخدام %1</translation>
     </message>
     <message>
         <source>IDS_HOST_DETAILS</source>

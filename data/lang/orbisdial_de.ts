@@ -148,6 +148,14 @@
         <translation>Die Verbindung wurde außerhalb dieses Programms beendet. Verbinden Sie sich neu, wenn Sie sie brauchen.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_HUNG_UP</source>
+        <translation>Die Verbindung wurde in einem anderen Programm von OrbisDial beendet.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STUCK</source>
+        <translation>Das Modem hängt in einem früheren Anruf fest. Ziehen Sie es ab und stecken Sie es wieder an.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
         <translation>Sie dürfen sich auf diesem Rechner nicht verbinden. Bitten Sie Ihren Verwalter um die Erlaubnis.</translation>
     </message>
@@ -1058,6 +1066,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>IDS_HOST_FAILED_UP</source>
         <translation>Die Verbindung mit %1 brach ab</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_ENDED</source>
+        <translation>Die Verbindung mit %1 wurde beendet</translation>
     </message>
     <message>
         <source>IDS_HOST_DETAILS</source>

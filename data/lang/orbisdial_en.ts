@@ -184,6 +184,16 @@
         <translation>The connection was ended outside of this program. Connect again if you need it.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_HUNG_UP</source>
+        <extracomment>Why the connection ended.</extracomment>
+        <translation>The connection was ended in another program of OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STUCK</source>
+        <extracomment>Why connecting failed, and what to do.</extracomment>
+        <translation>The modem hangs in an earlier call. Unplug it, and plug it in again.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
         <extracomment>Why connecting failed, and what to do.</extracomment>
         <translation>You may not connect on this computer. Ask your administrator for the permission.</translation>
@@ -1245,6 +1255,11 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     <message>
         <source>IDS_HOST_FAILED_UP</source>
         <translation>The connection with %1 broke</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_ENDED</source>
+        <extracomment>%1 is a profile.</extracomment>
+        <translation>The connection with %1 was ended</translation>
     </message>
     <message>
         <source>IDS_HOST_DETAILS</source>

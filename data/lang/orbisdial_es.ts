@@ -148,6 +148,14 @@
         <translation>La conexión se terminó fuera de este programa. Vuelva a conectarse si la necesita.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_HUNG_UP</source>
+        <translation>La conexión se terminó en otro programa de OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STUCK</source>
+        <translation>El módem se quedó bloqueado en una llamada anterior. Desconéctelo y vuelva a conectarlo.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
         <translation>No tiene permiso para conectarse en este equipo. Pídalo a su administrador.</translation>
     </message>
@@ -1058,6 +1066,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>IDS_HOST_FAILED_UP</source>
         <translation>La conexión con %1 se cortó</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_ENDED</source>
+        <translation>Se terminó la conexión con %1</translation>
     </message>
     <message>
         <source>IDS_HOST_DETAILS</source>

@@ -148,6 +148,14 @@
         <translation>La connexion a été terminée en dehors de ce programme. Reconnectez-vous si besoin.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_HUNG_UP</source>
+        <translation>La connexion a été terminée dans un autre programme d’OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STUCK</source>
+        <translation>Le modem est resté bloqué dans un appel précédent. Débranchez-le, puis rebranchez-le.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
         <translation>Vous n’êtes pas autorisé à vous connecter sur cet ordinateur. Demandez la permission à votre administrateur.</translation>
     </message>
@@ -1058,6 +1066,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>IDS_HOST_FAILED_UP</source>
         <translation>La connexion avec %1 a été interrompue</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_ENDED</source>
+        <translation>La connexion avec %1 a été terminée</translation>
     </message>
     <message>
         <source>IDS_HOST_DETAILS</source>

@@ -148,6 +148,14 @@
         <translation>Соединение завершено вне этой программы. Подключитесь снова, если оно нужно.</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_HUNG_UP</source>
+        <translation>Соединение завершено в другой программе OrbisDial.</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STUCK</source>
+        <translation>Модем завис в предыдущем вызове. Отключите его и подключите снова.</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
         <translation>Вам не разрешено подключаться на этом компьютере. Попросите разрешения у администратора.</translation>
     </message>
@@ -1058,6 +1066,10 @@
     <message>
         <source>IDS_HOST_FAILED_UP</source>
         <translation>Подключение с профилем %1 прервано</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_ENDED</source>
+        <translation>Подключение с профилем %1 завершено</translation>
     </message>
     <message>
         <source>IDS_HOST_DETAILS</source>

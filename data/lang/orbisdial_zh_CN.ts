@@ -148,6 +148,14 @@
         <translation>连接在本程序之外被结束。如有需要请重新连接。</translation>
     </message>
     <message>
+        <source>IDS_DIALUP_HUNG_UP</source>
+        <translation>连接已在 OrbisDial 的另一个程序中结束。</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_STUCK</source>
+        <translation>调制解调器卡在先前的呼叫中。请拔下后重新插入。</translation>
+    </message>
+    <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
         <translation>您无权在这台计算机上连接。请向管理员申请权限。</translation>
     </message>
@@ -1058,6 +1066,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>IDS_HOST_FAILED_UP</source>
         <translation>与 %1 的连接已中断</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_FAILED_ENDED</source>
+        <translation>与 %1 的连接已被结束</translation>
     </message>
     <message>
         <source>IDS_HOST_DETAILS</source>

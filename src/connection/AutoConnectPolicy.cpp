@@ -16,6 +16,7 @@ Consequence consequenceOf(int failure) {
         case VRKS_FAILURE_NONE:
         case VRKS_FAILURE_CANCELLED:
         case VRKS_FAILURE_ENDED_OUTSIDE:
+        case VRKS_FAILURE_HUNG_UP:
             return Consequence::Hold;
         case VRKS_FAILURE_AUTHENTICATION:
         case VRKS_FAILURE_REFUSED:  // it may have been the password
@@ -28,6 +29,7 @@ Consequence consequenceOf(int failure) {
         case VRKS_FAILURE_REGISTRATION_DENIED:
         case VRKS_FAILURE_WRONG_CARD:
         case VRKS_FAILURE_NOT_ALLOWED:
+        case VRKS_FAILURE_STUCK:
             return Consequence::Useless;
         default:
             return Consequence::Pause;

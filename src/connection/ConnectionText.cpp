@@ -42,6 +42,8 @@ const char* const Failures[] = {
     "IDS_DIALUP_ENDED_OUTSIDE",
     "IDS_DIALUP_NOT_ALLOWED",
     "IDS_DIALUP_OTHER",
+    "IDS_DIALUP_HUNG_UP",
+    "IDS_DIALUP_STUCK",
 };
 static_assert(sizeof Failures / sizeof *Failures == VRKS_FAILURE_COUNT, "each failure has a sentence");
 

@@ -39,6 +39,8 @@ const char* const Names[] = {
     "ended-outside",
     "not-allowed",
     "other",
+    "hung-up",
+    "stuck",
 };
 
 static_assert(sizeof Names / sizeof *Names == VRKS_FAILURE_COUNT, "each failure has a name");

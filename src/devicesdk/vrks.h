@@ -251,6 +251,8 @@ enum {
     VRKS_FAILURE_ENDED_OUTSIDE,       /* ended by somebody else */
     VRKS_FAILURE_NOT_ALLOWED,         /* this user may not */
     VRKS_FAILURE_OTHER,               /* words may tell */
+    VRKS_FAILURE_HUNG_UP,             /* by the user, in another program of ours */
+    VRKS_FAILURE_STUCK,               /* the modem hangs in a call of before, until it is plugged in anew */
     VRKS_FAILURE_COUNT
 };
 
@@ -280,13 +282,14 @@ VRKS_API long VRKS_NetConnectSrv_HangUp(void);
 
 typedef struct VRKS_Connection {
     unsigned int size;
-    int state;                   /* VRKS_CONNECTION_..., of ours */
-    int step;                    /* VRKS_STEP_... */
-    int failure;                 /* VRKS_FAILURE_...; none while up, and after it was hung up by us */
-    int isOwn;                   /* 1 when this process began it */
-    int endsWithProcess;         /* 1 when it ends with the process that began it */
-    long long since;             /* when it came up, seconds of Unix time; 0: unknown or not up */
-    long long seconds;           /* that it is up, by a clock that nobody sets; -1: unknown or not up */
+    int state;           /* VRKS_CONNECTION_..., of ours */
+    int step;            /* VRKS_STEP_... */
+    int failure;         /* VRKS_FAILURE_...; none while up, and after this process hung up */
+    int isOwn;           /* 1 when this process began it */
+    int endsWithProcess; /* 1 when it ends with the process that began it */
+    long long since;     /* when it came up, seconds of Unix time; 0: unknown or not up. Of another process's: */
+    long long seconds;   /* when its data session began, a moment before. How long, by a clock that nobody */
+                         /* sets; -1: unknown or not up */
     unsigned long long received; /* bytes while up; the last counts once it is down */
     unsigned long long sent;
 

@@ -125,30 +125,31 @@ void describeUp(const ConnectionFacts& facts, Picture* picture) {
     }
 }
 
-// What befalls a connection that is up, and hardly one that is only dialled.
-bool tellsOfAnEnd(int failure) {
+// What was tried or had, by the failure: some befall a connection that is up, and hardly one that is only dialled.
+const char* titleOf(int failure) {
     switch (failure) {
         case VRKS_FAILURE_DROPPED:
-        case VRKS_FAILURE_ENDED_OUTSIDE:
         case VRKS_FAILURE_SUSPENDED:
+            return "IDS_HOST_FAILED_UP";
+        case VRKS_FAILURE_ENDED_OUTSIDE:
         case VRKS_FAILURE_TAKEN:
-            return true;
+            return "IDS_HOST_FAILED_ENDED";
         default:
-            return false;
+            return "IDS_HOST_FAILED_WITH";
     }
 }
 
+// The user ended it.
+bool wasWanted(int failure) { return failure == VRKS_FAILURE_CANCELLED || failure == VRKS_FAILURE_HUNG_UP; }
+
 void describeFailure(const ConnectionFacts& facts, Picture* picture) {
-    const bool wasAborted = facts.connection.failure == VRKS_FAILURE_CANCELLED;
-    picture->hasFailed = facts.isDown() && !facts.failure.isEmpty() && !wasAborted;
+    picture->hasFailed = facts.isDown() && !facts.failure.isEmpty() && !wasWanted(facts.connection.failure);
     if (!picture->hasFailed) return;
     const QString& profile = facts.connection.name;
-    const bool wasUp = tellsOfAnEnd(facts.connection.failure);
     picture->failedProfile = profile;
     picture->failureText = facts.failure;
-    picture->failureTitle = profile.isEmpty()
-                                ? hostText("IDS_HOST_FAILED")
-                                : hostText(wasUp ? "IDS_HOST_FAILED_UP" : "IDS_HOST_FAILED_WITH", {profile});
+    picture->failureTitle =
+        profile.isEmpty() ? hostText("IDS_HOST_FAILED") : hostText(titleOf(facts.connection.failure), {profile});
     QStringList details;
     const char* name = nullptr;
     if (facts.connection.failure != VRKS_FAILURE_NONE &&
@@ -173,7 +174,9 @@ QString cardText(const ConnectionFacts& facts) {
 
 // Sentences that matter only at times.
 QString notesText(const ConnectionFacts& facts) {
-    QStringList notes = {facts.isDown() ? facts.automaticHold : facts.notes, facts.usageWarning};
+    const bool wasElsewhere = facts.isDown() && facts.connection.failure == VRKS_FAILURE_HUNG_UP;
+    QStringList notes = {wasElsewhere ? facts.failure : QString(), facts.isDown() ? facts.automaticHold : facts.notes,
+                         facts.usageWarning};
     notes.removeAll(QString());
     return notes.join(QLatin1Char('\n'));
 }

@@ -53,7 +53,8 @@ private slots:
 
     void whatFollowsFromAnEnd_data() {
         const Rows<int, int, bool> row("failure", "hold", "isRefused");
-        row("hung up in another program", VRKS_FAILURE_NONE, AutoConnectHungUp, false);
+        row("hung up in this program", VRKS_FAILURE_NONE, AutoConnectHungUp, false);
+        row("hung up in another program", VRKS_FAILURE_HUNG_UP, AutoConnectHungUp, false);
         row("given up", VRKS_FAILURE_CANCELLED, AutoConnectHungUp, false);
         row("ended outside", VRKS_FAILURE_ENDED_OUTSIDE, AutoConnectHungUp, false);
         row("dropped", VRKS_FAILURE_DROPPED, AutoConnectPause, false);
@@ -65,6 +66,7 @@ private slots:
         row("no password", VRKS_FAILURE_CREDENTIALS_MISSING, AutoConnectFailed, true);
         row("wrong PIN", VRKS_FAILURE_WRONG_PIN, AutoConnectFailed, true);
         row("APN", VRKS_FAILURE_APN, AutoConnectFailed, false);
+        row("a modem that hangs", VRKS_FAILURE_STUCK, AutoConnectFailed, false);
         row("not allowed", VRKS_FAILURE_NOT_ALLOWED, AutoConnectFailed, false);
     }
 

@@ -1,5 +1,6 @@
 // Dials at once for a test, as a program of ours does, and stays until its standard input ends:
 // dialler NAME BOUND [USER-ID]
+#include <poll.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -17,16 +18,21 @@ VRKS_Connection connection() {
     return record;
 }
 
-// A line for each state, as "STATE FAILURE", until it is up or down.
-void tellUntilSettled() {
-    for (int told = -1;;) {
+// At most ten milliseconds.
+bool hasInputEnded() {
+    pollfd input = {STDIN_FILENO, POLLIN, 0};
+    return ::poll(&input, 1, 10) > 0;
+}
+
+// A line for each state, as "STATE FAILURE".
+void tellUntilInputEnds() {
+    int told = -1;
+    do {
         const VRKS_Connection now = connection();
         if (now.state != told) std::printf("%d %d\n", now.state, now.failure);
         std::fflush(stdout);
         told = now.state;
-        if (told == VRKS_CONNECTION_UP || told == VRKS_CONNECTION_DOWN) return;
-        ::usleep(10000);
-    }
+    } while (!hasInputEnded());
 }
 
 }  // namespace
@@ -40,7 +46,6 @@ int main(int argumentCount, char** arguments) {
     request.apn = "internet.example";
     request.endsWithProcess = std::strcmp(arguments[2], "bound") == 0;
     VRKS_NetConnectSrv_Dial(&request);
-    tellUntilSettled();
-    while (std::getchar() != EOF) continue;
+    tellUntilInputEnds();
     return 0;
 }

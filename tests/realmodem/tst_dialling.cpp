@@ -297,6 +297,37 @@ private slots:
         TRY_CONNECTION(!*connection().usedBy);
     }
 
+    // ModemManager then takes the port for one that carries a call, until the modem is looked for anew.
+    void anotherProcessDiesWhileDialling() {
+        QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
+        QProcess other;
+        other.start(DIALLER, {"Other", "bound"});
+        TRY_CONNECTION(connection().step == VRKS_STEP_CONNECTING);
+        other.kill();
+        QVERIFY(other.waitForFinished());
+        QTRY_VERIFY2_WITH_TIMEOUT(connection().state != VRKS_CONNECTION_DIALLING, shown(), 15000);
+        QVERIFY(m_Stack.send("gsm", Connected));
+        TRY_CONNECTION(connection().state == VRKS_CONNECTION_DOWN);
+        QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
+        QVERIFY(dial());
+        TRY_UP();
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_NONE);
+    }
+
+    void anotherProcessHangsUp() {
+        QProcess other;
+        other.start(DIALLER, {"Other", "staying"});
+        TRY_UP();
+        QVERIFY(hangUp());
+        QByteArray last;
+        const QByteArray expected =
+            QByteArray::number(VRKS_CONNECTION_DOWN) + ' ' + QByteArray::number(VRKS_FAILURE_HUNG_UP) + '\n';
+        QTRY_VERIFY2_WITH_TIMEOUT((last += other.readAllStandardOutput()).endsWith(expected), last, 15000);
+        other.closeWriteChannel();
+        QVERIFY(other.waitForFinished());
+    }
+
     void anotherProcessOfOurs_data() {
         const Rows<QString> row("kind");
         row("it ends the connection with itself", "bound");
@@ -305,6 +336,8 @@ private slots:
 
     void anotherProcessOfOurs() {
         const bool isBound = cell("kind") == "bound";
+        QElapsedTimer timer;
+        timer.start();
         QProcess other;
         other.start(DIALLER, {"Other", cell("kind")});
         TRY_UP();
@@ -314,6 +347,9 @@ private slots:
         QVERIFY(!up.isOwn);
         QCOMPARE(bool(up.endsWithProcess), isBound);
         QCOMPARE(up.interfaceName, "ppp0");
+        TRY_CONNECTION(connection().seconds >= 0 && connection().seconds <= timer.elapsed() / 1000 + 1);
+        QVERIFY(connection().since > 0 &&
+                std::abs(connection().since + connection().seconds - std::time(nullptr)) <= 1);
         QVERIFY(!dial());
 
         other.kill();

@@ -140,6 +140,28 @@ private slots:
                        "'bind-activation': <'dbus-client'>"));
     }
 
+    // The clock on the wall may be set while a connection is up, and counts only between dialling and session.
+    void howLongItIsUp_data() {
+        const Rows<int, int, int> row("sessionAfter", "bootAfter", "seconds");
+        row("a minute", 3, 63, 60);
+        row("at once", 0, 0, 0);
+        row("rounded", 1, 0, 0);
+        row("the clock was set back while it dialled", -30, 60, -1);
+        row("it was set forth then", 3600, 7200, -1);
+        row("a session that had not begun", 20, 10, -1);
+    }
+
+    void howLongItIsUp() {
+        const DialStamp dialled{1700000000, 5000};
+        const auto seconds =
+            secondsUp(dialled, dialled.unixTime + cell<int>("sessionAfter"), dialled.bootTime + cell<int>("bootAfter"));
+        QCOMPARE(int(seconds.value_or(-1)), cell<int>("seconds"));
+        DialTarget target;
+        target.stamp = dialled;
+        const std::optional<DialStamp> read = markOf(dialSettings(plainRequest(), target).get()).dialled;
+        QVERIFY(read && read->unixTime == dialled.unixTime && read->bootTime == dialled.bootTime);
+    }
+
     // What one process of ours writes, another one reads; other programs' connections have no mark.
     void marks() {
         DialRequest request = plainRequest();

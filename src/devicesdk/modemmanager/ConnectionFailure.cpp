@@ -50,6 +50,9 @@ const ReasonRow Reasons[] = {
     {NM_DEVICE_STATE_REASON_CONNECTION_REMOVED, VRKS_FAILURE_ENDED_OUTSIDE, VRKS_FAILURE_ENDED_OUTSIDE},
 };
 
+// ModemManager takes the port for one that carries a call.
+constexpr char StuckError[] = ".Core.Connected";
+
 struct NameRow {
     const char* ending;  // of the error's name
     int failure;
@@ -62,6 +65,7 @@ const NameRow BearerErrors[] = {
     {".ServiceOptionNotSubscribed", VRKS_FAILURE_NOT_SUBSCRIBED},
     {".MissingOrUnknownApn", VRKS_FAILURE_APN},
     {".RequestedApnNotSupported", VRKS_FAILURE_APN},
+    {StuckError, VRKS_FAILURE_STUCK},
     {".Connection.Busy", VRKS_FAILURE_BUSY},
     {".Connection.NoDialtone", VRKS_FAILURE_NO_DIAL_TONE},
     {".Connection.NoAnswer", VRKS_FAILURE_NO_ANSWER},
@@ -115,6 +119,11 @@ Failure failureOf(const Ending& ending) {
         if (const int told = failureOfName(BearerErrors, error.name)) return {told, error.words};
     const bool hasSpoken = !ending.bearerErrors.empty() && !ending.bearerErrors.back().words.empty();
     return {failure, hasSpoken ? ending.bearerErrors.back().words : wordsOf(ending.reason)};
+}
+
+bool isStuck(const std::vector<NamedError>& bearerErrors) {
+    return std::any_of(bearerErrors.begin(), bearerErrors.end(),
+                       [](const NamedError& error) { return endsWith(error.name, StuckError); });
 }
 
 Failure failureOf(const NamedError& error) {

@@ -27,6 +27,9 @@ struct Failure {
 
 Failure failureOf(const Ending& ending);
 
+// Whether a bearer could not dial because its port still belongs to a call of before.
+bool isStuck(const std::vector<NamedError>& bearerErrors);
+
 // Of a call that NetworkManager answered with an error.
 Failure failureOf(const NamedError& error);
 Failure failureOf(const GError* error);

@@ -1,10 +1,19 @@
 #include "DialSettings.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
 namespace {
 
 // Keys of a connection's user data; NetworkManager wants a dot in each.
 constexpr char NameKey[] = "orbisdial.profile";
 constexpr char EndsWithProcessKey[] = "orbisdial.ends-with-process";
+
+constexpr char DialledKey[] = "orbisdial.dialled";  // Unix time and boot time
+
+// Registering takes a minute at most, and then a modem dials.
+constexpr std::int64_t LongestDialling = 180;
 
 constexpr char CdmaNumber[] = "#777";  // what NetworkManager wants to see; it dials this whatever stands there
 
@@ -25,11 +34,19 @@ void addConnection(NMConnection* connection, const DialRequest& request, const D
     nm_setting_connection_add_permission(NM_SETTING_CONNECTION(setting), "user", target.user.c_str(), nullptr);
 }
 
-void addMark(NMConnection* connection, const DialRequest& request) {
+void addMark(NMConnection* connection, const DialRequest& request, const DialStamp& stamp) {
     NMSetting* setting = nm_setting_user_new();
+    const std::string dialled = std::to_string(stamp.unixTime) + ' ' + std::to_string(stamp.bootTime);
+    nm_setting_user_set_data(NM_SETTING_USER(setting), DialledKey, dialled.c_str(), nullptr);
     nm_setting_user_set_data(NM_SETTING_USER(setting), NameKey, request.name.c_str(), nullptr);
     if (request.endsWithProcess) nm_setting_user_set_data(NM_SETTING_USER(setting), EndsWithProcessKey, "yes", nullptr);
     nm_connection_add_setting(connection, setting);
+}
+
+std::optional<DialStamp> stampIn(const char* text) {
+    long long unixTime = 0, bootTime = 0;
+    if (!text || std::sscanf(text, "%lld %lld", &unixTime, &bootTime) != 2 || unixTime <= 0) return std::nullopt;
+    return DialStamp{unixTime, bootTime};
 }
 
 const char* orNull(const std::string& text) { return text.empty() ? nullptr : text.c_str(); }
@@ -81,7 +98,7 @@ void addIpv6(NMConnection* connection, const DialRequest& request, const DialTar
 Ref<NMConnection> dialSettings(const DialRequest& request, const DialTarget& target) {
     Ref<NMConnection> connection(nm_simple_connection_new());
     addConnection(connection.get(), request, target);
-    addMark(connection.get(), request);
+    addMark(connection.get(), request, target.stamp);
     target.isCdma ? addCdma(connection.get(), request) : addGsm(connection.get(), request);
     addAuthentication(connection.get(), request);
     addIpv4(connection.get(), request);
@@ -102,5 +119,19 @@ DialMark markOf(NMConnection* connection) {
     if (!setting) return {};
     NMSettingUser* data = NM_SETTING_USER(setting);
     return {textOf(nm_setting_user_get_data(data, NameKey)),
-            nm_setting_user_get_data(data, EndsWithProcessKey) != nullptr};
+            nm_setting_user_get_data(data, EndsWithProcessKey) != nullptr,
+            stampIn(nm_setting_user_get_data(data, DialledKey))};
+}
+
+DialStamp DialStamp::now() {
+    timespec sinceBoot{};
+    ::clock_gettime(CLOCK_BOOTTIME, &sinceBoot);
+    return {std::time(nullptr), sinceBoot.tv_sec};
+}
+
+std::optional<std::int64_t> secondsUp(const DialStamp& dialled, std::int64_t sessionStart, std::int64_t bootTime) {
+    const std::int64_t sinceDialled = bootTime - dialled.bootTime;
+    const std::int64_t dialling = sessionStart - dialled.unixTime;
+    if (dialling < 0 || dialling > std::min(sinceDialled + 1, LongestDialling)) return std::nullopt;
+    return std::max<std::int64_t>(sinceDialled - dialling, 0);
 }

@@ -8,11 +8,14 @@
 
 namespace {
 
-constexpr unsigned LookingMs = 5000;  // a modem reaches NetworkManager some tenths of a second after ModemManager
-constexpr unsigned AnswerMs = 3000;   // of a modem that dials
-constexpr unsigned EndingMs = 3000;   // of a connection, in NetworkManager's hands
-constexpr unsigned RadioMs = 1000;    // until a switch of it is known
-constexpr unsigned SettlingMs = 100;  // two daemons tell of one failure, in any order
+constexpr unsigned LookingMs = 5000;    // a modem reaches NetworkManager some tenths of a second after ModemManager
+constexpr unsigned AnswerMs = 3000;     // of a modem that dials
+constexpr unsigned EndingMs = 3000;     // of a connection, in NetworkManager's hands
+constexpr unsigned RadioMs = 1000;      // until a switch of it is known
+constexpr unsigned StartMs = 300;       // until it is known since when a connection is up
+constexpr unsigned RevivingMs = 45000;  // of a modem that is looked for anew
+constexpr auto HangUpTime = std::chrono::seconds(10);  // that a connection ends in once somebody hung up
+constexpr unsigned SettlingMs = 100;                   // two daemons tell of one failure, in any order
 const char RadioIsOff[] = "Mobile broadband is switched off";
 constexpr auto RadioSettling = std::chrono::seconds(1);  // a radio that came on may be switched once more in this time
 
@@ -45,13 +48,23 @@ bool isReadyToDial(NMDevice* device) { return device && nm_device_get_state(devi
 }  // namespace
 
 Dialler::Dialler(ConnectionHost& host)
-    : m_Host(host), m_Modem([this] { updateSoon(); }), m_Patience(host.thread()), m_Settling(host.thread()) {}
+    : m_Host(host),
+      m_Modem([this] { updateSoon(); }),
+      m_Patience(host.thread()),
+      m_Settling(host.thread()),
+      m_Beginning(host.thread()) {}
 
 void Dialler::busCame(GDBusConnection* bus) {
+    m_Bus.reset(static_cast<GDBusConnection*>(g_object_ref(bus)));
     m_BearerErrors = std::make_unique<BearerErrors>(bus);
+    m_HangUpSignal = std::make_unique<HangUpSignal>(bus, [this](const std::string& connection) {
+        NMActiveConnection* active = m_Watch ? m_Watch->connection() : nullptr;
+        if (active && connection == nm_object_get_path(NM_OBJECT(active))) m_Dialled.hungUpAt = Clock::now();
+    });
     const auto begun = [this] {
         update();
-        m_Host.setConnectionKnown();
+        const bool isStartAwaited = m_Phase == Phase::Up && m_Dialled.stamp && !m_Dialled.upSince;
+        isStartAwaited ? m_Beginning.start(StartMs, [this] { tellKnown(); }) : tellKnown();
     };
     m_Watch = std::make_unique<NetworkWatch>(
         bus, NetworkWatch::Handlers{begun, [this] { updateSoon(); },
@@ -60,20 +73,33 @@ void Dialler::busCame(GDBusConnection* bus) {
 
 void Dialler::busWent() {
     m_Cancellation.renew();
-    m_Watch.reset();
-    m_BearerErrors.reset();
+    forgetBus();
     if (m_Phase == Phase::Asking) m_Phase = Phase::Activating;  // there will be no answer
     update();
-    m_Host.setConnectionKnown();
+    tellKnown();
+}
+
+void Dialler::forgetBus() {
+    m_SessionStart.giveUp();
+    m_Watch.reset();
+    m_BearerErrors.reset();
+    m_HangUpSignal.reset();
+    m_Bus.reset();
+}
+
+void Dialler::tellKnown() {
+    m_Beginning.stop();
+    if (!m_IsKnown) m_Host.setConnectionKnown();
+    m_IsKnown = true;
 }
 
 void Dialler::stop() {
     m_Cancellation.renew();
     m_Patience.stop();
     m_Settling.stop();
+    m_Beginning.stop();
     m_Modem.follow(nullptr);
-    m_Watch.reset();
-    m_BearerErrors.reset();
+    forgetBus();
     wipe(m_Dialled.request.password);
 }
 
@@ -185,6 +211,7 @@ void Dialler::adopt(NMActiveConnection* connection) {
     m_Dialled = {};
     m_Dialled.request.name = mark.name;
     m_Dialled.endsWithProcess = mark.endsWithProcess;
+    m_Dialled.stamp = mark.dialled;
     if (m_BearerErrors) m_BearerErrors->clear();
     m_Watch->follow(connection);
     const GPtrArray* devices = nm_active_connection_get_devices(connection);
@@ -196,6 +223,7 @@ void Dialler::adopt(NMActiveConnection* connection) {
 
 void Dialler::look() {
     if (!m_Watch || (m_Watch->hasBegun() && !m_Watch->isRunning())) return fail({VRKS_FAILURE_NO_NETWORK_SERVICE, {}});
+    if (isAwaitingRevived()) return publish();
     if (m_Watch->isRadioOff()) return awaitRadio();
     NMDevice* device = m_Watch->device();
     NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
@@ -235,7 +263,7 @@ void Dialler::ask() {
     const DialTarget target{
         (nm_device_modem_get_current_capabilities(NM_DEVICE_MODEM(device)) &
          (NM_DEVICE_MODEM_CAPABILITY_GSM_UMTS | NM_DEVICE_MODEM_CAPABILITY_LTE | NM_DEVICE_MODEM_CAPABILITY_5GNR)) == 0,
-        m_Dialled.isIpv4Only, ownerName()};
+        m_Dialled.isIpv4Only, ownerName(), DialStamp::now()};
     const Ref<NMConnection> settings = dialSettings(m_Dialled.request, target);
     const Variant options = activationOptions(m_Dialled.request);
     nm_client_add_and_activate_connection2(m_Watch->client(), settings.get(), device, nullptr, options.get(),
@@ -271,10 +299,10 @@ void Dialler::watch() {
     if (m_Phase == Phase::Activating &&
         nm_active_connection_get_state(connection) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED)
         comeUp();
+    if (m_Phase == Phase::Up && !m_Dialled.isOwn) askStart();
     publish();
 }
 
-// Since when another process has it nobody knows.
 void Dialler::comeUp() {
     m_Phase = Phase::Up;
     m_Dialled.wasUp = true;
@@ -282,6 +310,27 @@ void Dialler::comeUp() {
     if (!m_Dialled.isOwn) return;
     m_Dialled.since = std::time(nullptr);
     m_Dialled.upSince = Clock::now();
+}
+
+// Since when another process has it the modem's data session tells; once, when the modem is known too.
+void Dialler::askStart() {
+    NMDevice* device = m_Watch->device();
+    const bool isModemKnown = m_Modem.get() && device && textOf(nm_device_get_udi(device)) == modemPath();
+    if (!m_Dialled.stamp || !isModemKnown || m_Dialled.isStartAsked) return;
+    m_Dialled.isStartAsked = true;
+    m_SessionStart.ask(m_Modem.get(), [this](std::int64_t start) { started(start); });
+}
+
+void Dialler::started(std::int64_t sessionStart) {
+    if (m_Phase == Phase::Up && m_Dialled.stamp) {
+        const DialStamp now = DialStamp::now();
+        if (const auto seconds = secondsUp(*m_Dialled.stamp, sessionStart, now.bootTime)) {
+            m_Dialled.since = now.unixTime - *seconds;
+            m_Dialled.upSince = Clock::now() - std::chrono::seconds(*seconds);
+        }
+        publish();
+    }
+    if (m_Watch && m_Watch->hasBegun()) tellKnown();
 }
 
 void Dialler::end() {
@@ -311,6 +360,7 @@ void Dialler::deactivate() {
     m_Dialled.isDeactivating = true;
     m_Patience.start(EndingMs, [this] { stopWaiting(); });
     m_Counters.get();
+    m_HangUpSignal->send(nm_object_get_path(NM_OBJECT(m_Watch->connection())));
     nm_client_deactivate_connection_async(m_Watch->client(), m_Watch->connection(), m_Cancellation.get(), onDeactivated,
                                           this);
 }
@@ -355,6 +405,8 @@ void Dialler::waitForReason() {
 
 void Dialler::conclude() {
     if (isHangingUp()) return finish({});
+    if (wasHungUpElsewhere()) return finish({VRKS_FAILURE_HUNG_UP, {}});
+    if (canRevive()) return revive();
     if (isRadioInDoubt()) return;
     if (!isWorthRepeating()) return finish(seenFailure());
     m_Phase = Phase::Looking;
@@ -363,6 +415,58 @@ void Dialler::conclude() {
         if (m_Phase == Phase::Looking) finish(seenFailure());
     });
     update();
+}
+
+bool Dialler::wasHungUpElsewhere() const {
+    return m_Dialled.hungUpAt && m_Dialled.endedAt - *m_Dialled.hungUpAt < HangUpTime;
+}
+
+// A process that was killed while it dialled leaves a call that is taken back too soon, see isAnswerDue(). Then nobody
+// has the modem, and yet it can't dial.
+bool Dialler::canRevive() const {
+    return m_Dialled.isOwn && m_Dialled.stuckModem.empty() && m_Bus && m_Modem.get() &&
+           isStuck(m_BearerErrors->get()) && mm_modem_get_state(m_Modem.get()) < MM_MODEM_STATE_CONNECTED;
+}
+
+// ModemManager gives a modem up when it is asked to keep off it, and looks for it anew afterwards. Only an
+// administrator may ask; others are told to plug the modem in anew.
+void Dialler::revive() {
+    m_Dialled.stuckModem = modemPath();
+    m_Revived = modemKey();
+    m_Phase = Phase::Looking;
+    m_Watch->follow(static_cast<NMActiveConnection*>(nullptr));
+    m_Patience.start(RevivingMs, [this] {
+        if (m_Phase == Phase::Looking) finish(seenFailure());
+    });
+    inhibit(true, onInhibited);
+    publish();
+}
+
+void Dialler::inhibit(bool isInhibited, GAsyncReadyCallback answered) {
+    g_dbus_connection_call(m_Bus.get(), MM_DBUS_SERVICE, MM_DBUS_PATH, MM_DBUS_INTERFACE, "InhibitDevice",
+                           g_variant_new("(sb)", m_Revived.c_str(), gboolean(isInhibited)), nullptr,
+                           G_DBUS_CALL_FLAGS_NONE, -1, m_Cancellation.get(), answered, this);
+}
+
+// Also after a failure: an administrator who takes his time to agree must not leave the modem kept off.
+void Dialler::onInhibited(GObject* source, GAsyncResult* result, gpointer self) {
+    GError* error = nullptr;
+    const Variant answer(g_dbus_connection_call_finish(G_DBUS_CONNECTION(source), result, &error));
+    const Error failure(error);
+    if (isCancelled(failure)) return;
+    auto* dialler = static_cast<Dialler*>(self);
+    dialler->inhibit(false, onReleased);
+    if (failure && dialler->m_Phase == Phase::Looking) dialler->finish(dialler->seenFailure());
+}
+
+void Dialler::onReleased(GObject* source, GAsyncResult* result, gpointer) {
+    const Variant ignored(g_dbus_connection_call_finish(G_DBUS_CONNECTION(source), result, nullptr));
+}
+
+// Another modem, which may be in use meanwhile, is not what was asked for.
+bool Dialler::isAwaitingRevived() const {
+    if (m_Dialled.stuckModem.empty()) return false;
+    return modemKey() != m_Revived || modemPath() == m_Dialled.stuckModem;
 }
 
 // The device becomes unavailable before NetworkManager says that it was switched off.

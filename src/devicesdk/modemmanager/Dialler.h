@@ -11,8 +11,10 @@
 
 #include "BearerErrors.h"
 #include "ConnectionPart.h"
+#include "HangUpSignal.h"
 #include "InterfaceCounters.h"
 #include "NetworkWatch.h"
+#include "SessionStart.h"
 #include "Timer.h"
 
 class Dialler : public ConnectionPart {
@@ -47,6 +49,7 @@ private:
         bool endsWithProcess = false;
         bool isIpv4Only = false;
         bool isRepeated = false;  // it was ended by a radio that had just come on
+        std::string stuckModem;   // its object's path when it hung in a call of before; it is looked for anew
         bool isHangingUp = false;
         bool isDeactivating = false;  // NetworkManager was asked to end it
         bool wasUp = false;
@@ -54,6 +57,9 @@ private:
         std::int64_t since = 0;
         std::optional<Clock::time_point> upSince;
         Clock::time_point endedAt;
+        std::optional<Clock::time_point> hungUpAt;  // by another process of ours
+        std::optional<DialStamp> stamp;             // of another process that dialled
+        bool isStartAsked = false;                  // since when that one is up
         Ending ending;
     };
 
@@ -72,6 +78,10 @@ private:
     void asked(NMActiveConnection* connection, const Error& error);
     void watch();
     void comeUp();
+    void askStart();
+    void started(std::int64_t sessionStart);
+    void tellKnown();
+    void forgetBus();
     void end();
     void giveBack();
     bool isAnswerDue() const;
@@ -81,7 +91,14 @@ private:
     void deviceStateChanged(NMDeviceState now, unsigned reason);
     void waitForReason();
     void conclude();
+    bool wasHungUpElsewhere() const;
     bool isRadioInDoubt();
+    bool canRevive() const;
+    void revive();
+    void inhibit(bool isInhibited, GAsyncReadyCallback answered);
+    static void onInhibited(GObject* source, GAsyncResult* result, gpointer self);
+    static void onReleased(GObject* source, GAsyncResult* result, gpointer self);
+    bool isAwaitingRevived() const;
     bool isWorthRepeating();
     Failure seenFailure() const;
     void fail(const Failure& failure);
@@ -95,10 +112,15 @@ private:
     void publish();
     void publishUser(const std::string& usedBy);
     std::string modemPath() const;
+    std::string modemKey() const;
 
     ConnectionHost& m_Host;
     std::unique_ptr<NetworkWatch> m_Watch;
     std::unique_ptr<BearerErrors> m_BearerErrors;
+    std::unique_ptr<HangUpSignal> m_HangUpSignal;
+    SessionStart m_SessionStart;
+    Ref<GDBusConnection> m_Bus;
+    std::string m_Revived;  // the key of the modem that is looked for anew
     Follower<MMModem> m_Modem;
     Phase m_Phase = Phase::Idle;
     Dialled m_Dialled;
@@ -106,6 +128,8 @@ private:
     InterfaceCounters m_Counters;
     Timer m_Patience;
     Timer m_Settling;
+    Timer m_Beginning;
+    bool m_IsKnown = false;  // what there is was told once
     bool m_IsUpdateDue = false;
     Cancellation m_Cancellation;
     std::atomic<int> m_WaitingDials{0};    // accepted, and not yet seen by the machine

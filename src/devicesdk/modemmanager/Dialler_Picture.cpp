@@ -37,6 +37,8 @@ std::string Dialler::modemPath() const {
     return modem ? textOf(mm_object_get_path(modem)) : std::string();
 }
 
+std::string Dialler::modemKey() const { return m_Modem.get() ? textOf(mm_modem_get_device(m_Modem.get())) : ""; }
+
 // NetworkManager's preparing holds all that the modem does until it is connected.
 int Dialler::step() const {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;

@@ -1,0 +1,28 @@
+// When a modem's data session began, as ModemManager tells.
+#ifndef ORBISDIAL_SESSIONSTART_H
+#define ORBISDIAL_SESSIONSTART_H
+
+#include <libmm-glib.h>
+
+#include <cstdint>
+#include <functional>
+
+#include "Ref.h"
+
+// Everything happens on the thread.
+class SessionStart {
+public:
+    using Answer = std::function<void(std::int64_t start)>;  // Unix time; 0: nothing can tell
+
+    // Of the modem's connected bearer. An answer that is still due to an earlier call never comes.
+    void ask(MMModem* modem, Answer answer);
+    void giveUp() { m_Cancellation.renew(); }
+
+private:
+    static void onListed(GObject* modem, GAsyncResult* result, gpointer self);
+
+    Answer m_Answer;
+    Cancellation m_Cancellation;
+};
+
+#endif
