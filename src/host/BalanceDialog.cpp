@@ -181,6 +181,15 @@ void BalanceDialog::refreshButtons() {
     if (isWaiting) state = hostText("IDS_HOST_BALANCE_WAITING");
     if (!isPossible && state.isEmpty()) state = hostText("IDS_HOST_BALANCE_NOT_NOW");
     say(m_State, state);
+    makeRoom();
+}
+
+// A layout grows with lines that wrap, but its window does not.
+void BalanceDialog::makeRoom() {
+    if (!layout()) return;
+    layout()->activate();
+    const int needed = layout()->totalHeightForWidth(width());
+    if (needed > height()) resize(width(), needed);
 }
 
 QString BalanceDialog::wayText() const {

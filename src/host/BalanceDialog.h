@@ -39,6 +39,7 @@ private:
     void takeSession();
     void endSession();
     void refreshButtons();
+    void makeRoom();
     QString wayText() const;
 
     const std::optional<OperatorEntry> m_Operator;
