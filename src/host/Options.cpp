@@ -41,6 +41,9 @@ Options Options::fromArguments(const QCoreApplication& application) {
     if (!parser.parse(application.arguments())) refuse(parser.errorText());
     if (parser.isSet("help")) answer(parser.helpText());
     if (parser.isSet("version")) answer(QString("orbisdial %1\n").arg(QCoreApplication::applicationVersion()));
+    static const QStringList kinds{"auto", "modemmanager", "simulated", "none"};
+    if (parser.isSet(device) && !kinds.contains(parser.value(device)))
+        refuse(QString("unknown modem \"%1\"; use one of %2").arg(parser.value(device), kinds.join(", ")));
     const QStringList others = parser.positionalArguments();
     if (others.size() > 1) refuse("unexpected argument: " + others[1]);
     if (!others.isEmpty() && parser.isSet(screenshot)) refuse("a picture is taken without a file to import");

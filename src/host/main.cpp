@@ -6,7 +6,9 @@
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 
 #include "Change.h"
@@ -106,10 +108,18 @@ int run(const Options& options) {
     return QCoreApplication::exec();
 }
 
+// Help and the version need no display.
+bool isQuestion(const char* word) {
+    for (const char* question : {"-h", "--help", "--help-all", "-v", "--version"})
+        if (std::strcmp(word, question) == 0) return true;
+    return false;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
     ProgramStart::prepare("orbisdial", Failed);
+    if (std::any_of(argv, argv + argc, isQuestion)) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orbisdial"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORBISDIAL_VERSION));

@@ -25,7 +25,7 @@ private slots:
         const QString nowhere = m_Folder.path("no such folder/picture.png");
         row("picture", picture, 0, "libBroken.so: it can't be loaded");
         row("picture of a page", picture + QStringList{"--page", "Fake page", "--lang", "ar"}, 0, "");
-        row("unknown modem", picture + QStringList{"--device", "wrong"}, 0, "ORBISDIAL_DEVICE");
+        row("unknown modem", picture + QStringList{"--device", "wrong"}, 2, "\"wrong\"");
         row("picture not written", {"--screenshot", nowhere}, 1, nowhere);
         row("language", {"--lang", "xx"}, 2, "en, ar, de, es, fr, ru, zh_CN");
         row("picture of an import", picture + QStringList("x.prof"), 2, "a file to import");
