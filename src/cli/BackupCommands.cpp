@@ -80,6 +80,7 @@ void setDefault(const ProfileSession& session, const QString& name) {
 void backUp(const Invocation& invocation, Output& output) {
     const OutputFile file(invocation.arguments().first(), invocation.isSet("force"));
     ProfileSession session(ProfileSession::Exporting);
+    session.requireUserFile();
     const QString users = session->UserFilePath();
     if (FileReplacement::isSameFile(users, file.path()))
         throw CommandError::refused(file.path() + ": is the user's profile file itself");

@@ -1,5 +1,6 @@
 #include "Platform.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QLoggingCategory>
 #include <QStandardPaths>
 #include <QTextCodec>
+#include <cerrno>
 #include <memory>
 
 #include "ChosenModem.h"
@@ -35,13 +37,6 @@ void setVariable(const char* name, const QString& value) {
     qputenv(name, QFile::encodeName(value));
 }
 
-void chooseDevice(const QString& kind) {
-    static const QStringList kinds{"simulated", "modemmanager", "none", "auto"};
-    if (!kinds.contains(kind))
-        throw CommandError::usage("unknown device " + quoted(kind) + "; use one of " + kinds.join(", "));
-    setVariable(DeviceVariable, kind);
-}
-
 void checkDevice() {
     const char* problem = nullptr;
     if (!vrks_backend_name(&problem))
@@ -52,16 +47,6 @@ QString dataFolder() {
     const QString folder = QFile::decodeName(qgetenv(DataFolderVariable));
     if (!folder.isEmpty()) return folder;
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/orbisdial";
-}
-
-void checkDataFolder() {
-    unsigned short* directory = nullptr;
-    const long status = VRKS_GetUserDataDirectory(&directory);
-    const std::unique_ptr<unsigned short[]> owned(directory);
-    if (status == 0 && directory) return;
-    const QFileInfo folder(dataFolder());
-    const char* reason = folder.exists() && !folder.isDir() ? "is not a folder" : "can't be made or entered";
-    throw CommandError::failed(QString("the data folder %1 %2").arg(folder.filePath(), reason));
 }
 
 }  // namespace
@@ -81,9 +66,33 @@ void Platform::applyOptions(const Invocation& invocation) {
         qInstallMessageHandler(writeTrace);
         QLoggingCategory::setFilterRules(QString());
     }
-    if (invocation.isSet("data-dir")) setVariable(DataFolderVariable, invocation.value("data-dir"));
-    if (invocation.isSet("device")) chooseDevice(invocation.value("device"));
+    if (invocation.isSet("data-dir")) useDataFolder(invocation.value("data-dir"));
+    if (invocation.isSet("device")) useDevice(invocation.value("device"));
     checkDevice();
-    checkDataFolder();
     ChosenModem::use();
+}
+
+void Platform::useDataFolder(const QString& folder) { setVariable(DataFolderVariable, folder); }
+
+void Platform::useDevice(const QString& kind) {
+    if (!deviceKinds().contains(kind))
+        throw CommandError::usage("unknown device " + quoted(kind) + "; use one of " + deviceKinds().join(", "));
+    setVariable(DeviceVariable, kind);
+}
+
+QStringList Platform::deviceKinds() { return {"simulated", "modemmanager", "none", "auto"}; }
+
+QString Platform::dataFolderProblem() {
+    unsigned short* directory = nullptr;
+    const long status = VRKS_GetUserDataDirectory(&directory);
+    const std::unique_ptr<unsigned short[]> owned(directory);
+    if (status == 0 && directory) return QString();
+    const QFileInfo folder(dataFolder());
+    const char* reason = folder.exists() && !folder.isDir() ? "is not a folder" : "can't be made or entered";
+    return QString("the data folder %1 %2").arg(folder.filePath(), reason);
+}
+
+bool Platform::isDataFolderMissing() {
+    struct stat ignored = {};
+    return ::stat(QFile::encodeName(dataFolder()).constData(), &ignored) != 0 && errno == ENOENT;
 }

@@ -2,6 +2,8 @@
 #ifndef ORBISDIAL_CLI_PLATFORM_H
 #define ORBISDIAL_CLI_PLATFORM_H
 
+#include <QStringList>
+
 class Invocation;
 
 namespace Platform {
@@ -10,9 +12,20 @@ namespace Platform {
 // Comes before the application object. Throws a CommandError when an argument is not UTF-8.
 void prepare(int argc, char** argv);
 
-// Obeys the global options and makes sure that the modem's backend and the data folder can be had; throws a
-// CommandError that names the one that can't. Comes before the first call of the device SDK.
+// Obeys the global options and makes sure that the modem's backend can be had; throws a CommandError when it can't.
+// Comes before the first call of the device SDK.
 void applyOptions(const Invocation& invocation);
+
+// What --data-dir and --device do. Throw a CommandError for a value that makes no sense.
+void useDataFolder(const QString& folder);
+void useDevice(const QString& kind);
+QStringList deviceKinds();
+
+// Why the data folder can't be had, which is made when it is missing; null when it can.
+QString dataFolderProblem();
+
+// True when there is no data folder, and so nothing of the user's. False also when it can't be looked at.
+bool isDataFolderMissing();
 
 }  // namespace Platform
 

@@ -5,6 +5,7 @@
 #include "CommandError.h"
 #include "NetConnectXMLParse.h"
 #include "Output.h"
+#include "Platform.h"
 #include "UserFileLock.h"
 
 namespace {
@@ -24,6 +25,8 @@ QString copyAdvice(const QString& name) {
 
 ProfileSession::ProfileSession(Kind kind)
     : m_Kind(kind), m_Action(actionKind(kind)), m_pLogic(NetConnectSettingUILogic::GetInstance()) {
+    m_FolderProblem = Platform::dataFolderProblem();
+    if (kind == Changing && !m_FolderProblem.isNull()) throw CommandError::failed(m_FolderProblem);
     UserFileLock::setLongestWait(15000);  // as long as a person waits who sees no window
     m_ConfigurationProblem = configurationProblem();
     if (kind == Changing) {
@@ -83,6 +86,10 @@ std::optional<DialupProfile> ProfileSession::fetch(const QString& name) const {
     return isFound ? std::optional(profile) : std::nullopt;
 }
 
+void ProfileSession::requireUserFile() const {
+    if (!m_FolderProblem.isNull() && !Platform::isDataFolderMissing()) throw CommandError::failed(m_FolderProblem);
+}
+
 void ProfileSession::requireOwn(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
     if (!m_pLogic->HasUserProfile(profile.name)) throw CommandError::refused(name + " is a preset" + copyAdvice(name));
@@ -121,6 +128,7 @@ QString ProfileSession::problem() const {
     if (!m_ConfigurationProblem.isEmpty()) return m_ConfigurationProblem;
     const QString library = NetConnectXMLParse::shippedPath(NetConnectFileNames::Library);
     if (!QFileInfo::exists(library)) return missingText(library);
+    if (!m_FolderProblem.isNull()) return Platform::isDataFolderMissing() ? QString() : m_FolderProblem;
     const NetConnectStorageProblem last = m_pLogic->LastStorageProblem();
     // A change that can't lock has failed already; from a folder that can't be written one may still export.
     return last.isNull() || last.file.endsWith(".lock") ? QString() : last.text();

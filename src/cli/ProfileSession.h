@@ -17,7 +17,8 @@ public:
         Changing    // what is done is stored by finish(), in one write
     };
 
-    // A change needs the configuration, which says how passwords are stored; the others do with what is readable.
+    // A change needs the configuration, which says how passwords are stored, and the data folder; the others do with
+    // what is readable.
     explicit ProfileSession(Kind kind);
 
     NetConnectSettingUILogic* operator->() const { return m_pLogic; }
@@ -35,6 +36,9 @@ public:
 
     // The same, but refuses one whose sealed password can't be opened, which reads as empty.
     DialupProfile readableProfile(const QString& name) const;
+
+    // Refuses when nobody can tell what the user's file holds, or whether there is one.
+    void requireUserFile() const;
 
     // Refuses presets; the error says what to do instead.
     void requireOwn(const DialupProfile& profile) const;
@@ -71,6 +75,7 @@ private:
     NetConnectStoreAction m_Action;  // outlives the logic, so that the end of what was not stored writes nothing
     NetConnectSettingUILogic* m_pLogic;
     LogicLife m_LogicLife;
+    QString m_FolderProblem;  // why the user's files can't be had
     QString m_ConfigurationProblem;
     QString m_Problem;  // of what was read
     QStringList m_Names;
