@@ -6,25 +6,30 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "FileArgument.h"
+#include "NetConnectProfileRules.h"
 #include "Output.h"
+#include "ProfileFieldRules.h"
 #include "ProfileSession.h"
+
+namespace FieldRules = ProfileFieldRules;
 
 namespace {
 
-// Answers every clash alike, and keeps which there were.
+// Answers every clash alike, but for profiles that are there as they are: those stay. Keeps which there were.
 class SameAnswer : public NetConnectClashPolicy {
 public:
-    explicit SameAnswer(bool replaces) : m_bReplaces(replaces) {}
+    SameAnswer(bool replaces, const QSet<QString>& same) : m_bReplaces(replaces), m_Same(same) {}
 
     bool replace(const QString& name) override {
         m_Clashes.insert(name);
-        return m_bReplaces;
+        return m_bReplaces && !m_Same.contains(name);
     }
 
     bool hasClashed(const QString& name) const { return m_Clashes.contains(name); }
 
 private:
     const bool m_bReplaces;
+    const QSet<QString> m_Same;
     QSet<QString> m_Clashes;
 };
 
@@ -33,6 +38,7 @@ struct ImportResult {
     QStringList imported;
     QStringList replaced;
     QStringList skipped;
+    QStringList same;
 };
 
 QStringList chosenNames(const Invocation& invocation) {
@@ -65,35 +71,66 @@ QStringList chosenOf(const QStringList& candidates, const QStringList& wanted, c
     return wanted.isEmpty() ? candidates : wanted;
 }
 
+// The same profile, whatever its password is sealed with.
+bool isSame(const ProfileSession& session, const DialupProfile& candidate) {
+    if (!session->HasUserProfile(candidate.name)) return false;
+    const DialupProfile own = session.profile(candidate.name);
+    for (const DialupProfileField& field : DialupProfileFields) {
+        const bool isOfPassword =
+            field.member == &DialupProfile::password || field.member == &DialupProfile::encrypttype;
+        if (!isOfPassword && candidate.*field.member != own.*field.member) return false;
+    }
+    if (!session.isOn("ENCRYPT")) return own.password == candidate.password;
+    const QString method = FieldRules::isBase64Method(candidate.encrypttype) ? "1" : candidate.encrypttype;
+    const QString opened = session->XorDecrypt(candidate.password, method);
+    return own.password == opened && (!opened.isNull() || candidate.password.isEmpty());
+}
+
+QSet<QString> sameNames(const ProfileSession& session, const QStringList& chosen) {
+    const QSet<QString> wanted(chosen.begin(), chosen.end());
+    QSet<QString> same;
+    QSet<QString> met;  // several of one name are not the one that is there
+    for (const DialupProfile& candidate : session->ImportCandidates()) {
+        if (!wanted.contains(candidate.name)) continue;
+        if (met.contains(candidate.name))
+            same.remove(candidate.name);
+        else if (isSame(session, candidate))
+            same.insert(candidate.name);
+        met.insert(candidate.name);
+    }
+    return same;
+}
+
 ImportResult importChosen(const ProfileSession& session, const QString& file, const QStringList& chosen,
                           bool replaces) {
-    SameAnswer policy(replaces);
+    const QSet<QString> same = sameNames(session, chosen);
+    SameAnswer policy(replaces, same);
     const int status = session->ImportChosenProfiles(chosen, &policy);
     if (status != NetConnectSettingUILogic::NothingImported) session.require(status, "the profiles can't be imported");
-    ImportResult result{file, {}, {}, {}};
+    ImportResult result{file, {}, {}, {}, {}};
     for (const QString& name : chosen) {
-        const bool clashed = policy.hasClashed(name);
-        (!clashed ? result.imported : replaces ? result.replaced : result.skipped).append(name);
+        QStringList& list = !policy.hasClashed(name) ? result.imported
+                            : same.contains(name)    ? result.same
+                            : replaces               ? result.replaced
+                                                     : result.skipped;
+        list.append(name);
     }
     return result;
 }
 
-// True for a password that the base64 method would turn into garbage.
-bool isUnreadable(const DialupProfile& profile) {
-    static const QStringList base64Methods{"", "0", "1"};
-    if (profile.password.isEmpty() || !base64Methods.contains(profile.encrypttype)) return false;
-    const auto decoded =
-        QByteArray::fromBase64Encoding(profile.password.toUtf8(), QByteArray::AbortOnBase64DecodingErrors);
-    return !decoded || QString::fromUtf8(*decoded).toUtf8() != *decoded;
-}
-
-void warnOfUnreadablePasswords(const ProfileSession& session, const QStringList& names) {
-    if (!session.isOn("ENCRYPT")) return;
+// What nobody could have entered is kept as it came.
+void warnOfProblems(const ProfileSession& session, const QStringList& names) {
     const QSet<QString> imported(names.begin(), names.end());
-    for (const DialupProfile& profile : session->ImportCandidates())
-        if (imported.contains(profile.name) && isUnreadable(profile))
+    int nameLength = 0;
+    session->GetFunctionConfigValue("ProfileNameLength", nameLength, NetConnectProfileRules::DefaultNameLength);
+    for (const DialupProfile& profile : session->ImportCandidates()) {
+        if (!imported.contains(profile.name)) continue;
+        for (const QString& problem : FieldRules::storedProblems(profile, nameLength))
+            printWarning(quoted(profile.name) + ": " + problem);
+        if (session.isOn("ENCRYPT") && !FieldRules::isPasswordReadable(profile))
             printWarning("the password of " + quoted(profile.name) +
                          " is not base64, as its encrypttype says; set it again");
+    }
 }
 
 void showImport(const ImportResult& result, Output& output) {
@@ -101,10 +138,12 @@ void showImport(const ImportResult& result, Output& output) {
     for (const QString& name : result.imported) lines.append("imported " + name);
     for (const QString& name : result.replaced) lines.append("replaced " + name);
     for (const QString& name : result.skipped) lines.append("skipped  " + name + " (exists; see --replace)");
+    for (const QString& name : result.same) lines.append("same     " + name);
     output.result({{"file", result.file},
                    {"imported", QJsonArray::fromStringList(result.imported)},
                    {"replaced", QJsonArray::fromStringList(result.replaced)},
-                   {"skipped", QJsonArray::fromStringList(result.skipped)}},
+                   {"skipped", QJsonArray::fromStringList(result.skipped)},
+                   {"same", QJsonArray::fromStringList(result.same)}},
                   lines);
 }
 
@@ -144,7 +183,7 @@ void importProfiles(const Invocation& invocation, Output& output) {
     if (!taken.isEmpty()) session.finish();
     showImport(result, output);
     if (chosen.isEmpty()) throw CommandError::failed("nothing was imported from " + file);
-    warnOfUnreadablePasswords(session, taken);
+    warnOfProblems(session, taken);
 }
 
 void exportProfiles(const Invocation& invocation, Output& output) {

@@ -232,6 +232,44 @@ private slots:
         QCOMPARE(fixture.run({"default", "--json"}).json(), (QJsonObject{{"name", "Own"}, {"userSet", true}}));
     }
 
+    // Twice the same, sealed anew or plain; nothing is written for it.
+    void importingWhatIsThere() {
+        const OrbisctlFixture fixture;
+        COMPARE_DONE(fixture.run({"add", "Same", "password=-"}, "secret"));
+        const QByteArray exported = fixture.run({"export", "--all", "-"}).out;
+        COMPARE_DONE(fixture.run({"set", "Same", "password=-"}, "secret"));
+        const QByteArray before = TestFolder::read(fixture.userFile());
+        QVERIFY(before != exported);
+        const Outcome outcome = fixture.run({"import", "-", "--replace"}, exported);
+        COMPARE_DONE(outcome);
+        QCOMPARE(outcome.out, QByteArray("same     Same\n"));
+        QCOMPARE(TestFolder::read(fixture.userFile()), before);
+        COMPARE_DONE(fixture.run({"set", "Same", "password=-"}, "another"));
+        QCOMPARE(fixture.run({"import", "-", "--replace"}, exported).out, QByteArray("replaced Same\n"));
+        QCOMPARE(fixture.show("Same")["password"].toString(), QString("secret"));
+    }
+
+    // Kept as it came, with a word about what nobody could have entered.
+    void importJudges_data() {
+        const Rows<QByteArray, QByteArray> row("profile", "words");
+        row("name", "name='a/b' phonenumber='1'", "must not contain");
+        row("long name", "name='a name of 21 letters' phonenumber='1'", "at most 20");
+        row("number", "name='New'", "access number");
+        row("apn", "name='New' phonenumber='1' apn='a b'", "apn: may hold");
+        row("flag", "name='New' phonenumber='1' chap='True'", "chap: must be");
+        row("good", "name='New' phonenumber='1' chap='true' dns='0.0.0.0'", "");
+    }
+    void importJudges() {
+        const OrbisctlFixture fixture;
+        const QByteArray words = cell<QByteArray>("words");
+        const Outcome outcome =
+            fixture.run({"import", "-"}, document("<Profile " + cell<QByteArray>("profile") + "/>"));
+        QCOMPARE(outcome.status, 0);
+        QVERIFY2(outcome.err.startsWith("orbisctl: warning: ") == !words.isEmpty(), outcome.err);
+        QVERIFY2(outcome.err.contains(words) && outcome.err.count('\n') == (words.isEmpty() ? 0 : 1), outcome.err);
+        QCOMPARE(TestFolder::read(fixture.userFile()).count("<Profile name"), 1);
+    }
+
     void importWarnsOfUnreadablePasswords() {
         const OrbisctlFixture fixture;
         TestFolder::write(fixture.path("in.prof"),
@@ -242,7 +280,8 @@ private slots:
         const Outcome outcome = fixture.run({"import", fixture.path("in.prof")});
         QCOMPARE(outcome.status, 0);
         for (const QByteArray name : {"Coded", "Text", "Good", "Plain"})
-            QVERIFY2(outcome.err.contains('"' + name + '"') == (name == "Coded" || name == "Text"), outcome.err);
+            QVERIFY2(outcome.err.contains("password of \"" + name + '"') == (name == "Coded" || name == "Text"),
+                     outcome.err);
     }
 
     void backup_data() {
