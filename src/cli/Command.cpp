@@ -1,9 +1,11 @@
 #include "Command.h"
 
 #include <QSet>
+#include <algorithm>
 
 #include "CommandError.h"
 #include "Commands.h"
+#include "Platform.h"
 
 namespace {
 
@@ -30,7 +32,7 @@ constexpr CommandOptions with(const Options&... options) {
 
 constexpr CommandOptions NoOptions{};
 
-const Command Commands[] = {
+const std::vector<Command> Commands = {
     {"list", "", 0, 0, NoOptions, "List all profiles; * marks the default.", listProfiles},
     {"show", "NAME...", 1, Any, with(Secrets), "Show the fields of profiles.", showProfiles},
     {"add", "NAME [FIELD=VALUE...]", 1, Any, with(Like),
@@ -66,6 +68,12 @@ const Command Commands[] = {
     {"balance", "", 0, 0, with(Timeout), "Ask the network for a prepaid card's balance.", askBalance},
 };
 
+QString candidateNames(const QList<const Command*>& candidates) {
+    QStringList names;
+    for (const Command* command : candidates) names.append(command->name);
+    return names.join(", ");
+}
+
 const Command* findCommand(const QString& name) {
     QList<const Command*> candidates;
     for (const Command& command : Commands) {
@@ -73,41 +81,23 @@ const Command* findCommand(const QString& name) {
         if (!name.isEmpty() && QString(command.name).startsWith(name)) candidates.append(&command);
     }
     if (candidates.size() == 1) return candidates.first();
-    if (candidates.size() > 1) throw CommandError::usage(quoted(name) + " may be more than one command");
+    if (candidates.size() > 1)
+        throw CommandError::usage(quoted(name) + " may be more than one command: " + candidateNames(candidates));
     throw CommandError::usage("unknown command " + quoted(name) + "; see orbisctl --help");
 }
 
-void addGlobalOptions(QCommandLineParser* parser) {
-    parser->addOptions({
-        {"json", "Write results as JSON, one object a line."},
-        {{"t", "terse"}, "Write results as fields between tabs, for scripts."},
-        {{"f", "fields"}, "Write these fields only, in this order; their names are those of --json.", "FIELDS"},
-        {"data-dir", "Keep the user's profiles in this folder.", "DIR"},
-        {"device", "Use this modem: simulated, modemmanager, none or auto.", "KIND"},
-        {"trace", "Write traces to standard error."},
-        {{"h", "help"}, "Show this help, or that of a command."},
-        {{"v", "version"}, "Show the version."},
-    });
-}
-
-void addOptions(QCommandLineParser* parser, const Command& command, QSet<const CommandOption*>* added) {
-    for (const CommandOption* option : command.options) {
-        if (!option || added->contains(option)) continue;
-        added->insert(option);
-        parser->addOption({option->name, option->help, option->value});
-    }
-}
-
 void parse(QCommandLineParser* parser, const QStringList& commandLine) {
-    if (!parser->parse(commandLine)) throw CommandError::usage(parser->errorText());
+    if (parser->parse(commandLine)) return;
+    const auto looksShort = [](const QString& word) { return word.size() > 1 && word[0] == '-' && word[1] != '-'; };
+    const bool mayBeName = std::any_of(commandLine.begin(), commandLine.end(), looksShort);
+    throw CommandError::usage(parser->errorText() +
+                              (mayBeName ? " Put -- before a name that begins with a hyphen." : ""));
 }
 
 // The command's name may follow options, so all options of all commands are looked at to find it.
 const Command* commandOf(const QStringList& commandLine) {
     QCommandLineParser parser;
-    addGlobalOptions(&parser);
-    QSet<const CommandOption*> added;
-    for (const Command& command : Commands) addOptions(&parser, command, &added);
+    parser.addOptions(allOptions());
     parse(&parser, commandLine);
     if (!parser.positionalArguments().isEmpty()) return findCommand(parser.positionalArguments().first());
     if (parser.isSet("help") || parser.isSet("version")) return nullptr;
@@ -129,6 +119,41 @@ QString overview() {
 
 }  // namespace
 
+const std::vector<Command>& allCommands() { return Commands; }
+
+QList<QCommandLineOption> globalOptions() {
+    return {
+        {"json", "Write results as JSON, one object a line."},
+        {{"t", "terse"}, "Write results as fields between tabs, for scripts."},
+        {{"f", "fields"}, "Write these fields only, in this order; their names are those of --json.", "FIELDS"},
+        {"data-dir", "Keep the user's profiles in this folder.", "DIR"},
+        {"device", "Use this modem: " + Platform::deviceKinds().join(", ") + ".", "KIND"},
+        {"trace", "Write traces to standard error."},
+        {{"h", "help"}, "Show this help, or that of a command."},
+        {{"v", "version"}, "Show the version."},
+    };
+}
+
+QList<QCommandLineOption> optionsOf(const Command& command) {
+    QList<QCommandLineOption> options = globalOptions();
+    for (const CommandOption* option : command.options)
+        if (option) options.append({option->name, option->help, option->value});
+    return options;
+}
+
+QList<QCommandLineOption> allOptions() {
+    QList<QCommandLineOption> options = globalOptions();
+    QSet<const CommandOption*> added;
+    for (const Command& command : Commands) {
+        for (const CommandOption* option : command.options) {
+            if (!option || added.contains(option)) continue;
+            added.insert(option);
+            options.append({option->name, option->help, option->value});
+        }
+    }
+    return options;
+}
+
 Invocation::Invocation(const QStringList& words) {
     const QStringList commandLine = withHelpAsOption(words);
     m_pCommand = commandOf(commandLine);
@@ -139,14 +164,12 @@ Invocation::Invocation(const QStringList& words) {
 }
 
 void Invocation::describe() {
-    addGlobalOptions(&m_Parser);
+    m_Parser.addOptions(m_pCommand ? optionsOf(*m_pCommand) : globalOptions());
     if (!m_pCommand) {
         m_Parser.setApplicationDescription(overview());
         m_Parser.addPositionalArgument("COMMAND", "See orbisctl COMMAND --help.", "COMMAND [ARGUMENT...]");
         return;
     }
-    QSet<const CommandOption*> added;
-    addOptions(&m_Parser, *m_pCommand, &added);
     const QString syntax = QString("%1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed();
     m_Parser.addPositionalArgument(m_pCommand->name, m_pCommand->help, syntax);
 }

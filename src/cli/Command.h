@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 #include <QStringList>
 #include <array>
+#include <vector>
 
 class Invocation;
 class Output;
@@ -30,6 +31,14 @@ struct Command {
     void (*run)(const Invocation& invocation, Output& output);  // throws CommandError
     QString (*details)() = nullptr;                             // the end of its help
 };
+
+// All of them, in the order of the help.
+const std::vector<Command>& allCommands();
+
+// Those that every command has; these and its own; those of all commands.
+QList<QCommandLineOption> globalOptions();
+QList<QCommandLineOption> optionsOf(const Command& command);
+QList<QCommandLineOption> allOptions();
 
 // One reading of the command line.
 class Invocation {

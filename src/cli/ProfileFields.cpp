@@ -24,12 +24,7 @@ const DialupProfileField* findSettable(const QString& name) {
     return nullptr;
 }
 
-QString settableFields() {
-    QStringList fields;
-    for (const DialupProfileField& field : DialupProfileFields)
-        if (FieldRules::of(field).kind != Kind::Fixed) fields.append(field.attribute);
-    return fields.join(' ');
-}
+QString settableFields() { return settableFieldNames().join(' '); }
 
 QString kindText(Kind kind) {
     switch (kind) {
@@ -56,6 +51,18 @@ QString valueOf(const DialupProfileField& field, const QString& text) {
 }
 
 }  // namespace
+
+QStringList settableFieldNames() {
+    QStringList fields;
+    for (const DialupProfileField& field : DialupProfileFields)
+        if (FieldRules::of(field).kind != Kind::Fixed) fields.append(field.attribute);
+    return fields;
+}
+
+bool isFlagField(const QString& name) {
+    const DialupProfileField* const field = findSettable(name);
+    return field && FieldRules::of(*field).kind == Kind::Flag;
+}
 
 QString settableFieldsHelp() {
     QString text = "\nFields:\n";

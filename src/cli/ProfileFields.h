@@ -7,6 +7,10 @@
 
 #include "ProfileSession.h"
 
+// The fields that add and set take, and whether one takes true or false alone.
+QStringList settableFieldNames();
+bool isFlagField(const QString& name);
+
 class FieldAssignments {
 public:
     // Reads the password from standard input for "password=-". Throws a CommandError: usage for what is no

@@ -5,6 +5,7 @@
 
 #include "Command.h"
 #include "CommandError.h"
+#include "Completion.h"
 #include "Output.h"
 #include "Platform.h"
 #include "ProgramStart.h"
@@ -29,7 +30,8 @@ int main(int argc, char** argv) {
     try {
         Platform::prepare(argc, argv);
         const QCoreApplication application(argc, argv);
-        run(Invocation(application.arguments()));
+        const QStringList commandLine = application.arguments();
+        Completion::isWanted(commandLine) ? Completion::answer(commandLine.mid(2)) : run(Invocation(commandLine));
     } catch (const CommandError& error) {
         printDiagnostic(error.text);
         return error.status;

@@ -253,9 +253,9 @@ private slots:
     void importJudges_data() {
         const Rows<QByteArray, QByteArray> row("profile", "words");
         row("name", "name='a/b' phonenumber='1'", "must not contain");
-        row("long name", "name='a name of 21 letters' phonenumber='1'", "at most 20");
+        row("long name", "name='a name of 21 letters.' phonenumber='1'", "at most 20");
         row("number", "name='New'", "access number");
-        row("apn", "name='New' phonenumber='1' apn='a b'", "apn: may hold");
+        row("apn", "name='New' phonenumber='1' apn='a_b'", "apn: may hold");
         row("flag", "name='New' phonenumber='1' chap='True'", "chap: must be");
         row("good", "name='New' phonenumber='1' chap='true' dns='0.0.0.0'", "");
     }

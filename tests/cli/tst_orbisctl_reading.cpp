@@ -2,6 +2,7 @@
 
 #include "OrbisctlFixture.h"
 #include "Rows.h"
+#include "Terminal.h"
 
 class tst_orbisctl_reading : public QObject {
     Q_OBJECT
@@ -187,6 +188,31 @@ private slots:
         QVERIFY(TestFolder::read(target).contains("name=\"" + name.toUtf8() + '"'));
     }
 
+    // A folder that can't even be made holds nothing; of one that can't be looked into nobody knows.
+    void readsWithoutAFolder_data() {
+        const Rows<QString, bool> row("folder", "isMissing");
+        row("can't be made", "/proc/nowhere/data", true);
+        row("can't be entered", "/dev/null/data", false);
+    }
+    void readsWithoutAFolder() {
+        const OrbisctlFixture fixture;
+        const bool isMissing = cell<bool>("isMissing");
+        qputenv("ORBISDIAL_DATA_DIR", QFile::encodeName(cell("folder")));
+        const QStringList commands[] = {{"list"},   {"show", "Alpha"}, {"default"},           {"explain", "26201"},
+                                        {"device"}, {"status"},        {"config", "IMSIAPN"}, {"export", "-", "Alpha"},
+                                        {"modems"}, {"backup", "-"}};
+        for (const QStringList& command : commands) {
+            const Outcome outcome = fixture.run(command);
+            QCOMPARE(outcome.out.isEmpty(), !isMissing && command.first() == "backup");
+            if (isMissing || outcome.status == 0) {
+                COMPARE_DONE(outcome);
+            } else {
+                COMPARE_REFUSED(outcome, 1, "can't be made or entered");
+            }
+        }
+        COMPARE_REFUSED(fixture.run({"add", "New"}), 1, "can't be made or entered");
+    }
+
     // Each of the three files in turn is bad: what is readable is shown, and one line names the file.
     void badFile() {
         const QByteArray cut = "<?xml version='1.0'?><vrksdoc><ProfileGroup><Profile name='Own'/><Profile na";
@@ -211,21 +237,67 @@ private slots:
         }
     }
 
-    void completion() {
-        if (!QFileInfo::exists("/dev/fd/0")) QSKIP("bash redirects from a command through /dev/fd, which is not there");
+    // What the program answers: a line for the kind, and a word a line.
+    void completes_data() {
+        const Rows<QByteArray, QByteArray> row("line", "answer");
+        row("command", "orbisctl ex", "words export explain");
+        row("command of help", "orbisctl help stat", "words status");
+        row("behind options", "orbisctl -f name --json stat", "words status");
+        row("another command before", "true; orbisctl stat", "words status");
+        row("option", "orbisctl show --se", "words --secrets");
+        row("option of another", "orbisctl list --se", "words");
+        row("value", "orbisctl --device n", "words none");
+        row("value behind =", "orbisctl --device=n", "words none");
+        row("names", "orbisctl show My", "words My\\ own");
+        row("escaped", "orbisctl show My\\ o", "words My\\ own");
+        row("quoted", "orbisctl show \"My o", "words My own");
+        row("quotes in it", "orbisctl delete X Bob\\'", "words Bob\\'s\\ \\$1");
+        row("quotes in quotes", "orbisctl delete 'Bob", "words Bob'\\''s $1");
+        row("like an option", "orbisctl show -- -", "words -dash");
+        row("new name", "orbisctl add My", "words");
+        row("like", "orbisctl add X --like Al", "words Alpha");
+        row("field", "orbisctl set X pa", "nospace password= pap=");
+        row("flag", "orbisctl set X chap=f", "words false");
+        row("on", "orbisctl autoconnect X o", "words on off");
+        row("modem", "orbisctl modem ", "words /simulated/1");
+        row("key", "orbisctl config IMSI", "words IMSIAPN");
+        row("check", "orbisctl config --check ", "files");
+        row("file", "orbisctl import ", "files");
+        row("folder", "orbisctl --data-dir ", "directories");
+        row("too many", "orbisctl modem a ", "words");
+        row("unreadable", "orbisctl --data-dir /dev/null show My", "words");
+    }
+    void completes() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='My own'/><Profile name='-dash'/><Profile name=\"Bob's $1\"/>");
+        const Outcome outcome = fixture.run({"complete", "bash", cell<QByteArray>("line")});
+        COMPARE_DONE(outcome);
+        QTEST(outcome.out.trimmed().replace('\n', ' '), "answer");
+    }
+
+    // The shells themselves, as far as they are here, at a terminal; then what stands in the line.
+    void shellsComplete_data() {
+        const Rows<QByteArrayList, QByteArray> row("shell", "setUp");
+        const QByteArray scripts = ORBISDIAL_SOURCE_DIR "/data/completions/";
+        row("bash", {"/usr/bin/bash", "--norc", "--noprofile", "-i"}, "source " + scripts + "bash/orbisctl");
+        row("zsh", {"/usr/bin/zsh", "-f", "-i"},
+            "fpath=(" + scripts + "zsh $fpath); autoload -U compinit; compinit -u -D");
+        row("fish", {"/usr/bin/fish", "--no-config", "-i"}, "source " + scripts + "fish/orbisctl.fish");
+    }
+    void shellsComplete() {
+        const QByteArrayList shell = cell<QByteArrayList>("shell");
+        if (!QFileInfo::exists(shell.first()) || !QFileInfo::exists("/dev/fd/0")) QSKIP("no such shell here");
         const OrbisctlFixture fixture;
         fixture.writeUser("<Profile name='My own'/>");
-        const QString script =
-            "source \"$0\"; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _orbisctl; echo \"${COMPREPLY[*]}\"";
-        const QPair<QStringList, QByteArray> rows[] = {
-            {{"ex"}, "export explain"},        {{"connect", "Be"}, "Beta"},
-            {{"modem", ""}, "/simulated/1"},   {{"autoconnect", "X", "o"}, "on off"},
-            {{"-f", "name", "sta"}, "status"}, {{"delete", "X", "Al"}, "Alpha"},
-            {{"show", "My\\ o"}, "My\\ own"},  {{"set", "X", "chap", "=", "f"}, "false"}};
-        for (const auto& [words, expected] : rows) {
-            const QStringList source = {"-c", script, ORBISDIAL_SOURCE_DIR "/data/completions/orbisctl", ORBISCTL};
-            QCOMPARE(runProgram("bash", source + words).out.trimmed(), expected);
-        }
+        qputenv("PATH", QFileInfo(ORBISCTL).path().toUtf8() + ':' + qgetenv("PATH"));
+        qputenv("INPUTRC", "/dev/null");
+        qputenv("HOME", QFile::encodeName(fixture.path("")));
+        qputenv("TERM", "dumb");
+        Terminal terminal(shell);
+        terminal.type(cell<QByteArray>("setUp") + "; echo se''t\n");
+        QTRY_VERIFY2(terminal.screen().contains("set\r\n"), terminal.screen());
+        terminal.type("orbisctl -f name sho\tMy\t > " + fixture.path("out").toUtf8() + '\n');
+        QTRY_VERIFY2(TestFolder::read(fixture.path("out")) == "My own\n", terminal.screen());
     }
 };
 
