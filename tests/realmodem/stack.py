@@ -206,8 +206,11 @@ def inhibit(done, failed, modem_id, is_inhibited):
 
 
 def command_unplug(done, failed, modem_id):
-    unplugged.add(modem_id)
-    inhibit(done, failed, modem_id, True)
+    def gone():
+        unplugged.add(modem_id)
+        done()
+
+    inhibit(gone, failed, modem_id, True)
 
 
 def command_replug(done, failed, modem_id):
