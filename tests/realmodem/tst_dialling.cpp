@@ -185,8 +185,9 @@ private slots:
         if (where == Frozen) QVERIFY(m_Stack.freeze("NetworkManager"));
         if (where == Begun || where >= InVain) QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
         if (where == NoAddress) QVERIFY(m_Stack.setPppd("silence"));
-        const int calls = pppdCalls();
+        const int calls = pppdCalls(), dialled = dialCommands();
         QVERIFY(dial());
+        if (where >= InVain) QTRY_VERIFY_WITH_TIMEOUT(dialCommands() > dialled, 15000);
         if (where == NoAddress) QTRY_COMPARE_WITH_TIMEOUT(pppdCalls(), calls + 1, Patience);
         if (where != Begun) {
             TRY_CONNECTION(connection().step == cell<int>("step"));
@@ -300,9 +301,11 @@ private slots:
     // ModemManager then takes the port for one that carries a call, until the modem is looked for anew.
     void anotherProcessDiesWhileDialling() {
         QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
+        const int dialled = dialCommands();
         QProcess other;
         other.start(DIALLER, {"Other", "bound"});
-        TRY_CONNECTION(connection().step == VRKS_STEP_CONNECTING);
+        QTRY_VERIFY_WITH_TIMEOUT(dialCommands() > dialled, 15000);
+        TRY_CONNECTION(connection().state == VRKS_CONNECTION_DIALLING);
         other.kill();
         QVERIFY(other.waitForFinished());
         QTRY_VERIFY2_WITH_TIMEOUT(connection().state != VRKS_CONNECTION_DIALLING, shown(), 15000);
@@ -427,6 +430,9 @@ private:
     static bool addForeign() {
         return nmcli("connection add type gsm con-name Foreign ifname * apn x connection.autoconnect no");
     }
+
+    // How often the modem was told to dial; what it is to answer must not come before.
+    int dialCommands() { return m_Stack.commands("gsm").filter(QRegularExpression("^ATD")).size(); }
 
     static int pppdCalls() {
         QFile log(Stack::path("pppd.log"));
