@@ -131,6 +131,7 @@ QStringList ConnectionText::notes(const DialupProfile& profile) {
     for (const QString& field : DialCall::fieldsWithoutEffect(profile))
         notes.append(text(DialupNoteTextId(field).toLatin1()));
     notes.removeDuplicates();
+    notes.removeAll(QString());  // the library has no texts
     return notes;
 }
 
