@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "BenchFolder.h"
 
 #include "Measure.h"

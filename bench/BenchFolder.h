@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A benchmark's own folders, with as many profiles and presets as asked for.
 #ifndef ORBISDIAL_BENCHFOLDER_H
 #define ORBISDIAL_BENCHFOLDER_H

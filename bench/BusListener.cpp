@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "BusListener.h"
 
 #include <gio/gio.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hears of the modems' changed properties on the bus, as a program of nothing else would.
 #ifndef ORBISDIAL_BUSLISTENER_H
 #define ORBISDIAL_BUSLISTENER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shows a window and ends the program as soon as it, or a widget in it, has been painted: what comes after that is not
 // measured.
 #ifndef ORBISDIAL_FIRSTPAINT_H

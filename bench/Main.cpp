@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How a benchmark program runs, unless it has a start of its own.
 
 #include <QCoreApplication>

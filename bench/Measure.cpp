@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Measure.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Times two sides in turn and reports their ratio.
 #ifndef ORBISDIAL_MEASURE_H
 #define ORBISDIAL_MEASURE_H

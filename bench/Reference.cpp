@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Reference.h"
 
 #include <fcntl.h>

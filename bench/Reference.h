@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The least that any program must do for the same work with Qt's classes: what the figures are compared with.
 #ifndef ORBISDIAL_REFERENCE_H
 #define ORBISDIAL_REFERENCE_H

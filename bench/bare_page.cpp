@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings page's bare widgets, without profiles, texts' translations or logic; ends when it has been painted,
 // or with an argument stays.
 

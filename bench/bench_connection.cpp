@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Data connections with real daemons: how soon one is up, and how soon a script knows of it. Runs beside the real
 // ModemManager and NetworkManager (tests/realmodem/stack).
 

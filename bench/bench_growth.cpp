@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the time of each operation and of each command grows with the number of profiles. bench/run divides.
 
 #include "BenchFolder.h"

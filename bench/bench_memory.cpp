@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a loaded profile costs in memory. A program of its own, so that no memory freed before is used again.
 
 #include <malloc.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The device SDK and the window with real modems: how soon they know them and hear of a change, and what they cost
 // while nothing happens. Runs beside the real ModemManager (tests/realmodem/stack).
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings page with the shipped presets, from the start of its process to its first paint, and to the first one
 // with its list.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The command line as a process, with the shipped presets.
 
 #include "BenchFolder.h"

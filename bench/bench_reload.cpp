@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading everything again, as a device's event makes the page do, with many presets and a large library.
 
 #include "BenchFolder.h"

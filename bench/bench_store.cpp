@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loading, listing, fetching and changing of the user's profiles.
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Import of many profiles among many.
 
 #include "BenchFolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The least that a program on Qt's core costs.
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's window until its first paint, beside whatever modems there are.
 
 #include <QLoggingCategory>

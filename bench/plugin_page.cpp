@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings page as a host shows it: loads the plug-in, shows the page, and ends when it has been painted; with a
 // second argument, when it has been painted with its list of profiles.
 

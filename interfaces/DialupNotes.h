@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What of a profile has no effect on a connection, to be said where it is set or shown.
 #ifndef ORBISDIAL_DIALUPNOTES_H
 #define ORBISDIAL_DIALUPNOTES_H

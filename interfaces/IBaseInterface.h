@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The root of the plug-in interfaces.
 #ifndef ORBISDIAL_IBASEINTERFACE_H
 #define ORBISDIAL_IBASEINTERFACE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What every plug-in of the host offers.
 #ifndef ORBISDIAL_IBASEPLUGIN_H
 #define ORBISDIAL_IBASEPLUGIN_H

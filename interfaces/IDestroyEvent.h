@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the host calls before it lets a plug-in go.
 #ifndef ORBISDIAL_IDESTROYEVENT_H
 #define ORBISDIAL_IDESTROYEVENT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dial-up plug-in, as other plug-ins see it.
 #ifndef ORBISDIAL_IDIALUPUISERVICE_H
 #define ORBISDIAL_IDIALUPUISERVICE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profiles, as the settings plug-in offers them to other plug-ins.
 #ifndef ORBISDIAL_INETCONNECTSETTING_H
 #define ORBISDIAL_INETCONNECTSETTING_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the host and the notification service pass events to a plug-in.
 #ifndef ORBISDIAL_INOTIFY_H
 #define ORBISDIAL_INOTIFY_H

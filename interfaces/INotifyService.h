@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's notification service: passes events from plug-in to plug-in by class identifier.
 #ifndef ORBISDIAL_INOTIFYSERVICE_H
 #define ORBISDIAL_INOTIFYSERVICE_H

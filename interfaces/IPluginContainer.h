@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's plug-in container, in which plug-ins find one another.
 #ifndef ORBISDIAL_IPLUGINCONTAINER_H
 #define ORBISDIAL_IPLUGINCONTAINER_H

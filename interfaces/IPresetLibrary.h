@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The presets of the world's operators, and the user's own profiles apart from them, as the settings plug-in offers
 // them to the host and to other plug-ins beside INetConnectSetting.
 #ifndef ORBISDIAL_IPRESETLIBRARY_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A page of the host's settings dialog.
 #ifndef ORBISDIAL_ISETTINGUIPLUGIN_H
 #define ORBISDIAL_ISETTINGUIPLUGIN_H

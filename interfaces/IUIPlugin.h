@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A plug-in with a widget of its own.
 #ifndef ORBISDIAL_IUIPLUGIN_H
 #define ORBISDIAL_IUIPLUGIN_H

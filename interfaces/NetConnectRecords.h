@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plain value records that the settings plug-in, its host and its peers pass to one another.
 //
 // Every field of every record is text, exactly as it stands in the XML files, so that a record that is

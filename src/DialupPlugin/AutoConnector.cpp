@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "AutoConnector.h"
 
 #include <QCryptographicHash>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Connects by itself with the profile that the user chose for it, as AutoConnectPolicy decides.
 #ifndef ORBISDIAL_AUTOCONNECTOR_H
 #define ORBISDIAL_AUTOCONNECTOR_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Asks for the user name and the password of one connection.
 //
 // The answer is accept() or reject(); what was typed goes no further than this dialog and its reader.

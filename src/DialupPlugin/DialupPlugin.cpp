@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DialupPlugin.h"
 
 #include "CommonUtils.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Connects with a profile of the settings plug-in, which it knows through INetConnectSetting alone.
 //
 // Dialling is the device SDK's; here is what to dial with, whom to ask, and what to say. The connection may be another

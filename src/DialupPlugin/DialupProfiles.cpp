@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DialupProfiles.h"
 
 #include <QVariant>

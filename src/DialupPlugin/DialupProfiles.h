@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profiles as the settings plug-in offers them, wherever it is just now. GUI thread.
 #ifndef ORBISDIAL_DIALUPPROFILES_H
 #define ORBISDIAL_DIALUPPROFILES_H

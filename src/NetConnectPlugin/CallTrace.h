@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Entry and exit traces of the host-facing operations, which carry no time.
 #ifndef ORBISDIAL_CALLTRACE_H
 #define ORBISDIAL_CALLTRACE_H

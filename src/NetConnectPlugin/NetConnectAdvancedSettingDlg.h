@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The advanced settings of one profile: addresses and authentication protocols.
 //
 // Its source is spread over topics:

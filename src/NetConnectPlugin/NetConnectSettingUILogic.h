@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plug-in's profile data in memory, and every operation on it.
 //
 // Its source is spread over topics:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plug-in's entry object: what the host loads. It forwards everything to the settings service.
 #ifndef ORBISDIAL_NETCONNECTSETTINGUIPLUGIN_H
 #define ORBISDIAL_NETCONNECTSETTINGUIPLUGIN_H

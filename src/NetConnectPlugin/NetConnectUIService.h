@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The connection settings page, and what the plug-in offers to the host and to other plug-ins.
 //
 // Its source is spread over topics:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The file layer: reads and writes the profile files, the profile template and the configuration.
 //
 // Its source is spread over topics:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What must differ between Qt 4.8 and Qt 5.15, in one place.
 #ifndef ORBISDIAL_QTCOMPAT_H
 #define ORBISDIAL_QTCOMPAT_H

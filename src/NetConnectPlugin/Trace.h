@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plug-in's traces. They go to Qt's debug output; where that ends up is the host's business.
 #ifndef ORBISDIAL_TRACE_H
 #define ORBISDIAL_TRACE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is wrong with NetConnectConfig.xml, or with the template that orbis-presets merges into one.
 #ifndef ORBISDIAL_CHECK_CONFIGURATIONCHECK_H
 #define ORBISDIAL_CHECK_CONFIGURATIONCHECK_H

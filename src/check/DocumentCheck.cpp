@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DocumentCheck.h"
 
 #include "Spelling.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Walks through one file as its readers do, and finds what they would pass over without a word.
 #ifndef ORBISDIAL_CHECK_DOCUMENTCHECK_H
 #define ORBISDIAL_CHECK_DOCUMENTCHECK_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is found in one file.
 #ifndef ORBISDIAL_CHECK_FILEFINDINGS_H
 #define ORBISDIAL_CHECK_FILEFINDINGS_H

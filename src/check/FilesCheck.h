@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is wrong with the files that an integrator ships.
 #ifndef ORBISDIAL_CHECK_FILESCHECK_H
 #define ORBISDIAL_CHECK_FILESCHECK_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One thing that is wrong with a file, for the person who ships it.
 #ifndef ORBISDIAL_CHECK_FINDING_H
 #define ORBISDIAL_CHECK_FINDING_H

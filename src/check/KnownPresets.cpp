@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "KnownPresets.h"
 
 #include "Spelling.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The names that the profile library has.
 #ifndef ORBISDIAL_CHECK_KNOWNPRESETS_H
 #define ORBISDIAL_CHECK_KNOWNPRESETS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is wrong with Operators.xml.
 #ifndef ORBISDIAL_CHECK_OPERATORSCHECK_H
 #define ORBISDIAL_CHECK_OPERATORSCHECK_H

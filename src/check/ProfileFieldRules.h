@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a value of each of a profile's fields may be, for who types one, imports one or ships one.
 #ifndef ORBISDIAL_CHECK_PROFILEFIELDRULES_H
 #define ORBISDIAL_CHECK_PROFILEFIELDRULES_H

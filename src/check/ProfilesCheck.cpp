@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProfilesCheck.h"
 
 #include "NetConnectProfileRules.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is wrong with a profile file: the library, a template, an export that is handed out, a user's file.
 #ifndef ORBISDIAL_CHECK_PROFILESCHECK_H
 #define ORBISDIAL_CHECK_PROFILESCHECK_H

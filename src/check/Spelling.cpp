@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Spelling.h"
 
 #include <algorithm>

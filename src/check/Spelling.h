@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which known word somebody may have meant.
 #ifndef ORBISDIAL_CHECK_SPELLING_H
 #define ORBISDIAL_CHECK_SPELLING_H

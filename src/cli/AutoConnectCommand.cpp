@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // autoconnect.
 
 #include "Command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // backup, restore.
 
 #include <QJsonArray>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // add, set, delete, default.
 
 #include "Command.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // config --check.
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The commands of orbisctl, and how one is read from the command line.
 #ifndef ORBISDIAL_CLI_COMMAND_H
 #define ORBISDIAL_CLI_COMMAND_H

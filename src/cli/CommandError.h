@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What ends a command early: one line for the user and the process's exit status.
 #ifndef ORBISDIAL_CLI_COMMANDERROR_H
 #define ORBISDIAL_CLI_COMMANDERROR_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the commands do; each is one row of the table in Command.cpp.
 #ifndef ORBISDIAL_CLI_COMMANDS_H
 #define ORBISDIAL_CLI_COMMANDS_H

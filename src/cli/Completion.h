@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What may stand next on a command line, for the shells' completions: "orbisctl complete" is for them alone.
 #ifndef ORBISDIAL_CLI_COMPLETION_H
 #define ORBISDIAL_CLI_COMPLETION_H

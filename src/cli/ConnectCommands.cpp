@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // connect, disconnect, status.
 
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ConnectionReport.h"
 
 #include <vrks_simulated.h>

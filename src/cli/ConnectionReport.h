@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What there is to tell of the data connection, for people and for scripts.
 #ifndef ORBISDIAL_CLI_CONNECTIONREPORT_H
 #define ORBISDIAL_CLI_CONNECTIONREPORT_H

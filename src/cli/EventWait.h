@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Waiting for what the device SDK reports; nothing is asked for again and again.
 #ifndef ORBISDIAL_CLI_EVENTWAIT_H
 #define ORBISDIAL_CLI_EVENTWAIT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "FileArgument.h"
 
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // FILE arguments, of which "-" is a standard stream.
 #ifndef ORBISDIAL_CLI_FILEARGUMENT_H
 #define ORBISDIAL_CLI_FILEARGUMENT_H

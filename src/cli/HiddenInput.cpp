@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "HiddenInput.h"
 
 #include <poll.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading a secret from standard input.
 #ifndef ORBISDIAL_CLI_HIDDENINPUT_H
 #define ORBISDIAL_CLI_HIDDENINPUT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // modems, modem.
 
 #include <QJsonArray>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ModemReport.h"
 
 #include <QJsonValue>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the device SDK tells of a modem, for people and for scripts.
 #ifndef ORBISDIAL_CLI_MODEMREPORT_H
 #define ORBISDIAL_CLI_MODEMREPORT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where commands write: results as text, fields or JSON on stdout, one-line diagnostics on stderr. All of it is UTF-8.
 #ifndef ORBISDIAL_CLI_OUTPUT_H
 #define ORBISDIAL_CLI_OUTPUT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The process's surroundings: encoding, traces, modem and data folder.
 #ifndef ORBISDIAL_CLI_PLATFORM_H
 #define ORBISDIAL_CLI_PLATFORM_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProfileFields.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // FIELD=VALUE arguments, and what makes the profile that they lead to acceptable.
 #ifndef ORBISDIAL_CLI_PROFILEFIELDS_H
 #define ORBISDIAL_CLI_PROFILEFIELDS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProfileSession.h"
 
 #include <QFileInfo>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profile logic during one command.
 #ifndef ORBISDIAL_CLI_PROFILESESSION_H
 #define ORBISDIAL_CLI_PROFILESESSION_H

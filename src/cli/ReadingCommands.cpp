@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // list, show, config.
 
 #include <QJsonArray>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A line of shell input up to the cursor.
 #ifndef ORBISDIAL_CLI_SHELLLINE_H
 #define ORBISDIAL_CLI_SHELLLINE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // pin, puk.
 
 #include <QRegularExpression>

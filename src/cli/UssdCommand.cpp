@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // ussd, balance.
 
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // orbisctl: the connection profiles on the command line.
 
 #include <QCoreApplication>

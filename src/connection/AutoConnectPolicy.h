@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Decides when to connect by itself. It knows neither clock nor modem: it is told of both, and answers what to do.
 #ifndef ORBISDIAL_AUTOCONNECTPOLICY_H
 #define ORBISDIAL_AUTOCONNECTPOLICY_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the host keeps about connections in its own settings file, beside the profiles and not in them.
 //
 // For the thread that runs the application. Every program of ours reads and writes the same file.

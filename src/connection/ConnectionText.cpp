@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ConnectionText.h"
 
 #include "AutoConnectPolicy.h"

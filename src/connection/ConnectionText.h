@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sentences about connections for a person, in the current language: what happened, and what to do.
 //
 // GUI thread, or the one of a program without windows, as for Change. Names may hold any characters.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DataConnection.h"
 
 DataConnection DataConnection::current() {

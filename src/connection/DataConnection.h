@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The data connection as the device SDK tells of it, in Qt's types.
 #ifndef ORBISDIAL_DATACONNECTION_H
 #define ORBISDIAL_DATACONNECTION_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DataUsage.h"
 
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What each SIM card received and sent, by month, in a small file that every program of ours counts on.
 //
 // The file holds how far each connection's interface is counted, so that programs which meet the same connection count

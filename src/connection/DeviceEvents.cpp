@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DeviceEvents.h"
 
 #include <vrks.h>

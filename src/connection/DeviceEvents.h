@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Brings the device SDK's events to the thread of whoever listens.
 #ifndef ORBISDIAL_DEVICEEVENTS_H
 #define ORBISDIAL_DEVICEEVENTS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DialCall.h"
 
 #include <arpa/inet.h>

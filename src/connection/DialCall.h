@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From a profile to what the SDK is asked to dial.
 #ifndef ORBISDIAL_DIALCALL_H
 #define ORBISDIAL_DIALCALL_H

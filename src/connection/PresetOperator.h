@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whose network a profile connects to, and so how its balance is asked for.
 #ifndef ORBISDIAL_PRESETOPERATOR_H
 #define ORBISDIAL_PRESETOPERATOR_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Bytes a second, from counts that are looked at now and then.
 #ifndef ORBISDIAL_TRANSFERRATE_H
 #define ORBISDIAL_TRANSFERRATE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The file of DataUsage: what stands in it, read and replaced whole.
 #ifndef ORBISDIAL_USAGEFILE_H
 #define ORBISDIAL_USAGEFILE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keeps DataUsage up to date while a program runs: at each change of the connection, and each minute while it is up.
 #ifndef ORBISDIAL_USAGERECORDER_H
 #define ORBISDIAL_USAGERECORDER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a kind of modem must offer; each backend has a folder of its own.
 #ifndef ORBISDIAL_BACKEND_H
 #define ORBISDIAL_BACKEND_H

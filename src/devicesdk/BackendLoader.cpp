@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "BackendLoader.h"
 
 #include <dlfcn.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loads a backend that is a module.
 #ifndef ORBISDIAL_BACKENDLOADER_H
 #define ORBISDIAL_BACKENDLOADER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "BackendSelection.h"
 
 #include <pthread.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which backend the process uses.
 #ifndef ORBISDIAL_BACKENDSELECTION_H
 #define ORBISDIAL_BACKENDSELECTION_H

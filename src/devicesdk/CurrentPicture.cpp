@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CurrentPicture.h"
 
 std::shared_ptr<const Picture> CurrentPicture::get() const {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The picture that a backend answers from.
 #ifndef ORBISDIAL_CURRENTPICTURE_H
 #define ORBISDIAL_CURRENTPICTURE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "DialRequest.h"
 
 #include <arpa/inet.h>

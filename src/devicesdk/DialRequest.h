@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What to dial with, and what forbids it beforehand.
 #ifndef ORBISDIAL_DIALREQUEST_H
 #define ORBISDIAL_DIALREQUEST_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Delivers a backend's events to the registered callbacks, on a thread of its own.
 #ifndef ORBISDIAL_EVENTDISPATCHER_H
 #define ORBISDIAL_EVENTDISPATCHER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a backend's events go.
 #ifndef ORBISDIAL_EVENTSINK_H
 #define ORBISDIAL_EVENTSINK_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Failures.h"
 
 #include <cstring>

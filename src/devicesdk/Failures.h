@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The names of the failures.
 #ifndef ORBISDIAL_FAILURES_H
 #define ORBISDIAL_FAILURES_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which of the modems is used.
 #ifndef ORBISDIAL_MODEMCHOICE_H
 #define ORBISDIAL_MODEMCHOICE_H

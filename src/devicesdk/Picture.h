@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a backend knows about modems, connection and USSD session, as values that are never changed once answered.
 #ifndef ORBISDIAL_PICTURE_H
 #define ORBISDIAL_PICTURE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "UserDataDirectory.h"
 
 #include <fcntl.h>

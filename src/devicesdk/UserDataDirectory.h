@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where the user's profiles are kept.
 #ifndef ORBISDIAL_USERDATADIRECTORY_H
 #define ORBISDIAL_USERDATADIRECTORY_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // UTF-8 texts that come from elsewhere.
 #ifndef ORBISDIAL_UTF8_H
 #define ORBISDIAL_UTF8_H

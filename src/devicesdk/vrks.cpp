@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The C interface: fits what the backend answers into the caller's buffers.
 #include "vrks.h"
 

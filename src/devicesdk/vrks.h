@@ -1,3 +1,4 @@
+/* SPDX-License-Identifier: MIT */
 /* Device SDK: what the connection manager asks a mobile-broadband modem and its SIM card, and how it connects.
  *
  * Every call returns 0 on success and another value on failure; a failing call writes nothing, so

@@ -1,3 +1,4 @@
+/* SPDX-License-Identifier: MIT */
 /* Drives the simulated modems while the process runs: tests and the host's modem panel.
  *
  * Every call is safe from any thread, and fails (non-zero) unless the backend is "simulated".

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Version, licence and libraries.
 #ifndef ORBISDIAL_ABOUTBOX_H
 #define ORBISDIAL_ABOUTBOX_H

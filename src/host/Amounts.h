@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Volumes, rates and times for a person, in the current language's figures.
 #ifndef ORBISDIAL_AMOUNTS_H
 #define ORBISDIAL_AMOUNTS_H

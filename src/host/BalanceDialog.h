@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Asks the network for a prepaid card's balance, and shows what it says.
 #ifndef ORBISDIAL_BALANCEDIALOG_H
 #define ORBISDIAL_BALANCEDIALOG_H

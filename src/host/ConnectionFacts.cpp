@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ConnectionFacts.h"
 
 #include <QVariant>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the window knows: the modem, the connection and the profiles, as the device SDK and the plug-ins tell of them.
 #ifndef ORBISDIAL_CONNECTIONFACTS_H
 #define ORBISDIAL_CONNECTIONFACTS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ConnectionPicture.h"
 
 #include "HostText.h"

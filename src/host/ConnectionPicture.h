@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the window and the tray icon say of what is known: words, a sign, and the one thing to do next.
 #ifndef ORBISDIAL_CONNECTIONPICTURE_H
 #define ORBISDIAL_CONNECTIONPICTURE_H

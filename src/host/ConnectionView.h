@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window's middle: the state, the one button, the transfer while connected, the last failure, and the profile.
 #ifndef ORBISDIAL_CONNECTIONVIEW_H
 #define ORBISDIAL_CONNECTIONVIEW_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Countries.h"
 
 #include <unicode/uloc.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The names of countries.
 #ifndef ORBISDIAL_COUNTRIES_H
 #define ORBISDIAL_COUNTRIES_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "EndSignals.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Ends the program as closing its window does when the system asks it to end.
 #ifndef ORBISDIAL_ENDSIGNALS_H
 #define ORBISDIAL_ENDSIGNALS_H

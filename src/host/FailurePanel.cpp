@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "FailurePanel.h"
 
 #include <QAccessible>

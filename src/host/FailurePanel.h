@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What went wrong with the last connection. It stays until the next attempt begins, or somebody closes it.
 #ifndef ORBISDIAL_FAILUREPANEL_H
 #define ORBISDIAL_FAILUREPANEL_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host: brings the plug-ins, the notification service and the window together.
 #ifndef ORBISDIAL_HOST_H
 #define ORBISDIAL_HOST_H

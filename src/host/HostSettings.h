@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the user chose for the program itself, in the host's settings file.
 #ifndef ORBISDIAL_HOSTSETTINGS_H
 #define ORBISDIAL_HOSTSETTINGS_H

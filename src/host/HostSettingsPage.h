@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's own settings page: the language, and the switch that keeps the default profile.
 #ifndef ORBISDIAL_HOSTSETTINGSPAGE_H
 #define ORBISDIAL_HOSTSETTINGSPAGE_H

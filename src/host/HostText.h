@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's texts.
 #ifndef ORBISDIAL_HOSTTEXT_H
 #define ORBISDIAL_HOSTTEXT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which language the host speaks.
 #ifndef ORBISDIAL_LANGUAGES_H
 #define ORBISDIAL_LANGUAGES_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window: the connection, the menus, the simulated modem's dock, and what can't be used.
 #ifndef ORBISDIAL_MAINWINDOW_H
 #define ORBISDIAL_MAINWINDOW_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ModemPanel.h"
 
 #include <vrks_simulated.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The simulated modem's panel: what the modem and its card report, and what a dialling ends with.
 //
 // A change takes effect at once and raises the events that a real modem's would; two buttons raise the events by

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "NetworkKind.h"
 
 #include <vrks.h>

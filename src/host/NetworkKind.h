@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which kind of network the modem is in, as far as plug-ins are told of it.
 #ifndef ORBISDIAL_NETWORKKIND_H
 #define ORBISDIAL_NETWORKKIND_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Makes a profile of the user's own from another one: asks for its name.
 #ifndef ORBISDIAL_NEWPROFILEDIALOG_H
 #define ORBISDIAL_NEWPROFILEDIALOG_H

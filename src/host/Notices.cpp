@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Notices.h"
 
 std::optional<Notice> Notice::of(const ConnectionPicture& before, const ConnectionPicture& now) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which change of the connection is worth a message on the desktop.
 #ifndef ORBISDIAL_NOTICES_H
 #define ORBISDIAL_NOTICES_H

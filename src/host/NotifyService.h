@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Passes events from plug-in to plug-in by class identifier.
 #ifndef ORBISDIAL_NOTIFYSERVICE_H
 #define ORBISDIAL_NOTIFYSERVICE_H

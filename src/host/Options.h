@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's command line.
 #ifndef ORBISDIAL_OPTIONS_H
 #define ORBISDIAL_OPTIONS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loads the plug-ins, starts and stops them, and knows what they offer to the host.
 #ifndef ORBISDIAL_PLUGINMANAGER_H
 #define ORBISDIAL_PLUGINMANAGER_H

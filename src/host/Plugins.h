@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plug-ins that the host itself talks to, as the container finds them now.
 #ifndef ORBISDIAL_PLUGINS_H
 #define ORBISDIAL_PLUGINS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "PresetTree.h"
 
 #include <QCollator>

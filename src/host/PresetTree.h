@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The presets of the world as a tree: countries, their operators, and their plans.
 #ifndef ORBISDIAL_PRESETTREE_H
 #define ORBISDIAL_PRESETTREE_H

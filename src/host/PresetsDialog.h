@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The presets of the whole world: country, operator, plan. One search over all; the details of a plan; a profile of the
 // user's own from it, or a connection with it.
 #ifndef ORBISDIAL_PRESETSDIALOG_H

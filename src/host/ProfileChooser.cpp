@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProfileChooser.h"
 
 #include <QAbstractItemView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The box that chooses the profile to connect with: the user's own ones, then the presets; typing finds.
 #ifndef ORBISDIAL_PROFILECHOOSER_H
 #define ORBISDIAL_PROFILECHOOSER_H

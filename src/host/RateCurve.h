@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small curve of the last minutes' transfer.
 #ifndef ORBISDIAL_RATECURVE_H
 #define ORBISDIAL_RATECURVE_H

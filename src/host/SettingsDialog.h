@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings: the pages of the plug-ins and the program's own.
 #ifndef ORBISDIAL_SETTINGSDIALOG_H
 #define ORBISDIAL_SETTINGSDIALOG_H

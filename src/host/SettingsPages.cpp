@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SettingsPages.h"
 
 #include <QBoxLayout>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings pages: a list on the left, the chosen page on the right, OK and Cancel below.
 //
 // Nothing is asked of a page before it is shown. A page that refuses (its changes can't be saved) stays as it is,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One program for each data and configuration folder: a second start raises the first one's window and ends.
 #ifndef ORBISDIAL_SINGLEINSTANCE_H
 #define ORBISDIAL_SINGLEINSTANCE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sign of a state, and the bars of a signal.
 #ifndef ORBISDIAL_STATESIGN_H
 #define ORBISDIAL_STATESIGN_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The icon in the desktop's tray: the state, a menu, and messages about changes.
 #ifndef ORBISDIAL_TRAY_H
 #define ORBISDIAL_TRAY_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Unlocks the SIM card: asks for its PIN, or for its PUK and a new PIN.
 #ifndef ORBISDIAL_UNLOCKDIALOG_H
 #define ORBISDIAL_UNLOCKDIALOG_H

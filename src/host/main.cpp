@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // orbisdial: the reference host. Exit status: 0 done, 1 something can't be written or memory is out, 2 wrong
 // usage.
 #include <vrks_simulated.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The part of the mobile-broadband operator database that presets are made of.
 //
 // The database is the public-domain serviceproviders.xml, format 2.0, of mobile-broadband-provider-info.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preset profiles, and which of them a SIM card's network code selects.
 #ifndef ORBISDIAL_PRESETCATALOGUE_H
 #define ORBISDIAL_PRESETCATALOGUE_H

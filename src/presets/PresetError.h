@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What ends a run of the preset tool: one line for the person who runs it.
 #ifndef ORBISDIAL_PRESETERROR_H
 #define ORBISDIAL_PRESETERROR_H

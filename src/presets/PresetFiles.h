@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The files that the preset tool reads beside the database, and those it writes.
 #ifndef ORBISDIAL_PRESETFILES_H
 #define ORBISDIAL_PRESETFILES_H

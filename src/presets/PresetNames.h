@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The names of preset profiles, such as "DE Provider - Label".
 #ifndef ORBISDIAL_PRESETNAMES_H
 #define ORBISDIAL_PRESETNAMES_H

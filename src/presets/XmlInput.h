@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An XML input file, in memory from construction on. Whatever is wrong with it ends in a PresetError that names the
 // place.
 #ifndef ORBISDIAL_XMLINPUT_H

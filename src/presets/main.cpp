@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // orbis-presets: makes the shipped profile library, the configuration with the presets of the world's operators, and
 // the index that tells whose they are.
 //

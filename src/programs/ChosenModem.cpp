@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ChosenModem.h"
 
 #include <vrks_simulated.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The modem that the user chose among several; every program of ours uses it.
 #ifndef ORBISDIAL_PROGRAMS_CHOSENMODEM_H
 #define ORBISDIAL_PROGRAMS_CHOSENMODEM_H

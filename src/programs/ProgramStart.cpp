@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProgramStart.h"
 
 #include <fcntl.h>

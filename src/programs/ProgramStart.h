@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What every program does before anything else.
 #ifndef ORBISDIAL_PROGRAMS_PROGRAMSTART_H
 #define ORBISDIAL_PROGRAMS_PROGRAMSTART_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "StandardOutput.h"
 
 #include <poll.h>

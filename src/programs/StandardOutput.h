@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writing to a standard stream, past stdio: that would go round for ever on a device that takes nothing.
 #ifndef ORBISDIAL_PROGRAMS_STANDARDOUTPUT_H
 #define ORBISDIAL_PROGRAMS_STANDARDOUTPUT_H

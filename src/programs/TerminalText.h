@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text that reaches a terminal.
 #ifndef ORBISDIAL_PROGRAMS_TERMINALTEXT_H
 #define ORBISDIAL_PROGRAMS_TERMINALTEXT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is found in files that integrators ship.
 #include <QtTest>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs the real orbisctl in a test's own folders, on a simulated card of the network 26201.
 #ifndef ORBISDIAL_TESTS_ORBISCTLFIXTURE_H
 #define ORBISDIAL_TESTS_ORBISCTLFIXTURE_H

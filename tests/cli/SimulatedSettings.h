@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Settings of the simulated modem, as NAME=VALUE, for the programs that a test runs; taken back at the end.
 #ifndef ORBISDIAL_TESTS_SIMULATEDSETTINGS_H
 #define ORBISDIAL_TESTS_SIMULATEDSETTINGS_H

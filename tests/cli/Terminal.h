@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A program in the foreground of a terminal of its own, as a shell with job control starts it.
 #ifndef ORBISDIAL_TESTS_TERMINAL_H
 #define ORBISDIAL_TESTS_TERMINAL_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How orbisctl changes the user's profiles, and what it refuses.
 
 #include "OrbisctlFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Connecting, and what belongs to it, on the simulated modem.
 
 #include <csignal>

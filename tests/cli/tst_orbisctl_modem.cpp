@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which modem orbisctl uses, what it tells of it, and how it unlocks a card.
 
 #include "OrbisctlFixture.h"

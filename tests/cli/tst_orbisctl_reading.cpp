@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What orbisctl shows, and what it says when it can't.
 
 #include "OrbisctlFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What orbisctl lets a terminal see, and how it leaves one behind.
 
 #include "OrbisctlFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When to connect by itself: with a clock, a modem and a network that the test moves.
 #include "AutoConnectPolicy.h"
 #include "Rows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From a profile to a call, what is said of connections, the settings, the rate.
 #include <vrks_simulated.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What each card moved, counted by one program and by several, in a file that may be damaged.
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A module in the real one's place. STANDIN says what is wrong with it: "absent" is not available, "null" can't be
 // made, a number is after how many milliseconds its picture comes.
 #include <cstdlib>

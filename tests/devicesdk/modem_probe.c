@@ -1,3 +1,4 @@
+/* SPDX-License-Identifier: MIT */
 /* A program in C, without any event loop, that lives with real modems: prints the modem's status, or "?" when nothing
  * can tell it, at first and at each change, and ends when its input does. "once" ends after the first; "time" prints
  * the microseconds that it took instead; "fork" prints how many calls succeed in a child instead; "exit" ends within an

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The device SDK: what each environment makes of it, its events, and the user data directory.
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the SDK answers for what ModemManager says: no bus, no daemon.
 #include <QtTest>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Modems and their choice, unlocking, data connections and USSD on the simulated modems, and the events of all that.
 #include <QSemaphore>
 #include <algorithm>

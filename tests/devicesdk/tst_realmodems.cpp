@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The device SDK beside the real ModemManager and scripted modems.
 #include <QElapsedTimer>
 #include <QLocalServer>

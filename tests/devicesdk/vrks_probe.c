@@ -1,3 +1,4 @@
+/* SPDX-License-Identifier: MIT */
 /* A program in C on the device SDK. Without an argument it prints the backend's name and the problem, and
  * ends with the number of device calls that did anything. With "status" it ends with the modem's status, or 9. With
  * "fork" it ends with that number for a child that it makes while an event is delivered. With another it ends itself

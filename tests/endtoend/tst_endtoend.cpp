@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's window as a person drives it, from the first start to the second: every step builds on the ones
 // before it. The first start is in the system's language, English or Arabic, the second in the other.
 #include <QLabel>

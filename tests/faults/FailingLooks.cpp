@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lets one look at a file fail: $ORBISDIAL_TEST_LOOK is "n:errno:its name". The n-th open to read, read or stat
 // of it then fails, and the file named by $ORBISDIAL_TEST_LOOK_FAILED is made. The calls are defined here, which the
 // linker prefers to the C library's, and are passed on.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The profile logic in this process and orbisctl in another, on the same folders.
 #ifndef ORBISDIAL_TESTS_FAULTSFIXTURE_H
 #define ORBISDIAL_TESTS_FAULTSFIXTURE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The calls are defined here, which the linker prefers to the C library's, and are passed on.
 
 #include "FaultySystem.h"

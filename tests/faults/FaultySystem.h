@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Puts a fault into the system calls of a save, in every program that FaultySystem.cpp is linked into.
 #ifndef ORBISDIAL_TESTS_FAULTYSYSTEM_H
 #define ORBISDIAL_TESTS_FAULTYSYSTEM_H

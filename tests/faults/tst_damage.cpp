@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A user file that was cut anywhere: what is readable is shown, and the damaged file is kept before it is replaced.
 
 #include "LogicFixture.h"

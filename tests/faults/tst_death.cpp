@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A save that dies at any of its system calls leaves the file wholly old or wholly new, and the next start reads it.
 
 #include <sys/wait.h>

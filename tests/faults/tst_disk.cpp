@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A disk that fails at any step of a save: the old file stays, the caller gets 25, and the person gets one line.
 
 #include <errno.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One look at the user's file fails, whichever and however: the command fails with a line and the file is as it was, or
 // it did what it was told and nothing is lost.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Shared folders and root: nobody is led to write into another's file, and everybody can read what is his.
 
 #include <fcntl.h>

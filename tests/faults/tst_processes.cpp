@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The logic in this process and orbisctl in others change the same file at the same time.
 
 #include <sys/wait.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A password with a mark goes through everything that one can do with a profile: the mark is found nowhere but where
 // it belongs. orbisctl says what the logic traces, and the problems that arise.
 

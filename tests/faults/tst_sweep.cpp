@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every system call of every operation fails once, with every error: the file is wholly old or wholly new, what was not
 // stored is answered and explained, and nothing is left beside the file.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The writer and the scanner of our own documents do what Qt's writer and reader do; the index of the operators.
 
 #include <QRandomGenerator>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the fuzz targets share: folders of the process's own, and checks that end it.
 #ifndef ORBISDIAL_TESTS_FUZZFOLDER_H
 #define ORBISDIAL_TESTS_FUZZFOLDER_H

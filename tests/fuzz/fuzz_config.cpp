@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reader of the configuration, and the logic that asks it, for a card that serves two modes.
 
 #include "FuzzFolder.h"

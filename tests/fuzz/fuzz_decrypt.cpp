@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The opening of sealed texts: what was never sealed comes back as it is, and what is sealed opens again.
 
 #include <cstring>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preset tool, from the operator database to the texts of the files: it succeeds or says what is wrong.
 
 #include "FuzzFolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The reader of profile files. Whatever it takes in can be written as the user's file and reads back the same.
 
 #include "FuzzFolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scanner of our own form, beside Qt's reader: what it takes both say the same of, and what we write it takes.
 
 #include <cstddef>

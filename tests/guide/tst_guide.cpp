@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The guide for authors of plug-ins, followed to the letter: its text is the source of a plug-in that is built against
 // an installed tree, put where the guide says, and loaded.
 #include <QRegularExpression>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A settings service for tests: profiles in memory and a page with one edit.
 //
 // What it answers and what it was asked stand in properties of the application, so that a test reaches them from

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A settings plug-in around FakeProfiles. Its Init() fails when the application's property "fake.initFails" is set.
 #include "FakeProfiles.h"
 #include "INotify.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The dial-up plug-in as a host loads it, on the simulated modem.
 #include <vrks_simulated.h>
 

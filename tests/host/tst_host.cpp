@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's classes in one process, with the fake settings plug-in and the real dial-up plug-in.
 #include <vrks_simulated.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program as a user starts it: arguments, exit status, and the picture.
 #include <signal.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the window and the tray say of what is known, without a window.
 #include <vrks.h>
 

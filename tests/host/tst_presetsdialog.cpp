@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The presets of the world in the host's window, with the real plug-ins and a small library.
 #include <vrks_simulated.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the host core library does without a window: sealed texts, settings, places, the container.
 #include <QtTest>
 #include <memory>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the host core library does in an application with windows: the translator (languages,
 // fallbacks) and the message box.
 #include <QLabel>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tests of the profile logic share: shipped files to start from, and a logic that is made anew.
 #ifndef ORBISDIAL_LOGICFIXTURE_H
 #define ORBISDIAL_LOGICFIXTURE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // NetConnectConfig.xml: groups, modules, sections, prompt items, and the mode default.
 
 #include "CommonUtilsBase.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which default the user's file keeps while cards, browsed files and card modes come and go.
 
 #include <QtTest>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a save guarantees: a file keeps its mode and its links, a damaged one is kept, and what another process wrote
 // is taken in. Writers that die and disks that fail are in tests/faults.
 

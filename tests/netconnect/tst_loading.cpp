@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The logic's loading, presets, function queries, device events and passwords.
 
 #include "Change.h"

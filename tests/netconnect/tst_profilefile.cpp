@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Profile files: what is read, what is written, and what broken ones do.
 
 #include <sys/stat.h>

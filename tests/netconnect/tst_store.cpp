@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Listing, adding, deleting, replacing and the default profile.
 
 #include <QRandomGenerator>

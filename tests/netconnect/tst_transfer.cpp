@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Import and export. The page's tests answer its real questions.
 
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Clicks widgets and answers modal windows the way a person does: by their real buttons.
 #ifndef ORBISDIAL_ANSWERS_H
 #define ORBISDIAL_ANSWERS_H

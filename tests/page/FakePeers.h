@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The peers that the page finds in the container: they record what they are told and answer as set.
 #ifndef ORBISDIAL_FAKEPEERS_H
 #define ORBISDIAL_FAKEPEERS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The plug-in, loaded as a host loads it, with its page shown in a window and its peers in the container.
 #ifndef ORBISDIAL_PAGEFIXTURE_H
 #define ORBISDIAL_PAGEFIXTURE_H

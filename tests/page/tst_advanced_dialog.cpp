@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The advanced dialog by itself, and brought to life by the page.
 #include <QApplication>
 #include <QRadioButton>

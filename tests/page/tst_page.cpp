@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The page's widgets, texts and locks, and what the host's settings dialog asks of it.
 #include <QElapsedTimer>
 #include <QLabel>

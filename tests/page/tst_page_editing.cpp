@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // New, edit, save, undo, delete and default, by clicks, with everything that can come in between.
 #include "PageFixture.h"
 

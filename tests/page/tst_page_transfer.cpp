@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The import/export dialog: its tree, its file dialogs, its questions.
 #include <QCheckBox>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The library as a loader meets it: its symbols, its virtual tables, its entry object's life.
 #include <QJsonObject>
 #include <QLibrary>

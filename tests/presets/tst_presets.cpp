@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The preset tool, run as a program on small databases, and the files that it made of the real one.
 #include <QXmlStreamReader>
 

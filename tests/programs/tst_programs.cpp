@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What all programs have in common: where they look for libraries, who may look into them, and how they end when the
 // system has something missing.
 

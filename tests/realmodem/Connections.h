@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a test of connections asks and sees of the SDK.
 #ifndef ORBISDIAL_TESTS_CONNECTIONS_H
 #define ORBISDIAL_TESTS_CONNECTIONS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The daemons and modems beside which a test program runs; what each does is told at the top of stack.py.
 #ifndef ORBISDIAL_TESTS_STACK_H
 #define ORBISDIAL_TESTS_STACK_H

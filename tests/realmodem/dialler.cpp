@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Dials at once for a test, as a program of ours does, and stays until its standard input ends:
 // dialler NAME BOUND [USER-ID]
 #include <poll.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Data connections of the SDK, dialled by the real NetworkManager over scripted modems.
 #include <arpa/inet.h>
 #include <sys/socket.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What NetworkManager is given to dial with, and what its failures mean; without a bus.
 #include <NetworkManager.h>
 

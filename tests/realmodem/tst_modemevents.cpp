@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What real modems do, as a person sees it: each event at the device SDK, at orbisctl, in the window and on its page.
 // Every step builds on the ones before it.
 #include <sys/stat.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the programs without windows load and hold.
 #include <QProcess>
 #include <QTest>

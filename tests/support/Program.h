@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs a program to its end, as a person at a shell does.
 #ifndef ORBISDIAL_PROGRAM_H
 #define ORBISDIAL_PROGRAM_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The columns and rows of a test's data, a line each.
 #ifndef ORBISDIAL_TESTS_ROWS_H
 #define ORBISDIAL_TESTS_ROWS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whether the scanner says of a document what Qt's reader says of it, or nothing.
 #ifndef ORBISDIAL_TESTS_SCANNERORACLE_H
 #define ORBISDIAL_TESTS_SCANNERORACLE_H

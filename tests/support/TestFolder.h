@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A test's own folders: user data, host settings and a library path with shipped files, all temporary.
 #ifndef ORBISDIAL_TESTFOLDER_H
 #define ORBISDIAL_TESTFOLDER_H

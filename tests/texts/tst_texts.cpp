@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Holds the texts of all languages against the code that shows them and against each other.
 #include <QDirIterator>
 #include <QMap>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The device's thread floods the plug-in with events while the GUI thread uses, ends and remakes it. Under
 // ThreadSanitizer this shows races; anywhere it shows deadlocks (by ctest's limit) and events that come too late.
 #include <QSemaphore>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "NetConnectConfigDocument.h"
 
 #include "XmlScanner.h"

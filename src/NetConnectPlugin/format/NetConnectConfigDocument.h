@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What NetConnectConfig.xml says, element by element: the file is parsed once, however many of its parts are asked for.
 #ifndef ORBISDIAL_NETCONNECTCONFIGDOCUMENT_H
 #define ORBISDIAL_NETCONNECTCONFIGDOCUMENT_H

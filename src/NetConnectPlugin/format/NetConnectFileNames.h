@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the plug-in's files are called.
 #ifndef ORBISDIAL_NETCONNECTFILENAMES_H
 #define ORBISDIAL_NETCONNECTFILENAMES_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What makes a profile that a person typed acceptable. The page and the command line judge by these.
 #ifndef ORBISDIAL_NETCONNECTPROFILERULES_H
 #define ORBISDIAL_NETCONNECTPROFILERULES_H

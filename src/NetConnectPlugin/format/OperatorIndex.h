@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Operators.xml: which operators and plans the library's presets belong to, what their SIM cards may call them, and how
 // their balance is asked for. Written by orbis-presets; read here.
 #ifndef ORBISDIAL_OPERATORINDEX_H

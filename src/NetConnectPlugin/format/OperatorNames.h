@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whether two names stand for the same operator, such as "ALDI TALK" on a SIM card and "AldiTalk/MedionMobile".
 #ifndef ORBISDIAL_OPERATORNAMES_H
 #define ORBISDIAL_OPERATORNAMES_H

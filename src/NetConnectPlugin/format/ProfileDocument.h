@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What one profile file says: its profiles and the defaults that it names, read from XML and written as XML.
 #ifndef ORBISDIAL_PROFILEDOCUMENT_H
 #define ORBISDIAL_PROFILEDOCUMENT_H

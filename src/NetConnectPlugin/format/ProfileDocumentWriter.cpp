@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProfileDocumentWriter.h"
 
 #include <string.h>

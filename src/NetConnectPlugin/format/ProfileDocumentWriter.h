@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes documents of the profile format into memory.
 #ifndef ORBISDIAL_PROFILEDOCUMENTWRITER_H
 #define ORBISDIAL_PROFILEDOCUMENTWRITER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The truth values of profiles and configuration, which are texts.
 #ifndef ORBISDIAL_TRUTHTEXT_H
 #define ORBISDIAL_TRUTHTEXT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What is asked of a document before a reader may have it.
 //
 // The reader's time grows with the square of an element's attributes and with the namespaces in force, its memory with

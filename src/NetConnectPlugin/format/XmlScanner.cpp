@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "XmlScanner.h"
 
 #include "XmlText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads XML in the plain form that our own tools write, several times as fast as Qt's reader, which is there for
 // everything else.
 #ifndef ORBISDIAL_XMLSCANNER_H

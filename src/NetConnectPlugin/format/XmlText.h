@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the readers and writers of XML share.
 #ifndef ORBISDIAL_XMLTEXT_H
 #define ORBISDIAL_XMLTEXT_H

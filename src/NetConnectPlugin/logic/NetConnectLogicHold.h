@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Holds the logic's mutex during one of its operations.
 #ifndef ORBISDIAL_NETCONNECTLOGICHOLD_H
 #define ORBISDIAL_NETCONNECTLOGICHOLD_H

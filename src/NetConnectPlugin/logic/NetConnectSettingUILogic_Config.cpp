@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Queries of the function configuration.
 
 #include "NetConnectSettingUILogic.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The default profile.
 
 #include "NetConnectLogicHold.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The presets that the SIM's IMSI or the configuration selects.
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Edits that meet what other programs stored while they were open.
 
 #include "NetConnectSettingUILogic.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sealing and opening of passwords.
 
 #include <sodium.h>

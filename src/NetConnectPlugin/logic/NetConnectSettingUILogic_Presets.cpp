@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The shipped library as a whole: whose its presets are, and which networks select them.
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the logic asks on the screen. A library of its own, so that a program without windows needs none of theirs.
 
 #include "Change.h"

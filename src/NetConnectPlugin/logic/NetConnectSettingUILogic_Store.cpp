@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Listing, fetching, adding, deleting and replacing of profiles.
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading of NetConnectConfig.xml and Operators.xml.
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reading and writing of profile files.
 
 #include <new>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The template for new profiles, in the system profile file.
 
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Says at a widget that what is set there has no effect on a connection.
 #ifndef ORBISDIAL_NETCONNECTFIELDNOTE_H
 #define ORBISDIAL_NETCONNECTFIELDNOTE_H

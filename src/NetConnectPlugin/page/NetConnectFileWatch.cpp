@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "NetConnectFileWatch.h"
 
 #include <QDir>

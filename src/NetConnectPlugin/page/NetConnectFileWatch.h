@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tells that a file may have changed, whoever changed it and however: replaced, written in place, removed, made.
 #ifndef ORBISDIAL_NETCONNECTFILEWATCH_H
 #define ORBISDIAL_NETCONNECTFILEWATCH_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fixed measures that hold for the fonts of an ordinary desktop, and grow with larger ones.
 #ifndef ORBISDIAL_NETCONNECTLEASTSIZE_H
 #define ORBISDIAL_NETCONNECTLEASTSIZE_H

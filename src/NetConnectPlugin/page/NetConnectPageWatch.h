@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Watches the settings page and its surroundings for the service: that the page is being destroyed, whoever destroys
 // it; that it has been painted, or has not been for a while, when a list that takes long to read is filled; that a
 // person turns to it or the dialler tells the host of its state, when a connection may have come up or gone down; that

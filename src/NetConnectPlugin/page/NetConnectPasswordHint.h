@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A line below the password field that warns of a password that can't be kept.
 #ifndef ORBISDIAL_NETCONNECTPASSWORDHINT_H
 #define ORBISDIAL_NETCONNECTPASSWORDHINT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The world's presets and the user's own profiles, as other plug-ins and the host find them in the container.
 #ifndef ORBISDIAL_NETCONNECTPRESETLIBRARY_H
 #define ORBISDIAL_NETCONNECTPRESETLIBRARY_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lets as many reloads through as the GUI thread can bear.
 #ifndef ORBISDIAL_NETCONNECTRELOADGATE_H
 #define ORBISDIAL_NETCONNECTRELOADGATE_H

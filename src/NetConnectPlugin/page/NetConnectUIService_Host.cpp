@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CallTrace.h"
 #include "CommonUtils.h"
 #include "NetConnectSettingUILogic.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CallTrace.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"

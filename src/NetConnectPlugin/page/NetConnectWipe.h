@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Overwrites texts that must not stay in memory longer than they are needed.
 #ifndef ORBISDIAL_NETCONNECTWIPE_H
 #define ORBISDIAL_NETCONNECTWIPE_H

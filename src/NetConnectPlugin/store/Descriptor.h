@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An open file descriptor that closes itself, and the words for a system call that failed.
 #ifndef ORBISDIAL_DESCRIPTOR_H
 #define ORBISDIAL_DESCRIPTOR_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "FilePlace.h"
 
 #include <limits.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a path leads: a folder, held open, and a name in it.
 #ifndef ORBISDIAL_FILEPLACE_H
 #define ORBISDIAL_FILEPLACE_H

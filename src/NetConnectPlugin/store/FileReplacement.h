@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads and replaces whole files so that a death at any moment leaves the old content or the new one. For one thread.
 #ifndef ORBISDIAL_FILEREPLACEMENT_H
 #define ORBISDIAL_FILEREPLACEMENT_H

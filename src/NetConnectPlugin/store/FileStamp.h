@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tells whether a file is still the one that was read.
 #ifndef ORBISDIAL_FILESTAMP_H
 #define ORBISDIAL_FILESTAMP_H

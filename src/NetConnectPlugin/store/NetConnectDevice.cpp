@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "NetConnectDevice.h"
 
 #include <string.h>

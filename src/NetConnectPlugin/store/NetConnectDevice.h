@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the plug-in asks the device SDK, in Qt's types. Nothing else of the plug-in knows the SDK's records and sizes.
 #ifndef ORBISDIAL_NETCONNECTDEVICE_H
 #define ORBISDIAL_NETCONNECTDEVICE_H

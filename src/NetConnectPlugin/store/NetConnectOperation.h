@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One operation of the logic on the user's profiles: locks, takes in, and writes or gathers.
 #ifndef ORBISDIAL_NETCONNECTOPERATION_H
 #define ORBISDIAL_NETCONNECTOPERATION_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The status numbers of the profile logic and of the file layer, which hosts and other plug-ins see.
 #ifndef ORBISDIAL_NETCONNECTSTATUS_H
 #define ORBISDIAL_NETCONNECTSTATUS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The last thing that went wrong with a file of the plug-in, for a person to read.
 #ifndef ORBISDIAL_NETCONNECTSTORAGEPROBLEM_H
 #define ORBISDIAL_NETCONNECTSTORAGEPROBLEM_H

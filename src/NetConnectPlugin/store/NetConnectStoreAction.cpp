@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "NetConnectStoreAction.h"
 
 #include "NetConnectOperation.h"

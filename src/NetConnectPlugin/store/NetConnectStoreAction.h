@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Gathers the writes of one action into one rewrite of the user's profile file.
 #ifndef ORBISDIAL_NETCONNECTSTOREACTION_H
 #define ORBISDIAL_NETCONNECTSTOREACTION_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ProfileIndex.h"
 
 static int firstPlace(const QList<DialupProfile>& profiles, const QString& name) {

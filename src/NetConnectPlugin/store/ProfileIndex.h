@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Finds profiles by name.
 #ifndef ORBISDIAL_PROFILEINDEX_H
 #define ORBISDIAL_PROFILEINDEX_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "UserFileLock.h"
 
 #include <sys/file.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keeps other processes from changing a file.
 #ifndef ORBISDIAL_USERFILELOCK_H
 #define ORBISDIAL_USERFILELOCK_H

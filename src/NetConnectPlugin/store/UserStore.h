@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The user's profiles and default profile, between memory and the user's file.
 #ifndef ORBISDIAL_USERSTORE_H
 #define ORBISDIAL_USERSTORE_H

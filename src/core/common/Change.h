@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's translator: string IDs to texts of the current language.
 #ifndef ORBISDIAL_CHANGE_H
 #define ORBISDIAL_CHANGE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the host core library offers to every plug-in: messages and windows here, settings, places and sealed texts in
 // CommonUtilsBase. GUI thread, where the base says nothing else.
 #ifndef ORBISDIAL_COMMONUTILS_H

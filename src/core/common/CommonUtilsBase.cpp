@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CommonUtilsBase.h"
 
 #include <dlfcn.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the host core library offers without a window: settings, places, sealed texts.
 //
 // Encrypt, Decrypt, CryptLocalFree, ParanthesisCorrection, GetConfigurationFolders and GetPluginLibraryPath are safe

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sealed form of texts: mark, then base64 of nonce and box.
 #include <sodium.h>
 

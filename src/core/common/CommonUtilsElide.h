@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the elided-text templates of CommonUtils have in common.
 #ifndef ORBISDIAL_COMMONUTILSELIDE_H
 #define ORBISDIAL_COMMONUTILSELIDE_H

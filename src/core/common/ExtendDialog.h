@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's dialog frame: hosts one main widget.
 #ifndef ORBISDIAL_EXTENDDIALOG_H
 #define ORBISDIAL_EXTENDDIALOG_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's line edit: a QLineEdit, so that the host's style sheets can tell it apart.
 #ifndef ORBISDIAL_EXTENDLINEEDIT_H
 #define ORBISDIAL_EXTENDLINEEDIT_H

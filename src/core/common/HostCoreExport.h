@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Marks what the host core library exports.
 #ifndef ORBISDIAL_HOSTCOREEXPORT_H
 #define ORBISDIAL_HOSTCOREEXPORT_H

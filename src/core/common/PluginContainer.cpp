@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "PluginContainer.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's plug-in container.
 #ifndef ORBISDIAL_PLUGINCONTAINER_H
 #define ORBISDIAL_PLUGINCONTAINER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How sealed texts are told from others.
 #ifndef ORBISDIAL_SEALEDTEXT_H
 #define ORBISDIAL_SEALEDTEXT_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Startup.h"
 
 #include "PluginContainer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's start-up object: where plug-ins find the container.
 #ifndef ORBISDIAL_STARTUP_H
 #define ORBISDIAL_STARTUP_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "BearerErrors.h"
 
 #include <ModemManager.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What ModemManager's bearers said when they could not connect or were cut off: NetworkManager keeps it to itself.
 #ifndef ORBISDIAL_BEARERERRORS_H
 #define ORBISDIAL_BEARERERRORS_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "CardUnlocking.h"
 
 #include "RemoteError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Unlocks the card of the modem in use.
 #ifndef ORBISDIAL_CARDUNLOCKING_H
 #define ORBISDIAL_CARDUNLOCKING_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From what was seen when a connection failed or ended to what the program is told.
 #ifndef ORBISDIAL_CONNECTIONFAILURE_H
 #define ORBISDIAL_CONNECTIONFAILURE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the backend and the part of it that connects know of each other.
 #ifndef ORBISDIAL_CONNECTIONPART_H
 #define ORBISDIAL_CONNECTIONPART_H

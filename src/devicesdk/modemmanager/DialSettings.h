@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What NetworkManager is given to dial with.
 #ifndef ORBISDIAL_DIALSETTINGS_H
 #define ORBISDIAL_DIALSETTINGS_H

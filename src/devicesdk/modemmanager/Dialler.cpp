@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Dialler.h"
 
 #include <pwd.h>

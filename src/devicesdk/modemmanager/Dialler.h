@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Dials with NetworkManager, and tells of the connections that other processes of ours dialled.
 //
 // The machine behind it is in Dialler.cpp, what it tells in Dialler_Picture.cpp.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the picture shows of the connection.
 #include "Dialler.h"
 

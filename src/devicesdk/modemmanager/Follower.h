@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hears of the changes of one object at a time.
 #ifndef ORBISDIAL_FOLLOWER_H
 #define ORBISDIAL_FOLLOWER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the processes of ours tell one another that somebody hangs up: NetworkManager tells only that it was asked to.
 #ifndef ORBISDIAL_HANGUPSIGNAL_H
 #define ORBISDIAL_HANGUPSIGNAL_H

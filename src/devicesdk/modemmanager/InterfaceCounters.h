@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the kernel counts on a network interface.
 #ifndef ORBISDIAL_INTERFACECOUNTERS_H
 #define ORBISDIAL_INTERFACECOUNTERS_H

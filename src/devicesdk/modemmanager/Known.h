@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What ModemManager says, as plain values.
 #ifndef ORBISDIAL_KNOWN_H
 #define ORBISDIAL_KNOWN_H

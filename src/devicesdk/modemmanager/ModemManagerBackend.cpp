@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ModemManagerBackend.h"
 
 #include "Dialler.h"

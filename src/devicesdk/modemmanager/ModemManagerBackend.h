@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Real modems, through ModemManager.
 #ifndef ORBISDIAL_MODEMMANAGERBACKEND_H
 #define ORBISDIAL_MODEMMANAGERBACKEND_H

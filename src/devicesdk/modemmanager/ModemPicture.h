@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From what ModemManager says to what the SDK answers.
 #ifndef ORBISDIAL_MODEMPICTURE_H
 #define ORBISDIAL_MODEMPICTURE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ModemReading.h"
 
 #include "Ref.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Reads libmm-glib's objects into plain values.
 #ifndef ORBISDIAL_MODEMREADING_H
 #define ORBISDIAL_MODEMREADING_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ModemWatch.h"
 
 #include <climits>

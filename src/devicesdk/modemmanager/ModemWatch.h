@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Watches ModemManager, its modems and their cards.
 #ifndef ORBISDIAL_MODEMWATCH_H
 #define ORBISDIAL_MODEMWATCH_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the SDK finds when it loads this module.
 #include <ModemManager.h>
 

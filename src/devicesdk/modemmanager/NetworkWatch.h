@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // NetworkManager, as far as it concerns modems.
 #ifndef ORBISDIAL_NETWORKWATCH_H
 #define ORBISDIAL_NETWORKWATCH_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "PictureBoard.h"
 
 bool PictureBoard::change(const std::function<bool(Picture& picture)>& edit) {

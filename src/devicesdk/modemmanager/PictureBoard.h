@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The picture that the parts of the backend edit together.
 #ifndef ORBISDIAL_PICTUREBOARD_H
 #define ORBISDIAL_PICTUREBOARD_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Owners of what GLib counts and allocates.
 #ifndef ORBISDIAL_REF_H
 #define ORBISDIAL_REF_H

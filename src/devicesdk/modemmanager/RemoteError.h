@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What went wrong at ModemManager, in the SDK's terms.
 #ifndef ORBISDIAL_REMOTEERROR_H
 #define ORBISDIAL_REMOTEERROR_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SessionStart.h"
 
 void SessionStart::ask(MMModem* modem, Answer answer) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When a modem's data session began, as ModemManager tells.
 #ifndef ORBISDIAL_SESSIONSTART_H
 #define ORBISDIAL_SESSIONSTART_H

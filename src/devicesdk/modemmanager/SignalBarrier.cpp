@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SignalBarrier.h"
 
 #include "Ref.h"

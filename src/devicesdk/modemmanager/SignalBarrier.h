@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Waits for the signals that an answer has overtaken.
 #ifndef ORBISDIAL_SIGNALBARRIER_H
 #define ORBISDIAL_SIGNALBARRIER_H

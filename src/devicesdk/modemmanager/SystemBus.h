@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The module's own connection to the system bus.
 #ifndef ORBISDIAL_SYSTEMBUS_H
 #define ORBISDIAL_SYSTEMBUS_H

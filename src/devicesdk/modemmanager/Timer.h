@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Something to do later on the thread, unless it is given up before.
 #ifndef ORBISDIAL_TIMER_H
 #define ORBISDIAL_TIMER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The USSD session of the modem in use.
 #ifndef ORBISDIAL_USSDSESSION_H
 #define ORBISDIAL_USSDSESSION_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The one thread on which the module talks to the bus.
 #ifndef ORBISDIAL_WORKERTHREAD_H
 #define ORBISDIAL_WORKERTHREAD_H

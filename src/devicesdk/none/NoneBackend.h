@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // No modem: every device call fails.
 #ifndef ORBISDIAL_NONEBACKEND_H
 #define ORBISDIAL_NONEBACKEND_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Later.h"
 
 using Clock = std::chrono::steady_clock;

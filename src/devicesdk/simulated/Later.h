@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs tasks later, on a thread of its own.
 #ifndef ORBISDIAL_LATER_H
 #define ORBISDIAL_LATER_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "SimulatedBackend.h"
 
 #include <ctime>

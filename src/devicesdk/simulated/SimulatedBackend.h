@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Modems that exist only in the process's environment and memory.
 #ifndef ORBISDIAL_SIMULATEDBACKEND_H
 #define ORBISDIAL_SIMULATEDBACKEND_H

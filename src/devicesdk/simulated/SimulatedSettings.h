@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the environment and vrks_simulated.h make of the simulated modems and their network.
 #ifndef ORBISDIAL_SIMULATEDSETTINGS_H
 #define ORBISDIAL_SIMULATEDSETTINGS_H

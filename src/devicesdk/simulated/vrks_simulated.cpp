@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "vrks_simulated.h"
 
 #include <cstring>
