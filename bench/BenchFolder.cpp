@@ -63,7 +63,7 @@ QByteArray BenchFolder::configuration(int presets, const QList<DialupProfile>& l
 }
 
 void BenchFolder::shipPresets() const {
-    for (const char* name : {"NetConnectConfig.xml", "ProfileLib.prof", "SysProfile.prof"}) {
+    for (const char* name : {"NetConnectConfig.xml", "Operators.xml", "ProfileLib.prof", "SysProfile.prof"}) {
         const QByteArray content = read(QString(SHIPPED_DIR "/") + name);
         Measure::require(!content.isEmpty(), name);
         ship(name, content);

@@ -1,17 +1,33 @@
 // SPDX-License-Identifier: MIT
-// The program's window until its first paint, beside whatever modems there are.
+// The program's window until its first paint, beside whatever modems there are; with the argument "presets" until that
+// of the dialog of the world's presets in it, with "tray" until the icon stands in the tray and there is no window.
 
 #include <QLoggingCategory>
+#include <QTimer>
 
 #include "Change.h"
 #include "FirstPaint.h"
 #include "Host.h"
 
+static int untilTray() {
+    Tray tray;
+    QTimer::singleShot(0, [] { std::_Exit(EXIT_SUCCESS); });
+    return QApplication::exec();
+}
+
+static int untilPresets(MainWindow* window) {
+    window->openPresets();
+    auto* const list = window->findChild<QWidget*>("Presets_List");
+    return list ? FirstPaint::of(window, list, [] { return true; }) : EXIT_FAILURE;
+}
+
 int main(int argc, char** argv) {
     QLoggingCategory::setFilterRules("default.debug=false\ndefault.warning=false");
     qputenv("ORBISDIAL_DEVICE_WAIT_MS", "0");
     QApplication application(argc, argv);
+    const QString until = application.arguments().value(1);
     Change::SetLanguage("en");
     Host host;
-    return FirstPaint::of(host.window());
+    if (until == "tray") return untilTray();
+    return until == "presets" ? untilPresets(host.window()) : FirstPaint::of(host.window());
 }
