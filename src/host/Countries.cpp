@@ -16,7 +16,7 @@ QString nameIn(const QString& language, const QString& code) {
     const int length =
         uloc_getDisplayCountry(country.constData(), language.toLatin1().constData(), name, LongestName, &error);
     const bool isKnown = U_SUCCESS(error) && length > 0 && length <= LongestName;
-    return isKnown ? QString::fromUtf16(reinterpret_cast<const ushort*>(name), length) : code.toUpper();
+    return isKnown ? QString(reinterpret_cast<const QChar*>(name), length) : code.toUpper();
 }
 
 }  // namespace

@@ -25,6 +25,12 @@ Host::Host() : m_Plugins(&m_NotifyService) {
     // A session that ends waits for no answer; a signal ends the event loop, and the pages go with what is open.
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { m_Window.abandon(); });
 
+    connect(&m_Window, &MainWindow::refreshed, &m_Messages, [this] { m_Messages.refresh(m_Window.picture()); });
+    connect(&m_Messages, &DesktopMessages::clicked, &m_Window, &MainWindow::present);
+    connect(&m_Messages, &DesktopMessages::failed, this, [this](const Notice& notice) {
+        if (m_Tray) m_Tray->say(notice);
+    });
+
     m_Plugins.start(CommonUtils::GetPluginLibraryPath() + QStringLiteral("/plugins"));
     m_Window.setPages(m_Plugins.pages() + QVector<SettingsPage>{{&m_SettingsPage, &m_SettingsPage, "Host", true}});
     m_Window.setProblems(m_Plugins.problems());

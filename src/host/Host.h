@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "DesktopMessages.h"
 #include "DeviceEvents.h"
 #include "HostSettingsPage.h"
 #include "INotify.h"
@@ -49,6 +50,7 @@ private:
     PluginManager m_Plugins;
     HostSettingsPage m_SettingsPage;
     MainWindow m_Window;
+    DesktopMessages m_Messages;
     std::unique_ptr<Tray> m_Tray;
     QTimer m_Refresh;
 };

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Tray.h"
 
-#include "HostSettings.h"
+#include <QSet>
+#include <algorithm>
+
 #include "HostText.h"
-#include "Notices.h"
 #include "Plugins.h"
 #include "StateSign.h"
 
@@ -37,7 +38,6 @@ Tray::Tray(QObject* parent) : QObject(parent) {
 }
 
 void Tray::refresh(const ConnectionPicture& picture) {
-    const auto notice = Notice::of(m_Picture, picture);
     if (picture.sign != m_Picture.sign) m_Icon.setIcon(StateSign::icon(picture.sign));
     m_Picture = picture;
     m_Icon.setToolTip(picture.headline + QLatin1Char('\n') + picture.detail);
@@ -45,9 +45,6 @@ void Tray::refresh(const ConnectionPicture& picture) {
     m_Action->setText(plain(ConnectionPicture::actionText(picture.action)));
     m_Action->setEnabled(picture.isActionAllowed);
     m_Profiles->setEnabled(picture.mayConnect());
-    // What was so before the program started is no news.
-    if (notice && !m_IsFirst) say(notice->title, notice->text, notice->isWarning);
-    m_IsFirst = false;
 }
 
 void Tray::retranslate() {
@@ -56,20 +53,30 @@ void Tray::retranslate() {
     m_Quit->setText(hostText("IDS_HOST_QUIT"));
 }
 
-void Tray::say(const QString& title, const QString& text, bool isWarning) {
-    if (!HostSettings::isOn(HostSettings::Notifies)) return;
-    m_Icon.showMessage(title, text, isWarning ? QSystemTrayIcon::Warning : QSystemTrayIcon::Information);
+void Tray::say(const Notice& notice) {
+    m_Icon.showMessage(notice.title, notice.text,
+                       notice.isWarning ? QSystemTrayIcon::Warning : QSystemTrayIcon::Information);
 }
 
 void Tray::listProfiles() {
     m_Profiles->clear();
     INetConnectSetting* const profiles = Plugins::profiles();
     if (!profiles) return;
-    QList<QString> names;
-    QString standard;
+    QList<QString> names, own, presets;
     profiles->GetAllDialUpProfile(&names);
-    profiles->GetDefaultDialUpProfileName(&standard);
-    for (const QString& name : names.mid(0, MostProfiles)) {
+    if (IPresetLibrary* const library = Plugins::presets()) library->GetOwnProfileNames(&own);
+    const QSet<QString> mine(own.begin(), own.end());
+    for (const QString& name : qAsConst(names))
+        if (!mine.contains(name)) presets.append(name);
+    addProfiles(own.mid(0, MostProfiles));
+    if (!own.isEmpty() && !presets.isEmpty()) m_Profiles->addSeparator();
+    addProfiles(presets.mid(0, std::max(0, MostProfiles - int(own.size()))));
+}
+
+void Tray::addProfiles(const QStringList& names) {
+    QString standard;
+    Plugins::profiles()->GetDefaultDialUpProfileName(&standard);
+    for (const QString& name : names) {
         const QString text = name == standard ? hostText("IDS_HOST_PROFILE_DEFAULT", {name}) : name;
         m_Profiles->addAction(plain(text), this, [this, name] { emit connectWanted(name); });
     }

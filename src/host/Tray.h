@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The icon in the desktop's tray: the state, a menu, and messages about changes.
+// The icon in the desktop's tray: the state, and a menu.
 #ifndef ORBISDIAL_TRAY_H
 #define ORBISDIAL_TRAY_H
 
@@ -7,6 +7,7 @@
 #include <QSystemTrayIcon>
 
 #include "ConnectionPicture.h"
+#include "Notices.h"
 
 // To be made only where QSystemTrayIcon::isSystemTrayAvailable().
 class Tray : public QObject {
@@ -18,8 +19,8 @@ public:
     void refresh(const ConnectionPicture& picture);
     void retranslate();
 
-    // Unless the user switched messages off.
-    void say(const QString& title, const QString& text, bool isWarning);
+    // Shows a message at the icon, where the desktop has no other place for it.
+    void say(const Notice& notice);
 
     // Tests look into it.
     QMenu* menu() { return &m_Menu; }
@@ -32,6 +33,7 @@ signals:
 
 private:
     void listProfiles();
+    void addProfiles(const QStringList& names);
 
     QSystemTrayIcon m_Icon;
     QMenu m_Menu;
@@ -41,7 +43,6 @@ private:
     QAction* m_Show;
     QAction* m_Quit;
     ConnectionPicture m_Picture;
-    bool m_IsFirst = true;
 };
 
 #endif
