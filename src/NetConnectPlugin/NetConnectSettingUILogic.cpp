@@ -8,8 +8,8 @@
 #include "INetConnectSetting.h"
 #include "NetConnectDevice.h"
 #include "NetConnectLogicHold.h"
-#include "NetConnectOperation.h"
 #include "Trace.h"
+#include "UserStore.h"
 #include "vrks.h"
 
 // Atomic, since the device's thread asks whether there is an instance.

@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include "CommonUtilsBase.h"
-#include "Trace.h"
 
 #ifndef ORBISDIAL_BUILD_TIME
 #define ORBISDIAL_BUILD_TIME "unknown build time"

@@ -2,7 +2,6 @@
 // Queries of the function configuration.
 
 #include "NetConnectSettingUILogic.h"
-#include "Trace.h"
 
 int NetConnectSettingUILogic::GetFunctionConfigValue(QString key, bool* on) {
     if (!on || !m_pFunctionHash) return FileMissing;

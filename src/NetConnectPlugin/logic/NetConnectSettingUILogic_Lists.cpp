@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The presets that the SIM's IMSI or the configuration selects.
 
-#include <algorithm>
-
 #include "NetConnectSettingUILogic.h"
-#include "Trace.h"
 
 namespace {
 

@@ -9,7 +9,6 @@
 #include "NetConnectOperation.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectStoreAction.h"
-#include "Trace.h"
 
 static const char KeyedMethod[] = "2";
 static const char Base64Method[] = "1";
