@@ -103,7 +103,8 @@ private slots:
         QCOMPARE(ScannerOracle::answer<NetConnectConfigDocument>(content), ScannerOracle::Unknown);
     }
 
-    // Elements with attributes of which the former ones had some, at other places and with other values.
+    // Elements with attributes of which the former ones had some, at other places and with other values; some are of
+    // another name between them.
     void scansAttributesInAnyOrder() {
         QRandomGenerator random(4);
         for (int round = 0; round < 300; ++round) {
@@ -115,7 +116,7 @@ private slots:
                 attributes = attributes.mid(random.bounded(4));
                 if (random.bounded(20) == 0) attributes.append(attributes.first());
                 isWellFormed = isWellFormed && !attributes.mid(1).contains(attributes.first());
-                content += "<Profile";
+                content += random.bounded(4) ? "<Profile" : random.bounded(2) ? "<Default" : "<item";
                 for (const QByteArray& name : attributes)
                     content += ' ' + name + "=\"" + QByteArray::number(random.bounded(3)) + '"';
                 content += "/>";

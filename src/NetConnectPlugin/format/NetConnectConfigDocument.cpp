@@ -38,8 +38,12 @@ class ScannedElement {
 public:
     explicit ScannedElement(const XmlScanner& scanner) : m_Scanner(scanner) {}
     bool isNamed(const char* name) const { return m_Scanner.isNamed(name); }
-    QString value(const char* attribute) const { return m_Scanner.value(attribute); }
-    QString commonValue(const char* attribute) const {
+    template <int Size>
+    QString value(const char (&attribute)[Size]) const {
+        return m_Scanner.value(attribute);
+    }
+    template <int Size>
+    QString commonValue(const char (&attribute)[Size]) const {
         const XmlPiece* const piece = m_Scanner.find(attribute);
         if (!piece) return QString();
         if (piece->size == 0) return piece->toString();
@@ -74,7 +78,7 @@ QString UserPrompt::*NetConnectConfigDocument::promptField(const QStringRef& nam
         {QLatin1String("DisableNamePwd"), &UserPrompt::disableNamePwd},
     };
     for (size_t i = 0; i < sizeof(fields) / sizeof(fields[0]); ++i)
-        if (name == fields[i].name) return fields[i].field;
+        if (name.size() == fields[i].name.size() && name == fields[i].name) return fields[i].field;
     return nullptr;
 }
 
@@ -88,7 +92,7 @@ bool NetConnectConfigDocument::scan(const QByteArray& content) {
         if (token == XmlScanner::StartElement)
             scanned.start(element, &place);
         else if (scanner.isNamed("module"))
-            place.module.clear();
+            place.leaveModule();
     }
     *this = scanned;
     return true;
@@ -103,7 +107,7 @@ void NetConnectConfigDocument::read(QXmlStreamReader& reader) {
         if (reader.isStartElement())
             start(XmlReaderElement(reader), &place);
         else if (reader.isEndElement() && reader.name() == QLatin1String("module"))
-            place.module.clear();
+            place.leaveModule();
     }
 }
 
@@ -112,16 +116,17 @@ void NetConnectConfigDocument::start(const Element& element, Place* place) {
     const QString name = element.value("name");
     if (QString UserPrompt::*const field = promptField(QStringRef(&name)))
         promptItems.append(PromptItem(field, element.value("value")));
-    if (element.isNamed("group")) place->group = name;
-    if (element.isNamed("module")) place->module = name;
-    append(*place, configElement(element, name));
+    if (element.isNamed("group")) place->enter(&place->group, name);
+    if (element.isNamed("module")) place->enter(&place->module, name);
+    append(place, configElement(element, name));
 }
 
-void NetConnectConfigDocument::append(const Place& place, const NetConnectConfigElement& element) {
+void NetConnectConfigDocument::append(Place* place, const NetConnectConfigElement& element) {
     if (element.kind == NetConnectConfigElement::Other) return;
-    if (stretches.isEmpty() || stretches.last().group != place.group || stretches.last().module != place.module) {
-        const Stretch stretch = {place.group, place.module, QVector<NetConnectConfigElement>()};
+    if (!place->hasStretch) {
+        const Stretch stretch = {place->group, place->module, QVector<NetConnectConfigElement>()};
         stretches.append(stretch);
+        place->hasStretch = true;
     }
     stretches.last().elements.append(element);
 }

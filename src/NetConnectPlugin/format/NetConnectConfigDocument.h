@@ -50,13 +50,22 @@ struct NetConnectConfigDocument {
 private:
     // The group and the module that an element stands in.
     struct Place {
+        Place() : hasStretch(false) {}
+
+        void enter(QString* part, const QString& name) {
+            *part = name;
+            hasStretch = false;
+        }
+        void leaveModule() { enter(&module, QString()); }
+
         QString group;
         QString module;
+        bool hasStretch;  // the last one is this place's
     };
 
     template <class Element>
     void start(const Element& element, Place* place);
-    void append(const Place& place, const NetConnectConfigElement& element);
+    void append(Place* place, const NetConnectConfigElement& element);
 };
 
 #endif

@@ -90,9 +90,13 @@ public:
     explicit ProfileElements(ProfileDocument* document) : m_Document(document), m_InModeDefaults(false) {}
 
     void start(const Element& element) {
+        QList<DialupProfile>& profiles = m_Document->profiles;
         if (element.isNamed("Profile")) {
-            m_Document->profiles.append(DialupProfile());
-            readProfile(element, &m_Document->profiles.last());
+            if (element.hasFormerNames())
+                profiles.append(profiles.at(profiles.size() - 1));
+            else
+                profiles.append(DialupProfile());
+            readProfile(element, &profiles.last());
         } else if (element.isNamed("Default")) {
             readDefault(element, ProfileDefaultEntry::Plain);
         } else if (element.isNamed(ModeDefaults)) {
@@ -106,9 +110,10 @@ public:
     void endModeDefaults() { m_InModeDefaults = false; }
 
 private:
+    // What the former profile had, too, is there already.
     void readProfile(const Element& element, DialupProfile* profile) {
         int expected = 0;
-        for (int i = 0; i < element.attributeCount(); ++i) {
+        for (int i = element.nextChanged(0); i < element.attributeCount(); i = element.nextChanged(i + 1)) {
             const int field = m_Fields.fieldOf(element.attributeName(i), i, expected);
             if (field < 0) continue;
             profile->*DialupProfileFields[field].member = m_Pool.shared(field, element.attributeValue(i));

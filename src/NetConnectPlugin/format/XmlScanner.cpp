@@ -44,6 +44,15 @@ quint64 markOf(const XmlPiece& name) {
     return quint64(1) << (sum & 63);
 }
 
+// How many of the next bytes are the same at both places.
+int alikeSize(const char* one, const char* other, int most) {
+    const int stride = int(sizeof(quint64));
+    int size = 0;
+    while (most - size >= stride && memcmp(one + size, other + size, sizeof(quint64)) == 0) size += stride;
+    while (size < most && one[size] == other[size]) ++size;
+    return size;
+}
+
 bool isTail(char c) { return (c & 0xc0) == 0x80; }
 
 // The length of the UTF-8 sequence that stands here (RFC 3629); 0 for none, and for what no XML may hold or a byte
@@ -65,10 +74,16 @@ int sequenceAt(const char* at) {
     return isTail(at[3]) ? 4 : 0;
 }
 
+QString squeezed(QString text) {
+    text.squeeze();
+    return text;
+}
+
 }  // namespace
 
 QString XmlPiece::toString() const {
     if (isPlain) return QString::fromLatin1(begin, size);
+    if (!memchr(begin, '&', size_t(size))) return squeezed(QString::fromUtf8(begin, size));
     QByteArray text;
     text.reserve(size);
     for (const char* at = begin; at != begin + size;) {
@@ -76,9 +91,7 @@ QString XmlPiece::toString() const {
         text += reference < 0 ? *at : References[reference].character;
         at += reference < 0 ? 1 : int(strlen(References[reference].text));
     }
-    QString result = QString::fromUtf8(text.constData(), text.size());
-    result.squeeze();
-    return result;
+    return squeezed(QString::fromUtf8(text.constData(), text.size()));
 }
 
 // FNV-1a
@@ -94,28 +107,21 @@ XmlScanner::XmlScanner(const QByteArray& document)
       m_Depth(0),
       m_Elements(0),
       m_IsEmptyElement(false),
+      m_Tag(m_Tags),
       m_AttributeCount(0),
-      m_FormerCount(0),
+      m_Former(nullptr),
+      m_FormerEnd(nullptr),
+      m_FormerCount(-1),
       m_AreNamesFormer(false),
+      m_Changed(0),
       m_AttributeMarks(0) {
     skipIf("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
-}
-
-const XmlPiece* XmlScanner::find(const char* attribute) const {
-    for (int i = 0; i < m_AttributeCount; ++i)
-        if (m_AttributeNames[i] == attribute) return &m_AttributeValues[i];
-    return nullptr;
-}
-
-QString XmlScanner::value(const char* attribute) const {
-    const XmlPiece* const piece = find(attribute);
-    return piece ? piece->toString() : QString();
 }
 
 XmlScanner::Token XmlScanner::next() {
     if (m_IsEmptyElement) return endElement();
     for (;;) {
-        while (is(*m_At, Blank)) ++m_At;
+        skipBlanks();
         if (m_At == m_End) return m_Depth == 0 && m_Elements > 0 ? End : Unknown;
         if (*m_At != '<') return Unknown;
         ++m_At;
@@ -136,6 +142,15 @@ bool XmlScanner::isHere(const XmlPiece& piece) const {
     return piece.size > 0 && m_End - m_At >= piece.size && memcmp(m_At, piece.begin, size_t(piece.size)) == 0;
 }
 
+// A line break and the indentation after it, mostly.
+void XmlScanner::skipBlanks() {
+    if (is(*m_At, Blank)) ++m_At;
+    const char indentation[] = "        ";
+    const int size = int(sizeof(indentation)) - 1;
+    while (m_End - m_At >= size && memcmp(m_At, indentation, size) == 0) m_At += size;
+    while (is(*m_At, Blank)) ++m_At;
+}
+
 bool XmlScanner::skipComment() {
     for (;;) {
         while (is(*m_At, CommentPart)) ++m_At;
@@ -151,11 +166,11 @@ XmlScanner::Token XmlScanner::scanStartTag() {
         return Unknown;
     if (!scanName(&m_Name)) return Unknown;
     m_Open[m_Depth++] = m_Name;
-    m_AttributeCount = 0;
-    m_AreNamesFormer = true;
+    beginAttributes();
     while (*m_At == ' ')
-        if (!scanAttribute()) return Unknown;
-    m_FormerCount = m_AttributeCount;
+        if (!skipFormer() && !scanAttribute()) return Unknown;
+    m_Tag->count = m_AttributeCount;
+    m_Tag->end = m_At;
     m_IsEmptyElement = *m_At == '/';
     if (m_IsEmptyElement) ++m_At;
     if (*m_At != '>') return Unknown;
@@ -165,8 +180,9 @@ XmlScanner::Token XmlScanner::scanStartTag() {
 
 XmlScanner::Token XmlScanner::scanEndTag() {
     ++m_At;
-    if (m_Depth == 0 || !scanName(&m_Name) || !(m_Name == m_Open[m_Depth - 1]) || !skipIf(">")) return Unknown;
-    return endElement();
+    if (m_Depth == 0 || !isHere(m_Open[m_Depth - 1])) return Unknown;
+    m_At += m_Open[m_Depth - 1].size;
+    return skipIf(">") ? endElement() : Unknown;
 }
 
 XmlScanner::Token XmlScanner::endElement() {
@@ -186,23 +202,45 @@ bool XmlScanner::scanName(XmlPiece* name) {
     return name->size <= longest && strncmp(name->begin, "xml", 3) != 0;
 }
 
+void XmlScanner::beginAttributes() {
+    m_Tag = &m_Tags[m_Name.size % TagCount];
+    const bool isKnown = m_Tag->name == m_Name;
+    if (!isKnown) m_Tag->name = m_Name;
+    m_Former = m_Tag->begin;
+    m_FormerEnd = m_Tag->end;
+    m_FormerCount = isKnown ? m_Tag->count : -1;
+    m_Tag->begin = m_At;
+    m_AttributeCount = 0;
+    m_AreNamesFormer = true;
+    m_Changed = 0;
+}
+
+// Goes over the attributes that read alike in the last element of the name; false when there is none here.
+bool XmlScanner::skipFormer() {
+    if (!m_AreNamesFormer || m_AttributeCount >= m_FormerCount) return false;
+    const int alike = alikeSize(m_At, m_Former, int(qMin(m_FormerEnd - m_Former, m_End - m_At)));
+    const int* const sizes = m_Tag->sizes;
+    int size = 0;
+    int place = m_AttributeCount;
+    while (place < m_FormerCount && size + sizes[place] <= alike) size += sizes[place++];
+    if (size == 0) return false;
+    m_AttributeCount = place;
+    m_Former += size;
+    m_At += size;
+    return true;
+}
+
 bool XmlScanner::scanAttribute() {
     if (m_AttributeCount == MostAttributes) return false;
-    if (m_AttributeCount == m_FormerCount) leaveFormer();
-    XmlPiece* const name = &m_AttributeNames[m_AttributeCount];
-    XmlPiece* const whole = &m_Attributes[m_AttributeCount];
-    const char* const begin = m_At;
-    if (isHere(*whole)) {
-        if (!m_AreNamesFormer && !isNewAttribute(*name)) return false;
-        m_At += whole->size;
-    } else {
-        ++m_At;
-        if (!scanAttributeName(name) || m_At[0] != '=' || m_At[1] != '"') return false;
-        m_At += 2;
-        if (!scanValue(&m_AttributeValues[m_AttributeCount])) return false;
-        whole->begin = begin;
-        whole->size = int(m_At - begin);
-    }
+    if (m_AttributeCount >= m_FormerCount) leaveFormer();
+    const char* const begin = m_At++;
+    if (!scanAttributeName(&m_Tag->names[m_AttributeCount]) || m_At[0] != '=' || m_At[1] != '"') return false;
+    m_At += 2;
+    if (!scanValue(&m_Tag->values[m_AttributeCount])) return false;
+    int* const size = &m_Tag->sizes[m_AttributeCount];
+    if (m_AreNamesFormer) m_Former += *size;
+    *size = int(m_At - begin);
+    m_Changed |= quint32(1) << m_AttributeCount;
     ++m_AttributeCount;
     return true;
 }
@@ -217,19 +255,19 @@ bool XmlScanner::scanAttributeName(XmlPiece* name) {
     return m_AreNamesFormer || isNewAttribute(*name);
 }
 
-// From here on the names are not those of the former element, which are known to differ.
+// From here on the names are not those of the last element of the name, which are known to differ.
 void XmlScanner::leaveFormer() {
     if (!m_AreNamesFormer) return;
     m_AreNamesFormer = false;
     m_AttributeMarks = 0;
-    for (int i = 0; i < m_AttributeCount; ++i) m_AttributeMarks |= markOf(m_AttributeNames[i]);
+    for (int i = 0; i < m_AttributeCount; ++i) m_AttributeMarks |= markOf(m_Tag->names[i]);
 }
 
 bool XmlScanner::isNewAttribute(const XmlPiece& name) {
     const quint64 mark = markOf(name);
     if (m_AttributeMarks & mark)
         for (int i = 0; i < m_AttributeCount; ++i)
-            if (m_AttributeNames[i] == name) return false;
+            if (m_Tag->names[i] == name) return false;
     m_AttributeMarks |= mark;
     return true;
 }

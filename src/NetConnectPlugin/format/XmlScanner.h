@@ -33,8 +33,8 @@ uint qHash(const XmlPiece& piece);
 // Whatever is said here is what Qt's reader says of the same document. At the first thing that it does not know the
 // scanner gives up, and the document must be read again as a whole.
 //
-// An element's attributes are mostly those of the element before it, at the same places and often with the same values:
-// what reads alike is compared instead of scanned, and keeps the piece that it has.
+// An element's attributes are mostly those of the last element of its name, at the same places and often with the same
+// values: what reads alike is compared instead of scanned, all of it at once, and keeps the pieces that it has.
 class XmlScanner {
 public:
     enum Token { StartElement, EndElement, End, Unknown };
@@ -50,21 +50,60 @@ public:
 
     // Of the element that starts here.
     int attributeCount() const { return m_AttributeCount; }
-    const XmlPiece& attributeName(int index) const { return m_AttributeNames[index]; }
-    const XmlPiece& attributeValue(int index) const { return m_AttributeValues[index]; }
+    const XmlPiece& attributeName(int index) const { return m_Tag->names[index]; }
+    const XmlPiece& attributeValue(int index) const { return m_Tag->values[index]; }
 
-    // An attribute's value; null for an attribute that is not there.
-    const XmlPiece* find(const char* attribute) const;
-    QString value(const char* attribute) const;
+    // Whether the last element of this name had the same attributes in the same order; their values may differ.
+    bool hasFormerNames() const { return m_AreNamesFormer && m_AttributeCount == m_FormerCount; }
+
+    // The first attribute from a place on that does not have the value, too, that it had there.
+    int nextChanged(int index) const {
+        if (!hasFormerNames()) return index;
+        quint32 changed = m_Changed >> index;
+        if (changed == 0) return m_AttributeCount;
+        for (; !(changed & 1); changed >>= 1) ++index;
+        return index;
+    }
+
+    // An attribute's value; null for an attribute that is not there. The name is a literal, of Size - 1 characters.
+    template <int Size>
+    const XmlPiece* find(const char (&attribute)[Size]) const {
+        for (int i = 0; i < m_AttributeCount; ++i) {
+            const XmlPiece& name = m_Tag->names[i];
+            if (name.size == Size - 1 && memcmp(name.begin, attribute, Size - 1) == 0) return &m_Tag->values[i];
+        }
+        return nullptr;
+    }
+    template <int Size>
+    QString value(const char (&attribute)[Size]) const {
+        const XmlPiece* const piece = find(attribute);
+        return piece ? piece->toString() : QString();
+    }
 
 private:
-    enum { MostDepth = 16 };
+    enum { MostDepth = 16, TagCount = 4 };
+
+    // The attributes of the last element of a name.
+    struct Tag {
+        Tag() : begin(nullptr), end(nullptr), count(0) {}
+
+        XmlPiece name;
+        const char* begin;  // where they stand
+        const char* end;
+        int count;
+        XmlPiece names[MostAttributes];
+        XmlPiece values[MostAttributes];
+        int sizes[MostAttributes];  // in bytes, with the blank before
+    };
 
     Token endElement();
+    void skipBlanks();
     bool skipComment();
     Token scanStartTag();
     Token scanEndTag();
     bool scanName(XmlPiece* name);
+    void beginAttributes();
+    bool skipFormer();
     bool scanAttribute();
     bool scanAttributeName(XmlPiece* name);
     bool scanValue(XmlPiece* value);
@@ -80,13 +119,15 @@ private:
     int m_Depth;
     int m_Elements;
     bool m_IsEmptyElement;
+    Tag m_Tags[TagCount];
+    Tag* m_Tag;  // of the element that started last; up to m_AttributeCount its attributes are this element's already
     int m_AttributeCount;
-    int m_FormerCount;         // of the attributes of the element that started before
+    const char* m_Former;      // in the last element of that name the attribute at the place that is scanned next
+    const char* m_FormerEnd;   // where its attributes end
+    int m_FormerCount;         // how many they are; -1 for no such element
     bool m_AreNamesFormer;     // all of the names so far are those of that element
+    quint32 m_Changed;         // then a bit for each value that is not
     quint64 m_AttributeMarks;  // otherwise a bit for each name, which others may share
-    XmlPiece m_AttributeNames[MostAttributes];
-    XmlPiece m_AttributeValues[MostAttributes];
-    XmlPiece m_Attributes[MostAttributes];  // each with all that belongs to it, as it was last scanned
 };
 
 #endif

@@ -17,6 +17,8 @@ public:
     int attributeCount() const { return m_Attributes.size(); }
     QStringRef attributeName(int index) const { return m_Attributes.at(index).qualifiedName(); }
     QStringRef attributeValue(int index) const { return m_Attributes.at(index).value(); }
+    bool hasFormerNames() const { return false; }
+    int nextChanged(int index) const { return index; }
 
 private:
     const QXmlStreamReader& m_Reader;
