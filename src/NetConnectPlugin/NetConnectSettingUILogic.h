@@ -287,6 +287,7 @@ private:
     int findLibraryProfile(const QString& name);
     bool sealPassword(DialupProfile* profile);
     bool translateUserProfiles();
+    void gatherNames(QList<QString>* names, QSet<QString>* otherNames);
     bool openPassword(DialupProfile* profile);
     void reportUnopened(const DialupProfile& profile);
     int putInPlaceOf(const QString& oldName, const DialupProfile& profile, NetConnectOperation* operation);
@@ -341,6 +342,14 @@ private:
         UserPrompt prompt;
     };
 
+    // What a listing gathered, and from what: as long as that is the same lists, so is the result.
+    struct Listing {
+        QList<DialupProfile> profiles;
+        QStringList presets;
+        QList<QString> names;       // in no order
+        QSet<QString> presetNames;  // those of them that the user has no profile of
+    };
+
     UserStore& m_Store;
     NetConnectXMLParse* m_pXMLParse;
     QHash<QString, NetConnectXML>* m_pProfileTemplateHash;
@@ -377,6 +386,9 @@ private:
     QString m_strCardDefaultProfile;  // the proposal that was last stored for a card
     bool m_bForeignDefault;           // m_strDefaultProfile came from a file that was browsed
     NetConnectDefault m_OwnDefault;   // what it was before
+
+    Listing m_Listing;
+    QList<DialupProfile> m_UntranslatableProfiles;  // the user's, when none of them has a langid
 
     QList<QString> m_UnsortedNames;  // what sortProfileNames was last given, and what it made of it
     QList<QString> m_SortedNames;

@@ -29,15 +29,7 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
     }
     QSet<QString> otherNames;
     for (int i = 0; i < names->size(); ++i) otherNames.insert(names->at(i));
-    names->reserve(names->size() + m_UserProfileList.size());
-    for (int i = 0; i < m_UserProfileList.size(); ++i) names->append(m_UserProfileList.at(i).name);
-
-    const QStringList presets = getDefaultOrIMSIProfileList();
-    for (int i = 0; i < presets.size(); ++i) {
-        if (otherNames.contains(presets.at(i)) || HasUserProfile(presets.at(i))) continue;
-        otherNames.insert(presets.at(i));
-        names->append(presets.at(i));
-    }
+    gatherNames(names, &otherNames);
     m_ProfileNameList = QStringList(*names);
 
     const QString replacement = replacementDefault(otherNames);
@@ -46,17 +38,40 @@ int NetConnectSettingUILogic::GetAllDialUpProfile(QList<QString>* names) {
     return Success;
 }
 
+// Appends the names of the user's profiles and of the presets beside them. Most listings find nothing changed.
+void NetConnectSettingUILogic::gatherNames(QList<QString>* names, QSet<QString>* otherNames) {
+    const QStringList presets = getDefaultOrIMSIProfileList();
+    const bool isWhole = names->isEmpty();
+    if (isWhole && m_Listing.profiles.isSharedWith(m_UserProfileList) && m_Listing.presets == presets) {
+        *names = m_Listing.names;
+        *otherNames = m_Listing.presetNames;
+        return;
+    }
+    names->reserve(names->size() + m_UserProfileList.size() + presets.size());
+    for (int i = 0; i < m_UserProfileList.size(); ++i) names->append(m_UserProfileList.at(i).name);
+    for (int i = 0; i < presets.size(); ++i) {
+        if (otherNames->contains(presets.at(i)) || HasUserProfile(presets.at(i))) continue;
+        otherNames->insert(presets.at(i));
+        names->append(presets.at(i));
+    }
+    if (isWhole) m_Listing = {m_UserProfileList, presets, *names, *otherNames};
+}
+
 // Gives the user's profiles the names that their langids stand for now; true when a name really changed. The default
 // moves along.
 bool NetConnectSettingUILogic::translateUserProfiles() {
+    if (m_UntranslatableProfiles.isSharedWith(m_UserProfileList)) return false;
     bool changed = false;
+    bool hasLangid = false;
     for (int i = 0; i < m_UserProfileList.size(); ++i) {
         if (m_UserProfileList.at(i).langid.isEmpty()) continue;
+        hasLangid = true;
         const QString storedName = m_UserProfileList.at(i).name;
         if (!translateName(&m_UserProfileList, i)) continue;
         if (m_strDefaultProfile == storedName) m_strDefaultProfile = m_UserProfileList.at(i).name;
         changed = true;
     }
+    if (!hasLangid) m_UntranslatableProfiles = m_UserProfileList;
     return changed;
 }
 
