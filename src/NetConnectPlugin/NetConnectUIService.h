@@ -46,6 +46,7 @@ class NetConnectPageWatch;
 class NetConnectPresetLibrary;
 class NetConnectReloadGate;
 class NetConnectSettingUILogic;
+class QStringListModel;
 
 // One instance per process, made on first use. Everything is for the GUI thread.
 //
@@ -273,6 +274,7 @@ private:
     struct PageWidgets {
         QGroupBox* profileGroup = nullptr;
         QComboBox* profiles = nullptr;
+        QStringListModel* profileNames = nullptr;  // its list
         ExtendLineEdit* name = nullptr;
         QGroupBox* apnGroup = nullptr;
         QRadioButton* apnDynamic = nullptr;

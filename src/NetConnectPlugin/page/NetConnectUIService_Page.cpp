@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QListView>
 #include <QRegExpValidator>
+#include <QStringListModel>
 
 #include "CallTrace.h"
 #include "NetConnectLeastSize.h"
@@ -78,6 +79,8 @@ ExtendLineEdit* CNetConnectUIService::createEdit(const char* role, int maximumLe
 
 void CNetConnectUIService::createProfileNameUI() {
     m_Page.profiles = named(new QComboBox(m_Page.profileGroup), "ProfileCombobox");
+    m_Page.profileNames = new QStringListModel(m_Page.profiles);  // shares the texts; items would double their memory
+    m_Page.profiles->setModel(m_Page.profileNames);
     m_Page.profiles->setMaxVisibleItems(8);
     m_Page.profiles->setCurrentIndex(0);
     m_Page.profiles->view()->setTextElideMode(Qt::ElideNone);

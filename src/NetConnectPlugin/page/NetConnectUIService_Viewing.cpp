@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <QStringListModel>
+
 #include "CallTrace.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"
@@ -46,7 +48,7 @@ void CNetConnectUIService::showAllProfiles() {
     QList<QString> names;
     if (m_pLogic->GetAllDialUpProfile(&names) == 0 && !names.isEmpty()) {
         m_DefaultAPNProfileList = m_pLogic->GetDefaultAPNProfileList();
-        m_Page.profiles->addItems(QStringList(names));
+        m_Page.profileNames->setStringList(QStringList(names));
         m_Page.profiles->setCurrentIndex(0);
     }
     m_nShownRevision = m_pLogic->UserFileRevision();
