@@ -89,8 +89,11 @@ void CommonUtilsBase::Encrypt(const char* data, const char* key, char*& out) {
 
 void CommonUtilsBase::Decrypt(const char* data, const char* key, char*& out) {
     out = nullptr;
-    if (!data || !key || sodium_init() < 0) return;
-    out = isSealed(data) ? open(sealedOf(data), key) : copyOf(data);
+    if (!data || !key) return;
+    if (!isSealed(data))
+        out = copyOf(data);
+    else if (sodium_init() >= 0)  // takes a while, for the many profiles without a password as well
+        out = open(sealedOf(data), key);
 }
 
 void CommonUtilsBase::CryptLocalFree(char* text) {
