@@ -22,7 +22,7 @@ public:
     // A configuration whose sections by IMSI name the first presets of a library.
     static QByteArray configuration(int presets, const QList<DialupProfile>& library);
 
-    // The library, configuration and template that everyone has. A program is measured with these.
+    // The library, configuration, template and operators that everyone has. A program is measured with these.
     void shipPresets() const;
 
     void writeUser(const QList<DialupProfile>& profiles) const;

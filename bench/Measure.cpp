@@ -24,8 +24,8 @@ double seconds(const std::function<void()>& action) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// Without QProcess, whose own work would count as much as so short a run.
-int runProgram(const std::vector<QByteArray>& command) {
+// Without QProcess, whose own work would count as much as so short a run. Zero when it can't be started.
+pid_t startProgram(const std::vector<QByteArray>& command) {
     std::vector<char*> arguments;
     for (const QByteArray& argument : command) arguments.push_back(const_cast<char*>(argument.constData()));
     arguments.push_back(nullptr);
@@ -34,11 +34,22 @@ int runProgram(const std::vector<QByteArray>& command) {
     ::posix_spawn_file_actions_addopen(&output, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     ::posix_spawn_file_actions_addopen(&output, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t child = 0;
-    int status = -1;
-    if (::posix_spawn(&child, arguments.front(), &output, nullptr, arguments.data(), environ) == 0)
-        ::waitpid(child, &status, 0);
+    if (::posix_spawn(&child, arguments.front(), &output, nullptr, arguments.data(), environ) != 0) child = 0;
     ::posix_spawn_file_actions_destroy(&output);
+    return child;
+}
+
+int runProgram(const std::vector<QByteArray>& command) {
+    const pid_t child = startProgram(command);
+    int status = -1;
+    if (child > 0) ::waitpid(child, &status, 0);
     return status;
+}
+
+std::vector<QByteArray> encoded(const QStringList& command) {
+    std::vector<QByteArray> arguments;
+    for (const QString& argument : command) arguments.push_back(QFile::encodeName(argument));
+    return arguments;
 }
 
 }  // namespace
@@ -73,9 +84,14 @@ void compare(benchmark::State& state, const Side& ours, const Side& reference) {
 }
 
 Side program(const QStringList& command) {
-    std::vector<QByteArray> arguments;
-    for (const QString& argument : command) arguments.push_back(QFile::encodeName(argument));
+    const std::vector<QByteArray> arguments = encoded(command);
     return {[arguments] { require(runProgram(arguments) == 0, arguments.front().constData()); }};
+}
+
+pid_t start(const QStringList& command) {
+    const pid_t child = startProgram(encoded(command));
+    require(child > 0, qPrintable(command.first()));
+    return child;
 }
 
 void time(benchmark::State& state, const Side& ours) {

@@ -4,6 +4,7 @@
 #define ORBISDIAL_MEASURE_H
 
 #include <benchmark/benchmark.h>
+#include <sys/types.h>
 
 #include <QString>
 #include <QStringList>
@@ -25,6 +26,9 @@ void compare(benchmark::State& state, const Side& ours, const Side& reference);
 
 // Times one side alone: "ours_ms".
 void time(benchmark::State& state, const Side& ours);
+
+// Starts a program and answers its process.
+pid_t start(const QStringList& command);
 
 // A program that runs to its end.
 Side program(const QStringList& command);
