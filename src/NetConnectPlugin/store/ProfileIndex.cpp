@@ -21,9 +21,12 @@ int ProfileIndex::find(const QList<DialupProfile>& profiles, const QString& name
         m_Places.clear();
         m_nSearches = 0;
     }
+    if (m_nSearches > 0 && name == m_strLast) return m_nLast;  // each listing asks for the default
     if (m_nSearches < cheapSearches) {
         ++m_nSearches;
-        return firstPlace(profiles, name);
+        m_strLast = name;
+        m_nLast = firstPlace(profiles, name);
+        return m_nLast;
     }
     if (m_Places.isEmpty()) m_Places = firstPlaces(profiles);
     return m_Places.value(name, -1);

@@ -13,7 +13,7 @@
 // is another one. A change of the list so finds its data shared and copies them.
 class ProfileIndex {
 public:
-    ProfileIndex() : m_nSearches(0) {}
+    ProfileIndex() : m_nSearches(0), m_nLast(-1) {}
 
     // The first place of a name in the list; -1 when there is none.
     int find(const QList<DialupProfile>& profiles, const QString& name);
@@ -22,6 +22,8 @@ private:
     QList<DialupProfile> m_Profiles;
     QHash<QString, int> m_Places;  // empty until it is worth its making
     int m_nSearches;               // since the list changed
+    QString m_strLast;             // what was last gone through the list for, and its place
+    int m_nLast;
 };
 
 #endif
