@@ -127,6 +127,7 @@ private slots:
 
 private:
     friend class NetConnectPageWatch;
+    friend class NetConnectProfileDelegate;
     friend class NetConnectUIServiceTestAccess;  // gives m_pAdvancedDlg the dialog that the page never opens
 
     enum Operation { Idle = -1, EnteringNew, EditingExisting, Saving, Deleting, Undoing };
@@ -204,6 +205,7 @@ private:
     void selectProfile(const QString& name);
     void selectEditedProfile();
     QString profileName(int index) const;
+    bool isPreset(int index) const;
     int findProfile(const QString& name) const;
     QString currentProfileName() const;
     void showAPNSetting();

@@ -16,9 +16,11 @@
 #include "ChosenModem.h"
 #include "EndSignals.h"
 #include "Host.h"
+#include "HostStyle.h"
 #include "Languages.h"
 #include "Options.h"
 #include "ProgramStart.h"
+#include "ReadablePalette.h"
 #include "SettingsPages.h"
 #include "SingleInstance.h"
 
@@ -128,6 +130,8 @@ int main(int argc, char* argv[]) {
 
     const Options options = Options::fromArguments(application);
     useDesktopFontSize();
+    QApplication::setStyle(new HostStyle);
+    const ReadablePalette palette;
     if (!options.trace) QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\ndefault.warning=false"));
     // The window is filled by the modem's events; it never waits for one.
     if (!qEnvironmentVariableIsSet("ORBISDIAL_DEVICE_WAIT_MS")) qputenv("ORBISDIAL_DEVICE_WAIT_MS", "0");

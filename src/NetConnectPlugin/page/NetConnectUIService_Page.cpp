@@ -5,6 +5,7 @@
 
 #include "CallTrace.h"
 #include "NetConnectLeastSize.h"
+#include "NetConnectLockSign.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"
@@ -20,7 +21,7 @@ const int AuthenticationGroupHeight = 115;
 const int ProtocolGroupHeight = 50;
 
 const int NoticeLines = 2;
-const int LongestVisibleName = 20;  // in average characters; longer names show whole in the open list
+const int LongestVisibleName = 30;  // in average characters; longer names show whole in the open list
 
 template <class W>
 W* named(W* widget, const char* role) {
@@ -84,6 +85,7 @@ void CNetConnectUIService::createProfileNameUI() {
     m_Page.profiles->setMaxVisibleItems(8);
     m_Page.profiles->setCurrentIndex(0);
     m_Page.profiles->view()->setTextElideMode(Qt::ElideNone);
+    m_Page.profiles->setItemDelegate(new NetConnectProfileDelegate(this, m_Page.profiles));
     // A size by its contents would measure every name, which takes seconds with thousands of them.
     m_Page.profiles->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_Page.profiles->setMinimumContentsLength(LongestVisibleName);
@@ -141,9 +143,7 @@ void CNetConnectUIService::createAuthenticationUI() {
 
     m_Page.noticePlace = named(new QWidget(m_pDialupTabWidget), "NoticePlace");
     m_Page.passwordHint = named(new NetConnectPasswordHint(m_Page.password, m_Page.noticePlace), "PasswordHint");
-    m_Page.lockNotice = named(new QLabel(m_Page.noticePlace), "LockNotice");
-    m_Page.lockNotice->setTextFormat(Qt::PlainText);
-    m_Page.lockNotice->setWordWrap(true);
+    m_Page.lockNotice = named(new NetConnectLockNotice(m_Page.noticePlace), "LockNotice");
     m_Page.lockNotice->hide();
     QVBoxLayout* notices = new QVBoxLayout(m_Page.noticePlace);
     notices->setContentsMargins(0, 0, 0, 0);

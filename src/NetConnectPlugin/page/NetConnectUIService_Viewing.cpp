@@ -103,6 +103,8 @@ QString CNetConnectUIService::profileName(int index) const {
     return index == m_nDefaultIndex ? m_strMarkedName : m_Page.profiles->itemText(index);
 }
 
+bool CNetConnectUIService::isPreset(int index) const { return m_DefaultAPNProfileList.contains(profileName(index)); }
+
 int CNetConnectUIService::findProfile(const QString& name) const {
     for (int i = 0; m_Page.profiles && i < m_Page.profiles->count(); ++i)
         if (profileName(i) == name) return i;
