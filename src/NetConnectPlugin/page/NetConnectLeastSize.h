@@ -12,6 +12,12 @@ inline bool isFontLarge(const QWidget* widget) {
     return widget->fontMetrics().height() > tallestOrdinaryLine;
 }
 
+// In the same measure as the font.
+inline int grownWidth(const QWidget* widget, int least) {
+    const int ordinaryLine = 16;
+    return isFontLarge(widget) ? least * widget->fontMetrics().height() / ordinaryLine : least;
+}
+
 // With a large font, what the widget holds may need more.
 inline void setLeastHeight(QWidget* widget, int least) {
     widget->setFixedHeight(isFontLarge(widget) ? qMax(least, widget->sizeHint().height()) : least);

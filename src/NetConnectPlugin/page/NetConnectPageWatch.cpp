@@ -73,6 +73,10 @@ void NetConnectPageWatch::fillAwaitedList() {
 
 void NetConnectPageWatch::onTransferClosed() { m_pService->finishTransfer(); }
 
-void NetConnectPageWatch::fitHeights() { m_pService->fitHeights(); }
+void NetConnectPageWatch::fitHeights() {
+    m_pService->setGroupBoxLanguage();  // some texts are cut to a width
+    m_pService->setElidedTexts();
+    m_pService->fitHeights();
+}
 
 void NetConnectPageWatch::onFileChanged() { m_pService->followUserFile(); }
