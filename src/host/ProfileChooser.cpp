@@ -58,7 +58,9 @@ void ProfileChooser::refresh(const QString& defaultProfile) {
 }
 
 void ProfileChooser::retranslate() {
-    setAccessibleName(hostText("IDS_HOST_PROFILE"));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(this), static_cast<QWidget*>(lineEdit()), static_cast<QWidget*>(view())})
+        widget->setAccessibleName(hostText("IDS_HOST_PROFILE"));
     setToolTip(hostText("IDS_HOST_PROFILE_TIP"));
     m_IsFilled = false;
     showCurrent();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsDialog.h"
 
+#include <QAccessibleWidget>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -13,10 +14,17 @@ namespace {
 
 constexpr int LettersOfWidth = 64;
 
+// A QDialog would press a page's first button on Return; a bare widget is no window to a screen reader.
+QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
+    auto* const dialog = qobject_cast<SettingsDialog*>(object);
+    return dialog ? new QAccessibleWidget(dialog, QAccessible::Dialog) : nullptr;
 }
+
+}  // namespace
 
 SettingsDialog::SettingsDialog(QWidget* parent) : QWidget(parent, Qt::Dialog), m_Pages(new SettingsPages) {
     setObjectName(QStringLiteral("Host_SettingsDialog"));
+    QAccessible::installFactory(makeAccessible);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_Pages);

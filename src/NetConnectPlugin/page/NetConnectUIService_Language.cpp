@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <QAbstractItemView>
 #include <QRegExp>
 
 #include "CommonUtils.h"
 #include "NetConnectFieldNote.h"
+#include "NetConnectLeastSize.h"
 #include "NetConnectUIService.h"
 
 namespace {
@@ -35,7 +37,8 @@ void CNetConnectUIService::setGroupBoxLanguage() {
     for (const auto& row : titles)
         if (row.group) row.group->setTitle(text(row.id));
     if (m_Page.protocolGroup)
-        CommonUtils::setElidedTextForWidgetTitle(m_Page.protocolGroup, ProtocolTitleWidth, Qt::ElideRight);
+        CommonUtils::setElidedTextForWidgetTitle(m_Page.protocolGroup,
+                                                 grownWidth(m_Page.protocolGroup, ProtocolTitleWidth), Qt::ElideRight);
     if (m_Page.apnGroup) m_Page.apnGroup->setTitle(QString::fromLatin1("APN"));
     if (m_pTabWidget)
         m_pTabWidget->setTabText(m_pTabWidget->indexOf(m_pDialupTabWidget),
@@ -63,6 +66,7 @@ void CNetConnectUIService::setAccessibleNames() {
         QWidget* widget;
         const char* id;
     } names[] = {{m_Page.profiles, "IDS_NETCONNECT_ACC_PROFILE_LIST"},
+                 {m_Page.profiles ? m_Page.profiles->view() : nullptr, "IDS_NETCONNECT_ACC_PROFILE_LIST"},
                  {m_Page.name, "IDS_NETCONNECT_ACC_PROFILE_NAME"},
                  {m_Page.apn, "IDS_SETTING_STATIC_APN_NAME"},
                  {m_Page.accessNumber, "IDS_SETTING_STATIC_NUMBER"},
@@ -107,5 +111,6 @@ void CNetConnectUIService::setButtonLanguage() {
 void CNetConnectUIService::setElidedTexts() {
     if (!m_Page.askUserName) return;
     m_Page.askUserName->setText(text("IDS_USERNAME_AND_PASSWORD"));
-    CommonUtils::setElidedTextForWidgetText(m_Page.askUserName, AskUserNameWidth, Qt::ElideRight);
+    CommonUtils::setElidedTextForWidgetText(m_Page.askUserName, grownWidth(m_Page.askUserName, AskUserNameWidth),
+                                            Qt::ElideRight);
 }
