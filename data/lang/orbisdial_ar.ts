@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>الشبكة لا تجيب (لا توجد موجة حاملة). حاول مجددًا حيث يكون الاستقبال أفضل.</translation>
+        <translation>الشبكة لا تجيب (لا توجد إشارة حاملة). حاول مجددًا حيث يكون الاستقبال أفضل.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_LOCKED</source>
-        <translation>بطاقة SIM مقفلة. أدخل رقم PIN الخاص بها.</translation>
+        <translation>بطاقة SIM مقفلة. أدخل رمز PIN الخاص بها.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_WRONG_CARD</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_WRONG_PIN</source>
-        <translation>رقم PIN خاطئ. أدخل الرقم الصحيح.</translation>
+        <translation>رمز PIN خاطئ. أدخل الرمز الصحيح.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_MODEM_GONE</source>
@@ -205,11 +205,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NAME</source>
-        <translation>لا يصلح اسم الملف «%1» للاتصال. اختصره.</translation>
+        <translation>اسم ملف التعريف «%1» أطول من أن يُستخدم للاتصال. اختصره.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NUMBER</source>
-        <translation>لا يصلح رقم الوصول في «%1». صححه في الإعدادات.</translation>
+        <translation>لا يصلح رقم الاتصال في «%1». صححه في الإعدادات.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_APN</source>
@@ -257,15 +257,15 @@
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_NUMBER</source>
-        <translation>رقم الوصول لا أثر له: يطلب المودم رقم الشبكة نفسها.</translation>
+        <translation>لا أثر لرقم الاتصال: يطلب المودم رقم الشبكة نفسها.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_ADDRESS</source>
-        <translation>عنوان IP الثابت لا أثر له: الشبكة هي التي تعيّن العنوان.</translation>
+        <translation>لا أثر لعنوان IP الثابت: الشبكة هي التي تعيّن العنوان.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_WINS</source>
-        <translation>خوادم WINS لا أثر لها.</translation>
+        <translation>لا أثر لخوادم WINS.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
@@ -328,7 +328,7 @@
     </message>
     <message>
         <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
-        <translation>ملف تعريف الاتصال</translation>
+        <translation>&amp;ملف تعريف الاتصال</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_GROUP_VALIDATE</source>
@@ -340,19 +340,19 @@
     </message>
     <message>
         <source>IDS_SETTING_STATIC_APN_NAME</source>
-        <translation>نقطة الوصول:</translation>
+        <translation>&amp;نقطة الوصول:</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_NUMBER</source>
-        <translation>رقم الطلب:</translation>
+        <translation>&amp;رقم الاتصال:</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_USENAME</source>
-        <translation>اسم المستخدم:</translation>
+        <translation>&amp;اسم المستخدم:</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_PASSWORD</source>
-        <translation>كلمة المرور:</translation>
+        <translation>&amp;كلمة المرور:</translation>
     </message>
     <message>
         <source>IDS_SETTING_RADIO_APN_IP_DYNAMIC</source>
@@ -364,51 +364,51 @@
     </message>
     <message>
         <source>IDS_USERNAME_AND_PASSWORD</source>
-        <translation>السؤال عند الاتصال</translation>
+        <translation>ال&amp;سؤال عند الاتصال</translation>
     </message>
     <message>
         <source>IDS_SETTING_CHECK_CHAP</source>
-        <translation>CHAP</translation>
+        <translation>C&amp;HAP</translation>
     </message>
     <message>
         <source>IDS_SETTING_CHECK_PAP</source>
-        <translation>PAP</translation>
+        <translation>&amp;PAP</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_NEW</source>
-        <translation>جديد</translation>
+        <translation>&amp;جديد</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_DELETE</source>
-        <translation>حذف</translation>
+        <translation>&amp;حذف</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_EDIT</source>
-        <translation>تحرير</translation>
+        <translation>&amp;تحرير</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_SAVE</source>
-        <translation>حفظ</translation>
+        <translation>ح&amp;فظ</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_NO_SAVE</source>
-        <translation>تراجع</translation>
+        <translation>تراج&amp;ع</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
-        <translation>كافتراضي</translation>
+        <translation>تع&amp;يين كافتراضي</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
-        <translation>استيراد…</translation>
+        <translation>استيرا&amp;د…</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_OUTPUT</source>
-        <translation>تصدير…</translation>
+        <translation>ت&amp;صدير…</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_HIGH</source>
-        <translation>متقدم…</translation>
+        <translation>مت&amp;قدم…</translation>
     </message>
     <message>
         <source>IDS_STC_NETCONNECTSETTINGDLG_DEFAULT</source>
@@ -428,11 +428,11 @@
     </message>
     <message>
         <source>IDS_YES</source>
-        <translation>نعم</translation>
+        <translation>&amp;نعم</translation>
     </message>
     <message>
         <source>IDS_NO</source>
-        <translation>لا</translation>
+        <translation>&amp;لا</translation>
     </message>
     <message>
         <source>IDS_SETTING_PROMPT_PROFILE_NAME</source>
@@ -444,11 +444,11 @@
     </message>
     <message>
         <source>IDS_MSG_CONNECTSETTINGDLG_PROFILENAMEERR</source>
-        <translation>يجب ألا يحتوي اسم ملف التعريف على أي من هذه الأحرف: </translation>
+        <translation>يجب ألا يحتوي اسم ملف التعريف على أي من هذه الأحرف: ⁦</translation>
     </message>
     <message>
         <source>IDS_MSG_CONNECTSETTINGDLG_NULLNUMBER</source>
-        <translation>الرجاء إدخال رقم الطلب، مثل &#x200e;*99#.</translation>
+        <translation>الرجاء إدخال رقم الاتصال، مثل ⁦*99#⁩.</translation>
     </message>
     <message>
         <source>IDS_SETTING_PROMPT_APN_ERROR</source>
@@ -496,7 +496,7 @@
     </message>
     <message>
         <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
-        <translation>استعراض…</translation>
+        <translation>ا&amp;ستعراض…</translation>
     </message>
     <message>
         <source>IDS_STC_DIALUPDLG_ADVANCE</source>
@@ -516,23 +516,23 @@
     </message>
     <message>
         <source>IDS_SETTING_STATIC_IP</source>
-        <translation>عنوان IP:</translation>
+        <translation>&amp;عنوان IP:</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_DNS</source>
-        <translation>الأساسي:</translation>
+        <translation>ال&amp;أساسي:</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_DNS_SECOND</source>
-        <translation>الثانوي:</translation>
+        <translation>ال&amp;ثانوي:</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_WINS1</source>
-        <translation>الأساسي:</translation>
+        <translation>الأسا&amp;سي:</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_WINS_SECOND</source>
-        <translation>الثانوي:</translation>
+        <translation>الث&amp;انوي:</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_NEW_PROFILE</source>
@@ -600,7 +600,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_MSG_EXPORT_WILDCARD</source>
-        <translation>لا يمكن أن يحتوي اسم الملف على «*». الرجاء إدخال اسم آخر.</translation>
+        <translation>لا يمكن أن يحتوي اسم الملف على «⁦*⁩». الرجاء إدخال اسم آخر.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_MSG_EXPORT_MERGE</source>
@@ -695,7 +695,7 @@
     </message>
     <message>
         <source>IDS_HOST_STORAGE_PROBLEM</source>
-        <translation>مشكلة في التخزين: %1</translation>
+        <translation>مشكلة في الحفظ: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_PLUGIN_PROBLEM</source>
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>IDS_HOST_LOCK_DEFAULT</source>
-        <translation>تثبيت ملف التعريف الافتراضي: إخفاء الزر «كافتراضي»</translation>
+        <translation>تثبيت ملف التعريف الافتراضي: إخفاء الزر «تعيين كافتراضي»</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILES_PRESETS</source>
-        <translation>الإعدادات الجاهزة لبطاقة SIM هذه</translation>
+        <translation>ملفات التعريف المعدّة مسبقًا لبطاقة SIM هذه</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS</source>
@@ -1241,11 +1241,11 @@
     </message>
     <message>
         <source>IDS_HOST_CLOSE_TO_TRAY</source>
-        <translation>إغلاق النافذة يُبقي البرنامج في شريط النظام</translation>
+        <translation>إغلاق النافذة يُبقي البرنامج في منطقة الإعلام</translation>
     </message>
     <message>
         <source>IDS_HOST_START_WITH_SESSION</source>
-        <translation>البدء مع الجلسة</translation>
+        <translation>البدء عند تسجيل الدخول</translation>
     </message>
     <message>
         <source>IDS_HOST_STAYS_CONNECTED</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>IDS_HOST_MODEM_NO_CARRIER</source>
-        <translation>لا توجد موجة حاملة</translation>
+        <translation>لا توجد إشارة حاملة</translation>
     </message>
     <message>
         <source>IDS_HOST_MODEM_AUTHENTICATION_FAILS</source>
@@ -1343,6 +1343,517 @@
     <message>
         <source>IDS_HOST_IMPORT_BUSY</source>
         <translation>أنهِ أولاً ما هو مفتوح، ثم افتح الملف مجددًا.</translation>
+    </message>
+</context>
+<context>
+    <name>orbisctl</name>
+    <message>
+        <source>%1 (chosen by the user)</source>
+        <translation>%1 (اختاره المستخدم)</translation>
+    </message>
+    <message>
+        <source>%1 (proposed by the configuration)</source>
+        <translation>%1 (مقترح من الإعداد)</translation>
+    </message>
+    <message>
+        <source>%1 bytes received, %2 sent</source>
+        <translation>استُلم %1 بايت وأُرسل %2</translation>
+    </message>
+    <message>
+        <source>%1 holds no profile %2</source>
+        <translation>لا يحتوي %1 على ملف التعريف %2</translation>
+    </message>
+    <message>
+        <source>%1 is a preset</source>
+        <translation>%1 ملف تعريف معدّ مسبقًا</translation>
+    </message>
+    <message>
+        <source>%1 is connected; see orbisctl disconnect</source>
+        <translation>%1 متصل؛ انظر orbisctl disconnect</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 للقراءة فقط</translation>
+    </message>
+    <message>
+        <source>%1 may be more than one command</source>
+        <translation>قد يعني %1 أكثر من أمر</translation>
+    </message>
+    <message>
+        <source>%1: does not exist</source>
+        <translation>%1: غير موجود</translation>
+    </message>
+    <message>
+        <source>%1: holds no template for new profiles; see --like</source>
+        <translation>%1: لا يحتوي على قالب لملفات التعريف الجديدة؛ انظر --like</translation>
+    </message>
+    <message>
+        <source>%1; give a new one with password=</source>
+        <translation>%1؛ أعطِ كلمة مرور جديدة باستخدام password=</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(مخفية)</translation>
+    </message>
+    <message>
+        <source>(simulated modem)</source>
+        <translation>(مودم محاكى)</translation>
+    </message>
+    <message>
+        <source>--timeout takes a number of seconds from 1 to 86400</source>
+        <translation>يأخذ --timeout عدد ثوانٍ من 1 إلى 86400</translation>
+    </message>
+    <message>
+        <source>; it ends with this program, see --hold</source>
+        <translation>؛ ينتهي بانتهاء هذا البرنامج، انظر --hold</translation>
+    </message>
+    <message>
+        <source>; make one of your own from it: %1</source>
+        <translation>؛ أنشئ منه ملف تعريف خاصًا بك: %1</translation>
+    </message>
+    <message>
+        <source>GID1</source>
+        <translation>GID1</translation>
+    </message>
+    <message>
+        <source>IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>Password [as stored]: </source>
+        <translation>كلمة المرور [المحفوظة]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>كلمة المرور: </translation>
+    </message>
+    <message>
+        <source>This is a simulated modem.</source>
+        <translation>هذا مودم محاكى.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>اسم المستخدم [%1]: </translation>
+    </message>
+    <message>
+        <source>attempts to unlock</source>
+        <translation>محاولات إلغاء القفل</translation>
+    </message>
+    <message>
+        <source>automatically</source>
+        <translation>تلقائيًا</translation>
+    </message>
+    <message>
+        <source>backend</source>
+        <translation>الواجهة الخلفية</translation>
+    </message>
+    <message>
+        <source>can't be dialled with</source>
+        <translation>لا يصلح للاتصال</translation>
+    </message>
+    <message>
+        <source>card</source>
+        <translation>البطاقة</translation>
+    </message>
+    <message>
+        <source>card mode (2 is CDMA)</source>
+        <translation>وضع البطاقة (2 هو CDMA)</translation>
+    </message>
+    <message>
+        <source>card's operator</source>
+        <translation>مشغّل البطاقة</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>المختار</translation>
+    </message>
+    <message>
+        <source>connected: %1</source>
+        <translation>متصل: %1</translation>
+    </message>
+    <message>
+        <source>connecting: %1: %2</source>
+        <translation>جارٍ الاتصال: %1: %2</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>customise name</source>
+        <translation>اسم التخصيص</translation>
+    </message>
+    <message>
+        <source>data-service user</source>
+        <translation>مستخدم خدمة البيانات</translation>
+    </message>
+    <message>
+        <source>default takes a name or --clear, not both</source>
+        <translation>يأخذ default اسمًا أو --clear، لا كليهما</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>مرفوض</translation>
+    </message>
+    <message>
+        <source>dials as CDMA</source>
+        <translation>يتصل بنمط CDMA</translation>
+    </message>
+    <message>
+        <source>disconnected: %1</source>
+        <translation>قُطع الاتصال: %1</translation>
+    </message>
+    <message>
+        <source>disconnecting: %1</source>
+        <translation>جارٍ قطع الاتصال: %1</translation>
+    </message>
+    <message>
+        <source>export takes names or --all</source>
+        <translation>يأخذ export أسماء أو --all</translation>
+    </message>
+    <message>
+        <source>exported %1 to %2</source>
+        <translation>صُدّر %1 إلى %2</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>متعطل</translation>
+    </message>
+    <message>
+        <source>generation</source>
+        <translation>الجيل</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>الشبكة الأصلية</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>خامل</translation>
+    </message>
+    <message>
+        <source>imported %1</source>
+        <translation>استُورد %1</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>القفل</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>مقفل</translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation>الشركة المصنّعة</translation>
+    </message>
+    <message>
+        <source>matched IMSI prefix</source>
+        <translation>بادئة IMSI المطابقة</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>الطراز</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>المودم</translation>
+    </message>
+    <message>
+        <source>multi-mode card</source>
+        <translation>بطاقة متعددة الأوضاع</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>network's code</source>
+        <translation>رمز الشبكة</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>no command is given; see orbisctl --help</source>
+        <translation>لم يُعطَ أمر؛ انظر orbisctl --help</translation>
+    </message>
+    <message>
+        <source>no connection in time</source>
+        <translation>لم يتم الاتصال في الوقت المحدد</translation>
+    </message>
+    <message>
+        <source>no-modem</source>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>لا يوجد</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>not connected: %1</source>
+        <translation>غير متصل: %1</translation>
+    </message>
+    <message>
+        <source>not connected; the modem is in use by %1</source>
+        <translation>غير متصل؛ المودم قيد الاستخدام من قبل %1</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>ملاحظة</translation>
+    </message>
+    <message>
+        <source>nothing can tell of connections</source>
+        <translation>لا مصدر لمعلومات الاتصالات</translation>
+    </message>
+    <message>
+        <source>nothing was imported from %1</source>
+        <translation>لم يُستورد شيء من %1</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>أخرى</translation>
+    </message>
+    <message>
+        <source>own number</source>
+        <translation>رقم الشريحة</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>المنفذ</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>موجودة</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>معدّ</translation>
+    </message>
+    <message>
+        <source>product type (1 is CDMA)</source>
+        <translation>نوع المنتج (1 هو CDMA)</translation>
+    </message>
+    <message>
+        <source>proposed default</source>
+        <translation>الافتراضي المقترح</translation>
+    </message>
+    <message>
+        <source>proposed for</source>
+        <translation>مقترح لـ</translation>
+    </message>
+    <message>
+        <source>puk</source>
+        <translation>PUK</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>جاهز</translation>
+    </message>
+    <message>
+        <source>registration</source>
+        <translation>التسجيل في الشبكة</translation>
+    </message>
+    <message>
+        <source>replaced %1</source>
+        <translation>استُبدل %1</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>تجوال</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>جارٍ البحث</translation>
+    </message>
+    <message>
+        <source>signal in percent</source>
+        <translation>الإشارة بالمئة</translation>
+    </message>
+    <message>
+        <source>skipped  %1 (exists; see --replace)</source>
+        <translation>تُخطّي %1 (موجود؛ انظر --replace)</translation>
+    </message>
+    <message>
+        <source>starting</source>
+        <translation>قيد التشغيل</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>status %1</source>
+        <translation>الحالة %1</translation>
+    </message>
+    <message>
+        <source>status (3 is ready)</source>
+        <translation>الحالة (3 تعني جاهز)</translation>
+    </message>
+    <message>
+        <source>system mode</source>
+        <translation>وضع النظام</translation>
+    </message>
+    <message>
+        <source>system sub-mode</source>
+        <translation>الوضع الفرعي للنظام</translation>
+    </message>
+    <message>
+        <source>takes USSD commands</source>
+        <translation>يقبل أوامر USSD</translation>
+    </message>
+    <message>
+        <source>technology</source>
+        <translation>التقنية</translation>
+    </message>
+    <message>
+        <source>the configuration customised for %1 leaves no presets by IMSI</source>
+        <translation>الإعداد المخصص لـ %1 لا يترك ملفات تعريف حسب IMSI</translation>
+    </message>
+    <message>
+        <source>the configuration has no presets by IMSI</source>
+        <translation>لا يحتوي الإعداد على ملفات تعريف حسب IMSI</translation>
+    </message>
+    <message>
+        <source>the connection can't be ended</source>
+        <translation>لا يمكن إنهاء الاتصال</translation>
+    </message>
+    <message>
+        <source>the connection has not ended yet</source>
+        <translation>لم ينتهِ الاتصال بعد</translation>
+    </message>
+    <message>
+        <source>the connection of %1 is not ours to end</source>
+        <translation>اتصال %1 ليس لنا أن ننهيه</translation>
+    </message>
+    <message>
+        <source>the connection was ended elsewhere</source>
+        <translation>أُنهي الاتصال من مكان آخر</translation>
+    </message>
+    <message>
+        <source>the default can't be cleared</source>
+        <translation>لا يمكن إلغاء الافتراضي</translation>
+    </message>
+    <message>
+        <source>the default can't be set</source>
+        <translation>لا يمكن تعيين الافتراضي</translation>
+    </message>
+    <message>
+        <source>the file can't be imported</source>
+        <translation>لا يمكن استيراد الملف</translation>
+    </message>
+    <message>
+        <source>the name is empty; see default --clear</source>
+        <translation>الاسم فارغ؛ انظر default --clear</translation>
+    </message>
+    <message>
+        <source>the new profile's name is the first argument</source>
+        <translation>اسم ملف التعريف الجديد هو الوسيط الأول</translation>
+    </message>
+    <message>
+        <source>the password of %1 is not base64, as its encrypttype says; set it again</source>
+        <translation>كلمة مرور %1 ليست base64 كما يذكر encrypttype؛ عيّنها من جديد</translation>
+    </message>
+    <message>
+        <source>the profile can't be added</source>
+        <translation>لا يمكن إضافة ملف التعريف</translation>
+    </message>
+    <message>
+        <source>the profile can't be changed</source>
+        <translation>لا يمكن تغيير ملف التعريف</translation>
+    </message>
+    <message>
+        <source>the profile can't be deleted</source>
+        <translation>لا يمكن حذف ملف التعريف</translation>
+    </message>
+    <message>
+        <source>the profile library does not hold the preset %1</source>
+        <translation>لا تحتوي مكتبة ملفات التعريف على %1</translation>
+    </message>
+    <message>
+        <source>the profiles can't be changed</source>
+        <translation>لا يمكن تغيير ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>the profiles can't be exported</source>
+        <translation>لا يمكن تصدير ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>the profiles can't be imported</source>
+        <translation>لا يمكن استيراد ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>the profiles can't be listed</source>
+        <translation>لا يمكن سرد ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>the profiles can't be stored</source>
+        <translation>لا يمكن حفظ ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>the settings of automatic connection can't be stored</source>
+        <translation>لا يمكن حفظ إعدادات الاتصال التلقائي</translation>
+    </message>
+    <message>
+        <source>there are no profiles %1</source>
+        <translation>لا توجد ملفات تعريف %1</translation>
+    </message>
+    <message>
+        <source>there is a profile %1 already</source>
+        <translation>يوجد ملف تعريف %1 بالفعل</translation>
+    </message>
+    <message>
+        <source>there is no configuration key %1</source>
+        <translation>لا يوجد مفتاح إعداد %1</translation>
+    </message>
+    <message>
+        <source>there is no default profile; name one: orbisctl connect NAME</source>
+        <translation>لا يوجد ملف تعريف افتراضي؛ سمِّ واحدًا: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no profile %1</source>
+        <translation>لا يوجد ملف تعريف %1</translation>
+    </message>
+    <message>
+        <source>there is no profile of one's own</source>
+        <translation>لا يوجد ملف تعريف خاص</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>unknown command %1; see orbisctl --help</source>
+        <translation>أمر غير معروف %1؛ انظر orbisctl --help</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>الاستخدام: %1</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>خاص</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>تحذير: %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>نعم</translation>
     </message>
 </context>
 </TS>

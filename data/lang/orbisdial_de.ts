@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_CANCELLED</source>
-        <translation>Das Verbinden wurde abgebrochen.</translation>
+        <translation>Der Verbindungsaufbau wurde abgebrochen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
@@ -49,19 +49,19 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
-        <translation>Das Netz antwortet nicht (kein Träger). Versuchen Sie es bei besserem Empfang noch einmal.</translation>
+        <translation>Das Netz antwortet nicht (kein Trägersignal). Versuchen Sie es bei besserem Empfang noch einmal.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTHENTICATION_FAILED</source>
-        <translation>Das Netz hat den Benutzernamen oder das Kennwort von „%1“ abgelehnt. Berichtigen Sie sie in den Einstellungen.</translation>
+        <translation>Das Netz hat den Benutzernamen oder das Kennwort von „%1“ abgelehnt. Korrigieren Sie die Angaben in den Einstellungen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM</source>
-        <translation>Es ist kein Modem da. Stecken Sie eines ein.</translation>
+        <translation>Es ist kein Modem angeschlossen. Schließen Sie eines an.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_IN_USE</source>
-        <translation>Das Modem wird von %1 benutzt. Beenden Sie zuerst jene Verbindung.</translation>
+        <translation>Das Modem wird von %1 benutzt. Beenden Sie zuerst diese Verbindung.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_REFUSED</source>
-        <translation>Das Netz hat „%1“ abgelehnt, ohne zu sagen, warum. Prüfen Sie Benutzernamen, Kennwort und Zugangspunkt (APN).</translation>
+        <translation>Das Netz hat „%1“ ohne Angabe eines Grundes abgelehnt. Prüfen Sie Benutzernamen, Kennwort und Zugangspunkt (APN).</translation>
     </message>
     <message>
         <source>IDS_DIALUP_DROPPED</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_LINK</source>
-        <translation>Die Verbindung ließ sich auf diesem Rechner nicht beginnen. Versuchen Sie es noch einmal; die Einzelheiten sagen vielleicht mehr.</translation>
+        <translation>Die Verbindung konnte auf diesem Rechner nicht gestartet werden. Versuchen Sie es noch einmal; die Details sagen vielleicht mehr.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BUSY</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_DIAL_TONE</source>
-        <translation>Es kommt kein Wählton. Prüfen Sie Antenne und Karte des Modems.</translation>
+        <translation>Kein Wählton. Prüfen Sie Antenne und Karte des Modems.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_ANSWER</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_APN_REFUSED</source>
-        <translation>Das Netz lehnt den Zugangspunkt (APN) von „%1“ ab. Berichtigen Sie ihn in den Einstellungen.</translation>
+        <translation>Das Netz lehnt den Zugangspunkt (APN) von „%1“ ab. Korrigieren Sie ihn in den Einstellungen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_REGISTERED</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_WRONG_CARD</source>
-        <translation>Das Modem nimmt diese SIM-Karte nicht an. Verwenden Sie eine Karte des Netzbetreibers, für den es gedacht ist.</translation>
+        <translation>Das Modem nimmt diese SIM-Karte nicht an. Verwenden Sie eine Karte des Anbieters, von dem das Modem stammt.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_WRONG_PIN</source>
@@ -121,23 +121,23 @@
     </message>
     <message>
         <source>IDS_DIALUP_MODEM_GONE</source>
-        <translation>Das Modem wurde entfernt oder arbeitet nicht mehr. Stecken Sie es wieder ein.</translation>
+        <translation>Das Modem wurde entfernt oder arbeitet nicht mehr. Schließen Sie es wieder an.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>Der Dienst für Modems (ModemManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Verwalter.</translation>
+        <translation>Der Dienst für Modems (ModemManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Administrator.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>Der Dienst für Verbindungen (NetworkManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Verwalter.</translation>
+        <translation>Der Dienst für Verbindungen (NetworkManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Administrator.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
-        <translation>Die Verbindung endete, weil der Rechner in den Ruhezustand ging. Verbinden Sie sich neu.</translation>
+        <translation>Die Verbindung wurde beendet, weil der Rechner in den Ruhezustand ging. Verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_TAKEN</source>
-        <translation>Ein anderes Programm hat das Modem für eine eigene Verbindung genommen. Beenden Sie diese und verbinden Sie sich neu.</translation>
+        <translation>Ein anderes Programm hat das Modem für eine eigene Verbindung übernommen. Beenden Sie diese und verbinden Sie sich neu.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_ENDED_OUTSIDE</source>
-        <translation>Die Verbindung wurde außerhalb dieses Programms beendet. Verbinden Sie sich neu, wenn Sie sie brauchen.</translation>
+        <translation>Die Verbindung wurde außerhalb dieses Programms beendet. Verbinden Sie sich bei Bedarf neu.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_HUNG_UP</source>
@@ -157,15 +157,15 @@
     </message>
     <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
-        <translation>Sie dürfen sich auf diesem Rechner nicht verbinden. Bitten Sie Ihren Verwalter um die Erlaubnis.</translation>
+        <translation>Sie dürfen auf diesem Rechner keine Verbindung herstellen. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_OTHER</source>
-        <translation>Das Verbinden mit „%1“ ist fehlgeschlagen. Die Einzelheiten sagen, was bekannt ist.</translation>
+        <translation>Der Verbindungsaufbau mit „%1“ ist fehlgeschlagen. Die Details sagen, was bekannt ist.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_CANNOT_HANG_UP</source>
-        <translation>Die Verbindung ließ sich nicht beenden. Versuchen Sie es noch einmal.</translation>
+        <translation>Die Verbindung konnte nicht beendet werden. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
@@ -205,71 +205,71 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NAME</source>
-        <translation>Der Name des Profils „%1“ ist für eine Verbindung nicht brauchbar. Kürzen Sie ihn.</translation>
+        <translation>Der Name des Profils „%1“ ist für eine Verbindung zu lang. Kürzen Sie ihn.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NUMBER</source>
-        <translation>Die Zugangsnummer von „%1“ ist nicht brauchbar. Berichtigen Sie sie in den Einstellungen.</translation>
+        <translation>Die Einwahlnummer von „%1“ ist ungültig. Korrigieren Sie sie in den Einstellungen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_APN</source>
-        <translation>Der Zugangspunkt (APN) von „%1“ ist nicht brauchbar: höchstens 64 Buchstaben, Ziffern, Punkte, Binde- und Unterstriche. Berichtigen Sie ihn in den Einstellungen.</translation>
+        <translation>Der Zugangspunkt (APN) von „%1“ ist ungültig: höchstens 64 Buchstaben, Ziffern, Punkte, Binde- und Unterstriche. Korrigieren Sie ihn in den Einstellungen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_ADDRESS</source>
-        <translation>Die IP-Adresse von „%1“ ist ungültig. Berichtigen Sie sie in den Einstellungen.</translation>
+        <translation>Die IP-Adresse von „%1“ ist ungültig. Korrigieren Sie sie in den Einstellungen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_DNS</source>
-        <translation>Die Adresse des DNS-Servers von „%1“ ist ungültig. Berichtigen Sie sie in den Einstellungen.</translation>
+        <translation>Die Adresse des DNS-Servers von „%1“ ist ungültig. Korrigieren Sie sie in den Einstellungen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
-        <translation>Die Adresse des zweiten DNS-Servers von „%1“ ist ungültig. Berichtigen Sie sie in den Einstellungen.</translation>
+        <translation>Die Adresse des zweiten DNS-Servers von „%1“ ist ungültig. Korrigieren Sie sie in den Einstellungen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_USER</source>
-        <translation>Der Benutzername von „%1“ lässt sich nicht senden: höchstens 255 Byte. Kürzen Sie ihn.</translation>
+        <translation>Der Benutzername von „%1“ kann nicht gesendet werden: höchstens 255 Byte. Kürzen Sie ihn.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_PASSWORD</source>
-        <translation>Das Kennwort von „%1“ lässt sich nicht senden: höchstens 255 Byte. Kürzen Sie es.</translation>
+        <translation>Das Kennwort von „%1“ kann nicht gesendet werden: höchstens 255 Byte. Kürzen Sie es.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_STEP_PREPARING</source>
-        <translation>Das Modem wird vorbereitet</translation>
+        <translation>Modem wird vorbereitet</translation>
     </message>
     <message>
         <source>IDS_DIALUP_STEP_REGISTERING</source>
-        <translation>Das Netz wird gesucht, was eine Minute dauern kann</translation>
+        <translation>Netz wird gesucht, das kann eine Minute dauern</translation>
     </message>
     <message>
         <source>IDS_DIALUP_STEP_CONNECTING</source>
-        <translation>Das Netz wird angerufen</translation>
+        <translation>Einwahl ins Netz</translation>
     </message>
     <message>
         <source>IDS_DIALUP_STEP_ADDRESSING</source>
-        <translation>Eine Adresse wird angefordert</translation>
+        <translation>Adresse wird angefordert</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USED_BY</source>
-        <translation>In Benutzung durch %1</translation>
+        <translation>Wird von %1 benutzt</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_NUMBER</source>
-        <translation>Die Zugangsnummer bewirkt nichts: Das Modem wählt die des Netzes.</translation>
+        <translation>Die Einwahlnummer hat keine Wirkung: Das Modem wählt die des Netzes.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_ADDRESS</source>
-        <translation>Die feste IP-Adresse bewirkt nichts: Das Netz teilt die Adresse zu.</translation>
+        <translation>Die feste IP-Adresse hat keine Wirkung: Das Netz teilt die Adresse zu.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_WINS</source>
-        <translation>Die WINS-Server bewirken nichts.</translation>
+        <translation>Die WINS-Server haben keine Wirkung.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
-        <translation>Die feste IP-Adresse war nicht zu haben; das Netz hat %1 zugeteilt.</translation>
+        <translation>Die feste IP-Adresse war nicht verfügbar; das Netz hat %1 zugeteilt.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USAGE_80</source>
@@ -281,39 +281,39 @@
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_HUNG_UP</source>
-        <translation>Das automatische Verbinden wartet, bis Sie sich selbst verbinden.</translation>
+        <translation>Die automatische Verbindung wartet, bis Sie sich selbst verbinden.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_NOT_READY</source>
-        <translation>Das automatische Verbinden wartet auf das Modem.</translation>
+        <translation>Die automatische Verbindung wartet auf das Modem.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
-        <translation>Das automatische Verbinden wartet auf ein Netz.</translation>
+        <translation>Die automatische Verbindung wartet auf ein Netz.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_ROAMING</source>
-        <translation>Das automatische Verbinden ruht beim Roaming.</translation>
+        <translation>Im Roaming wird nicht automatisch verbunden.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_IN_USE</source>
-        <translation>Das automatische Verbinden wartet, bis das Modem frei ist.</translation>
+        <translation>Die automatische Verbindung wartet, bis das Modem frei ist.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_PAUSE</source>
-        <translation>Das automatische Verbinden versucht es bald noch einmal.</translation>
+        <translation>Die automatische Verbindung wird bald erneut versucht.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_REFUSED</source>
-        <translation>Das automatische Verbinden ruht, weil das Netz „%1“ abgelehnt hat. Berichtigen Sie Benutzernamen und Kennwort oder verbinden Sie sich selbst.</translation>
+        <translation>Die automatische Verbindung ist angehalten, weil das Netz „%1“ abgelehnt hat. Korrigieren Sie Benutzernamen und Kennwort oder verbinden Sie sich selbst.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_FAILED</source>
-        <translation>Das automatische Verbinden ruht: Ein neuer Versuch schlüge ebenso fehl.</translation>
+        <translation>Die automatische Verbindung ist angehalten: Ein neuer Versuch würde ebenso fehlschlagen.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_MUST_ASK</source>
-        <translation>Das automatische Verbinden kann „%1“ nicht verwenden, da es nach Benutzernamen und Kennwort fragt.</translation>
+        <translation>Die automatische Verbindung kann „%1“ nicht verwenden, da das Profil nach Benutzernamen und Kennwort fragt.</translation>
     </message>
 </context>
 <context>
@@ -396,7 +396,7 @@
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
-        <translation>S&amp;tandard</translation>
+        <translation>Als S&amp;tandard</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
@@ -584,7 +584,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_HINT_PASSWORD</source>
-        <translation>Nicht alle Zeichen sind speicherbar: nur westeuropäische verwenden.</translation>
+        <translation>Einige Zeichen sind nicht speicherbar: nur westeuropäische verwenden.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_ACC_PROFILE_LIST</source>
@@ -671,7 +671,7 @@
     </message>
     <message>
         <source>IDS_HOST_NO_DIALER</source>
-        <translation>Kein Einwahl-Plug-in geladen</translation>
+        <translation>Das Einwahl-Plug-in ist nicht geladen</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM</source>
@@ -695,11 +695,11 @@
     </message>
     <message>
         <source>IDS_HOST_STORAGE_PROBLEM</source>
-        <translation>Speicherproblem: %1</translation>
+        <translation>Problem beim Speichern: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_PLUGIN_PROBLEM</source>
-        <translation>%1 ist nicht verwendbar: %2</translation>
+        <translation>%1 kann nicht verwendet werden: %2</translation>
     </message>
     <message>
         <source>IDS_HOST_PLUGIN_LOAD_FAILED</source>
@@ -719,7 +719,7 @@
     </message>
     <message>
         <source>IDS_HOST_MODEM_PROBLEM</source>
-        <translation>Das Modem ist nicht verwendbar: %1</translation>
+        <translation>Das Modem kann nicht verwendet werden: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_NAME</source>
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>IDS_HOST_LOCK_DEFAULT</source>
-        <translation>Standardprofil beibehalten: Schaltfläche „Standard“ ausblenden</translation>
+        <translation>Standardprofil beibehalten: Schaltfläche „Als Standard“ ausblenden</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
@@ -1045,7 +1045,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_SIGNAL</source>
-        <translation>Signal %1 %</translation>
+        <translation>Signal %1&#xa0;%</translation>
     </message>
     <message>
         <source>IDS_HOST_ROAMING</source>
@@ -1065,7 +1065,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_FAILED_UP</source>
-        <translation>Die Verbindung mit %1 brach ab</translation>
+        <translation>Die Verbindung mit %1 ist abgebrochen</translation>
     </message>
     <message>
         <source>IDS_HOST_FAILED_ENDED</source>
@@ -1089,11 +1089,11 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_MONTH</source>
-        <translation>Dieser Monat: %1</translation>
+        <translation>In diesem Monat: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_MONTH_OF</source>
-        <translation>Dieser Monat: %1 von %2</translation>
+        <translation>In diesem Monat: %1 von %2</translation>
     </message>
     <message>
         <source>IDS_HOST_BYTES</source>
@@ -1209,11 +1209,11 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_LAST_PIN</source>
-        <translation>Ist dieser falsch, verlangt die Karte die PUK.</translation>
+        <translation>Ist die PIN auch diesmal falsch, verlangt die Karte die PUK.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_LAST_PUK</source>
-        <translation>Ist dieser falsch, ist die Karte für immer unbrauchbar.</translation>
+        <translation>Ist die PUK auch diesmal falsch, wird die Karte endgültig unbrauchbar.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_USE_LAST</source>
@@ -1225,11 +1225,11 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_WRONG</source>
-        <translation>Das war falsch.</translation>
+        <translation>Die Eingabe war falsch.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_NOT_ALLOWED</source>
-        <translation>Sie dürfen die Karte nicht entsperren. Fragen Sie den Verwalter dieses Rechners.</translation>
+        <translation>Sie dürfen die Karte nicht entsperren. Fragen Sie den Administrator dieses Rechners.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_FAILED</source>
@@ -1241,7 +1241,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_CLOSE_TO_TRAY</source>
-        <translation>Schließen des Fensters lässt das Programm in der Taskleiste</translation>
+        <translation>Beim Schließen des Fensters im Infobereich weiterlaufen</translation>
     </message>
     <message>
         <source>IDS_HOST_START_WITH_SESSION</source>
@@ -1309,7 +1309,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_MODEM_NO_CARRIER</source>
-        <translation>Kein Träger</translation>
+        <translation>Kein Trägersignal</translation>
     </message>
     <message>
         <source>IDS_HOST_MODEM_AUTHENTICATION_FAILS</source>
@@ -1333,7 +1333,518 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
-        <translation>Verbindung kappen</translation>
+        <translation>Verbindung abbrechen lassen</translation>
+    </message>
+</context>
+<context>
+    <name>orbisctl</name>
+    <message>
+        <source>%1 (chosen by the user)</source>
+        <translation>%1 (vom Benutzer gewählt)</translation>
+    </message>
+    <message>
+        <source>%1 (proposed by the configuration)</source>
+        <translation>%1 (von der Konfiguration vorgeschlagen)</translation>
+    </message>
+    <message>
+        <source>%1 bytes received, %2 sent</source>
+        <translation>%1 Byte empfangen, %2 gesendet</translation>
+    </message>
+    <message>
+        <source>%1 holds no profile %2</source>
+        <translation>%1 enthält kein Profil %2</translation>
+    </message>
+    <message>
+        <source>%1 is a preset</source>
+        <translation>%1 ist eine Vorgabe</translation>
+    </message>
+    <message>
+        <source>%1 is connected; see orbisctl disconnect</source>
+        <translation>%1 ist verbunden; siehe orbisctl disconnect</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>%1 may be more than one command</source>
+        <translation>%1 kann mehr als ein Befehl sein</translation>
+    </message>
+    <message>
+        <source>%1: does not exist</source>
+        <translation>%1: nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>%1: holds no template for new profiles; see --like</source>
+        <translation>%1: enthält keine Vorlage für neue Profile; siehe --like</translation>
+    </message>
+    <message>
+        <source>%1; give a new one with password=</source>
+        <translation>%1; geben Sie mit password= ein neues an</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(verborgen)</translation>
+    </message>
+    <message>
+        <source>(simulated modem)</source>
+        <translation>(simuliertes Modem)</translation>
+    </message>
+    <message>
+        <source>--timeout takes a number of seconds from 1 to 86400</source>
+        <translation>--timeout erwartet eine Zahl von Sekunden von 1 bis 86400</translation>
+    </message>
+    <message>
+        <source>; it ends with this program, see --hold</source>
+        <translation>; sie endet mit diesem Programm, siehe --hold</translation>
+    </message>
+    <message>
+        <source>; make one of your own from it: %1</source>
+        <translation>; machen Sie daraus ein eigenes: %1</translation>
+    </message>
+    <message>
+        <source>GID1</source>
+        <translation>GID1</translation>
+    </message>
+    <message>
+        <source>IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>Password [as stored]: </source>
+        <translation>Kennwort [wie gespeichert]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Kennwort: </translation>
+    </message>
+    <message>
+        <source>This is a simulated modem.</source>
+        <translation>Dies ist ein simuliertes Modem.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Benutzername [%1]: </translation>
+    </message>
+    <message>
+        <source>attempts to unlock</source>
+        <translation>Versuche zum Entsperren</translation>
+    </message>
+    <message>
+        <source>automatically</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>backend</source>
+        <translation>Backend</translation>
+    </message>
+    <message>
+        <source>can't be dialled with</source>
+        <translation>damit kann nicht gewählt werden</translation>
+    </message>
+    <message>
+        <source>card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>card mode (2 is CDMA)</source>
+        <translation>Kartenmodus (2 ist CDMA)</translation>
+    </message>
+    <message>
+        <source>card's operator</source>
+        <translation>Anbieter der Karte</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>connected: %1</source>
+        <translation>verbunden: %1</translation>
+    </message>
+    <message>
+        <source>connecting: %1: %2</source>
+        <translation>Verbindungsaufbau: %1: %2</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>customise name</source>
+        <translation>Anpassungsname</translation>
+    </message>
+    <message>
+        <source>data-service user</source>
+        <translation>Benutzer des Datendienstes</translation>
+    </message>
+    <message>
+        <source>default takes a name or --clear, not both</source>
+        <translation>default nimmt einen Namen oder --clear, nicht beides</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>dials as CDMA</source>
+        <translation>wählt als CDMA</translation>
+    </message>
+    <message>
+        <source>disconnected: %1</source>
+        <translation>getrennt: %1</translation>
+    </message>
+    <message>
+        <source>disconnecting: %1</source>
+        <translation>Verbindung wird getrennt: %1</translation>
+    </message>
+    <message>
+        <source>export takes names or --all</source>
+        <translation>export nimmt Namen oder --all</translation>
+    </message>
+    <message>
+        <source>exported %1 to %2</source>
+        <translation>%1 nach %2 exportiert</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>ausgefallen</translation>
+    </message>
+    <message>
+        <source>generation</source>
+        <translation>Generation</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>Heimnetz</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>untätig</translation>
+    </message>
+    <message>
+        <source>imported %1</source>
+        <translation>%1 importiert</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>Sperre</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>matched IMSI prefix</source>
+        <translation>passendes IMSI-Präfix</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>multi-mode card</source>
+        <translation>Multimode-Karte</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>network's code</source>
+        <translation>Kennzahl des Netzes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>no command is given; see orbisctl --help</source>
+        <translation>kein Befehl angegeben; siehe orbisctl --help</translation>
+    </message>
+    <message>
+        <source>no connection in time</source>
+        <translation>keine Verbindung in der gesetzten Zeit</translation>
+    </message>
+    <message>
+        <source>no-modem</source>
+        <translation>kein Modem</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>nicht verbunden</translation>
+    </message>
+    <message>
+        <source>not connected: %1</source>
+        <translation>nicht verbunden: %1</translation>
+    </message>
+    <message>
+        <source>not connected; the modem is in use by %1</source>
+        <translation>nicht verbunden; das Modem wird von %1 benutzt</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>nothing can tell of connections</source>
+        <translation>über Verbindungen gibt nichts Auskunft</translation>
+    </message>
+    <message>
+        <source>nothing was imported from %1</source>
+        <translation>aus %1 wurde nichts importiert</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>andere</translation>
+    </message>
+    <message>
+        <source>own number</source>
+        <translation>eigene Nummer</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>vorhanden</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>Vorgabe</translation>
+    </message>
+    <message>
+        <source>product type (1 is CDMA)</source>
+        <translation>Produkttyp (1 ist CDMA)</translation>
+    </message>
+    <message>
+        <source>proposed default</source>
+        <translation>vorgeschlagener Standard</translation>
+    </message>
+    <message>
+        <source>proposed for</source>
+        <translation>vorgeschlagen für</translation>
+    </message>
+    <message>
+        <source>puk</source>
+        <translation>PUK</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>registration</source>
+        <translation>Anmeldung im Netz</translation>
+    </message>
+    <message>
+        <source>replaced %1</source>
+        <translation>%1 ersetzt</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>Roaming</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>sucht</translation>
+    </message>
+    <message>
+        <source>signal in percent</source>
+        <translation>Signal in Prozent</translation>
+    </message>
+    <message>
+        <source>skipped  %1 (exists; see --replace)</source>
+        <translation>%1 übersprungen (vorhanden; siehe --replace)</translation>
+    </message>
+    <message>
+        <source>starting</source>
+        <translation>startet</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>status %1</source>
+        <translation>Status %1</translation>
+    </message>
+    <message>
+        <source>status (3 is ready)</source>
+        <translation>Status (3 ist bereit)</translation>
+    </message>
+    <message>
+        <source>system mode</source>
+        <translation>Systemmodus</translation>
+    </message>
+    <message>
+        <source>system sub-mode</source>
+        <translation>System-Untermodus</translation>
+    </message>
+    <message>
+        <source>takes USSD commands</source>
+        <translation>nimmt USSD-Befehle an</translation>
+    </message>
+    <message>
+        <source>technology</source>
+        <translation>Technik</translation>
+    </message>
+    <message>
+        <source>the configuration customised for %1 leaves no presets by IMSI</source>
+        <translation>die für %1 angepasste Konfiguration enthält keine Vorgaben nach IMSI</translation>
+    </message>
+    <message>
+        <source>the configuration has no presets by IMSI</source>
+        <translation>die Konfiguration enthält keine Vorgaben nach IMSI</translation>
+    </message>
+    <message>
+        <source>the connection can't be ended</source>
+        <translation>die Verbindung kann nicht beendet werden</translation>
+    </message>
+    <message>
+        <source>the connection has not ended yet</source>
+        <translation>die Verbindung ist noch nicht beendet</translation>
+    </message>
+    <message>
+        <source>the connection of %1 is not ours to end</source>
+        <translation>die Verbindung von %1 dürfen wir nicht beenden</translation>
+    </message>
+    <message>
+        <source>the connection was ended elsewhere</source>
+        <translation>die Verbindung wurde anderswo beendet</translation>
+    </message>
+    <message>
+        <source>the default can't be cleared</source>
+        <translation>der Standard kann nicht aufgehoben werden</translation>
+    </message>
+    <message>
+        <source>the default can't be set</source>
+        <translation>der Standard kann nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>the file can't be imported</source>
+        <translation>die Datei kann nicht importiert werden</translation>
+    </message>
+    <message>
+        <source>the name is empty; see default --clear</source>
+        <translation>der Name ist leer; siehe default --clear</translation>
+    </message>
+    <message>
+        <source>the new profile's name is the first argument</source>
+        <translation>der Name des neuen Profils ist das erste Argument</translation>
+    </message>
+    <message>
+        <source>the password of %1 is not base64, as its encrypttype says; set it again</source>
+        <translation>das Kennwort von %1 ist nicht base64, wie encrypttype angibt; setzen Sie es neu</translation>
+    </message>
+    <message>
+        <source>the profile can't be added</source>
+        <translation>das Profil kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>the profile can't be changed</source>
+        <translation>das Profil kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>the profile can't be deleted</source>
+        <translation>das Profil kann nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>the profile library does not hold the preset %1</source>
+        <translation>die Profilbibliothek enthält die Vorgabe %1 nicht</translation>
+    </message>
+    <message>
+        <source>the profiles can't be changed</source>
+        <translation>die Profile können nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>the profiles can't be exported</source>
+        <translation>die Profile können nicht exportiert werden</translation>
+    </message>
+    <message>
+        <source>the profiles can't be imported</source>
+        <translation>die Profile können nicht importiert werden</translation>
+    </message>
+    <message>
+        <source>the profiles can't be listed</source>
+        <translation>die Profile können nicht aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>the profiles can't be stored</source>
+        <translation>die Profile können nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>the settings of automatic connection can't be stored</source>
+        <translation>die Einstellungen der automatischen Verbindung können nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>there are no profiles %1</source>
+        <translation>es gibt keine Profile %1</translation>
+    </message>
+    <message>
+        <source>there is a profile %1 already</source>
+        <translation>ein Profil %1 ist bereits vorhanden</translation>
+    </message>
+    <message>
+        <source>there is no configuration key %1</source>
+        <translation>es gibt keinen Konfigurationsschlüssel %1</translation>
+    </message>
+    <message>
+        <source>there is no default profile; name one: orbisctl connect NAME</source>
+        <translation>es gibt kein Standardprofil; nennen Sie eines: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no profile %1</source>
+        <translation>es gibt kein Profil %1</translation>
+    </message>
+    <message>
+        <source>there is no profile of one's own</source>
+        <translation>es gibt kein eigenes Profil</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>unknown command %1; see orbisctl --help</source>
+        <translation>unbekannter Befehl %1; siehe orbisctl --help</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>eigen</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
     </message>
     <message>
         <source>IDS_HOST_IMPORT_FAILED</source>

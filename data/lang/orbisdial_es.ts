@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NAME</source>
-        <translation>El nombre del perfil «%1» no sirve para una conexión. Acórtelo.</translation>
+        <translation>El nombre del perfil «%1» es demasiado largo para una conexión. Acórtelo.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NUMBER</source>
-        <translation>El número de acceso de «%1» no sirve. Corríjalo en la configuración.</translation>
+        <translation>El número de acceso de «%1» no es válido. Corríjalo en la configuración.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_APN</source>
-        <translation>El nombre del punto de acceso (APN) de «%1» no sirve: como máximo 64 letras, cifras, puntos, guiones y guiones bajos. Corríjalo en la configuración.</translation>
+        <translation>El nombre del punto de acceso (APN) de «%1» no es válido: como máximo 64 letras, cifras, puntos, guiones y guiones bajos. Corríjalo en la configuración.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_ADDRESS</source>
@@ -336,7 +336,7 @@
     </message>
     <message>
         <source>IDS_SETTING_GROUP_Authentication_protocol</source>
-        <translation>Autenticación mediante</translation>
+        <translation>Protocolo de autenticación</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_APN_NAME</source>
@@ -396,7 +396,7 @@
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
-        <translation>Por de&amp;fecto</translation>
+        <translation>Usar por de&amp;fecto</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
@@ -687,7 +687,7 @@
     </message>
     <message>
         <source>IDS_HOST_SIM_PREFIX</source>
-        <translation>Tarjeta SIM %1: el prefijo %2 es conocido, pero ninguno de sus perfiles se propone por defecto</translation>
+        <translation>Tarjeta SIM %1: el prefijo %2 es conocido, pero ninguno de sus perfiles predefinidos se propone por defecto</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM_NO_MATCH</source>
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>IDS_HOST_LOCK_DEFAULT</source>
-        <translation>Mantener el perfil por defecto: ocultar el botón «Por defecto»</translation>
+        <translation>Mantener el perfil por defecto: ocultar el botón «Usar por defecto»</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
@@ -751,7 +751,7 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILE_DEFAULT</source>
-        <translation>%1 (predeterminado)</translation>
+        <translation>%1 (por defecto)</translation>
     </message>
     <message>
         <source>IDS_HOST_PROFILES_OWN</source>
@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILES_PRESETS</source>
-        <translation>Preajustes para esta tarjeta SIM</translation>
+        <translation>Perfiles predefinidos para esta tarjeta SIM</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS</source>
@@ -903,11 +903,11 @@
     </message>
     <message>
         <source>IDS_HOST_SETTINGS</source>
-        <translation>Ajustes…</translation>
+        <translation>Configuración…</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_TITLE</source>
-        <translation>Ajustes</translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK</source>
@@ -977,7 +977,7 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>El servicio de módems no funciona</translation>
+        <translation>El servicio de módems no está en marcha</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
@@ -1045,7 +1045,7 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
     <message>
         <source>IDS_HOST_SIGNAL</source>
-        <translation>señal %1 %</translation>
+        <translation>señal %1&#xa0;%</translation>
     </message>
     <message>
         <source>IDS_HOST_ROAMING</source>
@@ -1209,11 +1209,11 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_LAST_PIN</source>
-        <translation>Si este es incorrecto, la tarjeta pedirá el PUK.</translation>
+        <translation>Si este intento falla, la tarjeta pedirá el PUK.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_LAST_PUK</source>
-        <translation>Si este es incorrecto, la tarjeta quedará inservible para siempre.</translation>
+        <translation>Si este intento falla, la tarjeta quedará inservible para siempre.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_USE_LAST</source>
@@ -1241,7 +1241,7 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
     <message>
         <source>IDS_HOST_CLOSE_TO_TRAY</source>
-        <translation>Cerrar la ventana deja el programa en la bandeja</translation>
+        <translation>Al cerrar la ventana, dejar el programa en la bandeja del sistema</translation>
     </message>
     <message>
         <source>IDS_HOST_START_WITH_SESSION</source>
@@ -1343,6 +1343,517 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>IDS_HOST_IMPORT_BUSY</source>
         <translation>Termine primero lo que está abierto y vuelva a abrir el archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>orbisctl</name>
+    <message>
+        <source>%1 (chosen by the user)</source>
+        <translation>%1 (elegido por el usuario)</translation>
+    </message>
+    <message>
+        <source>%1 (proposed by the configuration)</source>
+        <translation>%1 (propuesto por la configuración)</translation>
+    </message>
+    <message>
+        <source>%1 bytes received, %2 sent</source>
+        <translation>%1 bytes recibidos, %2 enviados</translation>
+    </message>
+    <message>
+        <source>%1 holds no profile %2</source>
+        <translation>%1 no contiene ningún perfil %2</translation>
+    </message>
+    <message>
+        <source>%1 is a preset</source>
+        <translation>%1 es un perfil predefinido</translation>
+    </message>
+    <message>
+        <source>%1 is connected; see orbisctl disconnect</source>
+        <translation>%1 está conectado; vea orbisctl disconnect</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 es de solo lectura</translation>
+    </message>
+    <message>
+        <source>%1 may be more than one command</source>
+        <translation>%1 puede ser más de una orden</translation>
+    </message>
+    <message>
+        <source>%1: does not exist</source>
+        <translation>%1: no existe</translation>
+    </message>
+    <message>
+        <source>%1: holds no template for new profiles; see --like</source>
+        <translation>%1: no contiene ninguna plantilla para perfiles nuevos; vea --like</translation>
+    </message>
+    <message>
+        <source>%1; give a new one with password=</source>
+        <translation>%1; indique una nueva con password=</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(oculta)</translation>
+    </message>
+    <message>
+        <source>(simulated modem)</source>
+        <translation>(módem simulado)</translation>
+    </message>
+    <message>
+        <source>--timeout takes a number of seconds from 1 to 86400</source>
+        <translation>--timeout admite un número de segundos de 1 a 86400</translation>
+    </message>
+    <message>
+        <source>; it ends with this program, see --hold</source>
+        <translation>; termina con este programa, vea --hold</translation>
+    </message>
+    <message>
+        <source>; make one of your own from it: %1</source>
+        <translation>; cree uno propio a partir de él: %1</translation>
+    </message>
+    <message>
+        <source>GID1</source>
+        <translation>GID1</translation>
+    </message>
+    <message>
+        <source>IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>Password [as stored]: </source>
+        <translation>Contraseña [la guardada]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Contraseña: </translation>
+    </message>
+    <message>
+        <source>This is a simulated modem.</source>
+        <translation>Este es un módem simulado.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Nombre de usuario [%1]: </translation>
+    </message>
+    <message>
+        <source>attempts to unlock</source>
+        <translation>intentos restantes</translation>
+    </message>
+    <message>
+        <source>automatically</source>
+        <translation>automáticamente</translation>
+    </message>
+    <message>
+        <source>backend</source>
+        <translation>motor</translation>
+    </message>
+    <message>
+        <source>can't be dialled with</source>
+        <translation>no permite marcar</translation>
+    </message>
+    <message>
+        <source>card</source>
+        <translation>tarjeta</translation>
+    </message>
+    <message>
+        <source>card mode (2 is CDMA)</source>
+        <translation>modo de tarjeta (2: CDMA)</translation>
+    </message>
+    <message>
+        <source>card's operator</source>
+        <translation>operador de la tarjeta</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>elegido</translation>
+    </message>
+    <message>
+        <source>connected: %1</source>
+        <translation>conectado: %1</translation>
+    </message>
+    <message>
+        <source>connecting: %1: %2</source>
+        <translation>conectando: %1: %2</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>conexión</translation>
+    </message>
+    <message>
+        <source>customise name</source>
+        <translation>nombre de personalización</translation>
+    </message>
+    <message>
+        <source>data-service user</source>
+        <translation>usuario del servicio</translation>
+    </message>
+    <message>
+        <source>default takes a name or --clear, not both</source>
+        <translation>default admite un nombre o --clear, no ambos</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>denegado</translation>
+    </message>
+    <message>
+        <source>dials as CDMA</source>
+        <translation>marca como CDMA</translation>
+    </message>
+    <message>
+        <source>disconnected: %1</source>
+        <translation>desconectado: %1</translation>
+    </message>
+    <message>
+        <source>disconnecting: %1</source>
+        <translation>desconectando: %1</translation>
+    </message>
+    <message>
+        <source>export takes names or --all</source>
+        <translation>export admite nombres o --all</translation>
+    </message>
+    <message>
+        <source>exported %1 to %2</source>
+        <translation>%1 exportado a %2</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>averiado</translation>
+    </message>
+    <message>
+        <source>generation</source>
+        <translation>generación</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>red propia</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inactivo</translation>
+    </message>
+    <message>
+        <source>imported %1</source>
+        <translation>%1 importado</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>bloqueo</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueado</translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation>fabricante</translation>
+    </message>
+    <message>
+        <source>matched IMSI prefix</source>
+        <translation>prefijo IMSI hallado</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>modelo</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>módem</translation>
+    </message>
+    <message>
+        <source>multi-mode card</source>
+        <translation>tarjeta multimodo</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>red</translation>
+    </message>
+    <message>
+        <source>network's code</source>
+        <translation>código de la red</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>no command is given; see orbisctl --help</source>
+        <translation>falta la orden; vea orbisctl --help</translation>
+    </message>
+    <message>
+        <source>no connection in time</source>
+        <translation>sin conexión dentro del plazo</translation>
+    </message>
+    <message>
+        <source>no-modem</source>
+        <translation>sin módem</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>sin conexión</translation>
+    </message>
+    <message>
+        <source>not connected: %1</source>
+        <translation>sin conexión: %1</translation>
+    </message>
+    <message>
+        <source>not connected; the modem is in use by %1</source>
+        <translation>sin conexión; el módem está en uso por %1</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota</translation>
+    </message>
+    <message>
+        <source>nothing can tell of connections</source>
+        <translation>nada informa de las conexiones</translation>
+    </message>
+    <message>
+        <source>nothing was imported from %1</source>
+        <translation>no se importó nada de %1</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>otro</translation>
+    </message>
+    <message>
+        <source>own number</source>
+        <translation>número propio</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>puerto</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>presente</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>predef.</translation>
+    </message>
+    <message>
+        <source>product type (1 is CDMA)</source>
+        <translation>tipo de módem (1: CDMA)</translation>
+    </message>
+    <message>
+        <source>proposed default</source>
+        <translation>perfil propuesto</translation>
+    </message>
+    <message>
+        <source>proposed for</source>
+        <translation>propuesto para</translation>
+    </message>
+    <message>
+        <source>puk</source>
+        <translation>PUK</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>listo</translation>
+    </message>
+    <message>
+        <source>registration</source>
+        <translation>registro en la red</translation>
+    </message>
+    <message>
+        <source>replaced %1</source>
+        <translation>%1 reemplazado</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>itinerancia</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>buscando</translation>
+    </message>
+    <message>
+        <source>signal in percent</source>
+        <translation>señal en porcentaje</translation>
+    </message>
+    <message>
+        <source>skipped  %1 (exists; see --replace)</source>
+        <translation>%1 omitido (existe; vea --replace)</translation>
+    </message>
+    <message>
+        <source>starting</source>
+        <translation>iniciando</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>estado</translation>
+    </message>
+    <message>
+        <source>status %1</source>
+        <translation>estado %1</translation>
+    </message>
+    <message>
+        <source>status (3 is ready)</source>
+        <translation>estado (3: listo)</translation>
+    </message>
+    <message>
+        <source>system mode</source>
+        <translation>modo de sistema</translation>
+    </message>
+    <message>
+        <source>system sub-mode</source>
+        <translation>submodo de sistema</translation>
+    </message>
+    <message>
+        <source>takes USSD commands</source>
+        <translation>admite USSD</translation>
+    </message>
+    <message>
+        <source>technology</source>
+        <translation>tecnología</translation>
+    </message>
+    <message>
+        <source>the configuration customised for %1 leaves no presets by IMSI</source>
+        <translation>la configuración personalizada para %1 no deja perfiles por IMSI</translation>
+    </message>
+    <message>
+        <source>the configuration has no presets by IMSI</source>
+        <translation>la configuración no tiene perfiles por IMSI</translation>
+    </message>
+    <message>
+        <source>the connection can't be ended</source>
+        <translation>no se puede terminar la conexión</translation>
+    </message>
+    <message>
+        <source>the connection has not ended yet</source>
+        <translation>la conexión aún no ha terminado</translation>
+    </message>
+    <message>
+        <source>the connection of %1 is not ours to end</source>
+        <translation>la conexión de %1 no es nuestra</translation>
+    </message>
+    <message>
+        <source>the connection was ended elsewhere</source>
+        <translation>la conexión se terminó en otro lugar</translation>
+    </message>
+    <message>
+        <source>the default can't be cleared</source>
+        <translation>no se puede quitar el perfil por defecto</translation>
+    </message>
+    <message>
+        <source>the default can't be set</source>
+        <translation>no se puede fijar el perfil por defecto</translation>
+    </message>
+    <message>
+        <source>the file can't be imported</source>
+        <translation>no se puede importar el archivo</translation>
+    </message>
+    <message>
+        <source>the name is empty; see default --clear</source>
+        <translation>el nombre está vacío; vea default --clear</translation>
+    </message>
+    <message>
+        <source>the new profile's name is the first argument</source>
+        <translation>el nombre del perfil nuevo es el primer argumento</translation>
+    </message>
+    <message>
+        <source>the password of %1 is not base64, as its encrypttype says; set it again</source>
+        <translation>la contraseña de %1 no es base64, como dice su encrypttype; vuelva a ponerla</translation>
+    </message>
+    <message>
+        <source>the profile can't be added</source>
+        <translation>no se puede añadir el perfil</translation>
+    </message>
+    <message>
+        <source>the profile can't be changed</source>
+        <translation>no se puede modificar el perfil</translation>
+    </message>
+    <message>
+        <source>the profile can't be deleted</source>
+        <translation>no se puede eliminar el perfil</translation>
+    </message>
+    <message>
+        <source>the profile library does not hold the preset %1</source>
+        <translation>la biblioteca no contiene el perfil predefinido %1</translation>
+    </message>
+    <message>
+        <source>the profiles can't be changed</source>
+        <translation>no se pueden modificar los perfiles</translation>
+    </message>
+    <message>
+        <source>the profiles can't be exported</source>
+        <translation>no se pueden exportar los perfiles</translation>
+    </message>
+    <message>
+        <source>the profiles can't be imported</source>
+        <translation>no se pueden importar los perfiles</translation>
+    </message>
+    <message>
+        <source>the profiles can't be listed</source>
+        <translation>no se pueden listar los perfiles</translation>
+    </message>
+    <message>
+        <source>the profiles can't be stored</source>
+        <translation>no se pueden guardar los perfiles</translation>
+    </message>
+    <message>
+        <source>the settings of automatic connection can't be stored</source>
+        <translation>no se puede guardar la configuración de la conexión automática</translation>
+    </message>
+    <message>
+        <source>there are no profiles %1</source>
+        <translation>no existen los perfiles %1</translation>
+    </message>
+    <message>
+        <source>there is a profile %1 already</source>
+        <translation>ya existe un perfil %1</translation>
+    </message>
+    <message>
+        <source>there is no configuration key %1</source>
+        <translation>no existe la clave de configuración %1</translation>
+    </message>
+    <message>
+        <source>there is no default profile; name one: orbisctl connect NAME</source>
+        <translation>no hay perfil por defecto; nombre uno: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no profile %1</source>
+        <translation>no existe ningún perfil %1</translation>
+    </message>
+    <message>
+        <source>there is no profile of one's own</source>
+        <translation>no hay ningún perfil propio</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>unknown command %1; see orbisctl --help</source>
+        <translation>orden desconocida %1; vea orbisctl --help</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>uso: %1</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>propio</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>aviso: %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
     </message>
 </context>
 </TS>

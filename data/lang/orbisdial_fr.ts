@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_WRONG_PIN</source>
-        <translation>Le code PIN était faux. Saisissez le bon.</translation>
+        <translation>Le code PIN est erroné. Saisissez le bon.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_MODEM_GONE</source>
@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>Le service des modems (ModemManager) ne fonctionne pas. Démarrez-le ou demandez à votre administrateur.</translation>
+        <translation>Le service des modems (ModemManager) n’est pas lancé. Lancez-le ou demandez à votre administrateur.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>Le service des connexions (NetworkManager) ne fonctionne pas. Démarrez-le ou demandez à votre administrateur.</translation>
+        <translation>Le service des connexions (NetworkManager) n’est pas lancé. Lancez-le ou demandez à votre administrateur.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_PAUSE</source>
-        <translation>La connexion automatique réessaiera bientôt.</translation>
+        <translation>La connexion automatique fera bientôt un nouvel essai.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_REFUSED</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>IDS_TABPAGE_NETCONNECTSETTINGDLG_DIALUP</source>
-        <translation>Accès à distance</translation>
+        <translation>Connexion par modem</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
@@ -336,7 +336,7 @@
     </message>
     <message>
         <source>IDS_SETTING_GROUP_Authentication_protocol</source>
-        <translation>Authentification par</translation>
+        <translation>Protocole d’authentification</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_APN_NAME</source>
@@ -396,7 +396,7 @@
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
-        <translation>Par &amp;défaut</translation>
+        <translation>&amp;Définir par défaut</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
@@ -492,7 +492,7 @@
     </message>
     <message>
         <source>IDS_TREENODE_PROFILEINPUTDLG_DIALUP</source>
-        <translation>Profils d’accès à distance</translation>
+        <translation>Profils de connexion par modem</translation>
     </message>
     <message>
         <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
@@ -584,7 +584,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_HINT_PASSWORD</source>
-        <translation>Certains caractères sont refusés&#xa0;: latin occidental uniquement.</translation>
+        <translation>Caractères non enregistrables&#xa0;: utilisez uniquement l’alphabet latin occidental.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_ACC_PROFILE_LIST</source>
@@ -671,7 +671,7 @@
     </message>
     <message>
         <source>IDS_HOST_NO_DIALER</source>
-        <translation>Aucun module d’accès à distance n’est chargé</translation>
+        <translation>Aucun module de connexion n’est chargé</translation>
     </message>
     <message>
         <source>IDS_HOST_SIM</source>
@@ -731,7 +731,7 @@
     </message>
     <message>
         <source>IDS_HOST_LOCK_DEFAULT</source>
-        <translation>Conserver le profil par défaut&#xa0;: masquer le bouton «&#xa0;Par défaut&#xa0;»</translation>
+        <translation>Conserver le profil par défaut&#xa0;: masquer le bouton «&#xa0;Définir par défaut&#xa0;»</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
@@ -739,7 +739,7 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILE_LABEL</source>
-        <translation>Profil :</translation>
+        <translation>Profil&#xa0;:</translation>
     </message>
     <message>
         <source>IDS_HOST_PROFILE</source>
@@ -977,7 +977,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>Service de modem arrêté</translation>
+        <translation>Le service des modems n’est pas lancé</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
@@ -1009,7 +1009,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
-        <translation>Le code PIN a été erroné trop souvent. Elle demande le code PUK fourni par votre opérateur.</translation>
+        <translation>Le code PIN a été saisi trop de fois de manière erronée. La carte demande le code PUK fourni par votre opérateur.</translation>
     </message>
     <message>
         <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
@@ -1045,7 +1045,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_SIGNAL</source>
-        <translation>signal %1 %</translation>
+        <translation>signal %1&#xa0;%</translation>
     </message>
     <message>
         <source>IDS_HOST_ROAMING</source>
@@ -1089,11 +1089,11 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_MONTH</source>
-        <translation>Ce mois-ci : %1</translation>
+        <translation>Ce mois-ci&#xa0;: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_MONTH_OF</source>
-        <translation>Ce mois-ci : %1 sur %2</translation>
+        <translation>Ce mois-ci&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>IDS_HOST_BYTES</source>
@@ -1177,23 +1177,23 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
-        <translation>Le code PIN a été erroné trop souvent. Entrez le code PUK fourni par votre opérateur et choisissez un nouveau code PIN.</translation>
+        <translation>Le code PIN a été saisi trop de fois de manière erronée. Saisissez le code PUK fourni par votre opérateur et choisissez un nouveau code PIN.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN</source>
-        <translation>Code PIN :</translation>
+        <translation>Code PIN&#xa0;:</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PUK</source>
-        <translation>Code PUK :</translation>
+        <translation>Code PUK&#xa0;:</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_NEW_PIN</source>
-        <translation>Nouveau code PIN :</translation>
+        <translation>Nouveau code PIN&#xa0;:</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_REPEAT_PIN</source>
-        <translation>Confirmer le code PIN :</translation>
+        <translation>Confirmer le code PIN&#xa0;:</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_NOW</source>
@@ -1201,7 +1201,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_ATTEMPTS</source>
-        <translation>Tentatives restantes : %1</translation>
+        <translation>Tentatives restantes&#xa0;: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_ATTEMPTS_UNKNOWN</source>
@@ -1241,7 +1241,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_CLOSE_TO_TRAY</source>
-        <translation>Fermer la fenêtre laisse le programme dans la zone de notification</translation>
+        <translation>À la fermeture de la fenêtre, laisser le programme dans la zone de notification</translation>
     </message>
     <message>
         <source>IDS_HOST_START_WITH_SESSION</source>
@@ -1333,7 +1333,518 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
-        <translation>Couper</translation>
+        <translation>Couper la connexion</translation>
+    </message>
+</context>
+<context>
+    <name>orbisctl</name>
+    <message>
+        <source>%1 (chosen by the user)</source>
+        <translation>%1 (choisi par l’utilisateur)</translation>
+    </message>
+    <message>
+        <source>%1 (proposed by the configuration)</source>
+        <translation>%1 (proposé par la configuration)</translation>
+    </message>
+    <message>
+        <source>%1 bytes received, %2 sent</source>
+        <translation>%1 octets reçus, %2 envoyés</translation>
+    </message>
+    <message>
+        <source>%1 holds no profile %2</source>
+        <translation>%1 ne contient pas de profil %2</translation>
+    </message>
+    <message>
+        <source>%1 is a preset</source>
+        <translation>%1 est un profil prédéfini</translation>
+    </message>
+    <message>
+        <source>%1 is connected; see orbisctl disconnect</source>
+        <translation>%1 est connecté&#xa0;; voir orbisctl disconnect</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 est en lecture seule</translation>
+    </message>
+    <message>
+        <source>%1 may be more than one command</source>
+        <translation>%1 peut désigner plusieurs commandes</translation>
+    </message>
+    <message>
+        <source>%1: does not exist</source>
+        <translation>%1&#xa0;: n’existe pas</translation>
+    </message>
+    <message>
+        <source>%1: holds no template for new profiles; see --like</source>
+        <translation>%1&#xa0;: ne contient pas de modèle pour les nouveaux profils&#xa0;; voir --like</translation>
+    </message>
+    <message>
+        <source>%1; give a new one with password=</source>
+        <translation>%1&#xa0;; donnez-en un nouveau avec password=</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(masqué)</translation>
+    </message>
+    <message>
+        <source>(simulated modem)</source>
+        <translation>(modem simulé)</translation>
+    </message>
+    <message>
+        <source>--timeout takes a number of seconds from 1 to 86400</source>
+        <translation>--timeout attend un nombre de secondes de 1 à 86400</translation>
+    </message>
+    <message>
+        <source>; it ends with this program, see --hold</source>
+        <translation>&#xa0;; elle prend fin avec ce programme, voir --hold</translation>
+    </message>
+    <message>
+        <source>; make one of your own from it: %1</source>
+        <translation>&#xa0;; créez le vôtre à partir de celui-ci&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>GID1</source>
+        <translation>GID1</translation>
+    </message>
+    <message>
+        <source>IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>Password [as stored]: </source>
+        <translation>Mot de passe [celui enregistré]&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Mot de passe&#xa0;: </translation>
+    </message>
+    <message>
+        <source>This is a simulated modem.</source>
+        <translation>Ceci est un modem simulé.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Nom d’utilisateur [%1]&#xa0;: </translation>
+    </message>
+    <message>
+        <source>attempts to unlock</source>
+        <translation>tentatives restantes</translation>
+    </message>
+    <message>
+        <source>automatically</source>
+        <translation>automatiquement</translation>
+    </message>
+    <message>
+        <source>backend</source>
+        <translation>moteur</translation>
+    </message>
+    <message>
+        <source>can't be dialled with</source>
+        <translation>ne permet pas de composer</translation>
+    </message>
+    <message>
+        <source>card</source>
+        <translation>carte</translation>
+    </message>
+    <message>
+        <source>card mode (2 is CDMA)</source>
+        <translation>mode de carte (2&#xa0;: CDMA)</translation>
+    </message>
+    <message>
+        <source>card's operator</source>
+        <translation>opérateur de la carte</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>choisi</translation>
+    </message>
+    <message>
+        <source>connected: %1</source>
+        <translation>connecté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>connecting: %1: %2</source>
+        <translation>connexion&#xa0;: %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>connexion</translation>
+    </message>
+    <message>
+        <source>customise name</source>
+        <translation>nom de personnalisation</translation>
+    </message>
+    <message>
+        <source>data-service user</source>
+        <translation>utilisateur du service</translation>
+    </message>
+    <message>
+        <source>default takes a name or --clear, not both</source>
+        <translation>default prend un nom ou --clear, pas les deux</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>refusée</translation>
+    </message>
+    <message>
+        <source>dials as CDMA</source>
+        <translation>compose en CDMA</translation>
+    </message>
+    <message>
+        <source>disconnected: %1</source>
+        <translation>déconnecté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>disconnecting: %1</source>
+        <translation>déconnexion&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>export takes names or --all</source>
+        <translation>export prend des noms ou --all</translation>
+    </message>
+    <message>
+        <source>exported %1 to %2</source>
+        <translation>%1 exporté vers %2</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>en panne</translation>
+    </message>
+    <message>
+        <source>generation</source>
+        <translation>génération</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>réseau d’origine</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inactif</translation>
+    </message>
+    <message>
+        <source>imported %1</source>
+        <translation>%1 importé</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>verrou</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>verrouillé</translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation>fabricant</translation>
+    </message>
+    <message>
+        <source>matched IMSI prefix</source>
+        <translation>préfixe IMSI reconnu</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>modèle</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>modem</translation>
+    </message>
+    <message>
+        <source>multi-mode card</source>
+        <translation>carte multimode</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>réseau</translation>
+    </message>
+    <message>
+        <source>network's code</source>
+        <translation>code du réseau</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>no command is given; see orbisctl --help</source>
+        <translation>aucune commande&#xa0;; voir orbisctl --help</translation>
+    </message>
+    <message>
+        <source>no connection in time</source>
+        <translation>pas de connexion dans le délai</translation>
+    </message>
+    <message>
+        <source>no-modem</source>
+        <translation>aucun modem</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>non connecté</translation>
+    </message>
+    <message>
+        <source>not connected: %1</source>
+        <translation>non connecté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>not connected; the modem is in use by %1</source>
+        <translation>non connecté&#xa0;; le modem est utilisé par %1</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>remarque</translation>
+    </message>
+    <message>
+        <source>nothing can tell of connections</source>
+        <translation>rien ne renseigne sur les connexions</translation>
+    </message>
+    <message>
+        <source>nothing was imported from %1</source>
+        <translation>rien n’a été importé de %1</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>autre</translation>
+    </message>
+    <message>
+        <source>own number</source>
+        <translation>numéro de la carte</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>port</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>présente</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>prédéfini</translation>
+    </message>
+    <message>
+        <source>product type (1 is CDMA)</source>
+        <translation>type de modem (1&#xa0;: CDMA)</translation>
+    </message>
+    <message>
+        <source>proposed default</source>
+        <translation>profil proposé</translation>
+    </message>
+    <message>
+        <source>proposed for</source>
+        <translation>proposé pour</translation>
+    </message>
+    <message>
+        <source>puk</source>
+        <translation>PUK</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prêt</translation>
+    </message>
+    <message>
+        <source>registration</source>
+        <translation>inscription au réseau</translation>
+    </message>
+    <message>
+        <source>replaced %1</source>
+        <translation>%1 remplacé</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>itinérance</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>recherche</translation>
+    </message>
+    <message>
+        <source>signal in percent</source>
+        <translation>signal en pour cent</translation>
+    </message>
+    <message>
+        <source>skipped  %1 (exists; see --replace)</source>
+        <translation>%1 ignoré (existe&#xa0;; voir --replace)</translation>
+    </message>
+    <message>
+        <source>starting</source>
+        <translation>démarrage</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>état</translation>
+    </message>
+    <message>
+        <source>status %1</source>
+        <translation>état %1</translation>
+    </message>
+    <message>
+        <source>status (3 is ready)</source>
+        <translation>état (3&#xa0;: prêt)</translation>
+    </message>
+    <message>
+        <source>system mode</source>
+        <translation>mode système</translation>
+    </message>
+    <message>
+        <source>system sub-mode</source>
+        <translation>sous-mode système</translation>
+    </message>
+    <message>
+        <source>takes USSD commands</source>
+        <translation>accepte l’USSD</translation>
+    </message>
+    <message>
+        <source>technology</source>
+        <translation>technologie</translation>
+    </message>
+    <message>
+        <source>the configuration customised for %1 leaves no presets by IMSI</source>
+        <translation>la configuration personnalisée pour %1 ne laisse aucun profil par IMSI</translation>
+    </message>
+    <message>
+        <source>the configuration has no presets by IMSI</source>
+        <translation>la configuration n’a pas de profils par IMSI</translation>
+    </message>
+    <message>
+        <source>the connection can't be ended</source>
+        <translation>la connexion ne peut pas être terminée</translation>
+    </message>
+    <message>
+        <source>the connection has not ended yet</source>
+        <translation>la connexion n’est pas encore terminée</translation>
+    </message>
+    <message>
+        <source>the connection of %1 is not ours to end</source>
+        <translation>la connexion de %1 n’est pas la nôtre</translation>
+    </message>
+    <message>
+        <source>the connection was ended elsewhere</source>
+        <translation>la connexion a été terminée ailleurs</translation>
+    </message>
+    <message>
+        <source>the default can't be cleared</source>
+        <translation>le profil par défaut ne peut pas être effacé</translation>
+    </message>
+    <message>
+        <source>the default can't be set</source>
+        <translation>le profil par défaut ne peut pas être défini</translation>
+    </message>
+    <message>
+        <source>the file can't be imported</source>
+        <translation>le fichier ne peut pas être importé</translation>
+    </message>
+    <message>
+        <source>the name is empty; see default --clear</source>
+        <translation>le nom est vide&#xa0;; voir default --clear</translation>
+    </message>
+    <message>
+        <source>the new profile's name is the first argument</source>
+        <translation>le nom du nouveau profil est le premier argument</translation>
+    </message>
+    <message>
+        <source>the password of %1 is not base64, as its encrypttype says; set it again</source>
+        <translation>le mot de passe de %1 n’est pas en base64 comme l’indique encrypttype&#xa0;; redéfinissez-le</translation>
+    </message>
+    <message>
+        <source>the profile can't be added</source>
+        <translation>le profil ne peut pas être ajouté</translation>
+    </message>
+    <message>
+        <source>the profile can't be changed</source>
+        <translation>le profil ne peut pas être modifié</translation>
+    </message>
+    <message>
+        <source>the profile can't be deleted</source>
+        <translation>le profil ne peut pas être supprimé</translation>
+    </message>
+    <message>
+        <source>the profile library does not hold the preset %1</source>
+        <translation>la bibliothèque de profils ne contient pas le profil prédéfini %1</translation>
+    </message>
+    <message>
+        <source>the profiles can't be changed</source>
+        <translation>les profils ne peuvent pas être modifiés</translation>
+    </message>
+    <message>
+        <source>the profiles can't be exported</source>
+        <translation>les profils ne peuvent pas être exportés</translation>
+    </message>
+    <message>
+        <source>the profiles can't be imported</source>
+        <translation>les profils ne peuvent pas être importés</translation>
+    </message>
+    <message>
+        <source>the profiles can't be listed</source>
+        <translation>les profils ne peuvent pas être listés</translation>
+    </message>
+    <message>
+        <source>the profiles can't be stored</source>
+        <translation>les profils ne peuvent pas être enregistrés</translation>
+    </message>
+    <message>
+        <source>the settings of automatic connection can't be stored</source>
+        <translation>les réglages de la connexion automatique ne peuvent pas être enregistrés</translation>
+    </message>
+    <message>
+        <source>there are no profiles %1</source>
+        <translation>il n’y a pas de profils %1</translation>
+    </message>
+    <message>
+        <source>there is a profile %1 already</source>
+        <translation>il y a déjà un profil %1</translation>
+    </message>
+    <message>
+        <source>there is no configuration key %1</source>
+        <translation>il n’y a pas de clé de configuration %1</translation>
+    </message>
+    <message>
+        <source>there is no default profile; name one: orbisctl connect NAME</source>
+        <translation>il n’y a pas de profil par défaut&#xa0;; nommez-en un&#xa0;: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no profile %1</source>
+        <translation>il n’y a pas de profil %1</translation>
+    </message>
+    <message>
+        <source>there is no profile of one's own</source>
+        <translation>il n’y a aucun profil personnel</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnue</translation>
+    </message>
+    <message>
+        <source>unknown command %1; see orbisctl --help</source>
+        <translation>commande inconnue %1&#xa0;; voir orbisctl --help</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>usage&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>perso.</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>attention&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
     </message>
     <message>
         <source>IDS_HOST_IMPORT_FAILED</source>

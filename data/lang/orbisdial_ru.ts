@@ -29,11 +29,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_SETTINGS</source>
-        <translation>Параметры подключения не загружены.</translation>
+        <translation>Настройки подключения не загружены.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_DEFAULT</source>
-        <translation>Основной профиль не задан. Выберите его в параметрах.</translation>
+        <translation>Основной профиль не задан. Выберите его в настройках.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_PROFILE</source>
@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM</source>
-        <translation>Модема нет. Подключите его.</translation>
+        <translation>Модем не найден. Подключите его.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_IN_USE</source>
-        <translation>Модем занят: %1. Сначала завершите то соединение.</translation>
+        <translation>Модем занят: %1. Сначала завершите это соединение.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
@@ -205,15 +205,15 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NAME</source>
-        <translation>Имя профиля «%1» не годится для соединения. Сократите его.</translation>
+        <translation>Имя профиля «%1» слишком длинное для соединения. Сократите его.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NUMBER</source>
-        <translation>Номер доступа профиля «%1» непригоден. Исправьте его в настройках.</translation>
+        <translation>Номер дозвона профиля «%1» нельзя использовать. Исправьте его в настройках.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_APN</source>
-        <translation>Точка доступа (APN) профиля «%1» непригодна: не больше 64 латинских букв, цифр, точек, дефисов и подчёркиваний. Исправьте её в настройках.</translation>
+        <translation>Точку доступа (APN) профиля «%1» нельзя использовать: допустимо не больше 64 латинских букв, цифр, точек, дефисов и подчёркиваний. Исправьте её в настройках.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_ADDRESS</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_NUMBER</source>
-        <translation>Номер доступа не действует: модем набирает номер самой сети.</translation>
+        <translation>Номер дозвона не действует: модем набирает номер самой сети.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_ADDRESS</source>
@@ -324,7 +324,7 @@
     </message>
     <message>
         <source>IDS_TABPAGE_NETCONNECTSETTINGDLG_DIALUP</source>
-        <translation>Дозвон</translation>
+        <translation>Модемное подключение</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
@@ -336,7 +336,7 @@
     </message>
     <message>
         <source>IDS_SETTING_GROUP_Authentication_protocol</source>
-        <translation>Протокол входа</translation>
+        <translation>Протокол аутентификации</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_APN_NAME</source>
@@ -364,15 +364,15 @@
     </message>
     <message>
         <source>IDS_USERNAME_AND_PASSWORD</source>
-        <translation>&amp;Запрашивать при входе</translation>
+        <translation>&amp;Запрашивать при подключении</translation>
     </message>
     <message>
         <source>IDS_SETTING_CHECK_CHAP</source>
-        <translation>CHAP</translation>
+        <translation>C&amp;HAP</translation>
     </message>
     <message>
         <source>IDS_SETTING_CHECK_PAP</source>
-        <translation>PAP</translation>
+        <translation>&amp;PAP</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_NEW</source>
@@ -396,7 +396,7 @@
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
-        <translation>Осно&amp;вной</translation>
+        <translation>Сделать осно&amp;вным</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>IDS_PROMPT_CAPTION</source>
-        <translation>Параметры подключения</translation>
+        <translation>Настройки подключения</translation>
     </message>
     <message>
         <source>IDS_OK</source>
@@ -500,7 +500,7 @@
     </message>
     <message>
         <source>IDS_STC_DIALUPDLG_ADVANCE</source>
-        <translation>Дополнительные параметры</translation>
+        <translation>Дополнительные настройки</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_GROUP_APN_IP</source>
@@ -639,7 +639,7 @@
     </message>
     <message>
         <source>IDS_HOST_PAGES</source>
-        <translation>Страницы параметров</translation>
+        <translation>Страницы настроек</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_DEFAULT_PROFILE</source>
@@ -695,11 +695,11 @@
     </message>
     <message>
         <source>IDS_HOST_STORAGE_PROBLEM</source>
-        <translation>Проблема с сохранением: %1</translation>
+        <translation>Ошибка сохранения: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_PLUGIN_PROBLEM</source>
-        <translation>%1 не используется: %2</translation>
+        <translation>%1 нельзя использовать: %2</translation>
     </message>
     <message>
         <source>IDS_HOST_PLUGIN_LOAD_FAILED</source>
@@ -719,7 +719,7 @@
     </message>
     <message>
         <source>IDS_HOST_MODEM_PROBLEM</source>
-        <translation>Модем недоступен: %1</translation>
+        <translation>Модем нельзя использовать: %1</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_NAME</source>
@@ -731,11 +731,11 @@
     </message>
     <message>
         <source>IDS_HOST_LOCK_DEFAULT</source>
-        <translation>Не менять основной профиль: скрыть кнопку «Основной»</translation>
+        <translation>Не менять основной профиль: скрыть кнопку «Сделать основным»</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS_NOT_SAVED</source>
-        <translation>Не удалось сохранить параметры.</translation>
+        <translation>Не удалось сохранить настройки.</translation>
     </message>
     <message>
         <source>IDS_HOST_PROFILE_LABEL</source>
@@ -1041,11 +1041,11 @@
     </message>
     <message>
         <source>IDS_HOST_DENIED</source>
-        <translation>Сеть отклоняет эту SIM-карту. Обратитесь к оператору.</translation>
+        <translation>Сеть не принимает эту SIM-карту. Обратитесь к оператору.</translation>
     </message>
     <message>
         <source>IDS_HOST_SIGNAL</source>
-        <translation>сигнал %1 %</translation>
+        <translation>сигнал %1&#xa0;%</translation>
     </message>
     <message>
         <source>IDS_HOST_ROAMING</source>
@@ -1343,6 +1343,517 @@
     <message>
         <source>IDS_HOST_IMPORT_BUSY</source>
         <translation>Сначала завершите начатое, затем откройте файл снова.</translation>
+    </message>
+</context>
+<context>
+    <name>orbisctl</name>
+    <message>
+        <source>%1 (chosen by the user)</source>
+        <translation>%1 (выбран пользователем)</translation>
+    </message>
+    <message>
+        <source>%1 (proposed by the configuration)</source>
+        <translation>%1 (предложен конфигурацией)</translation>
+    </message>
+    <message>
+        <source>%1 bytes received, %2 sent</source>
+        <translation>получено %1 байт, отправлено %2</translation>
+    </message>
+    <message>
+        <source>%1 holds no profile %2</source>
+        <translation>в %1 нет профиля %2</translation>
+    </message>
+    <message>
+        <source>%1 is a preset</source>
+        <translation>%1 — готовый профиль оператора</translation>
+    </message>
+    <message>
+        <source>%1 is connected; see orbisctl disconnect</source>
+        <translation>%1 уже подключён; см. orbisctl disconnect</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 доступен только для чтения</translation>
+    </message>
+    <message>
+        <source>%1 may be more than one command</source>
+        <translation>%1 может означать несколько команд</translation>
+    </message>
+    <message>
+        <source>%1: does not exist</source>
+        <translation>%1: не существует</translation>
+    </message>
+    <message>
+        <source>%1: holds no template for new profiles; see --like</source>
+        <translation>%1: нет шаблона для новых профилей; см. --like</translation>
+    </message>
+    <message>
+        <source>%1; give a new one with password=</source>
+        <translation>%1; задайте новый с помощью password=</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(скрыт)</translation>
+    </message>
+    <message>
+        <source>(simulated modem)</source>
+        <translation>(имитация модема)</translation>
+    </message>
+    <message>
+        <source>--timeout takes a number of seconds from 1 to 86400</source>
+        <translation>--timeout принимает число секунд от 1 до 86400</translation>
+    </message>
+    <message>
+        <source>; it ends with this program, see --hold</source>
+        <translation>; завершится вместе с программой, см. --hold</translation>
+    </message>
+    <message>
+        <source>; make one of your own from it: %1</source>
+        <translation>; создайте на его основе свой: %1</translation>
+    </message>
+    <message>
+        <source>GID1</source>
+        <translation>GID1</translation>
+    </message>
+    <message>
+        <source>IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>Password [as stored]: </source>
+        <translation>Пароль [сохранённый]: </translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>Пароль: </translation>
+    </message>
+    <message>
+        <source>This is a simulated modem.</source>
+        <translation>Это имитация модема.</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>Имя пользователя [%1]: </translation>
+    </message>
+    <message>
+        <source>attempts to unlock</source>
+        <translation>осталось попыток</translation>
+    </message>
+    <message>
+        <source>automatically</source>
+        <translation>автоматически</translation>
+    </message>
+    <message>
+        <source>backend</source>
+        <translation>серверная часть</translation>
+    </message>
+    <message>
+        <source>can't be dialled with</source>
+        <translation>с ним нельзя подключиться</translation>
+    </message>
+    <message>
+        <source>card</source>
+        <translation>карта</translation>
+    </message>
+    <message>
+        <source>card mode (2 is CDMA)</source>
+        <translation>режим карты (2 — CDMA)</translation>
+    </message>
+    <message>
+        <source>card's operator</source>
+        <translation>оператор карты</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>выбран</translation>
+    </message>
+    <message>
+        <source>connected: %1</source>
+        <translation>подключено: %1</translation>
+    </message>
+    <message>
+        <source>connecting: %1: %2</source>
+        <translation>подключение: %1: %2</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>подключение</translation>
+    </message>
+    <message>
+        <source>customise name</source>
+        <translation>имя конфигурации</translation>
+    </message>
+    <message>
+        <source>data-service user</source>
+        <translation>пользователь услуги</translation>
+    </message>
+    <message>
+        <source>default takes a name or --clear, not both</source>
+        <translation>default принимает имя или --clear, но не оба</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>отказано</translation>
+    </message>
+    <message>
+        <source>dials as CDMA</source>
+        <translation>дозвон как CDMA</translation>
+    </message>
+    <message>
+        <source>disconnected: %1</source>
+        <translation>отключено: %1</translation>
+    </message>
+    <message>
+        <source>disconnecting: %1</source>
+        <translation>отключение: %1</translation>
+    </message>
+    <message>
+        <source>export takes names or --all</source>
+        <translation>export принимает имена или --all</translation>
+    </message>
+    <message>
+        <source>exported %1 to %2</source>
+        <translation>%1 экспортировано в %2</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>сбой</translation>
+    </message>
+    <message>
+        <source>generation</source>
+        <translation>поколение</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>домашняя сеть</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>не ведётся</translation>
+    </message>
+    <message>
+        <source>imported %1</source>
+        <translation>%1 импортирован</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>блокировка</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>заблокирован</translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation>изготовитель</translation>
+    </message>
+    <message>
+        <source>matched IMSI prefix</source>
+        <translation>найденный префикс IMSI</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>модель</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>модем</translation>
+    </message>
+    <message>
+        <source>multi-mode card</source>
+        <translation>многорежимная карта</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>сеть</translation>
+    </message>
+    <message>
+        <source>network's code</source>
+        <translation>код сети</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>no command is given; see orbisctl --help</source>
+        <translation>команда не указана; см. orbisctl --help</translation>
+    </message>
+    <message>
+        <source>no connection in time</source>
+        <translation>нет подключения за отведённое время</translation>
+    </message>
+    <message>
+        <source>no-modem</source>
+        <translation>нет модема</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>не подключено</translation>
+    </message>
+    <message>
+        <source>not connected: %1</source>
+        <translation>не подключено: %1</translation>
+    </message>
+    <message>
+        <source>not connected; the modem is in use by %1</source>
+        <translation>не подключено; модем занят: %1</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>примечание</translation>
+    </message>
+    <message>
+        <source>nothing can tell of connections</source>
+        <translation>сведений о подключениях получить неоткуда</translation>
+    </message>
+    <message>
+        <source>nothing was imported from %1</source>
+        <translation>из %1 ничего не импортировано</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>другая</translation>
+    </message>
+    <message>
+        <source>own number</source>
+        <translation>свой номер</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>порт</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>есть</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>готовый</translation>
+    </message>
+    <message>
+        <source>product type (1 is CDMA)</source>
+        <translation>тип устройства (1 — CDMA)</translation>
+    </message>
+    <message>
+        <source>proposed default</source>
+        <translation>предложенный основной</translation>
+    </message>
+    <message>
+        <source>proposed for</source>
+        <translation>предложен для</translation>
+    </message>
+    <message>
+        <source>puk</source>
+        <translation>PUK</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>готов</translation>
+    </message>
+    <message>
+        <source>registration</source>
+        <translation>регистрация в сети</translation>
+    </message>
+    <message>
+        <source>replaced %1</source>
+        <translation>%1 заменён</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>роуминг</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>поиск</translation>
+    </message>
+    <message>
+        <source>signal in percent</source>
+        <translation>сигнал в процентах</translation>
+    </message>
+    <message>
+        <source>skipped  %1 (exists; see --replace)</source>
+        <translation>%1 пропущен (уже есть; см. --replace)</translation>
+    </message>
+    <message>
+        <source>starting</source>
+        <translation>запускается</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>состояние</translation>
+    </message>
+    <message>
+        <source>status %1</source>
+        <translation>код %1</translation>
+    </message>
+    <message>
+        <source>status (3 is ready)</source>
+        <translation>состояние (3 — готов)</translation>
+    </message>
+    <message>
+        <source>system mode</source>
+        <translation>режим системы</translation>
+    </message>
+    <message>
+        <source>system sub-mode</source>
+        <translation>подрежим системы</translation>
+    </message>
+    <message>
+        <source>takes USSD commands</source>
+        <translation>принимает USSD-команды</translation>
+    </message>
+    <message>
+        <source>technology</source>
+        <translation>технология</translation>
+    </message>
+    <message>
+        <source>the configuration customised for %1 leaves no presets by IMSI</source>
+        <translation>в конфигурации для %1 нет готовых профилей по IMSI</translation>
+    </message>
+    <message>
+        <source>the configuration has no presets by IMSI</source>
+        <translation>в конфигурации нет готовых профилей по IMSI</translation>
+    </message>
+    <message>
+        <source>the connection can't be ended</source>
+        <translation>подключение нельзя завершить</translation>
+    </message>
+    <message>
+        <source>the connection has not ended yet</source>
+        <translation>подключение ещё не завершено</translation>
+    </message>
+    <message>
+        <source>the connection of %1 is not ours to end</source>
+        <translation>подключение %1 не наше, завершить его нельзя</translation>
+    </message>
+    <message>
+        <source>the connection was ended elsewhere</source>
+        <translation>подключение завершено другой программой</translation>
+    </message>
+    <message>
+        <source>the default can't be cleared</source>
+        <translation>нельзя отменить выбор основного профиля</translation>
+    </message>
+    <message>
+        <source>the default can't be set</source>
+        <translation>нельзя назначить основной профиль</translation>
+    </message>
+    <message>
+        <source>the file can't be imported</source>
+        <translation>файл нельзя импортировать</translation>
+    </message>
+    <message>
+        <source>the name is empty; see default --clear</source>
+        <translation>имя пустое; см. default --clear</translation>
+    </message>
+    <message>
+        <source>the new profile's name is the first argument</source>
+        <translation>имя нового профиля — первый аргумент</translation>
+    </message>
+    <message>
+        <source>the password of %1 is not base64, as its encrypttype says; set it again</source>
+        <translation>пароль %1 не в base64, как указано в encrypttype; задайте его заново</translation>
+    </message>
+    <message>
+        <source>the profile can't be added</source>
+        <translation>профиль нельзя добавить</translation>
+    </message>
+    <message>
+        <source>the profile can't be changed</source>
+        <translation>профиль нельзя изменить</translation>
+    </message>
+    <message>
+        <source>the profile can't be deleted</source>
+        <translation>профиль нельзя удалить</translation>
+    </message>
+    <message>
+        <source>the profile library does not hold the preset %1</source>
+        <translation>в библиотеке нет готового профиля %1</translation>
+    </message>
+    <message>
+        <source>the profiles can't be changed</source>
+        <translation>профили нельзя изменить</translation>
+    </message>
+    <message>
+        <source>the profiles can't be exported</source>
+        <translation>профили нельзя экспортировать</translation>
+    </message>
+    <message>
+        <source>the profiles can't be imported</source>
+        <translation>профили нельзя импортировать</translation>
+    </message>
+    <message>
+        <source>the profiles can't be listed</source>
+        <translation>профили нельзя перечислить</translation>
+    </message>
+    <message>
+        <source>the profiles can't be stored</source>
+        <translation>профили нельзя сохранить</translation>
+    </message>
+    <message>
+        <source>the settings of automatic connection can't be stored</source>
+        <translation>настройки автоматического подключения нельзя сохранить</translation>
+    </message>
+    <message>
+        <source>there are no profiles %1</source>
+        <translation>нет профилей %1</translation>
+    </message>
+    <message>
+        <source>there is a profile %1 already</source>
+        <translation>профиль %1 уже есть</translation>
+    </message>
+    <message>
+        <source>there is no configuration key %1</source>
+        <translation>нет ключа конфигурации %1</translation>
+    </message>
+    <message>
+        <source>there is no default profile; name one: orbisctl connect NAME</source>
+        <translation>основной профиль не задан; укажите имя: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no profile %1</source>
+        <translation>нет профиля %1</translation>
+    </message>
+    <message>
+        <source>there is no profile of one's own</source>
+        <translation>нет ни одного своего профиля</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>unknown command %1; see orbisctl --help</source>
+        <translation>неизвестная команда %1; см. orbisctl --help</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>использование: %1</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>свой</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>предупреждение: %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>да</translation>
     </message>
 </context>
 </TS>

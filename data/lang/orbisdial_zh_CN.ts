@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_LOCKED</source>
-        <translation>SIM 卡已锁定。请输入其 PIN。</translation>
+        <translation>SIM 卡已锁定。请输入其 PIN 码。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_WRONG_CARD</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_WRONG_PIN</source>
-        <translation>PIN 错误。请输入正确的 PIN。</translation>
+        <translation>PIN 码错误。请输入正确的 PIN 码。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_MODEM_GONE</source>
@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>调制解调器服务 (ModemManager) 未运行。请启动它，或询问管理员。</translation>
+        <translation>调制解调器服务 (ModemManager) 未运行。请启动它，或联系管理员。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>连接服务 (NetworkManager) 未运行。请启动它，或询问管理员。</translation>
+        <translation>连接服务 (NetworkManager) 未运行。请启动它，或联系管理员。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_ENDED_OUTSIDE</source>
-        <translation>连接在本程序之外被结束。如有需要请重新连接。</translation>
+        <translation>连接已被本程序以外的操作断开。如有需要请重新连接。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_HUNG_UP</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_CANNOT_HANG_UP</source>
-        <translation>无法结束连接。请重试。</translation>
+        <translation>无法断开连接。请重试。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NAME</source>
-        <translation>配置文件名称“%1”不能用于连接。请缩短它。</translation>
+        <translation>配置文件名称“%1”过长，不能用于连接。请缩短它。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NUMBER</source>
@@ -281,15 +281,15 @@
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_HUNG_UP</source>
-        <translation>自动连接等待您自行连接。</translation>
+        <translation>自动连接将等待您手动连接。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_NOT_READY</source>
-        <translation>自动连接等待调制解调器。</translation>
+        <translation>自动连接正在等待调制解调器。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_NOT_REGISTERED</source>
-        <translation>自动连接等待网络。</translation>
+        <translation>自动连接正在等待网络。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_ROAMING</source>
@@ -297,15 +297,15 @@
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_IN_USE</source>
-        <translation>自动连接等待调制解调器空闲。</translation>
+        <translation>自动连接正在等待调制解调器空闲。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_PAUSE</source>
-        <translation>自动连接将很快重试。</translation>
+        <translation>自动连接稍后将重试。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_REFUSED</source>
-        <translation>自动连接已停止，因为网络拒绝了“%1”。请更正其用户名和密码，或自行连接。</translation>
+        <translation>自动连接已停止，因为网络拒绝了“%1”。请更正其用户名和密码，或手动连接。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_AUTO_FAILED</source>
@@ -1333,7 +1333,518 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     </message>
     <message>
         <source>IDS_HOST_MODEM_DROP</source>
-        <translation>断开连接</translation>
+        <translation>模拟断线</translation>
+    </message>
+</context>
+<context>
+    <name>orbisctl</name>
+    <message>
+        <source>%1 (chosen by the user)</source>
+        <translation>%1（用户选定）</translation>
+    </message>
+    <message>
+        <source>%1 (proposed by the configuration)</source>
+        <translation>%1（配置建议）</translation>
+    </message>
+    <message>
+        <source>%1 bytes received, %2 sent</source>
+        <translation>已接收 %1 字节，已发送 %2 字节</translation>
+    </message>
+    <message>
+        <source>%1 holds no profile %2</source>
+        <translation>%1 中没有配置文件 %2</translation>
+    </message>
+    <message>
+        <source>%1 is a preset</source>
+        <translation>%1 是预设</translation>
+    </message>
+    <message>
+        <source>%1 is connected; see orbisctl disconnect</source>
+        <translation>%1 已连接；参见 orbisctl disconnect</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 为只读</translation>
+    </message>
+    <message>
+        <source>%1 may be more than one command</source>
+        <translation>%1 可能是多个命令</translation>
+    </message>
+    <message>
+        <source>%1: does not exist</source>
+        <translation>%1：不存在</translation>
+    </message>
+    <message>
+        <source>%1: holds no template for new profiles; see --like</source>
+        <translation>%1：没有新配置文件的模板；参见 --like</translation>
+    </message>
+    <message>
+        <source>%1; give a new one with password=</source>
+        <translation>%1；请用 password= 指定新密码</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>（已隐藏）</translation>
+    </message>
+    <message>
+        <source>(simulated modem)</source>
+        <translation>（模拟调制解调器）</translation>
+    </message>
+    <message>
+        <source>--timeout takes a number of seconds from 1 to 86400</source>
+        <translation>--timeout 需要 1 到 86400 之间的秒数</translation>
+    </message>
+    <message>
+        <source>; it ends with this program, see --hold</source>
+        <translation>；它随本程序结束，参见 --hold</translation>
+    </message>
+    <message>
+        <source>; make one of your own from it: %1</source>
+        <translation>；请由它新建自己的配置文件：%1</translation>
+    </message>
+    <message>
+        <source>GID1</source>
+        <translation>GID1</translation>
+    </message>
+    <message>
+        <source>IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>Password [as stored]: </source>
+        <translation>密码 [已保存的]：</translation>
+    </message>
+    <message>
+        <source>Password: </source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>This is a simulated modem.</source>
+        <translation>这是模拟调制解调器。</translation>
+    </message>
+    <message>
+        <source>User name [%1]: </source>
+        <translation>用户名 [%1]：</translation>
+    </message>
+    <message>
+        <source>attempts to unlock</source>
+        <translation>剩余解锁次数</translation>
+    </message>
+    <message>
+        <source>automatically</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>backend</source>
+        <translation>后端</translation>
+    </message>
+    <message>
+        <source>can't be dialled with</source>
+        <translation>不能用于拨号</translation>
+    </message>
+    <message>
+        <source>card</source>
+        <translation>卡</translation>
+    </message>
+    <message>
+        <source>card mode (2 is CDMA)</source>
+        <translation>卡模式（2 为 CDMA）</translation>
+    </message>
+    <message>
+        <source>card's operator</source>
+        <translation>卡的运营商</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>已选择</translation>
+    </message>
+    <message>
+        <source>connected: %1</source>
+        <translation>已连接：%1</translation>
+    </message>
+    <message>
+        <source>connecting: %1: %2</source>
+        <translation>正在连接：%1：%2</translation>
+    </message>
+    <message>
+        <source>connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>customise name</source>
+        <translation>定制名称</translation>
+    </message>
+    <message>
+        <source>data-service user</source>
+        <translation>数据服务用户</translation>
+    </message>
+    <message>
+        <source>default takes a name or --clear, not both</source>
+        <translation>default 只能带名称或 --clear 之一</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>被拒绝</translation>
+    </message>
+    <message>
+        <source>dials as CDMA</source>
+        <translation>以 CDMA 拨号</translation>
+    </message>
+    <message>
+        <source>disconnected: %1</source>
+        <translation>已断开：%1</translation>
+    </message>
+    <message>
+        <source>disconnecting: %1</source>
+        <translation>正在断开：%1</translation>
+    </message>
+    <message>
+        <source>export takes names or --all</source>
+        <translation>export 需要名称或 --all</translation>
+    </message>
+    <message>
+        <source>exported %1 to %2</source>
+        <translation>已将 %1 导出到 %2</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>generation</source>
+        <translation>网络代</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>归属网络</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>空闲</translation>
+    </message>
+    <message>
+        <source>imported %1</source>
+        <translation>已导入 %1</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>已锁定</translation>
+    </message>
+    <message>
+        <source>manufacturer</source>
+        <translation>制造商</translation>
+    </message>
+    <message>
+        <source>matched IMSI prefix</source>
+        <translation>匹配的 IMSI 前缀</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>调制解调器</translation>
+    </message>
+    <message>
+        <source>multi-mode card</source>
+        <translation>多模卡</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>network's code</source>
+        <translation>网络代码</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>no command is given; see orbisctl --help</source>
+        <translation>未指定命令；参见 orbisctl --help</translation>
+    </message>
+    <message>
+        <source>no connection in time</source>
+        <translation>未能及时建立连接</translation>
+    </message>
+    <message>
+        <source>no-modem</source>
+        <translation>无调制解调器</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>not connected: %1</source>
+        <translation>未连接：%1</translation>
+    </message>
+    <message>
+        <source>not connected; the modem is in use by %1</source>
+        <translation>未连接；调制解调器正由 %1 使用</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>nothing can tell of connections</source>
+        <translation>无法获得连接信息</translation>
+    </message>
+    <message>
+        <source>nothing was imported from %1</source>
+        <translation>没有从 %1 导入任何内容</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>own number</source>
+        <translation>本机号码</translation>
+    </message>
+    <message>
+        <source>pin</source>
+        <translation>PIN</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>已插入</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>预设</translation>
+    </message>
+    <message>
+        <source>product type (1 is CDMA)</source>
+        <translation>产品类型（1 为 CDMA）</translation>
+    </message>
+    <message>
+        <source>proposed default</source>
+        <translation>建议的默认</translation>
+    </message>
+    <message>
+        <source>proposed for</source>
+        <translation>建议对象</translation>
+    </message>
+    <message>
+        <source>puk</source>
+        <translation>PUK</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>registration</source>
+        <translation>网络注册</translation>
+    </message>
+    <message>
+        <source>replaced %1</source>
+        <translation>已替换 %1</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>漫游</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>正在搜索</translation>
+    </message>
+    <message>
+        <source>signal in percent</source>
+        <translation>信号百分比</translation>
+    </message>
+    <message>
+        <source>skipped  %1 (exists; see --replace)</source>
+        <translation>已跳过 %1（已存在；参见 --replace）</translation>
+    </message>
+    <message>
+        <source>starting</source>
+        <translation>正在启动</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>status %1</source>
+        <translation>状态 %1</translation>
+    </message>
+    <message>
+        <source>status (3 is ready)</source>
+        <translation>状态（3 为就绪）</translation>
+    </message>
+    <message>
+        <source>system mode</source>
+        <translation>系统模式</translation>
+    </message>
+    <message>
+        <source>system sub-mode</source>
+        <translation>系统子模式</translation>
+    </message>
+    <message>
+        <source>takes USSD commands</source>
+        <translation>支持 USSD 命令</translation>
+    </message>
+    <message>
+        <source>technology</source>
+        <translation>技术</translation>
+    </message>
+    <message>
+        <source>the configuration customised for %1 leaves no presets by IMSI</source>
+        <translation>为 %1 定制的配置中没有按 IMSI 的预设</translation>
+    </message>
+    <message>
+        <source>the configuration has no presets by IMSI</source>
+        <translation>配置中没有按 IMSI 的预设</translation>
+    </message>
+    <message>
+        <source>the connection can't be ended</source>
+        <translation>无法断开连接</translation>
+    </message>
+    <message>
+        <source>the connection has not ended yet</source>
+        <translation>连接尚未断开</translation>
+    </message>
+    <message>
+        <source>the connection of %1 is not ours to end</source>
+        <translation>%1 的连接不归本程序断开</translation>
+    </message>
+    <message>
+        <source>the connection was ended elsewhere</source>
+        <translation>连接已在别处断开</translation>
+    </message>
+    <message>
+        <source>the default can't be cleared</source>
+        <translation>无法清除默认配置文件</translation>
+    </message>
+    <message>
+        <source>the default can't be set</source>
+        <translation>无法设置默认配置文件</translation>
+    </message>
+    <message>
+        <source>the file can't be imported</source>
+        <translation>无法导入文件</translation>
+    </message>
+    <message>
+        <source>the name is empty; see default --clear</source>
+        <translation>名称为空；参见 default --clear</translation>
+    </message>
+    <message>
+        <source>the new profile's name is the first argument</source>
+        <translation>新配置文件的名称是第一个参数</translation>
+    </message>
+    <message>
+        <source>the password of %1 is not base64, as its encrypttype says; set it again</source>
+        <translation>%1 的密码不是其 encrypttype 所述的 base64；请重新设置</translation>
+    </message>
+    <message>
+        <source>the profile can't be added</source>
+        <translation>无法添加配置文件</translation>
+    </message>
+    <message>
+        <source>the profile can't be changed</source>
+        <translation>无法更改配置文件</translation>
+    </message>
+    <message>
+        <source>the profile can't be deleted</source>
+        <translation>无法删除配置文件</translation>
+    </message>
+    <message>
+        <source>the profile library does not hold the preset %1</source>
+        <translation>配置文件库中没有预设 %1</translation>
+    </message>
+    <message>
+        <source>the profiles can't be changed</source>
+        <translation>无法更改配置文件</translation>
+    </message>
+    <message>
+        <source>the profiles can't be exported</source>
+        <translation>无法导出配置文件</translation>
+    </message>
+    <message>
+        <source>the profiles can't be imported</source>
+        <translation>无法导入配置文件</translation>
+    </message>
+    <message>
+        <source>the profiles can't be listed</source>
+        <translation>无法列出配置文件</translation>
+    </message>
+    <message>
+        <source>the profiles can't be stored</source>
+        <translation>无法保存配置文件</translation>
+    </message>
+    <message>
+        <source>the settings of automatic connection can't be stored</source>
+        <translation>无法保存自动连接的设置</translation>
+    </message>
+    <message>
+        <source>there are no profiles %1</source>
+        <translation>没有配置文件 %1</translation>
+    </message>
+    <message>
+        <source>there is a profile %1 already</source>
+        <translation>已存在配置文件 %1</translation>
+    </message>
+    <message>
+        <source>there is no configuration key %1</source>
+        <translation>没有配置项 %1</translation>
+    </message>
+    <message>
+        <source>there is no default profile; name one: orbisctl connect NAME</source>
+        <translation>没有默认配置文件；请指定一个：orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no profile %1</source>
+        <translation>没有配置文件 %1</translation>
+    </message>
+    <message>
+        <source>there is no profile of one's own</source>
+        <translation>没有自己的配置文件</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>unknown command %1; see orbisctl --help</source>
+        <translation>未知命令 %1；参见 orbisctl --help</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation>警告：%1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
     </message>
     <message>
         <source>IDS_HOST_IMPORT_FAILED</source>

@@ -5,6 +5,7 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "ConnectionSettings.h"
+#include "Message.h"
 #include "Output.h"
 #include "ProfileFields.h"
 #include "ProfileSession.h"
@@ -19,8 +20,8 @@ DialupProfile profileToStore(const ProfileSession& session, const QString& name,
 DialupProfile templateProfile(const ProfileSession& session) {
     DialupProfile profile;
     if (session->NewDialUpProfileTemplate(&profile) != NetConnectSettingUILogic::Success)
-        throw CommandError::failed(NetConnectXMLParse::shippedPath(NetConnectFileNames::System) +
-                                   ": holds no template for new profiles; see --like");
+        throw CommandError::failed(message("%1: holds no template for new profiles; see --like",
+                                           {NetConnectXMLParse::shippedPath(NetConnectFileNames::System)}));
     return profile;
 }
 
@@ -34,7 +35,7 @@ DialupProfile copyOf(const ProfileSession& session, const QString& name, const F
 
 void requireNameFree(int status, const QString& name) {
     if (status == NetConnectSettingUILogic::NameTaken)
-        throw CommandError::refused("there is a profile " + quoted(name) + " already");
+        throw CommandError::refused(message("there is a profile %1 already", {quoted(name)}));
 }
 
 // Its automatic connection goes where the profile goes; new credentials are worth another attempt.
@@ -42,7 +43,7 @@ void followChange(const QString& before, const QString& after, const FieldAssign
     bool isStored = AutoConnectSettings::rename(before, after);
     if (changes.contains("user") || changes.contains("password"))
         isStored &= AutoConnectSettings::setRefused(after, false);
-    if (!isStored) printWarning("the settings of automatic connection can't be stored");
+    if (!isStored) printWarning(message("the settings of automatic connection can't be stored"));
 }
 
 void showDefault(Output& output) {
@@ -51,7 +52,9 @@ void showDefault(Output& output) {
     const bool isUserSet = session->IsDefaultUserSet();
     QStringList lines;
     if (!name.isEmpty())
-        lines.append(name + (isUserSet ? " (chosen by the user)" : " (proposed by the configuration)"));
+        lines.append(message(isUserSet ? QT_TRANSLATE_NOOP("orbisctl", "%1 (chosen by the user)")
+                                       : QT_TRANSLATE_NOOP("orbisctl", "%1 (proposed by the configuration)"),
+                             {name}));
     output.result({{"name", name}, {"userSet", isUserSet}}, lines);
     session.finish();
 }
@@ -59,8 +62,8 @@ void showDefault(Output& output) {
 void storeDefault(const QString& name, Output& output) {
     ProfileSession session(ProfileSession::Changing);
     if (!name.isEmpty() && !session.names().contains(name))
-        throw CommandError::notFound("there is no profile " + quoted(name));
-    session.require(session->SetDefaultDialUpProfileName(name, !name.isEmpty()), "the default can't be set");
+        throw CommandError::notFound(message("there is no profile %1", {quoted(name)}));
+    session.require(session->SetDefaultDialUpProfileName(name, !name.isEmpty()), message("the default can't be set"));
     const bool isUserSet = session->IsDefaultUserSet();
     session.finish();
     output.result({{"name", name}, {"userSet", isUserSet}}, {});
@@ -71,7 +74,7 @@ void storeDefault(const QString& name, Output& output) {
 void addProfile(const Invocation& invocation, Output& output) {
     const QString name = invocation.arguments().first();
     const FieldAssignments fields(invocation.arguments().mid(1));
-    if (fields.contains("name")) throw CommandError::usage("the new profile's name is the first argument");
+    if (fields.contains("name")) throw CommandError::usage(message("the new profile's name is the first argument"));
     ProfileSession session(ProfileSession::Changing);
     DialupProfile profile =
         invocation.isSet("like") ? copyOf(session, invocation.value("like"), fields) : templateProfile(session);
@@ -80,7 +83,7 @@ void addProfile(const Invocation& invocation, Output& output) {
     checkProfile(session, profile, QString());
     const int status = session->AddDialUpProfile(profile);
     requireNameFree(status, name);
-    session.require(status, "the profile can't be added");
+    session.require(status, message("the profile can't be added"));
     session.finish();
     fields.warn();
     output.result({{"added", name}}, {});
@@ -96,7 +99,7 @@ void setFields(const Invocation& invocation, Output& output) {
     checkProfile(session, profile, name);
     const int status = session->ReplaceDialUpProfile(name, profile);
     requireNameFree(status, profile.name);
-    session.require(status, "the profile can't be changed");
+    session.require(status, message("the profile can't be changed"));
     session.finish();
     followChange(name, profile.name, changes);
     changes.warn();
@@ -109,22 +112,24 @@ void deleteProfiles(const Invocation& invocation, Output& output) {
     ProfileSession session(ProfileSession::Changing);
     for (const QString& name : names) session.requireOwn(session.profile(name));
     for (const QString& name : names) {
-        session.require(session->ForgetDefault(name), "the default can't be cleared");
-        session.require(session->DelDialUpProfile(name), "the profile can't be deleted");
+        session.require(session->ForgetDefault(name), message("the default can't be cleared"));
+        session.require(session->DelDialUpProfile(name), message("the profile can't be deleted"));
     }
     session.finish();
     for (const QString& name : names)
-        if (!AutoConnectSettings::forget(name)) printWarning("the settings of automatic connection can't be stored");
+        if (!AutoConnectSettings::forget(name))
+            printWarning(message("the settings of automatic connection can't be stored"));
     for (const QString& name : names) output.result({{"deleted", name}}, {});
 }
 
 void defaultProfile(const Invocation& invocation, Output& output) {
     const bool hasName = !invocation.arguments().isEmpty();
     if (invocation.isSet("clear")) {
-        if (hasName) throw CommandError::usage("default takes a name or --clear, not both");
+        if (hasName) throw CommandError::usage(message("default takes a name or --clear, not both"));
         return storeDefault(QString(""), output);
     }
     if (!hasName) return showDefault(output);
-    if (invocation.arguments().first().isEmpty()) throw CommandError::usage("the name is empty; see default --clear");
+    if (invocation.arguments().first().isEmpty())
+        throw CommandError::usage(message("the name is empty; see default --clear"));
     storeDefault(invocation.arguments().first(), output);
 }

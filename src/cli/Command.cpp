@@ -6,6 +6,7 @@
 
 #include "CommandError.h"
 #include "Commands.h"
+#include "Message.h"
 #include "Platform.h"
 
 namespace {
@@ -83,8 +84,9 @@ const Command* findCommand(const QString& name) {
     }
     if (candidates.size() == 1) return candidates.first();
     if (candidates.size() > 1)
-        throw CommandError::usage(quoted(name) + " may be more than one command: " + candidateNames(candidates));
-    throw CommandError::usage("unknown command " + quoted(name) + "; see orbisctl --help");
+        throw CommandError::usage(
+            message("%1 may be more than one command: %2", {quoted(name), candidateNames(candidates)}));
+    throw CommandError::usage(message("unknown command %1; see orbisctl --help", {quoted(name)}));
 }
 
 void parse(QCommandLineParser* parser, const QStringList& commandLine) {
@@ -102,7 +104,7 @@ const Command* commandOf(const QStringList& commandLine) {
     parse(&parser, commandLine);
     if (!parser.positionalArguments().isEmpty()) return findCommand(parser.positionalArguments().first());
     if (parser.isSet("help") || parser.isSet("version")) return nullptr;
-    throw CommandError::usage("no command is given; see orbisctl --help");
+    throw CommandError::usage(message("no command is given; see orbisctl --help"));
 }
 
 // "help COMMAND" is another way to say "COMMAND --help".
@@ -178,7 +180,8 @@ void Invocation::describe() {
 void Invocation::checkArguments() const {
     const int count = m_Arguments.size();
     if (count >= m_pCommand->fewest && (m_pCommand->most == Command::AnyNumber || count <= m_pCommand->most)) return;
-    throw CommandError::usage(QString("usage: orbisctl %1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed());
+    throw CommandError::usage(
+        message("usage: %1", {QString("orbisctl %1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed()}));
 }
 
 QString Invocation::helpText() const {
@@ -191,7 +194,7 @@ qint64 Invocation::patience(int seconds) const {
         bool isNumber = false;
         seconds = value("timeout").toInt(&isNumber);
         if (!isNumber || seconds < 1 || seconds > longest)
-            throw CommandError::usage("--timeout takes a number of seconds from 1 to 86400");
+            throw CommandError::usage(message("--timeout takes a number of seconds from 1 to 86400"));
     }
     return seconds < 0 ? -1 : qint64(seconds) * 1000;
 }

@@ -12,6 +12,7 @@
 #include "DialCall.h"
 #include "EventWait.h"
 #include "HiddenInput.h"
+#include "Message.h"
 #include "Output.h"
 #include "ProfileSession.h"
 
@@ -29,7 +30,8 @@ struct Wanted {
 QString wantedName(const ProfileSession& session, const Invocation& invocation) {
     if (!invocation.arguments().isEmpty()) return invocation.arguments().first();
     const QString name = session.defaultName();
-    if (name.isEmpty()) throw CommandError::notFound("there is no default profile; name one: orbisctl connect NAME");
+    if (name.isEmpty())
+        throw CommandError::notFound(message("there is no default profile; name one: orbisctl connect NAME"));
     return name;
 }
 
@@ -61,9 +63,10 @@ Wanted wantedProfile(const Invocation& invocation) {
 void askCredentials(Wanted* wanted) {
     if (!wanted->mustAsk || !isTerminalInput()) return;
     DialupProfile& profile = wanted->profile;
-    const QString user = readShownLine(QString("User name [%1]: ").arg(profile.user), "user name");
+    const QString user = readShownLine(message("User name [%1]: ", {profile.user}), "user name");
     if (!user.isEmpty()) profile.user = user;
-    const QString password = readHiddenLine(profile.password.isEmpty() ? "Password: " : "Password [as stored]: ");
+    const QString password =
+        readHiddenLine(profile.password.isEmpty() ? message("Password: ") : message("Password [as stored]: "));
     if (!password.isEmpty()) profile.password = password;
 }
 
@@ -71,7 +74,7 @@ void refuseUndiallable(const Wanted& wanted) {
     const QString field = DialCall::badField(wanted.profile);
     if (field.isEmpty()) return;
     const QString text = ConnectionText::badField(field, wanted.name);
-    throw CommandError::refused(field + ": " + (text.isEmpty() ? QString("can't be dialled with") : text));
+    throw CommandError::refused(field + ": " + (text.isEmpty() ? message("can't be dialled with") : text));
 }
 
 void warn(const QStringList& notes) {
@@ -106,7 +109,7 @@ private:
         if (DataConnection::current().state == VRKS_CONNECTION_HANGING_UP) waitUntilDown(m_Events, m_Deadline);
         const DataConnection before = DataConnection::current();
         if (!before.isDown() && before.name != wanted.name)
-            throw CommandError::refused(quoted(before.name) + " is connected; see orbisctl disconnect");
+            throw CommandError::refused(message("%1 is connected; see orbisctl disconnect", {quoted(before.name)}));
         if (!before.isDown()) return;
         warn(ConnectionText::notes(wanted.profile));
         const DialCall call(wanted.profile, wanted.name, m_bHolds);
@@ -119,7 +122,7 @@ private:
             if (connection.isUp()) return withAddress(connection);
             if (connection.isDown()) throw ConnectionReport::error(connection);
             showStep(connection);
-            waitForMore("no connection in time");
+            waitForMore(QT_TRANSLATE_NOOP("orbisctl", "no connection in time"));
         }
     }
 
@@ -138,6 +141,8 @@ private:
         hangUpOwn();
         if (waking == EventWait::SignalCame) EndingSignals::obey();
         throw CommandError::timedOut(late);
+        if (waking == DeviceEvents::SignalCame) EndingSignals::obey();
+        throw CommandError::timedOut(message(late));
     }
 
     // What another process began is left to it.
@@ -154,7 +159,7 @@ private:
 
     void showUp(const DataConnection& connection) {
         QString line = ConnectionReport::line(connection);
-        if (vrks_simulated_active() && !m_bHolds) line += "; it ends with this program, see --hold";
+        if (vrks_simulated_active() && !m_bHolds) line += message("; it ends with this program, see --hold");
         m_Output.result(ConnectionReport::object(connection), {line});
     }
 
@@ -164,7 +169,7 @@ private:
             if (m_Events.wait(m_Deadline) != EventWait::SignalCame) continue;
             const bool isEnded =
                 VRKS_NetConnectSrv_HangUp() == 0 && waitUntilDown(m_Events, QDeadlineTimer(HangUpSeconds * 1000));
-            if (!isEnded) printDiagnostic("the connection can't be ended");
+            if (!isEnded) printDiagnostic(message("the connection can't be ended"));
             if (isEnded) showDown(name);
             EndingSignals::obey();
         }
@@ -174,7 +179,7 @@ private:
     }
 
     void showDown(const QString& name) {
-        m_Output.result(ConnectionReport::object(DataConnection::current()), {"disconnected: " + name});
+        m_Output.result(ConnectionReport::object(DataConnection::current()), {message("disconnected: %1", {name})});
     }
 
     const bool m_bHolds;
@@ -186,7 +191,7 @@ private:
 };
 
 void requireKnown() {
-    if (!ConnectionReport::isKnown()) throw CommandError::failed("nothing can tell of connections");
+    if (!ConnectionReport::isKnown()) throw CommandError::failed(message("nothing can tell of connections"));
 }
 
 // Shows each state once. What a reader does not take ends it.
@@ -218,12 +223,12 @@ void disconnect(const Invocation& invocation, Output& output) {
     const EventWait events;
     const DataConnection before = DataConnection::current();
     if (!before.usedBy.isEmpty())
-        throw CommandError::refused("the connection of " + quoted(before.usedBy) + " is not ours to end");
-    if (before.isDown()) return output.result({{"disconnected", QJsonValue()}}, {"not connected"});
+        throw CommandError::refused(message("the connection of %1 is not ours to end", {quoted(before.usedBy)}));
+    if (before.isDown()) return output.result({{"disconnected", QJsonValue()}}, {message("not connected")});
     if (VRKS_NetConnectSrv_HangUp() != 0 && !DataConnection::current().isDown())
-        throw CommandError::refused("the connection can't be ended");
-    if (!waitUntilDown(events, deadline)) throw CommandError::timedOut("the connection has not ended yet");
-    output.result({{"disconnected", before.name}}, {"disconnected: " + before.name});
+        throw CommandError::refused(message("the connection can't be ended"));
+    if (!waitUntilDown(events, deadline)) throw CommandError::timedOut(message("the connection has not ended yet"));
+    output.result({{"disconnected", before.name}}, {message("disconnected: %1", {before.name})});
 }
 
 void showStatus(const Invocation& invocation, Output& output) {

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "ConnectionText.h"
+#include "Message.h"
 
 namespace {
 
@@ -48,19 +49,19 @@ QString failureText(const DataConnection& connection) {
 }
 
 QString upLine(const DataConnection& connection) {
-    QStringList parts{"connected: " + connection.name, connection.interfaceName, connection.address,
+    QStringList parts{message("connected: %1", {connection.name}), connection.interfaceName, connection.address,
                       connection.address6};
     if (connection.seconds >= 0) parts.append(duration(connection.seconds));
-    parts.append(QString("%1 bytes received, %2 sent").arg(connection.received).arg(connection.sent));
+    parts.append(message("%1 bytes received, %2 sent",
+                         {QString::number(connection.received), QString::number(connection.sent)}));
     parts.removeAll(QString());
     return parts.join(", ");
 }
 
 QString downLine(const DataConnection& connection) {
-    QString line = "not connected";
-    if (!connection.usedBy.isEmpty()) return line + "; the modem is in use by " + connection.usedBy;
-    if (connection.failure != VRKS_FAILURE_NONE) line += ": " + failureText(connection);
-    return line;
+    if (!connection.usedBy.isEmpty()) return message("not connected; the modem is in use by %1", {connection.usedBy});
+    if (connection.failure == VRKS_FAILURE_NONE) return message("not connected");
+    return message("not connected: %1", {failureText(connection)});
 }
 
 QString stateLine(const DataConnection& connection) {
@@ -68,9 +69,9 @@ QString stateLine(const DataConnection& connection) {
         case VRKS_CONNECTION_UP:
             return upLine(connection);
         case VRKS_CONNECTION_DIALLING:
-            return QString("connecting: %1: %2").arg(connection.name, ConnectionReport::step(connection));
+            return message("connecting: %1: %2", {connection.name, ConnectionReport::step(connection)});
         case VRKS_CONNECTION_HANGING_UP:
-            return "disconnecting: " + connection.name;
+            return message("disconnecting: %1", {connection.name});
         default:
             return downLine(connection);
     }
@@ -132,7 +133,7 @@ QJsonObject ConnectionReport::object(const DataConnection& connection) {
 }
 
 QString ConnectionReport::line(const DataConnection& connection) {
-    return stateLine(connection) + (vrks_simulated_active() ? " (simulated modem)" : "");
+    return stateLine(connection) + (vrks_simulated_active() ? ' ' + message("(simulated modem)") : QString());
 }
 
 QString ConnectionReport::step(const DataConnection& connection) {
@@ -141,6 +142,7 @@ QString ConnectionReport::step(const DataConnection& connection) {
 }
 
 CommandError ConnectionReport::error(const DataConnection& connection) {
-    if (connection.failure == VRKS_FAILURE_NONE) return CommandError::failed("the connection was ended elsewhere");
+    if (connection.failure == VRKS_FAILURE_NONE)
+        return CommandError::failed(message("the connection was ended elsewhere"));
     return {exitStatus(connection.failure), failureText(connection)};
 }

@@ -7,6 +7,7 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
+#include "Message.h"
 #include "ModemReport.h"
 #include "Output.h"
 
@@ -48,7 +49,8 @@ void showModem(Output& output) {
     VRKS_ModemInfo info;
     const QString chosen = ChosenModem::id();
     if (!ModemReport::current(&info)) throw CommandError::failed("nothing can tell which modem is in use");
-    QStringList lines{ModemReport::line("chosen", chosen.isEmpty() ? "automatically" : chosen)};
+    QStringList lines{ModemReport::line(QT_TRANSLATE_NOOP("orbisctl", "chosen"),
+                                        chosen.isEmpty() ? message("automatically") : chosen)};
     QJsonObject object = ModemReport::object(info);
     object["chosen"] = chosen.isEmpty() ? QJsonValue() : chosen;
     output.result(object, lines + ModemReport::lines(info));

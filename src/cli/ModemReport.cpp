@@ -3,12 +3,21 @@
 
 #include <QJsonValue>
 
+#include "Message.h"
+
 namespace {
 
-const char* const Statuses[] = {"no-modem", "starting", "locked", "ready", "failed"};
-const char* const Cards[] = {"unknown", "none", "present"};
-const char* const Locks[] = {"none", "pin", "puk", "other"};
-const char* const Registrations[] = {"unknown", "idle", "searching", "home", "roaming", "denied"};
+const char* const Statuses[] = {QT_TRANSLATE_NOOP("orbisctl", "no-modem"), QT_TRANSLATE_NOOP("orbisctl", "starting"),
+                                QT_TRANSLATE_NOOP("orbisctl", "locked"), QT_TRANSLATE_NOOP("orbisctl", "ready"),
+                                QT_TRANSLATE_NOOP("orbisctl", "failed")};
+const char* const Cards[] = {QT_TRANSLATE_NOOP("orbisctl", "unknown"), QT_TRANSLATE_NOOP("orbisctl", "none"),
+                             QT_TRANSLATE_NOOP("orbisctl", "present")};
+const char* const Locks[] = {QT_TRANSLATE_NOOP("orbisctl", "none"), QT_TRANSLATE_NOOP("orbisctl", "pin"),
+                             QT_TRANSLATE_NOOP("orbisctl", "puk"), QT_TRANSLATE_NOOP("orbisctl", "other")};
+const char* const Registrations[] = {
+    QT_TRANSLATE_NOOP("orbisctl", "unknown"),   QT_TRANSLATE_NOOP("orbisctl", "idle"),
+    QT_TRANSLATE_NOOP("orbisctl", "searching"), QT_TRANSLATE_NOOP("orbisctl", "home"),
+    QT_TRANSLATE_NOOP("orbisctl", "roaming"),   QT_TRANSLATE_NOOP("orbisctl", "denied")};
 
 template <std::size_t Count>
 QJsonValue word(const char* const (&words)[Count], int value) {
@@ -46,27 +55,38 @@ struct Row {
 };
 
 const Row Rows[] = {
-    {"id", "modem", text<VRKS_MODEM_ID_SIZE, &Info::id>},
-    {"status", "state", [](const Info& info) { return word(Statuses, info.status); }},
-    {"manufacturer", "manufacturer", shortText<&Info::manufacturer>},
-    {"model", "model", shortText<&Info::model>},
-    {"imei", "IMEI", shortText<&Info::imei>},
-    {"port", "port", shortText<&Info::port>},
-    {"dialsAsCdma", "dials as CDMA", flag<&Info::dialsAsCdma>},
-    {"hasUssd", "takes USSD commands", flag<&Info::hasUssd>},
-    {"card", "card", [](const Info& info) { return word(Cards, info.card); }},
-    {"lock", "lock", [](const Info& info) { return word(Locks, info.lock); }},
-    {"attempts", "attempts to unlock", number<&Info::attempts, 0>},
-    {"ownNumber", "own number", shortText<&Info::ownNumber>},
-    {"cardOperator", "card's operator", shortText<&Info::cardOperator>},
-    {"gid1", "GID1", shortText<&Info::gid1>},
-    {"registration", "registration", [](const Info& info) { return word(Registrations, info.registration); }},
-    {"operatorName", "network", shortText<&Info::operatorName>},
-    {"operatorCode", "network's code", shortText<&Info::operatorCode>},
-    {"technology", "technology", shortText<&Info::technology>},
-    {"generation", "generation", number<&Info::generation, 1>},
-    {"signal", "signal in percent", number<&Info::signal, 0>},
+    {"id", QT_TRANSLATE_NOOP("orbisctl", "modem"), text<VRKS_MODEM_ID_SIZE, &Info::id>},
+    {"status", QT_TRANSLATE_NOOP("orbisctl", "state"), [](const Info& info) { return word(Statuses, info.status); }},
+    {"manufacturer", QT_TRANSLATE_NOOP("orbisctl", "manufacturer"), shortText<&Info::manufacturer>},
+    {"model", QT_TRANSLATE_NOOP("orbisctl", "model"), shortText<&Info::model>},
+    {"imei", QT_TRANSLATE_NOOP("orbisctl", "IMEI"), shortText<&Info::imei>},
+    {"port", QT_TRANSLATE_NOOP("orbisctl", "port"), shortText<&Info::port>},
+    {"dialsAsCdma", QT_TRANSLATE_NOOP("orbisctl", "dials as CDMA"), flag<&Info::dialsAsCdma>},
+    {"hasUssd", QT_TRANSLATE_NOOP("orbisctl", "takes USSD commands"), flag<&Info::hasUssd>},
+    {"card", QT_TRANSLATE_NOOP("orbisctl", "card"), [](const Info& info) { return word(Cards, info.card); }},
+    {"lock", QT_TRANSLATE_NOOP("orbisctl", "lock"), [](const Info& info) { return word(Locks, info.lock); }},
+    {"attempts", QT_TRANSLATE_NOOP("orbisctl", "attempts to unlock"), number<&Info::attempts, 0>},
+    {"ownNumber", QT_TRANSLATE_NOOP("orbisctl", "own number"), shortText<&Info::ownNumber>},
+    {"cardOperator", QT_TRANSLATE_NOOP("orbisctl", "card's operator"), shortText<&Info::cardOperator>},
+    {"gid1", QT_TRANSLATE_NOOP("orbisctl", "GID1"), shortText<&Info::gid1>},
+    {"registration", QT_TRANSLATE_NOOP("orbisctl", "registration"),
+     [](const Info& info) { return word(Registrations, info.registration); }},
+    {"operatorName", QT_TRANSLATE_NOOP("orbisctl", "network"), shortText<&Info::operatorName>},
+    {"operatorCode", QT_TRANSLATE_NOOP("orbisctl", "network's code"), shortText<&Info::operatorCode>},
+    {"technology", QT_TRANSLATE_NOOP("orbisctl", "technology"), shortText<&Info::technology>},
+    {"generation", QT_TRANSLATE_NOOP("orbisctl", "generation"), number<&Info::generation, 1>},
+    {"signal", QT_TRANSLATE_NOOP("orbisctl", "signal in percent"), number<&Info::signal, 0>},
 };
+
+// Those that hold a word of this program's.
+bool isWord(const Row& row) {
+    static const QStringList keys{"status", "card", "lock", "registration"};
+    return keys.contains(row.key);
+}
+
+QJsonValue inLanguage(const QJsonValue& word) {
+    return word.isString() ? QJsonValue(message(word.toString().toLatin1())) : word;
+}
 
 Info emptyInfo() {
     Info info{};
@@ -104,14 +124,15 @@ QJsonObject ModemReport::object(const VRKS_ModemInfo& info) {
 
 QStringList ModemReport::lines(const VRKS_ModemInfo& info) {
     QStringList lines;
-    for (const Row& row : Rows) lines.append(line(row.label, row.value(info)));
+    for (const Row& row : Rows)
+        lines.append(line(row.label, isWord(row) ? inLanguage(row.value(info)) : row.value(info)));
     return lines;
 }
 
-QString ModemReport::line(const QString& label, const QJsonValue& value) {
+QString ModemReport::line(const char* label, const QJsonValue& value) {
     QString text = "-";
-    if (value.isBool()) text = value.toBool() ? "yes" : "no";
+    if (value.isBool()) text = value.toBool() ? message("yes") : message("no");
     if (value.isDouble()) text = QString::number(value.toInt());
     if (value.isString()) text = value.toString();
-    return QString("%1 %2").arg(label, -25).arg(text);
+    return QString("%1 %2").arg(message(label), -25).arg(text);
 }

@@ -26,8 +26,8 @@ QJsonObject object(const VRKS_ModemInfo& info);
 // A label and the value, a line each.
 QStringList lines(const VRKS_ModemInfo& info);
 
-// One line of a report: the label, and the value as people read it.
-QString line(const QString& label, const QJsonValue& value);
+// One line of a report: the label in the current language, and the value as people read it.
+QString line(const char* label, const QJsonValue& value);
 
 }  // namespace ModemReport
 

@@ -4,6 +4,7 @@
 #include <QJsonArray>
 
 #include "CommandError.h"
+#include "Message.h"
 #include "StandardOutput.h"
 #include "TerminalText.h"
 
@@ -73,4 +74,4 @@ void Output::text(const QString& text) {
 
 void printDiagnostic(const QString& text) { StandardOutput::writeDiagnostic("orbisctl", text); }
 
-void printWarning(const QString& text) { printDiagnostic("warning: " + text); }
+void printWarning(const QString& text) { printDiagnostic(message("warning: %1", {text})); }

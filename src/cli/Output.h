@@ -14,6 +14,8 @@ public:
     // With Fields: those that are wanted, or all where none are given.
     explicit Output(Form form, const QStringList& fields = {}) : m_Form(form), m_Fields(fields) {}
 
+    bool isForPeople() const { return m_Form == Text; }
+
     // Writes one result in the form that was asked for: the object as one line, or its fields, or the lines. It is
     // handed on at once, so that a reader at the other end of a pipe need not wait for the last. Throws a CommandError
     // when it can't be written.

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "CommandError.h"
+#include "Message.h"
 #include "NetConnectXMLParse.h"
 #include "Output.h"
 #include "Platform.h"
@@ -11,7 +12,7 @@
 
 namespace {
 
-QString missingText(const QString& path) { return path + ": does not exist"; }
+QString missingText(const QString& path) { return message("%1: does not exist", {path}); }
 
 NetConnectStoreAction::Kind actionKind(ProfileSession::Kind kind) {
     return kind == ProfileSession::Reading ? NetConnectStoreAction::Browse : NetConnectStoreAction::Change;
@@ -19,7 +20,7 @@ NetConnectStoreAction::Kind actionKind(ProfileSession::Kind kind) {
 
 // How to get a profile that may be changed from one that may not.
 QString copyAdvice(const QString& name) {
-    return "; make one of your own from it: orbisctl add \"new name\" --like " + name;
+    return message("; make one of your own from it: %1", {"orbisctl add \"new name\" --like " + name});
 }
 
 }  // namespace
@@ -32,7 +33,7 @@ ProfileSession::ProfileSession(Kind kind)
     m_ConfigurationProblem = configurationProblem();
     if (kind == Changing) {
         if (!m_ConfigurationProblem.isEmpty()) throw CommandError::failed(m_ConfigurationProblem);
-        require(m_Action.lock(), "the profiles can't be changed");
+        require(m_Action.lock(), message("the profiles can't be changed"));
     }
     loadNames();
     m_Problem = problem();
@@ -40,7 +41,7 @@ ProfileSession::ProfileSession(Kind kind)
 
 void ProfileSession::loadNames() {
     m_Names.clear();
-    require(m_pLogic->GetAllDialUpProfile(&m_Names), "the profiles can't be listed");
+    require(m_pLogic->GetAllDialUpProfile(&m_Names), message("the profiles can't be listed"));
 }
 
 QString ProfileSession::defaultName() const {
@@ -58,8 +59,8 @@ bool ProfileSession::isOn(const QString& function) const {
 QString ProfileSession::presetsNote() const {
     if (m_pLogic->HasIMSIPresets() || !isOn("IMSIAPN")) return QString();
     const QString name = NetConnectDevice::customizeName();
-    if (!NetConnectDevice::isCustomized(name)) return "the configuration has no presets by IMSI";
-    return "the configuration customised for " + quoted(name) + " leaves no presets by IMSI";
+    if (!NetConnectDevice::isCustomized(name)) return message("the configuration has no presets by IMSI");
+    return message("the configuration customised for %1 leaves no presets by IMSI", {quoted(name)});
 }
 
 bool ProfileSession::hasProfile(const QString& name) const { return fetch(name).has_value(); }
@@ -67,15 +68,16 @@ bool ProfileSession::hasProfile(const QString& name) const { return fetch(name).
 DialupProfile ProfileSession::profile(const QString& name) const {
     if (const std::optional<DialupProfile> found = fetch(name)) return *found;
     if (!m_Problem.isEmpty()) throw CommandError::failed(m_Problem);  // it may stand in what can't be read
-    throw CommandError::notFound(m_Names.contains(name) ? "the profile library does not hold the preset " + quoted(name)
-                                                        : "there is no profile " + quoted(name));
+    throw CommandError::notFound(m_Names.contains(name)
+                                     ? message("the profile library does not hold the preset %1", {quoted(name)})
+                                     : message("there is no profile %1", {quoted(name)}));
 }
 
 DialupProfile ProfileSession::readableProfile(const QString& name) const {
     const QString before = m_pLogic->LastStorageProblem().text();
     const DialupProfile found = profile(name);
     const QString after = m_pLogic->LastStorageProblem().text();
-    if (after != before) throw CommandError::failed(after + "; give a new one with password=");
+    if (after != before) throw CommandError::failed(message("%1; give a new one with password=", {after}));
     return found;
 }
 
@@ -93,25 +95,27 @@ void ProfileSession::requireUserFile() const {
 
 void ProfileSession::requireOwn(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
-    if (!m_pLogic->HasUserProfile(profile.name)) throw CommandError::refused(name + " is a preset" + copyAdvice(name));
+    if (!m_pLogic->HasUserProfile(profile.name))
+        throw CommandError::refused(message("%1 is a preset", {name}) + copyAdvice(name));
 }
 
 void ProfileSession::requireChangeable(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
     requireOwn(profile);
-    if (profile.readonly == "true") throw CommandError::refused(name + " is read-only" + copyAdvice(name));
+    if (profile.readonly == "true") throw CommandError::refused(message("%1 is read-only", {name}) + copyAdvice(name));
 }
 
 void ProfileSession::require(int status, const QString& what) const {
     if (status == NetConnectSettingUILogic::Success) return;
     const NetConnectStorageProblem problem = m_pLogic->LastStorageProblem();
-    throw CommandError::failed(what + ": " + (problem.isNull() ? QString("status %1").arg(status) : problem.text()));
+    throw CommandError::failed(what + ": " +
+                               (problem.isNull() ? message("status %1", {QString::number(status)}) : problem.text()));
 }
 
 void ProfileSession::finish() {
     if (m_Kind == Changing) {
         m_pLogic->ClearAutomaticDefault();  // or the logic's end would write once more
-        require(m_Action.commit(), "the profiles can't be stored");
+        require(m_Action.commit(), message("the profiles can't be stored"));
         if (!problem().isEmpty()) printWarning(problem());
         return;
     }

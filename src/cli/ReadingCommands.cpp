@@ -7,6 +7,7 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "ConnectionText.h"
+#include "Message.h"
 #include "Output.h"
 #include "ProfileSession.h"
 
@@ -19,7 +20,7 @@ QJsonObject describe(const DialupProfile& profile, bool showsSecrets, QStringLis
         const QString value = profile.*field.member;
         const bool isHidden = field.member == &DialupProfile::password && !value.isEmpty() && !showsSecrets;
         object[field.attribute] = isHidden ? QJsonValue() : QJsonValue(value);
-        lines->append(QString("%1 %2").arg(field.attribute, -12).arg(isHidden ? "(hidden)" : value));
+        lines->append(QString("%1 %2").arg(field.attribute, -12).arg(isHidden ? message("(hidden)") : value));
     }
     return object;
 }
@@ -33,9 +34,10 @@ void listProfiles(const Invocation&, Output& output) {
     QStringList lines;
     for (const QString& name : session.names()) {
         const bool isDefault = name == defaultName;
-        const QString source = session->HasUserProfile(name) ? "user" : "preset";
+        const char* const source = session->HasUserProfile(name) ? QT_TRANSLATE_NOOP("orbisctl", "user")
+                                                                 : QT_TRANSLATE_NOOP("orbisctl", "preset");
         profiles.append(QJsonObject{{"name", name}, {"default", isDefault}, {"source", source}});
-        lines.append(QString("%1 %2 %3").arg(isDefault ? "*" : " ", source.leftJustified(6), name));
+        lines.append(QString("%1 %2 %3").arg(isDefault ? "*" : " ", message(source).leftJustified(6), name));
     }
     output.result({{"profiles", profiles}}, lines);
     session.finish();
@@ -65,7 +67,8 @@ void showConfiguration(const Invocation& invocation, Output& output) {
     QJsonObject object;
     QStringList lines;
     for (const QString& key : keys) {
-        if (!all.contains(key)) throw CommandError::notFound("there is no configuration key " + quoted(key));
+        if (!all.contains(key))
+            throw CommandError::notFound(message("there is no configuration key %1", {quoted(key)}));
         QString value;
         session->GetFunctionConfigStringValues(key, &value);
         object[key] = value;

@@ -7,6 +7,7 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "FileArgument.h"
+#include "Message.h"
 #include "NetConnectProfileRules.h"
 #include "Output.h"
 #include "ProfileFieldRules.h"
@@ -57,8 +58,9 @@ QString quotedAll(const QStringList& names) {
 QStringList readCandidates(const ProfileSession& session, const QString& file) {
     QStringList names;
     const int status = session->GetDialUpProfileFromFile(&names, file);
-    if (status == NetConnectSettingUILogic::FileMissing) throw CommandError::notFound(file + ": does not exist");
-    session.require(status, "the file can't be imported");
+    if (status == NetConnectSettingUILogic::FileMissing)
+        throw CommandError::notFound(message("%1: does not exist", {file}));
+    session.require(status, message("the file can't be imported"));
     names.removeDuplicates();
     return names;
 }
@@ -68,7 +70,7 @@ QStringList chosenOf(const QStringList& candidates, const QStringList& wanted, c
     QStringList unknown;
     for (const QString& name : wanted)
         if (!offered.contains(name)) unknown.append(name);
-    if (!unknown.isEmpty()) throw CommandError::notFound(file + " holds no profile " + quotedAll(unknown));
+    if (!unknown.isEmpty()) throw CommandError::notFound(message("%1 holds no profile %2", {file, quotedAll(unknown)}));
     return wanted.isEmpty() ? candidates : wanted;
 }
 
@@ -107,7 +109,8 @@ ImportResult importChosen(const ProfileSession& session, const QString& file, co
     const QSet<QString> same = sameNames(session, chosen);
     SameAnswer policy(replaces, same);
     const int status = session->ImportChosenProfiles(chosen, &policy);
-    if (status != NetConnectSettingUILogic::NothingImported) session.require(status, "the profiles can't be imported");
+    if (status != NetConnectSettingUILogic::NothingImported)
+        session.require(status, message("the profiles can't be imported"));
     ImportResult result{file, {}, {}, {}, {}};
     for (const QString& name : chosen) {
         QStringList& list = !policy.hasClashed(name) ? result.imported
@@ -129,17 +132,17 @@ void warnOfProblems(const ProfileSession& session, const QStringList& names) {
         for (const QString& problem : FieldRules::storedProblems(profile, nameLength))
             printWarning(quoted(profile.name) + ": " + problem);
         if (session.isOn("ENCRYPT") && !FieldRules::isPasswordReadable(profile))
-            printWarning("the password of " + quoted(profile.name) +
-                         " is not base64, as its encrypttype says; set it again");
+            printWarning(message("the password of %1 is not base64, as its encrypttype says; set it again",
+                                 {quoted(profile.name)}));
     }
 }
 
 void showImport(const ImportResult& result, Output& output) {
     QStringList lines;
-    for (const QString& name : result.imported) lines.append("imported " + name);
-    for (const QString& name : result.replaced) lines.append("replaced " + name);
-    for (const QString& name : result.skipped) lines.append("skipped  " + name + " (exists; see --replace)");
-    for (const QString& name : result.same) lines.append("same     " + name);
+    for (const QString& name : result.imported) lines.append(message("imported %1", {name}));
+    for (const QString& name : result.replaced) lines.append(message("replaced %1", {name}));
+    for (const QString& name : result.skipped) lines.append(message("skipped  %1 (exists; see --replace)", {name}));
+    for (const QString& name : result.same) lines.append(message("same     %1", {name}));
     output.result({{"file", result.file},
                    {"imported", QJsonArray::fromStringList(result.imported)},
                    {"replaced", QJsonArray::fromStringList(result.replaced)},
@@ -154,19 +157,19 @@ void requireAllKnown(const ProfileSession& session, const QStringList& names) {
     for (const QString& name : names)
         if (!session.hasProfile(name)) unknown.append(name);
     if (unknown.size() == 1) session.profile(unknown.first());  // throws, and knows why
-    if (!unknown.isEmpty()) throw CommandError::notFound("there are no profiles " + quotedAll(unknown));
+    if (!unknown.isEmpty()) throw CommandError::notFound(message("there are no profiles %1", {quotedAll(unknown)}));
 }
 
 void checkWanted(const Invocation& invocation) {
     const bool hasNames = invocation.arguments().size() > 1;
-    if (hasNames == invocation.isSet("all")) throw CommandError::usage("export takes names or --all");
+    if (hasNames == invocation.isSet("all")) throw CommandError::usage(message("export takes names or --all"));
 }
 
 QStringList ownNames(const ProfileSession& session) {
     QStringList names;
     for (const QString& name : session.names())
         if (session->HasUserProfile(name)) names.append(name);
-    if (names.isEmpty()) throw CommandError::notFound("there is no profile of one's own");
+    if (names.isEmpty()) throw CommandError::notFound(message("there is no profile of one's own"));
     return names;
 }
 
@@ -183,7 +186,7 @@ void importProfiles(const Invocation& invocation, Output& output) {
     const QStringList taken = result.imported + result.replaced;
     if (!taken.isEmpty()) session.finish();
     showImport(result, output);
-    if (chosen.isEmpty()) throw CommandError::failed("nothing was imported from " + file);
+    if (chosen.isEmpty()) throw CommandError::failed(message("nothing was imported from %1", {file}));
     warnOfProblems(session, taken);
 }
 
@@ -194,12 +197,12 @@ void exportProfiles(const Invocation& invocation, Output& output) {
     ProfileSession session(ProfileSession::Exporting);
     const QStringList names = invocation.isSet("all") ? ownNames(session) : chosenNames(invocation);
     requireAllKnown(session, names);
-    session.require(session->ExportChosenProfiles(names, file), "the profiles can't be exported");
+    session.require(session->ExportChosenProfiles(names, file), message("the profiles can't be exported"));
     const NetConnectStorageProblem problem = session->LastStorageProblem();
     if (problem.file == file) printWarning(problem.text());  // a damaged file stood there, and is kept
     target.finish();
     if (target.isStream()) return session.finish();
     output.result({{"file", file}, {"exported", QJsonArray::fromStringList(names)}},
-                  {QString("exported %1 to %2").arg(quotedAll(names), file)});
+                  {message("exported %1 to %2", {quotedAll(names), file})});
     session.finish();
 }

@@ -7,6 +7,7 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Completion.h"
+#include "Message.h"
 #include "Output.h"
 #include "Platform.h"
 #include "ProgramStart.h"
@@ -22,6 +23,7 @@ static void run(const Invocation& invocation) {
     if (invocation.isSet("help")) return Output::text(invocation.helpText());
     if (invocation.isSet("version")) return Output::text("orbisctl " ORBISDIAL_VERSION "\n");
     Output output = outputOf(invocation);
+    if (!output.isForPeople()) useEnglish();
     Platform::applyOptions(invocation);
     invocation.command()->run(invocation, output);
 }
@@ -31,6 +33,7 @@ int main(int argc, char** argv) {
     try {
         Platform::prepare(argc, argv);
         const QCoreApplication application(argc, argv);
+        useLanguageOfLocale();
         const QStringList commandLine = application.arguments();
         Completion::isWanted(commandLine) ? Completion::answer(commandLine.mid(2)) : run(Invocation(commandLine));
     } catch (const CommandError& error) {

@@ -7,6 +7,7 @@
 #include "DialCall.h"
 #include "DialupNotes.h"
 #include "OperatorIndex.h"
+#include "TextValues.h"
 
 namespace {
 
@@ -100,7 +101,7 @@ QString textAt(const char* const (&ids)[Count], int index, const QString& value 
 
 QString ConnectionText::text(const char* id, const QString& value) {
     return Change::tr(QString::fromLatin1(id), QStringLiteral(ORBISDIAL_DIALUP_TEXTS))
-        .replace(QLatin1String("%1"), value);
+        .replace(QLatin1String("%1"), TextValues::isolated(value));
 }
 
 QString ConnectionText::failure(int failure, const QString& profileName, const QString& words) {

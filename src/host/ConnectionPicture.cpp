@@ -2,6 +2,7 @@
 #include "ConnectionPicture.h"
 
 #include "HostText.h"
+#include "TextValues.h"
 
 namespace {
 
@@ -73,7 +74,7 @@ QString networkText(const ConnectionFacts& facts) {
     if (modem.signal >= 0) parts.append(hostText("IDS_HOST_SIGNAL", {QString::number(modem.signal)}));
     if (modem.registration == VRKS_REGISTRATION_ROAMING) parts.append(hostText("IDS_HOST_ROAMING"));
     parts.removeAll(QString());
-    for (QString& part : parts) part = isolated(part);
+    for (QString& part : parts) part = TextValues::isolated(part);
     return directed(parts.join(QStringLiteral(" \u00b7 ")));
 }
 

@@ -15,9 +15,6 @@ inline QString hostText(const char* id) { return Change::tr(QLatin1String(id), H
 // The same with "%1", "%2" and so on replaced by the values, which may hold any characters.
 QString hostText(const char* id, const QStringList& values);
 
-// From right to left a name keeps to itself, or its figures and signs would change places with the words around it.
-QString isolated(const QString& value);
-
 // The line runs as the language does, whatever it begins with.
 QString directed(const QString& line);
 

@@ -37,6 +37,44 @@ private slots:
         QCOMPARE(unknown.out, QByteArray());
     }
 
+    // People are spoken to in the language of their locale, scripts never.
+    void language_data() {
+        const Rows<QByteArray, QByteArray, QByteArray, QByteArray> row("LC_ALL", "LANG", "LANGUAGE", "not connected");
+        row("POSIX", "", "POSIX", "de", "not connected");
+        row("C with an encoding", "C.UTF-8", "de_DE.UTF-8", "de", "not connected");
+        row("none of ours", "", "ja_JP.UTF-8", "", "not connected");
+        row("LANG", "", "de_AT.UTF-8", "", "nicht verbunden");
+        row("LANGUAGE first", "", "ja_JP.UTF-8", "xx:es:de", "sin conexi\u00f3n");
+        row("English wanted first", "", "de_DE.UTF-8", "en_GB:de", "not connected");
+        row("from right to left", "ar_EG.UTF-8", "", "", "\u063a\u064a\u0631 \u0645\u062a\u0635\u0644");
+    }
+    void language() {
+        const OrbisctlFixture fixture;
+        for (const char* code : {"ar", "de", "es"}) {
+            const QString file = QString("/lang/orbisdial_%1.qm").arg(code);
+            QFile::copy(ORBISDIAL_LIBRARY_DIR + file, fixture.path("library" + file));
+        }
+        const auto inEnglish = [&fixture] {
+            return QList<Outcome>{fixture.run({"--json", "device"}), fixture.run({"--json", "show", "Nope"}),
+                                  fixture.run({"-t", "list"})};
+        };
+        const QList<Outcome> before = inEnglish();
+        const QByteArray locale = qgetenv("LC_ALL");
+        for (const char* name : {"LC_ALL", "LANG", "LANGUAGE"}) qputenv(name, cell<QByteArray>(name));
+        const Outcome status = fixture.run({"status"});
+        const Outcome unknown = fixture.run({"show", "Nope"});
+        const QList<Outcome> now = inEnglish();
+        qputenv("LC_ALL", locale);
+        COMPARE_DONE(status);
+        QVERIFY2(status.out.startsWith(cell<QByteArray>("not connected")), status.out);
+        COMPARE_REFUSED(unknown, 3, "Nope");
+        for (int i = 0; i < now.size(); ++i) {
+            QCOMPARE(now.at(i).out, before.at(i).out);
+            QCOMPARE(now.at(i).err, before.at(i).err);
+            QCOMPARE(now.at(i).status, before.at(i).status);
+        }
+    }
+
     void json_data() {
         const Rows<QStringList, QByteArray> row("arguments", "expected");
         row("list", {"list"},

@@ -4,6 +4,7 @@
 #include "Change.h"
 #include "CommonUtils.h"
 #include "NetConnectSettingUILogic.h"
+#include "TextValues.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ public:
     bool replaceFirstOf(const QString& name, int count) override {
         if (m_bSame) return m_bLast;
         if (!m_pParent) return false;  // the dialog went while an earlier question was on screen
-        const QString question = name + QLatin1String(" ") + m_strClash;
+        const QString question = TextValues::isolated(name) + QLatin1String(" ") + m_strClash;
         const int answer = count > 1 ? askOneForAll(question) : askOne(question);
         m_bLast = answer == CommonUtils::FirstButton;
         return m_bLast;

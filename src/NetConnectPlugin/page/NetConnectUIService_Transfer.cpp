@@ -7,6 +7,7 @@
 #include "NetConnectPageWatch.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectUIService.h"
+#include "TextValues.h"
 #include "Trace.h"
 
 namespace {
@@ -213,7 +214,8 @@ QString CNetConnectUIService::chooseExportFile() {
             tell(text("IDS_NETCONNECT_MSG_EXPORT_WILDCARD"), parent);
             continue;
         }
-        const QString message = file.fileName() + QLatin1Char(' ') + text("IDS_NETCONNECT_MSG_EXPORT_MERGE");
+        const QString message =
+            TextValues::isolated(file.fileName()) + QLatin1Char(' ') + text("IDS_NETCONNECT_MSG_EXPORT_MERGE");
         if (!file.exists() || question(QMessageBox::Question, message, parent) == CommonUtils::FirstButton)
             return parent ? path : QString();
     }

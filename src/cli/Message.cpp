@@ -1,0 +1,41 @@
+#include "Message.h"
+
+#include "Change.h"
+#include "TextValues.h"
+
+namespace {
+
+const char English[] = "en";
+const char Context[] = "orbisctl";
+
+QString variable(const char* name) { return QString::fromLatin1(qgetenv(name)); }
+
+// Empty for the locale without a language.
+QString localeOfMessages() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const QString locale = variable(name);
+        if (locale.isEmpty()) continue;
+        const QString language = locale.section('.', 0, 0);
+        return language == "C" || language == "POSIX" ? QString() : locale;
+    }
+    return QString();
+}
+
+}  // namespace
+
+void useLanguageOfLocale() {
+    const QString locale = localeOfMessages();
+    if (locale.isEmpty()) return;
+    for (const QString& code : variable("LANGUAGE").split(':', Qt::SkipEmptyParts) << locale)
+        if (code.startsWith(English) || Change::SetLanguage(code)) return;
+}
+
+void useEnglish() {
+    if (Change::GetLangName() != English) Change::SetLanguage(English);
+}
+
+QString message(const char* english, const QStringList& values) {
+    const bool isForeign = Change::GetLangName() != English;
+    const QString text = isForeign ? Change::tr(QString::fromUtf8(english), Context) : QString();
+    return TextValues::filled(text.isEmpty() ? QString::fromUtf8(english) : text, values);
+}

@@ -1,0 +1,18 @@
+// What orbisctl says to a person, in the language of the user's locale: the seven languages of the window. What scripts
+// read is English for ever.
+#ifndef ORBISDIAL_CLI_MESSAGE_H
+#define ORBISDIAL_CLI_MESSAGE_H
+
+#include <QStringList>
+
+// The language that LC_ALL, LC_MESSAGES or LANG names, and LANGUAGE before it, as gettext reads them; English where
+// none of ours is named. English needs no file. Comes after the application object.
+void useLanguageOfLocale();
+
+void useEnglish();
+
+// The English text in the current language, with "%1", "%2" and so on replaced by the values. A text that does not
+// stand in such a call, but in a table, is marked with QT_TRANSLATE_NOOP("orbisctl", ...).
+QString message(const char* english, const QStringList& values = {});
+
+#endif

@@ -1,0 +1,23 @@
+#include "TextValues.h"
+
+#include <QLocale>
+
+#include "Change.h"
+
+QString TextValues::isolated(const QString& value) {
+    constexpr ushort FirstStrongIsolate = 0x2068, PopDirectionalIsolate = 0x2069;
+    const bool isRightToLeft = QLocale(Change::GetLangName()).textDirection() == Qt::RightToLeft;
+    if (value.isEmpty() || !isRightToLeft) return value;
+    return QChar(FirstStrongIsolate) + value + QChar(PopDirectionalIsolate);
+}
+
+QString TextValues::filled(const QString& text, const QStringList& values) {
+    const QStringList parts = text.split('%');
+    QString filled = parts.first();
+    for (int i = 1; i < parts.size(); ++i) {
+        const int number = parts[i].leftRef(1).toInt();
+        const bool isPlace = number >= 1 && number <= values.size();
+        filled += isPlace ? isolated(values[number - 1]) + parts[i].mid(1) : '%' + parts[i];
+    }
+    return filled;
+}
