@@ -19,6 +19,7 @@
 #include "NewProfileDialog.h"
 #include "Plugins.h"
 #include "PresetTree.h"
+#include "TextValues.h"
 
 namespace {
 
@@ -56,7 +57,7 @@ QString codesText(const QStringList& codes) {
     constexpr int CountryDigits = 3;
     QStringList texts;
     for (const QString& code : codes)
-        texts.append(isolated(code.left(CountryDigits) + QChar(QChar::Nbsp) + code.mid(CountryDigits)));
+        texts.append(TextValues::isolated(code.left(CountryDigits) + QChar(QChar::Nbsp) + code.mid(CountryDigits)));
     return joined(texts);
 }
 
@@ -253,7 +254,7 @@ void PresetsDialog::showDetails() {
 
 void PresetsDialog::showDetail(int row, const QString& text) {
     const Detail& detail = m_Details.at(row);
-    detail.value->setText(directed(isolated(text)));
+    detail.value->setText(directed(TextValues::isolated(text)));
     detail.value->setAccessibleName(detail.title->text() + ' ' + text);
     detail.title->setVisible(!text.isEmpty());
     detail.value->setVisible(!text.isEmpty());

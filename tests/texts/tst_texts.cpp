@@ -113,7 +113,7 @@ QMap<QString, QString> usedKeys() {
 // What orbisctl says stands in English in its code.
 QStringList usedMessages() {
     static const QRegularExpression said(
-        R"re((?:message\(|QT_TRANSLATE_NOOP\("orbisctl",\s*)\s*"((?:[^"\\]|\\.)*)")re");
+        "(?:message\\(|QT_TRANSLATE_NOOP\\(\"orbisctl\",\\s*)\\s*\"((?:[^\"\\\\]|\\\\.)*)\"");
     QStringList messages;
     QDirIterator files(ORBISDIAL_SOURCE_DIR "/src/cli", {"*.cpp"}, QDir::Files);
     while (files.hasNext()) {
