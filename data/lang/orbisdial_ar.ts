@@ -328,7 +328,7 @@
     </message>
     <message>
         <source>IDS_SETTING_STATIC_GROUP_NETWORK_CONNECT_SELECT</source>
-        <translation>&amp;ملف تعريف الاتصال</translation>
+        <translation>ملف تعريف الاتصال(&amp;R)</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_GROUP_VALIDATE</source>
@@ -340,19 +340,19 @@
     </message>
     <message>
         <source>IDS_SETTING_STATIC_APN_NAME</source>
-        <translation>&amp;نقطة الوصول:</translation>
+        <translation>نقطة الوصول(&amp;A):</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_NUMBER</source>
-        <translation>&amp;رقم الاتصال:</translation>
+        <translation>رقم الاتصال(&amp;B):</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_USENAME</source>
-        <translation>&amp;اسم المستخدم:</translation>
+        <translation>اسم المستخدم(&amp;M):</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_PASSWORD</source>
-        <translation>&amp;كلمة المرور:</translation>
+        <translation>كلمة المرور(&amp;W):</translation>
     </message>
     <message>
         <source>IDS_SETTING_RADIO_APN_IP_DYNAMIC</source>
@@ -364,7 +364,7 @@
     </message>
     <message>
         <source>IDS_USERNAME_AND_PASSWORD</source>
-        <translation>ال&amp;سؤال عند الاتصال</translation>
+        <translation>السؤال عند الاتصال(&amp;K)</translation>
     </message>
     <message>
         <source>IDS_SETTING_CHECK_CHAP</source>
@@ -376,39 +376,39 @@
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_NEW</source>
-        <translation>&amp;جديد</translation>
+        <translation>جديد(&amp;N)</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_DELETE</source>
-        <translation>&amp;حذف</translation>
+        <translation>حذف(&amp;D)</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_EDIT</source>
-        <translation>&amp;تحرير</translation>
+        <translation>تحرير(&amp;E)</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_SAVE</source>
-        <translation>ح&amp;فظ</translation>
+        <translation>حفظ(&amp;S)</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_NO_SAVE</source>
-        <translation>تراج&amp;ع</translation>
+        <translation>تراجع(&amp;U)</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_DEFAULT</source>
-        <translation>تع&amp;يين كافتراضي</translation>
+        <translation>تعيين كافتراضي(&amp;F)</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_INPUT</source>
-        <translation>استيرا&amp;د…</translation>
+        <translation>استيراد(&amp;I)…</translation>
     </message>
     <message>
         <source>IDS_BTN_NETCONNECTSETTINGDLG_OUTPUT</source>
-        <translation>ت&amp;صدير…</translation>
+        <translation>تصدير(&amp;X)…</translation>
     </message>
     <message>
         <source>IDS_SETTING_BUTTON_HIGH</source>
-        <translation>مت&amp;قدم…</translation>
+        <translation>متقدم(&amp;V)…</translation>
     </message>
     <message>
         <source>IDS_STC_NETCONNECTSETTINGDLG_DEFAULT</source>
@@ -428,11 +428,11 @@
     </message>
     <message>
         <source>IDS_YES</source>
-        <translation>&amp;نعم</translation>
+        <translation>نعم(&amp;Y)</translation>
     </message>
     <message>
         <source>IDS_NO</source>
-        <translation>&amp;لا</translation>
+        <translation>لا(&amp;N)</translation>
     </message>
     <message>
         <source>IDS_SETTING_PROMPT_PROFILE_NAME</source>
@@ -496,7 +496,7 @@
     </message>
     <message>
         <source>IDS_SETTING_BROWSE_TELEPHLONE</source>
-        <translation>ا&amp;ستعراض…</translation>
+        <translation>استعراض(&amp;B)…</translation>
     </message>
     <message>
         <source>IDS_STC_DIALUPDLG_ADVANCE</source>
@@ -516,23 +516,23 @@
     </message>
     <message>
         <source>IDS_SETTING_STATIC_IP</source>
-        <translation>&amp;عنوان IP:</translation>
+        <translation>عنوان IP(&amp;I):</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_DNS</source>
-        <translation>ال&amp;أساسي:</translation>
+        <translation>الأساسي(&amp;R):</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_DNS_SECOND</source>
-        <translation>ال&amp;ثانوي:</translation>
+        <translation>الثانوي(&amp;S):</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_WINS1</source>
-        <translation>الأسا&amp;سي:</translation>
+        <translation>الأساسي(&amp;M):</translation>
     </message>
     <message>
         <source>IDS_SETTING_STATIC_WINS_SECOND</source>
-        <translation>الث&amp;انوي:</translation>
+        <translation>الثانوي(&amp;E):</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_NEW_PROFILE</source>
@@ -923,11 +923,11 @@
     </message>
     <message>
         <source>IDS_HOST_MENU_CONNECTION</source>
-        <translation>الا&amp;تصال</translation>
+        <translation>الاتصال(&amp;C)</translation>
     </message>
     <message>
         <source>IDS_HOST_MENU_HELP</source>
-        <translation>م&amp;ساعدة</translation>
+        <translation>مساعدة(&amp;H)</translation>
     </message>
     <message>
         <source>IDS_HOST_GUIDE</source>
