@@ -1388,7 +1388,7 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     </message>
     <message>
         <source>(simulated modem)</source>
-        <translation>（模拟调制解调器）</translation>
+        <translation>(模拟调制解调器)</translation>
     </message>
     <message>
         <source>--timeout takes a number of seconds from 1 to 86400</source>

@@ -26,7 +26,8 @@ QString localeOfMessages() {
 void useLanguageOfLocale() {
     const QString locale = localeOfMessages();
     if (locale.isEmpty()) return;
-    for (const QString& code : variable("LANGUAGE").split(':', Qt::SkipEmptyParts) << locale)
+    const QStringList codes = variable("LANGUAGE").split(':', Qt::SkipEmptyParts) + QStringList(locale);
+    for (const QString& code : codes)
         if (code.startsWith(English) || Change::SetLanguage(code)) return;
 }
 

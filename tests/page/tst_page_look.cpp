@@ -60,7 +60,9 @@ private slots:
                 for (const QColor& ground : groundsOf(widget)) {
                     const double contrast = ReadablePalette::contrast(text, ground);
                     QVERIFY2(contrast >= ReadablePalette::LeastContrast,
-                             qPrintable(QString("%1: %2").arg(widget->objectName()).arg(contrast)));
+                             qPrintable(QString("%1: %2 on %3 is %4 : 1")
+                                            .arg(widget->objectName(), text.name(), ground.name())
+                                            .arg(contrast)));
                 }
                 ++seen;
             }

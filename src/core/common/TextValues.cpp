@@ -1,13 +1,25 @@
 #include "TextValues.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include "Change.h"
 
+namespace {
+
+// A terminal shows the marks themselves.
+bool hasWindows() {
+    const QCoreApplication* const application = QCoreApplication::instance();
+    return application && application->inherits("QGuiApplication");
+}
+
+bool isRightToLeft() { return QLocale(Change::GetLangName()).textDirection() == Qt::RightToLeft; }
+
+}  // namespace
+
 QString TextValues::isolated(const QString& value) {
     constexpr ushort FirstStrongIsolate = 0x2068, PopDirectionalIsolate = 0x2069;
-    const bool isRightToLeft = QLocale(Change::GetLangName()).textDirection() == Qt::RightToLeft;
-    if (value.isEmpty() || !isRightToLeft) return value;
+    if (value.isEmpty() || !isRightToLeft() || !hasWindows()) return value;
     return QChar(FirstStrongIsolate) + value + QChar(PopDirectionalIsolate);
 }
 

@@ -10,8 +10,8 @@
 // For the thread that Change is for. Values may hold any characters.
 namespace TextValues {
 
-// Where the current language is written from right to left, invisible marks keep a value's characters together and do
-// not let them reorder the text around; elsewhere the value itself.
+// In a window, where the current language is written from right to left, invisible marks keep a value's characters
+// together and do not let them reorder the text around; elsewhere the value itself.
 HOSTCORE_EXPORT QString isolated(const QString& value);
 
 // The text with "%1", "%2" and so on replaced by the values, isolated.
