@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILES_PRESETS</source>
-        <translation>ملفات التعريف المعدّة مسبقًا لبطاقة SIM هذه</translation>
+        <translation>الإعدادات الجاهزة لبطاقة SIM هذه</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS</source>

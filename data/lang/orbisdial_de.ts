@@ -1335,6 +1335,15 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>Verbindung abbrechen lassen</translation>
     </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>Aus %1 wurde nichts importiert.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>Schließen Sie zuerst ab, was gerade offen ist, und öffnen Sie die Datei dann erneut.</translation>
+    </message>
 </context>
 <context>
     <name>orbisctl</name>
@@ -1845,15 +1854,6 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>yes</source>
         <translation>ja</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_IMPORT_FAILED</source>
-        <translation>Aus %1 wurde nichts importiert.
-%2</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_IMPORT_BUSY</source>
-        <translation>Schließen Sie zuerst ab, was gerade offen ist, und öffnen Sie die Datei dann erneut.</translation>
     </message>
 </context>
 </TS>

@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILES_PRESETS</source>
-        <translation>Perfiles predefinidos para esta tarjeta SIM</translation>
+        <translation>Preajustes para esta tarjeta SIM</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS</source>

@@ -1335,6 +1335,15 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>Couper la connexion</translation>
     </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>Rien n’a été importé de %1.
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>Terminez d’abord ce qui est ouvert, puis rouvrez le fichier.</translation>
+    </message>
 </context>
 <context>
     <name>orbisctl</name>
@@ -1845,15 +1854,6 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>yes</source>
         <translation>oui</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_IMPORT_FAILED</source>
-        <translation>Rien n’a été importé de %1.
-%2</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_IMPORT_BUSY</source>
-        <translation>Terminez d’abord ce qui est ouvert, puis rouvrez le fichier.</translation>
     </message>
 </context>
 </TS>

@@ -1335,6 +1335,15 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <source>IDS_HOST_MODEM_DROP</source>
         <translation>模拟断线</translation>
     </message>
+    <message>
+        <source>IDS_HOST_IMPORT_FAILED</source>
+        <translation>未从 %1 导入任何内容。
+%2</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_IMPORT_BUSY</source>
+        <translation>请先完成当前打开的操作，然后重新打开该文件。</translation>
+    </message>
 </context>
 <context>
     <name>orbisctl</name>
@@ -1845,15 +1854,6 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>yes</source>
         <translation>是</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_IMPORT_FAILED</source>
-        <translation>未从 %1 导入任何内容。
-%2</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_IMPORT_BUSY</source>
-        <translation>请先完成当前打开的操作，然后重新打开该文件。</translation>
     </message>
 </context>
 </TS>

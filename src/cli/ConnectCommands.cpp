@@ -140,8 +140,6 @@ private:
         if (waking == EventWait::Changed) return;
         hangUpOwn();
         if (waking == EventWait::SignalCame) EndingSignals::obey();
-        throw CommandError::timedOut(late);
-        if (waking == DeviceEvents::SignalCame) EndingSignals::obey();
         throw CommandError::timedOut(message(late));
     }
 
