@@ -21,7 +21,7 @@ const int AuthenticationGroupHeight = 115;
 const int ProtocolGroupHeight = 50;
 
 const int NoticeLines = 2;
-const int LongestVisibleName = 30;  // in average characters; longer names show whole in the open list
+const int LongestVisibleName = 24;  // in average characters; longer names show whole in the open list
 
 template <class W>
 W* named(W* widget, const char* role) {
