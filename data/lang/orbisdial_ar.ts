@@ -1376,8 +1376,8 @@
         <translation>%1 للقراءة فقط</translation>
     </message>
     <message>
-        <source>%1 may be more than one command</source>
-        <translation>قد يعني %1 أكثر من أمر</translation>
+        <source>%1 may be more than one command: %2</source>
+        <translation>قد يعني %1 أكثر من أمر: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1674,6 +1674,10 @@
     <message>
         <source>roaming</source>
         <translation>تجوال</translation>
+    </message>
+    <message>
+        <source>same     %1</source>
+        <translation>%1 دون تغيير</translation>
     </message>
     <message>
         <source>searching</source>

@@ -1376,8 +1376,8 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1 ist schreibgeschützt</translation>
     </message>
     <message>
-        <source>%1 may be more than one command</source>
-        <translation>%1 kann mehr als ein Befehl sein</translation>
+        <source>%1 may be more than one command: %2</source>
+        <translation>%1 kann mehr als ein Befehl sein: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1674,6 +1674,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>roaming</source>
         <translation>Roaming</translation>
+    </message>
+    <message>
+        <source>same     %1</source>
+        <translation>%1 unverändert</translation>
     </message>
     <message>
         <source>searching</source>

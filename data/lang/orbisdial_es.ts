@@ -1376,8 +1376,8 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>%1 es de solo lectura</translation>
     </message>
     <message>
-        <source>%1 may be more than one command</source>
-        <translation>%1 puede ser más de una orden</translation>
+        <source>%1 may be more than one command: %2</source>
+        <translation>%1 puede ser más de una orden: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1674,6 +1674,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>roaming</source>
         <translation>itinerancia</translation>
+    </message>
+    <message>
+        <source>same     %1</source>
+        <translation>%1 sin cambios</translation>
     </message>
     <message>
         <source>searching</source>

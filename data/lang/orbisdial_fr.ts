@@ -1376,8 +1376,8 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>%1 est en lecture seule</translation>
     </message>
     <message>
-        <source>%1 may be more than one command</source>
-        <translation>%1 peut désigner plusieurs commandes</translation>
+        <source>%1 may be more than one command: %2</source>
+        <translation>%1 peut désigner plusieurs commandes&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1674,6 +1674,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>roaming</source>
         <translation>itinérance</translation>
+    </message>
+    <message>
+        <source>same     %1</source>
+        <translation>%1 inchangé</translation>
     </message>
     <message>
         <source>searching</source>

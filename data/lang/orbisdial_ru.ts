@@ -1376,8 +1376,8 @@
         <translation>%1 доступен только для чтения</translation>
     </message>
     <message>
-        <source>%1 may be more than one command</source>
-        <translation>%1 может означать несколько команд</translation>
+        <source>%1 may be more than one command: %2</source>
+        <translation>%1 может означать несколько команд: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1674,6 +1674,10 @@
     <message>
         <source>roaming</source>
         <translation>роуминг</translation>
+    </message>
+    <message>
+        <source>same     %1</source>
+        <translation>%1 без изменений</translation>
     </message>
     <message>
         <source>searching</source>

@@ -1376,8 +1376,8 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>%1 为只读</translation>
     </message>
     <message>
-        <source>%1 may be more than one command</source>
-        <translation>%1 可能是多个命令</translation>
+        <source>%1 may be more than one command: %2</source>
+        <translation>%1 可能是多个命令：%2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1674,6 +1674,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>roaming</source>
         <translation>漫游</translation>
+    </message>
+    <message>
+        <source>same     %1</source>
+        <translation>%1 未变</translation>
     </message>
     <message>
         <source>searching</source>

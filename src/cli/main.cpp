@@ -33,9 +33,13 @@ int main(int argc, char** argv) {
     try {
         Platform::prepare(argc, argv);
         const QCoreApplication application(argc, argv);
-        useLanguageOfLocale();
         const QStringList commandLine = application.arguments();
-        Completion::isWanted(commandLine) ? Completion::answer(commandLine.mid(2)) : run(Invocation(commandLine));
+        if (Completion::isWanted(commandLine)) {
+            Completion::answer(commandLine.mid(2));
+        } else {
+            useLanguageOfLocale();
+            run(Invocation(commandLine));
+        }
     } catch (const CommandError& error) {
         printDiagnostic(error.text);
         return error.status;
