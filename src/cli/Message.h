@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What orbisctl says to a person, in the language of the user's locale: the seven languages of the window. What scripts
 // read is English for ever.
 #ifndef ORBISDIAL_CLI_MESSAGE_H

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "HostStyle.h"
 
 #include <QWidget>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's touch on the desktop's style, by the object names that the plug-ins' pages keep.
 #ifndef ORBISDIAL_HOSTSTYLE_H
 #define ORBISDIAL_HOSTSTYLE_H

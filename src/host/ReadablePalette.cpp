@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "ReadablePalette.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Disabled text that can be read: 4.5 : 1 to each ground that it stands on, in light and dark.
 #ifndef ORBISDIAL_READABLEPALETTE_H
 #define ORBISDIAL_READABLEPALETTE_H

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Starts the program and walks through its windows over AT-SPI; see walk."""
 
 import os

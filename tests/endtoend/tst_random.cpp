@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random input for window and page, held against a model of what a user typed, stored and deleted. The seed is printed;
 // ORBISDIAL_RANDOM_SEED repeats a run, ORBISDIAL_RANDOM_STEPS makes it longer.
 #include <vrks_simulated.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the page looks in the host: disabled text that can be read, the list's length, the presets' sign.
 #include <QListView>
 #include <QScrollBar>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "NetConnectLockSign.h"
 
 #include <QApplication>

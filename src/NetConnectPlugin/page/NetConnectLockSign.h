@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The padlock of what can't be changed: presets in the list of profiles, and the notice that says why.
 #ifndef ORBISDIAL_NETCONNECTLOCKSIGN_H
 #define ORBISDIAL_NETCONNECTLOCKSIGN_H

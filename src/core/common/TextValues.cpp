@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "TextValues.h"
 
 #include <QCoreApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Names and other values in texts of the current language.
 #ifndef ORBISDIAL_TEXTVALUES_H
 #define ORBISDIAL_TEXTVALUES_H
