@@ -48,6 +48,7 @@ private:
             {{"set", "B", "password=-", "nofield=1"}, 2, {}, {}},
             {{"export", exported, "B"}, 0, saves, {}},
             {{"import", exported}, 0, {}, {}},
+            {{"set", "B", "user=changed"}, 0, saves, {}},
             {{"import", exported, "--replace"}, 0, saves, {}},
             {{"default", "B"}, 0, saves, {}},
             {{"add", "C", "password=-"}, 0, saves, {}},
