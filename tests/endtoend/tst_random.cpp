@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int DefaultSteps = 500;
+constexpr int DefaultSteps = 2000;
 
 const char* const Fields[] = {"LineEditProfileName", "ApnlineEdit", "AccessNumberlineEdit", "UsernamelineEdit",
                               "PasswordlineEdit"};
