@@ -9,6 +9,7 @@
 
 #include "ConnectionText.h"
 #include "HostText.h"
+#include "LeastHeight.h"
 #include "PresetOperator.h"
 
 namespace {
@@ -73,6 +74,7 @@ BalanceDialog::BalanceDialog(const QStringList& profiles, QWidget* parent)
     connect(m_Close, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* grid = new QGridLayout(this);
+    LeastHeight::keep(this);
     grid->addWidget(m_Way, 0, 0, 1, 3);
     grid->addWidget(m_CommandLabel, 1, 0);
     grid->addWidget(m_Command, 1, 1);

@@ -23,6 +23,7 @@
 #include "HostSettings.h"
 #include "HostText.h"
 #include "INetConnectSetting.h"
+#include "LeastHeight.h"
 #include "ModemPanel.h"
 #include "NewProfileDialog.h"
 #include "Plugins.h"
@@ -68,6 +69,7 @@ MainWindow::MainWindow(QWidget* parent)
     auto* layout = new QVBoxLayout(middle);
     layout->addWidget(m_View, 1);
     layout->addWidget(m_ProblemLabel);
+    LeastHeight::keep(middle);
     setCentralWidget(middle);
     buildMenus();
     if (m_ModemPanel) addDock();
@@ -125,16 +127,7 @@ void MainWindow::refresh() {
     if (m_Balance) m_Balance->refresh();
     if (m_ModemPanel) m_ModemPanel->refresh();
     if (m_Picture.isUp) rememberConnection();
-    if (isVisible()) makeRoom();
     emit refreshed();
-}
-
-// What has come, such as a failure, is not cut off.
-void MainWindow::makeRoom() {
-    QLayout* const layout = centralWidget()->layout();
-    layout->activate();
-    const int missing = layout->totalHeightForWidth(centralWidget()->width()) - centralWidget()->height();
-    if (missing > 0 && !isMaximized() && !isFullScreen()) resize(width(), height() + missing);
 }
 
 void MainWindow::retranslate() {

@@ -102,7 +102,6 @@ private:
 
     void buildMenus();
     QAction* addEntry(QMenu* menu, const char* id, const QKeySequence& shortcut, void (MainWindow::*slot)());
-    void makeRoom();
     void addDock();
     void retranslateDock();
     void act();

@@ -10,6 +10,7 @@
 #include <QPushButton>
 
 #include "HostText.h"
+#include "LeastHeight.h"
 #include "Plugins.h"
 
 namespace {
@@ -63,6 +64,7 @@ NewProfileDialog::NewProfileDialog(const DialupProfile& values, const QString& w
     m_MakeDefault->setChecked(m_MakeDefault->isEnabled() && isFirst());
     m_Problem->hide();
     auto* form = new QFormLayout(this);
+    LeastHeight::keep(this);
     form->addRow(m_Intro);
     form->addRow(m_NameLabel, m_Name);
     form->addRow(m_MakeDefault);

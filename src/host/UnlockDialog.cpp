@@ -10,6 +10,7 @@
 #include <QRegularExpressionValidator>
 
 #include "HostText.h"
+#include "LeastHeight.h"
 
 namespace {
 
@@ -63,6 +64,7 @@ UnlockDialog::UnlockDialog(QWidget* parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     m_UseLast->setObjectName(QStringLiteral("Unlock_UseLast"));
     auto* form = new QFormLayout(this);
+    LeastHeight::keep(this);
     form->addRow(m_Intro);
     m_Code = addField(form, m_CodeLabel, "Unlock_Code");
     m_Pin = addField(form, m_PinLabel, "Unlock_NewPin");
