@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "HostStyle.h"
 
+#include <QPainter>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace {
@@ -9,11 +11,38 @@ bool isProfileList(const QWidget* widget) {
     return widget && widget->objectName() == QLatin1String("NetConnectSettingUIPlugin_ProfileCombobox");
 }
 
+// Qt's own style draws rims darker than the window, which nobody sees on a dark one.
+bool lacksRim(const QStyle* style, QStyle::PrimitiveElement element, const QStyleOption& option) {
+    const bool hasRim = element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_FrameLineEdit;
+    const QColor ground = option.palette.color(QPalette::Window), text = option.palette.color(QPalette::WindowText);
+    return hasRim && ground.lightness() < text.lightness() && style->inherits("QFusionStyle");
+}
+
+void drawRim(QPainter* painter, const QStyleOption& option) {
+    QColor colour = option.palette.color(QPalette::WindowText);
+    colour.setAlphaF(0.55);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(colour);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    painter->restore();
+}
+
 }  // namespace
 
 int HostStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* data) const {
     // A list of as many entries as the page asks for, with a scroll bar, instead of a menu as high as the screen.
     if (hint == SH_ComboBox_Popup && isProfileList(widget)) return 0;
+    // Windows with pictures on some of their buttons look unfinished.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (option && !(option->state & State_HasFocus) && lacksRim(baseStyle(), element, *option))
+        drawRim(painter, *option);
 }
