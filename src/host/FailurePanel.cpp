@@ -78,11 +78,13 @@ void FailurePanel::show(const ConnectionPicture& picture) {
 
 void FailurePanel::retranslate() {
     m_ShowDetails->setText(hostText("IDS_HOST_DETAILS"));
+    showDetails(m_ShowDetails->isChecked());
     m_TryAgain->setText(hostText("IDS_HOST_TRY_AGAIN"));
     m_Unlock->setText(hostText("IDS_HOST_UNLOCK"));
 }
 
 void FailurePanel::showDetails(bool on) {
-    m_ShowDetails->setArrowType(on ? Qt::DownArrow : Qt::RightArrow);
+    const Qt::ArrowType closed = isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
+    m_ShowDetails->setArrowType(on ? Qt::DownArrow : closed);
     m_Details->setVisible(on);
 }
