@@ -8,7 +8,11 @@
 
 namespace {
 
-QLocale locale() { return QLocale(Change::GetLangName()); }
+// With the digits of the times and the card's numbers beside them.
+QLocale locale() {
+    const QLocale own(Change::GetLangName());
+    return own.zeroDigit() == QLatin1Char('0') ? own : QLocale::c();
+}
 
 QString withUnit(double value, const char* const (&units)[4]) {
     size_t unit = 0;
