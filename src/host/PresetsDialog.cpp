@@ -132,6 +132,7 @@ QWidget* PresetsDialog::buildDetails() {
     auto* box = new QWidget;
     m_Form = new QFormLayout(box);
     m_Form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_Form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_Form->setVerticalSpacing(0);  // a row that is hidden would keep it
     m_Form->addRow(m_Hint);
     for (const char* id : DetailTitles) {
