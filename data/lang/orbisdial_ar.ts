@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
-        <translation>أُدخل رمز PIN خطأً مرات كثيرة. تطلب رمز PUK الذي أعطاك إياه المشغّل.</translation>
+        <translation>أُدخل رمز PIN خطأً مرات كثيرة. تطلب البطاقة الآن رمز PUK الذي أعطاك إياه المشغّل.</translation>
     </message>
     <message>
         <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>

@@ -1009,7 +1009,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
-        <translation>Die PIN war zu oft falsch. Sie verlangt die PUK, die Sie von Ihrem Anbieter haben.</translation>
+        <translation>Die PIN war zu oft falsch. Die Karte verlangt jetzt die PUK, die Sie von Ihrem Anbieter haben.</translation>
     </message>
     <message>
         <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>

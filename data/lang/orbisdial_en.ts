@@ -1198,7 +1198,7 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     </message>
     <message>
         <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
-        <translation>The PIN was wrong too often. It asks for the PUK that your operator gave you.</translation>
+        <translation>The PIN was wrong too often. The card now asks for the PUK that your operator gave you.</translation>
     </message>
     <message>
         <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>

@@ -1009,7 +1009,7 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
     <message>
         <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
-        <translation>El PIN fue incorrecto demasiadas veces. Pide el PUK que le dio su operador.</translation>
+        <translation>El PIN fue incorrecto demasiadas veces. La tarjeta pide ahora el PUK que le dio su operador.</translation>
     </message>
     <message>
         <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>

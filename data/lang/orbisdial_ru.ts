@@ -364,7 +364,7 @@
     </message>
     <message>
         <source>IDS_USERNAME_AND_PASSWORD</source>
-        <translation>&amp;Запрашивать при подключении</translation>
+        <translation>&amp;Запрос при подключении</translation>
     </message>
     <message>
         <source>IDS_SETTING_CHECK_CHAP</source>
