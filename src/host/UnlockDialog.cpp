@@ -15,6 +15,7 @@
 namespace {
 
 // 3GPP TS 31.101.
+constexpr int LettersOfWidth = 52;
 constexpr int LeastPin = 4;
 constexpr int CodeLength = 8;
 
@@ -65,6 +66,7 @@ UnlockDialog::UnlockDialog(QWidget* parent)
     m_UseLast->setObjectName(QStringLiteral("Unlock_UseLast"));
     auto* form = new QFormLayout(this);
     LeastHeight::keep(this);
+    setMinimumWidth(LettersOfWidth * fontMetrics().averageCharWidth());  // what it says is sentences
     form->addRow(m_Intro);
     m_Code = addField(form, m_CodeLabel, "Unlock_Code");
     m_Pin = addField(form, m_PinLabel, "Unlock_NewPin");
