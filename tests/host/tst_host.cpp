@@ -321,6 +321,20 @@ private slots:
     }
 
     // The last attempt is spent only after somebody agreed, and a PUK needs a new PIN twice.
+    // However narrow the window is when a text comes, and however narrow it is made then.
+    void cutsNoText() {
+        MainWindow* const window = m_Host->window();
+        auto* card = child<QLabel>("Host_SimSummary");
+        const auto isWhole = [card] { return card->height() >= card->heightForWidth(card->width()); };
+        window->resize(window->minimumSizeHint());
+        QTRY_VERIFY(card->isVisible() && isWhole());
+        const int before = card->height();
+        card->setText(card->text().repeated(8));
+        QTRY_VERIFY(card->height() > before && isWhole());
+        window->resize(window->width() / 2, 1);
+        QTRY_VERIFY(isWhole());
+    }
+
     void unlocks() {
         vrks_simulated_set("UNLOCK_MS", "1");
         vrks_simulated_set("PIN_ATTEMPTS", "2");
