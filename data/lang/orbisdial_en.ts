@@ -246,7 +246,7 @@
     <message>
         <source>IDS_DIALUP_BALANCE_MESSAGE</source>
         <extracomment>The same; %1 is a phone number, %2 the message.</extracomment>
-        <translation>Send the text message “%2” to %1.</translation>
+        <translation>Send the text message "%2" to %1.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BALANCE_EMPTY_MESSAGE</source>
@@ -1328,7 +1328,7 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     <message>
         <source>IDS_HOST_BALANCE_BY_COMMAND</source>
         <extracomment>%1 is an operator, %2 a command such as *100#.</extracomment>
-        <translation>%1 tells the balance of a prepaid card in answer to the command %2. Nothing is sent before you press “Ask”.</translation>
+        <translation>%1 tells the balance of a prepaid card in answer to the command %2. Nothing is sent before you press "Ask".</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_BY_HAND</source>
@@ -1337,7 +1337,7 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     </message>
     <message>
         <source>IDS_HOST_BALANCE_UNKNOWN</source>
-        <translation>How your operator tells the balance is not known here. If you know its command, type it; nothing is sent before you press “Ask”.</translation>
+        <translation>How your operator tells the balance is not known here. If you know its command, type it; nothing is sent before you press "Ask".</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_COMMAND</source>
