@@ -34,7 +34,7 @@ pid_t startProgram(const std::vector<QByteArray>& command) {
     ::posix_spawn_file_actions_addopen(&output, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     ::posix_spawn_file_actions_addopen(&output, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t child = 0;
-    if (::posix_spawn(&child, arguments.front(), &output, nullptr, arguments.data(), environ) != 0) child = 0;
+    if (::posix_spawnp(&child, arguments.front(), &output, nullptr, arguments.data(), environ) != 0) child = 0;
     ::posix_spawn_file_actions_destroy(&output);
     return child;
 }
