@@ -18,7 +18,7 @@ QByteArray credentialsOf(const QString& name) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     for (const QString& field : {profile.user, profile.password, profile.autoapn, profile.apn}) {
         hash.addData(field.toUtf8());
-        hash.addData("", 1);
+        hash.addData(QByteArray(1, '\0'));
     }
     return hash.result();
 }

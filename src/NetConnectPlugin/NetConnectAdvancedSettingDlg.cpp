@@ -20,7 +20,7 @@ void NetConnectAdvancedSettingDlg::Destroy() {
 }
 
 NetConnectAdvancedSettingDlg::NetConnectAdvancedSettingDlg()
-    : m_pValidator(new QRegExpValidator(QRegExp(QString::fromLatin1("[.0-9]*")), this)) {
+    : m_pValidator(new PatternValidator(patternOf("[.0-9]*"), this)) {
     QString AdvanceSetting::*const fields[] = {&AdvanceSetting::ip,     &AdvanceSetting::pap,    &AdvanceSetting::chap,
                                                &AdvanceSetting::dns,    &AdvanceSetting::dnsalt, &AdvanceSetting::wins,
                                                &AdvanceSetting::winsalt};

@@ -16,12 +16,12 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegExpValidator>
 #include <QVBoxLayout>
 
 #include "ExtendDialog.h"
 #include "ExtendLineEdit.h"
 #include "NetConnectRecords.h"
+#include "QtCompatPage.h"
 
 // One instance per process, made on first use. Everything is for the GUI thread.
 //
@@ -135,7 +135,7 @@ private:
     QCheckBox* m_pPap = nullptr;
     QPushButton* m_pBtnOk = nullptr;
     QPushButton* m_pBtnCancel = nullptr;
-    QRegExpValidator* m_pValidator;
+    PatternValidator* m_pValidator;
     AdvanceSetting m_AdvanceSetting;
     DialupProfile m_Profile;
     bool m_bArmed = true;  // static radios may enable and focus the primary field

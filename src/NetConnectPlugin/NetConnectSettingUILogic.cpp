@@ -37,7 +37,6 @@ NetConnectSettingUILogic::NetConnectSettingUILogic(LoadMoment moment)
       m_pProfileListHash(nullptr),
       m_pIMSIHash(nullptr),
       m_bIsUserSet(false),
-      m_Mutex(QMutex::Recursive),
       m_bIMSIDefaultForgotten(false),
       m_bLoading(false),
       m_bLibraryWhole(false),

@@ -20,7 +20,6 @@
 #include <QList>
 #include <QMap>
 #include <QMultiHash>
-#include <QMutex>
 #include <QObject>
 #include <QPointer>
 #include <QSet>
@@ -30,6 +29,7 @@
 #include "IPresetLibrary.h"
 #include "NetConnectStorageProblem.h"
 #include "NetConnectXMLParse.h"
+#include "QtCompat.h"
 
 class NetConnectOperation;
 class QWidget;
@@ -371,7 +371,7 @@ private:
     QList<DialupProfile> m_ExportList;
     QHash<QString, QString> m_ProfileHash;
     QMap<QString, QString> m_ProfileMap;
-    QMutex m_Mutex;
+    RecursiveMutex m_Mutex;
 
     // The device's event makes the IMSI's proposal void on its own thread, where the text must not be touched.
     std::atomic<bool> m_bIMSIDefaultForgotten;

@@ -73,7 +73,7 @@ QStringList templateFields() {
     return names;
 }
 
-bool isPrompt(const QString& name) { return NetConnectConfigDocument::promptField(QStringRef(&name)); }
+bool isPrompt(const QString& name) { return NetConnectConfigDocument::promptField(wholeOf(name)); }
 
 bool isDefault(const QString& value) { return value == DefaultValue; }
 

@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QStandardPaths>
-#include <QTextCodec>
 #include <cerrno>
 #include <memory>
 
@@ -18,6 +17,10 @@
 #include "StandardOutput.h"
 #include "TerminalText.h"
 #include "vrks_simulated.h"
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+#endif
 
 namespace {
 
@@ -56,7 +59,9 @@ void Platform::prepare(int argc, char** argv) {
     qInstallMessageHandler(dropTrace);
     qputenv("QT_NO_GLIB", "1");  // GLib crashes a program when memory runs out
     QLoggingCategory::setFilterRules("default.debug=false");
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)  // Qt 6 knows no other encoding of the system
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
     for (int i = 1; i < argc; ++i)
         if (QString::fromUtf8(argv[i]).toUtf8() != argv[i])
             throw CommandError::usage(QString("argument %1 is not UTF-8").arg(i));

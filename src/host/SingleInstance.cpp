@@ -23,7 +23,7 @@ QString dataFolder() {
     unsigned short* folder = nullptr;
     if (VRKS_GetUserDataDirectory(&folder) != 0) return QString();
     const std::unique_ptr<unsigned short[]> owner(folder);
-    return QDir(QString::fromUtf16(folder)).canonicalPath();
+    return QDir(QString(reinterpret_cast<const QChar*>(folder))).canonicalPath();
 }
 
 QString serviceName() {

@@ -61,7 +61,7 @@ public:
     QList<Provider> read() {
         m_In.enterRoot("serviceproviders");
         if (m_In.attribute("format") != "2.0") m_In.fail("the database is not in format 2.0");
-        m_In.forEachChild([this](const QStringRef& name) { name == "country" ? readCountry() : skip(); });
+        m_In.forEachChild([this](const QString& name) { name == "country" ? readCountry() : skip(); });
         m_In.finish();
         return m_Providers;
     }
@@ -75,7 +75,7 @@ private:
         static const QRegularExpression Code("^[A-Za-z]{2}\\z");
         const QString code = m_In.attribute("code");
         if (!Code.match(code).hasMatch()) m_In.fail("a country's code is not two letters");
-        m_In.forEachChild([&](const QStringRef& name) { name == "provider" ? readProvider(code) : skip(); });
+        m_In.forEachChild([&](const QString& name) { name == "provider" ? readProvider(code) : skip(); });
     }
 
     void readProvider(const QString& country) {
@@ -83,7 +83,7 @@ private:
         provider.country = country;
         provider.primary = m_In.attribute("primary") == "true";
         LocalisedName providerName;
-        m_In.forEachChild([&](const QStringRef& name) {
+        m_In.forEachChild([&](const QString& name) {
             if (name == "name") return providerName.read(m_In);
             if (name == "gsm") return readGsm(&provider);
             if (name == "cdma") return readCdma(&provider);
@@ -95,7 +95,7 @@ private:
     }
 
     void readGsm(Provider* provider) {
-        m_In.forEachChild([&](const QStringRef& name) {
+        m_In.forEachChild([&](const QString& name) {
             if (name == "network-id") return readNetworkId(provider);
             if (name == "apn") return readApn(provider);
             if (name == "balance-check") return readBalanceCheck(provider);
@@ -128,9 +128,9 @@ private:
     }
 
     void readBalanceCheck(Provider* provider) {
-        m_In.forEachChild([&](const QStringRef& name) {
+        m_In.forEachChild([&](const QString& name) {
             BalanceQuery query;
-            query.way = BalanceQuery::wayOf(name.toString());
+            query.way = BalanceQuery::wayOf(name);
             if (query.way == BalanceQuery::WayCount) return skip();
             query.text = m_In.attribute("text").trimmed();
             query.number = m_In.text();
@@ -153,7 +153,7 @@ private:
         LocalisedName label;
         QStringList plans;
         std::optional<Usage> usage = Usage::Unstated;
-        m_In.forEachChild([&](const QStringRef& name) {
+        m_In.forEachChild([&](const QString& name) {
             if (name == "name") return label.read(m_In);
             if (name == "username") return void(point->user = m_In.text());
             if (name == "password") return void(point->password = m_In.text());

@@ -35,7 +35,7 @@ public:
 
 private:
     void copyToken() {
-        if (m_In.xml.isStartElement() && m_In.xml.name() == "PresetSections") return mergeSections();
+        if (m_In.xml.isStartElement() && m_In.xml.name() == QLatin1String("PresetSections")) return mergeSections();
         m_Out.writeCurrentToken(m_In.xml);
         if (m_In.xml.isWhitespace()) m_LineBreak = m_In.xml.text().toString();
         if (m_In.xml.isStartDocument()) m_Out.writeCharacters("\n");
@@ -110,7 +110,7 @@ QList<DialupProfile> PresetFiles::readProfiles(const QString& path) {
     QList<DialupProfile> profiles;
     in.enterRoot("vrksdoc");
     while (!in.xml.atEnd())
-        if (in.xml.readNext() == QXmlStreamReader::StartElement && in.xml.name() == "Profile")
+        if (in.xml.readNext() == QXmlStreamReader::StartElement && in.xml.name() == QLatin1String("Profile"))
             profiles.append(profileFrom(in));
     in.checkForError();
     return profiles;

@@ -18,7 +18,7 @@ QString withoutUnprintable(const QString& text) {
     QVector<uint> kept;
     for (const uint c : NetConnectProfileRules::cutToLength(text.simplified(), 4 * MaxLength).toUcs4())
         if (QChar::isPrint(c)) kept.append(c);
-    return QString::fromUcs4(kept.constData(), kept.size());
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(kept.constData()), kept.size());
 }
 
 // The text with the forbidden characters turned into something that reads as well.

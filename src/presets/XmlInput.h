@@ -44,7 +44,7 @@ public:
     // Hands over each child of the current element, which the handler must read to its end.
     template <typename Handler>
     void forEachChild(Handler handle) {
-        while (xml.readNextStartElement()) handle(xml.name());
+        while (xml.readNextStartElement()) handle(xml.name().toString());
     }
 
     // Reads what follows the root, so that a damaged end does not go unnoticed.

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QStringList>
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -44,11 +45,11 @@ QString withHidden(const QString& text, Function replace) {
     for (int i = 0, size = 0; i < text.size(); i += size) {
         const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         size = isPair ? 2 : 1;
-        const QStringRef units(&text, i, size);
+        const QChar* const units = text.constData() + i;
         if (isHidden(isPair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode()))
-            result += replace(units);
+            result += replace(units, size);
         else
-            result += units;
+            result.append(units, size);
     }
     return result;
 }
@@ -56,10 +57,9 @@ QString withHidden(const QString& text, Function replace) {
 QString jsonString(const QString& text) {
     QString quoted = text;
     quoted.replace('\\', "\\\\").replace('"', "\\\"");
-    const auto escapes = [](const QStringRef& units) {
-        QString result;
-        for (const QChar unit : units) result += escaped(unit);
-        return result;
+    const auto escapes = [](const QChar* units, int size) {
+        return std::accumulate(units, units + size, QString(),
+                               [](QString sum, QChar unit) { return sum + escaped(unit); });
     };
     return '"' + withHidden(quoted, escapes) + '"';
 }
@@ -73,7 +73,7 @@ QString jsonWord(const QJsonValue& value) {
 }  // namespace
 
 QString TerminalText::printable(const QString& text) {
-    return withHidden(text, [](const QStringRef&) { return QChar(QChar::ReplacementCharacter); });
+    return withHidden(text, [](const QChar*, int) { return QChar(QChar::ReplacementCharacter); });
 }
 
 // QJsonDocument's own text would hold them as they are, and a question mark for half a pair.

@@ -83,7 +83,7 @@ std::optional<QString> dataDirectory() {
     unsigned short* text = nullptr;
     if (VRKS_GetUserDataDirectory(&text) != 0) return text ? std::optional<QString>("failed and wrote") : std::nullopt;
     const std::unique_ptr<unsigned short[]> owner(text);
-    return QString::fromUtf16(text);
+    return QString(reinterpret_cast<const QChar*>(text));
 }
 
 QStringList namesIn(const QString& folder) {

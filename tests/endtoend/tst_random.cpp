@@ -201,7 +201,7 @@ private:
         QStringList names;
         QXmlStreamReader xml(TestFolder::read(m_Folder.userFile()));
         while (!xml.atEnd())
-            if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == "Profile")
+            if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("Profile"))
                 names.append(xml.attributes().value("name").toString());
         names.sort();
         return names;

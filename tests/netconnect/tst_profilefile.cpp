@@ -3,8 +3,7 @@
 
 #include <sys/stat.h>
 
-#include <QTextCodec>
-
+#include "Encoded.h"
 #include "LogicFixture.h"
 
 // Written by hand, so that a wrong table of fields can't agree with itself.
@@ -145,8 +144,7 @@ private slots:
     // The declaration is read in one encoding, and what follows in another.
     void anEncodingThatChanges() {
         const auto wide = [](const QByteArray& text) {
-            QTextEncoder encoder(QTextCodec::codecForName("UTF-16BE"), QTextCodec::IgnoreHeader);
-            return encoder.fromUnicode(QString::fromLatin1(text));
+            return encoded(QString::fromLatin1(text), "UTF-16BE", ByteOrderMark::None);
         };
         const QByteArray declaration = "<?xml version=\"1.0\" encoding=\"UTF-16BE\" ?>";
         const QByteArray skipped = wide(QByteArray("<!--").leftJustified(declaration.size() / 2, ' '));
@@ -369,10 +367,9 @@ private:
     }
     // The text with a declaration of its encoding, or a byte order mark where that is what tells.
     static QByteArray inEncoding(const QString& encoding, const QByteArray& text) {
-        QTextEncoder encoder(QTextCodec::codecForName(encoding.toLatin1()));
         const bool isMarked = encoding == "UTF-16" || encoding == "UTF-32";
         const QString declaration = "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>";
-        return encoder.fromUnicode((isMarked ? QString() : declaration) + QString::fromUtf8(text));
+        return encoded((isMarked ? QString() : declaration) + QString::fromUtf8(text), encoding.toLatin1());
     }
     QList<DialupProfile> m_Profiles;
     QString m_Default;

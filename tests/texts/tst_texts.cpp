@@ -28,12 +28,12 @@ Texts readTexts(const QString& language) {
     QXmlStreamReader xml(&file);
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement) continue;
-        if (xml.name() == "name") {
+        if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
-        } else if (xml.name() == "source") {
+        } else if (xml.name() == QLatin1String("source")) {
             key = context + '/' + xml.readElementText();
             if (texts.contains(key)) xml.raiseError(key + " is there twice");
-        } else if (xml.name() == "translation") {
+        } else if (xml.name() == QLatin1String("translation")) {
             texts[key].finished = !xml.attributes().hasAttribute("type");
             texts[key].translation = xml.readElementText();
         }

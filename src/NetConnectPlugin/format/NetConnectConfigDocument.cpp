@@ -67,7 +67,7 @@ NetConnectConfigElement NetConnectConfigElement::of(const QXmlStreamReader& read
     return configElement(element, element.value("name"));
 }
 
-QString UserPrompt::*NetConnectConfigDocument::promptField(const QStringRef& name) {
+QString UserPrompt::*NetConnectConfigDocument::promptField(const TextPart& name) {
     const struct {
         QLatin1String name;
         QString UserPrompt::*field;
@@ -78,7 +78,7 @@ QString UserPrompt::*NetConnectConfigDocument::promptField(const QStringRef& nam
         {QLatin1String("DisableNamePwd"), &UserPrompt::disableNamePwd},
     };
     for (size_t i = 0; i < sizeof(fields) / sizeof(fields[0]); ++i)
-        if (name.size() == fields[i].name.size() && name == fields[i].name) return fields[i].field;
+        if (name.size() == sizeOf(fields[i].name) && name == fields[i].name) return fields[i].field;
     return nullptr;
 }
 
@@ -114,7 +114,7 @@ void NetConnectConfigDocument::read(QXmlStreamReader& reader) {
 template <class Element>
 void NetConnectConfigDocument::start(const Element& element, Place* place) {
     const QString name = element.value("name");
-    if (QString UserPrompt::*const field = promptField(QStringRef(&name)))
+    if (QString UserPrompt::*const field = promptField(wholeOf(name)))
         promptItems.append(PromptItem(field, element.value("value")));
     if (element.isNamed("group")) place->enter(&place->group, name);
     if (element.isNamed("module")) place->enter(&place->module, name);

@@ -10,6 +10,7 @@
 #include <QXmlStreamReader>
 
 #include "NetConnectRecords.h"
+#include "QtCompat.h"
 
 struct NetConnectConfigElement {
     enum Kind { Other, TemplateSection, FunctionSection, ProfileListSection, IMSISection, ModeDefaultSection, Item };
@@ -42,7 +43,7 @@ struct NetConnectConfigDocument {
     void read(QXmlStreamReader& reader);
 
     // The prompt's field that an item of this name fills; null for other names.
-    static QString UserPrompt::*promptField(const QStringRef& name);
+    static QString UserPrompt::*promptField(const TextPart& name);
 
     QList<Stretch> stretches;
     QList<PromptItem> promptItems;  // of the whole file

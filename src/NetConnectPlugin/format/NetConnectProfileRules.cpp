@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "NetConnectProfileRules.h"
 
-#include <QRegExp>
+#include "QtCompat.h"
 
 namespace NetConnectProfileRules {
 
@@ -9,10 +9,6 @@ const char NamePattern[] = "[^:<>|?*()\\[\\]\\/\\\\]+";
 const char APNPattern[] = "^[\\w]+[\\w\\.-]*[\\w]+$";
 const char APNTypingPattern[] = "([-.]*[A-Z]*[a-z]*[0-9]*)*";
 const char ForbiddenNameCharacters[] = "\\/:*?[]()<>|";
-
-static bool matchesWhole(const char* pattern, const QString& text) {
-    return QRegExp(QString::fromLatin1(pattern)).exactMatch(text);
-}
 
 bool isNamePresent(const QString& name) {
     for (int i = 0; i < name.size(); ++i)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "OperatorNames.h"
 
-#include <QRegExp>
 #include <algorithm>
+
+#include "QtCompat.h"
 
 namespace {
 
@@ -79,7 +80,7 @@ QStringList withoutFillers(QStringList words, const QString& country) {
 }
 
 // The several names in one, such as "Happy/moviData" and "T-Mobile(Telekom)".
-QStringList partsOf(const QString& name) { return name.split(QRegExp(QLatin1String("[/()]"))); }
+QStringList partsOf(const QString& name) { return name.split(patternOf("[/()]")); }
 
 enum Exactness { Whole, Part, Core, ExactnessCount };
 

@@ -12,7 +12,7 @@ namespace {
 const char ModeDefaults[] = "MultiModeDefaultProfile";
 
 // The text by which a pool knows a value again. A reader's value is gone with its element; a scanner's stays.
-void remember(const QStringRef&, const QString& text, QString* key) { *key = text; }
+void remember(const TextPart&, const QString& text, QString* key) { *key = text; }
 void remember(const XmlPiece& value, const QString&, XmlPiece* key) { *key = value; }
 
 // Profile files repeat few values many times: a value equal to its field's last one, or to one that was seen not long
@@ -44,7 +44,7 @@ private:
     Entry m_Seen[SeenCount];
 };
 
-bool isField(const QStringRef& attribute, int field) {
+bool isField(const TextPart& attribute, int field) {
     return attribute == QLatin1String(DialupProfileFields[field].attribute);
 }
 bool isField(const XmlPiece& attribute, int field) { return attribute == DialupProfileFields[field].attribute; }
@@ -62,7 +62,7 @@ int findField(const Name& attribute, int expected) {
 // Finds the fields of attributes by name and place.
 class FieldFinder {
 public:
-    int fieldOf(const QStringRef& attribute, int, int expected) const { return findField(attribute, expected); }
+    int fieldOf(const TextPart& attribute, int, int expected) const { return findField(attribute, expected); }
 
     // The scanner keeps the piece of a name that comes again at its place.
     int fieldOf(const XmlPiece& attribute, int place, int expected) {
@@ -165,7 +165,7 @@ bool ProfileDocument::scan(const QByteArray& content) {
 }
 
 void ProfileDocument::read(QXmlStreamReader& reader) {
-    ProfileElements<XmlReaderElement, ValuePool<QStringRef, QString> > elements(this);
+    ProfileElements<XmlReaderElement, ValuePool<TextPart, QString> > elements(this);
     while (!reader.atEnd()) {
         reader.readNext();
         XmlText::refuseDeclarations(reader);

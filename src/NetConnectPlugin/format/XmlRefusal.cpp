@@ -5,9 +5,9 @@
 // the depth of the elements, and it expands entities while it reads the declarations. So all these are counted first,
 // in one pass that keeps nothing, over the very characters that the reader will see.
 
-#include <QTextCodec>
 #include <algorithm>
 
+#include "XmlEncoding.h"
 #include "XmlText.h"
 
 namespace {
@@ -210,28 +210,12 @@ private:
     QString m_Refusal;
 };
 
-// The encoding that the reader takes a document's bytes for at first (XML 1.0, appendix F.1).
-QTextCodec* firstCodec(const QByteArray& document) {
-    const int utf8 = 106;  // IANA's numbers of the encodings
-    const struct {
-        QByteArray beginning;
-        int mib;
-    } beginnings[] = {
-        {QByteArray("\0\0\xfe\xff", 4), 1017}, {QByteArray("\xff\xfe\0\0", 4), 1017}, {QByteArray("<\0\0\0", 4), 1019},
-        {QByteArray("\0\0\0<", 4), 1018},      {QByteArray("\xfe\xff", 2), 1015},     {QByteArray("\xff\xfe", 2), 1015},
-        {QByteArray("<\0", 2), 1014},          {QByteArray("\0<", 2), 1013},
-    };
-    for (size_t i = 0; i < sizeof(beginnings) / sizeof(beginnings[0]); ++i)
-        if (document.startsWith(beginnings[i].beginning)) return QTextCodec::codecForMib(beginnings[i].mib);
-    return QTextCodec::codecForMib(utf8);
-}
-
 // Decodes piece by piece; the first characters, which the reader has taken in another encoding, are left out.
-void feedDecoded(const QByteArray& document, QTextCodec* codec, qint64 taken, MarkupCounter* counter) {
+void feedDecoded(const QByteArray& document, const XmlEncoding& encoding, qint64 taken, MarkupCounter* counter) {
     const int pieceSize = 64 * 1024;  // bytes
-    QScopedPointer<QTextDecoder> decoder(codec->makeDecoder());
+    XmlEncoding::Decoder decoder(encoding);
     for (int at = 0; at < document.size(); at += pieceSize) {
-        const QString piece = decoder->toUnicode(document.constData() + at, qMin(pieceSize, document.size() - at));
+        const QString piece = decoder.decoded(document.constData() + at, qMin(pieceSize, int(document.size()) - at));
         const int left = int(qMin(taken, qint64(piece.size())));
         taken -= left;
         counter->feed(piece.utf16() + left, piece.utf16() + piece.size());
@@ -250,15 +234,15 @@ QString refusal(const QByteArray& document) {
         return QString::fromLatin1("the XML declaration is too long");
     if (declaration.hasError()) return QString();  // the reader will tell
 
-    QTextCodec* const first = firstCodec(document);
+    const XmlEncoding first = XmlEncoding::ofBeginning(document);
     const QByteArray name = declaration.documentEncoding().toString().toLatin1();
-    QTextCodec* const codec = name.isEmpty() ? first : QTextCodec::codecForName(name);
-    const qint64 taken = codec == first ? 0 : declaration.characterOffset();
+    const XmlEncoding encoding = name.isEmpty() ? first : XmlEncoding(name);
+    const qint64 taken = encoding == first ? 0 : declaration.characterOffset();
     MarkupCounter counter;
-    if (codec == QTextCodec::codecForName("UTF-8") && taken == 0)
+    if (encoding.isUtf8() && taken == 0)
         counter.feed(document.constData(), document.constData() + document.size());
     else
-        feedDecoded(document, codec, taken, &counter);
+        feedDecoded(document, encoding, taken, &counter);
     return counter.refusal();
 }
 

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QXmlStreamReader>
 
+#include "QtCompat.h"
+
 // The element that a reader stands on, asked as a scanner's is.
 class XmlReaderElement {
 public:
@@ -15,8 +17,8 @@ public:
     QString value(const char* attribute) const { return m_Attributes.value(QLatin1String(attribute)).toString(); }
     QString commonValue(const char* attribute) const { return value(attribute); }
     int attributeCount() const { return m_Attributes.size(); }
-    QStringRef attributeName(int index) const { return m_Attributes.at(index).qualifiedName(); }
-    QStringRef attributeValue(int index) const { return m_Attributes.at(index).value(); }
+    TextPart attributeName(int index) const { return m_Attributes.at(index).qualifiedName(); }
+    TextPart attributeValue(int index) const { return m_Attributes.at(index).value(); }
     bool hasFormerNames() const { return false; }
     int nextChanged(int index) const { return index; }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "NetConnectPresetLibrary.h"
 
-#include <QRegExp>
-
 #include "Change.h"
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"

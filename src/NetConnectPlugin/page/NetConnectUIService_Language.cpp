@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <QAbstractItemView>
-#include <QRegExp>
 
 #include "CommonUtils.h"
 #include "NetConnectFieldNote.h"
 #include "NetConnectLeastSize.h"
 #include "NetConnectUIService.h"
+#include "QtCompat.h"
 
 namespace {
 
@@ -14,7 +14,7 @@ const int ProtocolTitleWidth = 220;
 
 // Languages without Latin letters put the mnemonic in parentheses behind the text.
 QString withoutMnemonic(const QString& text) {
-    return QString(text).remove(QRegExp(QString::fromLatin1("\\(&.\\)"))).remove(QLatin1Char('&'));
+    return QString(text).remove(patternOf("\\(&.\\)")).remove(QLatin1Char('&'));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <QListView>
-#include <QRegExpValidator>
 #include <QStringListModel>
 
 #include "CallTrace.h"
@@ -10,6 +9,7 @@
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectUIService.h"
+#include "QtCompatPage.h"
 
 namespace {
 
@@ -96,12 +96,12 @@ void CNetConnectUIService::createProfileNameUI() {
     m_Page.name = createEdit("LineEditProfileName", nameLength);
     m_Page.name->hide();
     // Attached to nothing on purpose: names are checked when they are saved, so that any text can be typed.
-    new QRegExpValidator(QRegExp(QString::fromLatin1("[\\S]+[^:<>|?*()\\[\\]\\/\\\\]*")), this);
+    new PatternValidator(patternOf("[\\S]+[^:<>|?*()\\[\\]\\/\\\\]*"), this);
 
     useCompactMargins(m_pProfileNameLayout, 2);
     m_pProfileNameLayout->addWidget(m_Page.profiles);
     m_pProfileNameLayout->addWidget(m_Page.name);
-    connect(m_Page.profiles, SIGNAL(currentIndexChanged(QString)), this, SLOT(onSelectProfile(const QString&)));
+    connectCurrentText(m_Page.profiles, this, SLOT(onSelectProfile(const QString&)));
 }
 
 void CNetConnectUIService::createApnUI() {
@@ -110,8 +110,7 @@ void CNetConnectUIService::createApnUI() {
     m_Page.apnStatic = named(new QRadioButton(m_Page.apnGroup), "BtnStatic");
     m_Page.apnLabel = named(new QLabel(m_Page.apnGroup), "Apnlabel");
     m_Page.apn = createEdit("ApnlineEdit", NetConnectProfileRules::APNLength);
-    const QRegExp typing(QString::fromLatin1(NetConnectProfileRules::APNTypingPattern));
-    m_Page.apn->setValidator(new QRegExpValidator(typing, this));
+    m_Page.apn->setValidator(new PatternValidator(patternOf(NetConnectProfileRules::APNTypingPattern), this));
     m_Page.apnLabel->setBuddy(m_Page.apn);
 
     useCompactMargins(m_pApngrpLayout, 4);

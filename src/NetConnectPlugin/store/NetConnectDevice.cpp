@@ -133,7 +133,7 @@ QString userDataDirectory(long* answer) {
     unsigned short* directory = nullptr;
     *answer = VRKS_GetUserDataDirectory(&directory);
     QString result;
-    if (*answer == 0 && directory) result = QString::fromUtf16(directory);
+    if (*answer == 0 && directory) result = QString(reinterpret_cast<const QChar*>(directory));
     delete[] directory;
     return result;
 }

@@ -31,7 +31,11 @@ Translator loadTexts(const QString& code) { return loadFile(textsFolder() + '/' 
 
 // The texts of Qt's own dialogs; Qt's English ones need no file.
 Translator loadQtTexts(const QString& code) {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath) + '/';
+#else
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + '/';
+#endif
     if (Translator modern = loadFile(folder + "qtbase_" + code + FileSuffix)) return modern;
     return loadFile(folder + "qt_" + code + FileSuffix);
 }

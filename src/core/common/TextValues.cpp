@@ -28,7 +28,7 @@ QString TextValues::filled(const QString& text, const QStringList& values) {
     const QStringList parts = text.split('%');
     QString filled = parts.first();
     for (int i = 1; i < parts.size(); ++i) {
-        const int number = parts[i].leftRef(1).toInt();
+        const int number = parts[i].left(1).toInt();
         const bool isPlace = number >= 1 && number <= values.size();
         filled += isPlace ? isolated(values[number - 1]) + parts[i].mid(1) : '%' + parts[i];
     }
