@@ -21,14 +21,14 @@ private slots:
         QTest::addColumn<QString>("program");
         QTest::addColumn<QByteArray>("lowest");  // which it must load, or ldd said nothing of worth
         QTest::newRow("orbisctl") << ORBISCTL << QByteArray("libhostcorebase");
-        QTest::newRow("orbis-presets") << PRESET_TOOL << QByteArray("libQt5Core");
+        QTest::newRow("orbis-presets") << PRESET_TOOL << QByteArray(QT_LIBRARY "Core");
     }
     void loadsNoWindowLibrary() {
         QFETCH(QString, program);
         QFETCH(QByteArray, lowest);
         const QByteArray libraries = outputOf("ldd", {program});
         QVERIFY2(libraries.contains(lowest), libraries);
-        for (const char* library : {"libQt5Gui", "libQt5Widgets", "libhostcore.so"})
+        for (const char* library : {QT_LIBRARY "Gui", QT_LIBRARY "Widgets", "libhostcore.so"})
             QVERIFY2(!libraries.contains(library), libraries);
     }
 
