@@ -279,7 +279,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::buildMenus() {
     m_ConnectionMenu = menuBar()->addMenu(QString());
-    m_Action = m_ConnectionMenu->addAction(QString(), this, &MainWindow::act, QKeySequence(Qt::CTRL | Qt::Key_Return));
+    m_Action = m_ConnectionMenu->addAction(QString(), this, &MainWindow::act);
+    m_Action->setShortcut(Qt::CTRL | Qt::Key_Return);
     m_UnlockAction = addEntry(m_ConnectionMenu, "IDS_HOST_UNLOCK", {}, &MainWindow::unlock);
     addEntry(m_ConnectionMenu, "IDS_HOST_BALANCE", {}, &MainWindow::askBalance);
     m_ConnectionMenu->addSeparator();
@@ -288,7 +289,8 @@ void MainWindow::buildMenus() {
     m_ConnectionMenu->addSeparator();
     addEntry(m_ConnectionMenu, "IDS_HOST_SETTINGS", QKeySequence(Qt::CTRL | Qt::Key_Comma), &MainWindow::openSettings);
     m_ConnectionMenu->addSeparator();
-    QAction* const quit = m_ConnectionMenu->addAction(QString(), this, &MainWindow::quit, QKeySequence::Quit);
+    QAction* const quit = m_ConnectionMenu->addAction(QString(), this, &MainWindow::quit);
+    quit->setShortcut(QKeySequence::Quit);
     if (quit->shortcut().isEmpty()) quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setMenuRole(QAction::QuitRole);
     m_Entries.append({quit, "IDS_HOST_QUIT"});
@@ -298,7 +300,8 @@ void MainWindow::buildMenus() {
 }
 
 QAction* MainWindow::addEntry(QMenu* menu, const char* id, const QKeySequence& shortcut, void (MainWindow::*slot)()) {
-    QAction* const action = menu->addAction(QString(), this, slot, shortcut);
+    QAction* const action = menu->addAction(QString(), this, slot);
+    action->setShortcut(shortcut);
     action->setObjectName(QLatin1String(id));
     m_Entries.append({action, id});
     return action;
