@@ -239,8 +239,7 @@ private slots:
         const Rows<QString, QStringList, int, QByteArray, QByteArray> row("profile", "network", "status", "out",
                                                                           "words");
         row("by command", "Alpha", {}, 0, "Alpha Net, *100#:\nSeven left\n", "");
-        row("by message", "Beta", {}, 4, "Send the text message \xe2\x80\x9cSALDO\xe2\x80\x9d to 111.\n",
-            "Beta Mobile");
+        row("by message", "Beta", {}, 4, "Send the text message \"SALDO\" to 111.\n", "Beta Mobile");
         row("no card", "Alpha", {"IMSI="}, 3, "", "tells the operator");
         row("refused", "Alpha", {"USSD=network"}, 4, "", "refused");
         row("no modem", "Alpha", {"PRESENT=0"}, 3, "", "no modem");
