@@ -59,11 +59,18 @@ const BackendKind Kinds[] = {
     {"auto", chooseAutomatically},
 };
 
+// Read once, so that all that is asked agrees.
+const char* request() {
+    static const char* const request = [] {
+        const char* variable = std::getenv("ORBISDIAL_DEVICE");
+        return ::strdup(variable && *variable ? variable : "auto");
+    }();
+    return request;
+}
+
 BackendSelection select() {
-    const char* variable = std::getenv("ORBISDIAL_DEVICE");
-    const char* request = variable && *variable ? variable : "auto";
     for (const BackendKind& kind : Kinds)
-        if (std::strcmp(kind.request, request) == 0) return kind.choose();
+        if (std::strcmp(kind.request, request()) == 0) return kind.choose();
     return unavailable("ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto");
 }
 
@@ -104,6 +111,8 @@ const BackendSelection& childsSelection() {
 }
 
 }  // namespace
+
+bool isRequested(const char* name) { return std::strcmp(request(), name) == 0; }
 
 const BackendSelection& selectedBackend() { return isChildOfUser ? childsSelection() : parentsSelection(); }
 

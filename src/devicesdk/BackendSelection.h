@@ -14,6 +14,9 @@ struct BackendSelection {
     const char* problem;      // why not; null when all is well
 };
 
+// Whether ORBISDIAL_DEVICE asks for this backend by its name. Chooses nothing, and waits for nothing.
+bool isRequested(const char* name);
+
 // Chosen at the first call from ORBISDIAL_DEVICE; lives until the process ends, whatever else is gone by then. In a
 // child of a process that had chosen it is one on which everything fails: the threads did not come along.
 const BackendSelection& selectedBackend();

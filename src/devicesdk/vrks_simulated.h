@@ -44,7 +44,7 @@
 extern "C" {
 #endif
 
-/* 1 when the simulated modem is in use, else 0. Unlike the other calls not a status. */
+/* 1 when the simulated modem is in use, else 0. Unlike the other calls not a status. Never loads another backend. */
 VRKS_API int vrks_simulated_active(void);
 
 /* The name of the backend in use: "simulated", "modemmanager", "none", or null when the one asked for can't be had.

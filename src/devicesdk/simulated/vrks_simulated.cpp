@@ -12,7 +12,11 @@
 
 namespace {
 
-SimulatedBackend* simulated() { return dynamic_cast<SimulatedBackend*>(selectedBackend().backend); }
+// Whoever asks for a simulated modem does not have a real one's backend loaded.
+SimulatedBackend* simulated() {
+    if (!isRequested("simulated")) return nullptr;
+    return dynamic_cast<SimulatedBackend*>(selectedBackend().backend);
+}
 
 // Runs an operation on the simulated modem, if there is one; no exception may reach a C caller.
 template <class Operation>
