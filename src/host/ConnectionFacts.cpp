@@ -68,6 +68,12 @@ void askProfiles(ConnectionFacts* facts) {
 
 }  // namespace
 
+ConnectionFacts ConnectionFacts::starting() {
+    ConnectionFacts facts;
+    facts.isStarting = facts.areProfilesAwaited = true;
+    return facts;
+}
+
 ConnectionFacts ConnectionFacts::now() {
     ConnectionFacts facts;
     askModem(&facts);

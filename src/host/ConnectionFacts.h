@@ -12,6 +12,8 @@
 #include "IDialupUIService.h"
 
 struct ConnectionFacts {
+    bool isStarting = false;  // nothing has been asked yet
+
     // The modem in use. Unknown: no service tells of modems, or none was asked for.
     bool isModemKnown = false;
     bool isSettling = false;  // the program has just started, and the modems may still be on their way
@@ -46,6 +48,9 @@ struct ConnectionFacts {
 
     // Asks everything. GUI thread; waits for nothing.
     static ConnectionFacts now();
+
+    // Of a program that has nothing to ask yet.
+    static ConnectionFacts starting();
 };
 
 #endif

@@ -21,6 +21,8 @@ struct Obstacle {
 bool isStatus(const ConnectionFacts& facts, int status) { return facts.isModemKnown && facts.modem.status == status; }
 
 const Obstacle Obstacles[] = {
+    {[](const ConnectionFacts& facts) { return facts.isStarting; }, Picture::Busy, "IDS_HOST_LOOKING",
+     "IDS_HOST_LOOKING_DETAIL"},
     {[](const ConnectionFacts& facts) { return !facts.hasDialer; }, Picture::Missing, "IDS_HOST_NO_DIALER",
      "IDS_HOST_NO_DIALER_DETAIL"},
     {[](const ConnectionFacts& facts) { return !facts.isModemKnown && facts.isSettling; }, Picture::Busy,

@@ -142,7 +142,7 @@ void ConnectionView::refresh(const ConnectionFacts& facts, const ConnectionPictu
     refreshButton();
     m_Failure->show(picture);
     m_Chooser->setEnabled(facts.isDown() && !facts.areProfilesAwaited);
-    m_Chooser->refresh(facts.defaultProfile);
+    m_Chooser->refresh(facts.areProfilesAwaited ? std::nullopt : std::optional(facts.defaultProfile));
     showOrHide(m_Notes, picture.notes);
     showOrHide(m_Card, picture.card);
     showOrHide(m_StorageProblem, picture.storageProblem);

@@ -87,7 +87,19 @@ MainWindow::MainWindow(QWidget* parent)
     m_View->setFocus();
 }
 
+void MainWindow::begin(const QVector<SettingsPage>& pages, const QVector<PluginProblem>& problems) {
+    m_HasBegun = true;
+    m_Problems = problems;
+    setPages(pages);
+    retranslate();
+}
+
+void MainWindow::requireBegun() {
+    if (!m_HasBegun) emit beginWanted();
+}
+
 SettingsPages* MainWindow::pages() {
+    requireBegun();
     if (!m_Settings) {
         m_Settings = new SettingsDialog(this);
         m_Settings->pages()->setPages(m_Pages);
@@ -108,13 +120,8 @@ void MainWindow::openSettings() {
     m_Settings->open();
 }
 
-void MainWindow::setProblems(const QVector<PluginProblem>& problems) {
-    m_Problems = problems;
-    retranslate();
-}
-
 void MainWindow::refresh() {
-    ConnectionFacts facts = ConnectionFacts::now();
+    ConnectionFacts facts = m_HasBegun ? ConnectionFacts::now() : ConnectionFacts::starting();
     facts.isSettling = !m_SinceStart.hasExpired(SettlingMs);
     facts.wantsOperator = facts.wantsOperator && !m_View->chooser()->isChosen();
     m_Picture = ConnectionPicture::of(facts);
@@ -162,6 +169,7 @@ void MainWindow::present() {
 }
 
 void MainWindow::offerImport(const QString& file) {
+    requireBegun();
     present();
     const QString problem = importProblem(file);
     if (problem.isEmpty()) return;
@@ -214,6 +222,7 @@ void MainWindow::unlock() {
 }
 
 void MainWindow::openPresets() {
+    requireBegun();
     if (!Plugins::presets()) return;
     if (!m_Presets) {
         m_Presets = new PresetsDialog(ConnectionFacts::now().imsi, this);
@@ -351,6 +360,7 @@ bool MainWindow::agreesToEnd() {
 }
 
 QString MainWindow::problemText() const {
+    if (!m_HasBegun) return QString();
     QStringList lines;
     if (!modemProblem().isEmpty()) lines.append(hostText("IDS_HOST_MODEM_PROBLEM", {modemProblem()}));
     for (const PluginProblem& problem : m_Problems) {

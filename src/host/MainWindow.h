@@ -32,7 +32,9 @@ public:
     // The settings dialog's; the first call makes the dialog.
     SettingsPages* pages();
 
-    void setPages(const QVector<SettingsPage>& pages);
+    // The plug-ins have started: their pages, and why others can't be used. Until then the window says that it looks
+    // for a modem, and asks nobody.
+    void begin(const QVector<SettingsPage>& pages, const QVector<PluginProblem>& problems);
 
     // Drops all pages, without a question, before their plug-ins stop.
     void clearPages();
@@ -45,9 +47,6 @@ public:
     ModemPanel* modemPanel() const { return m_ModemPanel; }
 
     const ConnectionPicture& picture() const { return m_Picture; }
-
-    // Shows why plug-ins can't be used, below everything else.
-    void setProblems(const QVector<PluginProblem>& problems);
 
     // Closing then leaves the program where it can be had back: in the tray.
     void setHidesOnClose(bool hides) { m_HidesOnClose = hides; }
@@ -85,6 +84,9 @@ public:
     QSize sizeHint() const override;
 
 signals:
+    // The user was faster than the plug-ins: begin() is wanted at once.
+    void beginWanted();
+
     // It says something else.
     void refreshed();
 
@@ -111,6 +113,8 @@ private:
     bool agreesToEnd();
     void useProfile(const QString& name);
     void rememberConnection();
+    void setPages(const QVector<SettingsPage>& pages);
+    void requireBegun();
     QString problemText() const;
     QString importProblem(const QString& file);
     bool openPage(const QObject* page);
@@ -134,6 +138,7 @@ private:
     ConnectionPicture m_Picture;
     QElapsedTimer m_SinceStart;
     QTimer m_Settled;
+    bool m_HasBegun = false;
     bool m_HidesOnClose = false;
     bool m_IsEnding = false;
     bool m_IsConnectionRemembered = false;

@@ -49,8 +49,9 @@ ProfileChooser::ProfileChooser(QWidget* parent) : QComboBox(parent), m_Items(new
     connect(lineEdit(), &QLineEdit::editingFinished, this, &ProfileChooser::takeTyped);
 }
 
-void ProfileChooser::refresh(const QString& defaultProfile) {
-    m_Default = defaultProfile;
+void ProfileChooser::refresh(const std::optional<QString>& defaultProfile) {
+    m_IsAwaited = !defaultProfile;
+    m_Default = defaultProfile.value_or(QString());
     const bool isInUse = hasFocus() || view()->isVisible();
     m_IsFilled = false;
     if (isInUse && !lineEdit()->isModified()) fill();
@@ -144,7 +145,8 @@ void ProfileChooser::showCurrent() {
         if (!name.isEmpty()) addProfile(name);
     }
     setCurrentIndex(rowOf(name));
-    setEditText(name.isEmpty() ? hostText("IDS_HOST_NO_DEFAULT_PROFILE") : shownName(name));
+    const QString none = m_IsAwaited ? QString() : hostText("IDS_HOST_NO_DEFAULT_PROFILE");
+    setEditText(name.isEmpty() ? none : shownName(name));
     lineEdit()->setCursorPosition(0);
 }
 

@@ -4,6 +4,7 @@
 #define ORBISDIAL_PROFILECHOOSER_H
 
 #include <QComboBox>
+#include <optional>
 
 class QStandardItemModel;
 
@@ -15,8 +16,8 @@ class ProfileChooser : public QComboBox {
 public:
     explicit ProfileChooser(QWidget* parent = nullptr);
 
-    // The profiles may have changed.
-    void refresh(const QString& defaultProfile);
+    // The profiles may have changed. Nothing: nobody can tell yet which is the default one.
+    void refresh(const std::optional<QString>& defaultProfile);
 
     void retranslate();
 
@@ -59,6 +60,7 @@ private:
 
     QStandardItemModel* m_Items;
     QString m_Default;
+    bool m_IsAwaited = true;
     QString m_Chosen;
     bool m_IsFilled = false;
     bool m_IsChosen = false;

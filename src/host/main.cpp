@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // orbisdial: the reference host. Exit status: 0 done, 1 something can't be written or memory is out, 2 wrong
 // usage.
-#include <vrks_simulated.h>
-
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QPixmap>
@@ -13,7 +11,6 @@
 #include <memory>
 
 #include "Change.h"
-#include "ChosenModem.h"
 #include "EndSignals.h"
 #include "Host.h"
 #include "HostStyle.h"
@@ -51,13 +48,6 @@ bool usePage(Host* host, const QString& name) {
     return false;
 }
 
-// The window says so too.
-void reportModemProblem() {
-    const char* problem = nullptr;
-    vrks_backend_name(&problem);
-    if (problem) std::fprintf(stderr, "orbisdial: %s\n", problem);
-}
-
 void takeScreenshot(QWidget* window, const QString& file) {
     const bool written = window->grab().save(file, "PNG");
     if (!written) std::fprintf(stderr, "orbisdial: can't write the picture %s\n", qPrintable(file));
@@ -73,6 +63,7 @@ void useDesktopFontSize() {
 }
 
 void takeScreenshotLater(Host* host, const Options& options) {
+    host->start();
     MainWindow* const window = host->window();
     window->resize(window->sizeHint());  // left to itself, Qt makes it narrower on a small screen
     window->show();
@@ -87,8 +78,9 @@ void showWindow(Host* host, const Options& options) {
     QGuiApplication::setQuitOnLastWindowClosed(false);  // in the tray it has none
     window->restore();
     const bool startsInTray = options.tray && QSystemTrayIcon::isSystemTrayAvailable();
-    if (!startsInTray) window->show();
-    QTimer::singleShot(0, host, &Host::useTray);  // after the first paint
+    if (startsInTray) return host->useTray();
+    QObject::connect(host, &Host::started, host, &Host::useTray);
+    window->show();
 }
 
 // Queued, since a message on the screen must not keep the other start waiting.
@@ -136,7 +128,5 @@ int main(int argc, char* argv[]) {
     // The window is filled by the modem's events; it never waits for one.
     if (!qEnvironmentVariableIsSet("ORBISDIAL_DEVICE_WAIT_MS")) qputenv("ORBISDIAL_DEVICE_WAIT_MS", "0");
     if (!options.device.isEmpty()) qputenv("ORBISDIAL_DEVICE", options.device.toUtf8());
-    reportModemProblem();
-    ChosenModem::use();
     return useLanguage(options.language) ? run(options) : WrongUsage;
 }

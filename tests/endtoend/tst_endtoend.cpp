@@ -185,6 +185,7 @@ private:
     void start() {
         Languages::useStored();
         m_Host = std::make_unique<Host>();
+        m_Host->start();
         m_Host->window()->show();
         QVERIFY(QTest::qWaitForWindowActive(m_Host->window()));
         m_Host->window()->openSettings();

@@ -57,6 +57,7 @@ private slots:
         connect(&m_Answerer, &QTimer::timeout, this, &tst_random::answer);
         m_Answerer.start(5);
         m_Host = std::make_unique<Host>();
+        m_Host->start();
         m_Host->window()->show();
         QVERIFY(QTest::qWaitForWindowActive(m_Host->window()));
         openSettings();

@@ -38,6 +38,7 @@ private slots:
         QVERIFY2(outcome.status == 0 && !outcome.err.contains("libExamplePlugin"), outcome.err);
 
         Host host;
+        host.start();
         QTest::ignoreMessage(QtInfoMsg, QRegularExpression("[1-9][0-9]* profiles"));
         QVERIFY(host.changeLanguage("de"));
     }

@@ -228,6 +228,7 @@ private:
 
     void start() {
         m_Host = std::make_unique<Host>();
+        m_Host->start();
         m_Host->window()->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_Host->window()));
         m_Host->window()->activateWindow();

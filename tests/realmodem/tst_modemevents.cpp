@@ -106,6 +106,7 @@ private slots:
         QVERIFY(Change::SetLanguage("en"));
         m_Log = std::make_unique<EventLog>();
         m_Host = std::make_unique<Host>();
+        m_Host->start();
         qputenv("ORBISDIAL_DEVICE_WAIT_MS", QByteArray::number(Patience));  // of the processes that are started here
         m_Host->window()->show();
         m_Host->window()->openSettings();
