@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The window, from the start of its process to its first paint; the dialog of the world's presets; the start to the
-// tray.
+// The window, from the start of its process to its first paint, and to the one with its profiles; the dialog of the
+// world's presets; the start to the tray.
 
 #include "BenchFolder.h"
 #include "Measure.h"
@@ -24,10 +24,12 @@ void start(benchmark::State& state, const QStringList& arguments) {
 }
 
 void hostWindow(benchmark::State& state) { start(state, {}); }
+void filledWindow(benchmark::State& state) { start(state, {"profiles"}); }
 void presetsDialog(benchmark::State& state) { start(state, {"presets"}); }
 void startToTray(benchmark::State& state) { start(state, {"tray"}); }
 
 BENCHMARK(hostWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(20)->Arg(1000)->Iterations(41);
+BENCHMARK(filledWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(20)->Arg(1000)->Iterations(21);
 BENCHMARK(presetsDialog)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(20)->Iterations(21);
 BENCHMARK(startToTray)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(20)->Iterations(21);
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The program's window until its first paint, beside whatever modems there are; with the argument "presets" until that
-// of the dialog of the world's presets in it, with "tray" until the icon stands in the tray and there is no window.
+// The program's window until its first paint, beside whatever modems there are; with the argument "profiles" until the
+// paint that shows the default profile, with "presets" until that of the dialog of the world's presets, with "tray"
+// until the icon stands in the tray and there is no window.
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QLoggingCategory>
 #include <QTimer>
 
@@ -13,6 +16,11 @@ static int untilTray() {
     Tray tray;
     QTimer::singleShot(0, [] { std::_Exit(EXIT_SUCCESS); });
     return QApplication::exec();
+}
+
+static int untilProfiles(MainWindow* window) {
+    auto* const chooser = window->findChild<QComboBox*>("Host_ProfileChooser");
+    return FirstPaint::of(window, chooser->lineEdit(), [chooser] { return !chooser->currentText().isEmpty(); });
 }
 
 static int untilPresets(MainWindow* window) {
@@ -29,5 +37,6 @@ int main(int argc, char** argv) {
     Change::SetLanguage("en");
     Host host;
     if (until == "tray") return untilTray();
+    if (until == "profiles") return untilProfiles(host.window());
     return until == "presets" ? untilPresets(host.window()) : FirstPaint::of(host.window());
 }
