@@ -1348,12 +1348,24 @@
 <context>
     <name>orbisctl</name>
     <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
         <source>%1 (chosen by the user)</source>
         <translation>%1 (اختاره المستخدم)</translation>
     </message>
     <message>
         <source>%1 (proposed by the configuration)</source>
-        <translation>%1 (مقترح من الإعداد)</translation>
+        <translation>%1 (مقترح من التهيئة)</translation>
+    </message>
+    <message>
+        <source>%1 (simulated modem)</source>
+        <translation>%1 (مودم محاكى)</translation>
+    </message>
+    <message>
+        <source>%1 Put -- before a name that begins with a hyphen.</source>
+        <translation>%1 ضع -- قبل الاسم الذي يبدأ بواصلة.</translation>
     </message>
     <message>
         <source>%1 bytes received, %2 sent</source>
@@ -1364,20 +1376,48 @@
         <translation>لا يحتوي %1 على ملف التعريف %2</translation>
     </message>
     <message>
-        <source>%1 is a preset</source>
-        <translation>%1 ملف تعريف معدّ مسبقًا</translation>
+        <source>%1 is a preset; make one of your own from it: %2</source>
+        <translation>%1 ملف تعريف معدّ مسبقًا؛ أنشئ منه ملف تعريف خاصًا بك: %2</translation>
     </message>
     <message>
         <source>%1 is connected; see orbisctl disconnect</source>
         <translation>%1 متصل؛ انظر orbisctl disconnect</translation>
     </message>
     <message>
-        <source>%1 is read-only</source>
-        <translation>%1 للقراءة فقط</translation>
+        <source>%1 is no field to set; fields: %2</source>
+        <translation>%1 ليس حقلًا يمكن تعيينه؛ الحقول: %2</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; make one of your own from it: %2</source>
+        <translation>%1 للقراءة فقط؛ أنشئ منه ملف تعريف خاصًا بك: %2</translation>
     </message>
     <message>
         <source>%1 may be more than one command: %2</source>
         <translation>قد يعني %1 أكثر من أمر: %2</translation>
+    </message>
+    <message>
+        <source>%1 names a modem, and counts before the choice</source>
+        <translation>يحدّد %1 مودمًا، وهو مقدَّم على هذا الاختيار</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were no IMSI, which has 5 to 15 digits</source>
+        <translation>ليست أرقام IMSI (من 5 إلى 15 رقمًا): %1 من %2</translation>
+    </message>
+    <message>
+        <source>%1, %2:</source>
+        <translation>%1، %2:</translation>
+    </message>
+    <message>
+        <source>%1, at most %2 characters</source>
+        <translation>%1، %2 حرفًا على الأكثر</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: can't be written: %2</source>
+        <translation>%1: تتعذّر الكتابة: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1388,28 +1428,124 @@
         <translation>%1: لا يحتوي على قالب لملفات التعريف الجديدة؛ انظر --like</translation>
     </message>
     <message>
+        <source>%1: is no profile file; --force replaces it</source>
+        <translation>%1: ليس ملفًا لملفات التعريف؛ يستبدله --force</translation>
+    </message>
+    <message>
+        <source>%1: is the user's profile file itself</source>
+        <translation>%1: هو ملف المستخدم نفسه الذي تُحفظ فيه ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>%1: line %2: %3</source>
+        <translation>%1: السطر %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: no prefix matches; the configuration's own presets</source>
+        <translation>%1: لا بادئة مطابقة؛ ملفات التعريف المعدّة مسبقًا في التهيئة نفسها</translation>
+    </message>
+    <message>
+        <source>%1: not UTF-8 on standard input</source>
+        <translation>%1: ليس بترميز UTF-8 في الدخل القياسي</translation>
+    </message>
+    <message>
+        <source>%1: not an IMSI</source>
+        <translation>%1: ليس رقم IMSI</translation>
+    </message>
+    <message>
+        <source>%1: prefix %2</source>
+        <translation>%1: البادئة %2</translation>
+    </message>
+    <message>
+        <source>%1: standard input holds none</source>
+        <translation>%1: غير موجود في الدخل القياسي</translation>
+    </message>
+    <message>
         <source>%1; give a new one with password=</source>
         <translation>%1؛ أعطِ كلمة مرور جديدة باستخدام password=</translation>
+    </message>
+    <message>
+        <source>%1; it ends with this program, see --hold</source>
+        <translation>%1؛ ينتهي بانتهاء هذا البرنامج، انظر --hold</translation>
+    </message>
+    <message>
+        <source>%1; then the card asks for its PUK; --last takes it</source>
+        <translation>%1؛ ثم تطلب البطاقة رمز PUK؛ يستخدمها --last</translation>
+    </message>
+    <message>
+        <source>%1; then the card is lost; --last takes it</source>
+        <translation>%1؛ ثم تتعطل البطاقة نهائيًا؛ يستخدمها --last</translation>
+    </message>
+    <message>
+        <source>%1; waits, since the network refused user name or password</source>
+        <translation>%1؛ في الانتظار، لأن الشبكة رفضت اسم المستخدم أو كلمة المرور</translation>
     </message>
     <message>
         <source>(hidden)</source>
         <translation>(مخفية)</translation>
     </message>
     <message>
-        <source>(simulated modem)</source>
-        <translation>(مودم محاكى)</translation>
+        <source>--clear takes no modem</source>
+        <translation>لا يأخذ --clear مودمًا</translation>
+    </message>
+    <message>
+        <source>--json goes with neither --terse nor --fields</source>
+        <translation>لا يُستخدم --json مع --terse ولا مع --fields</translation>
+    </message>
+    <message>
+        <source>--roaming goes with on</source>
+        <translation>يُستخدم --roaming مع on فقط</translation>
     </message>
     <message>
         <source>--timeout takes a number of seconds from 1 to 86400</source>
         <translation>يأخذ --timeout عدد ثوانٍ من 1 إلى 86400</translation>
     </message>
     <message>
-        <source>; it ends with this program, see --hold</source>
-        <translation>؛ ينتهي بانتهاء هذا البرنامج، انظر --hold</translation>
+        <source>Add a profile. password=- reads the password from standard input.</source>
+        <translation>إضافة ملف تعريف. يقرأ password=- كلمة المرور من الدخل القياسي.</translation>
     </message>
     <message>
-        <source>; make one of your own from it: %1</source>
-        <translation>؛ أنشئ منه ملف تعريف خاصًا بك: %1</translation>
+        <source>All profiles of one's own.</source>
+        <translation>كل ملفات التعريف الخاصة.</translation>
+    </message>
+    <message>
+        <source>Answer (none ends the session): </source>
+        <translation>الرد (الفارغ ينهي الجلسة): </translation>
+    </message>
+    <message>
+        <source>Ask the network for a prepaid card's balance.</source>
+        <translation>سؤال الشبكة عن رصيد بطاقة مسبقة الدفع.</translation>
+    </message>
+    <message>
+        <source>Change fields of a profile; name=NEW renames it.</source>
+        <translation>تغيير حقول ملف تعريف؛ name=جديد يعيد تسميته.</translation>
+    </message>
+    <message>
+        <source>Command-line client of the OrbisDial connection manager.</source>
+        <translation>عميل سطر الأوامر لمدير الاتصال OrbisDial.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>الأوامر:</translation>
+    </message>
+    <message>
+        <source>Connect with a profile, or with the default.</source>
+        <translation>الاتصال باستخدام ملف تعريف، أو باستخدام الافتراضي.</translation>
+    </message>
+    <message>
+        <source>Delete profiles: all of them, or none.</source>
+        <translation>حذف ملفات تعريف: كلها أو لا شيء منها.</translation>
+    </message>
+    <message>
+        <source>End the connection, or give it up.</source>
+        <translation>إنهاء الاتصال، أو التخلي عنه.</translation>
+    </message>
+    <message>
+        <source>Export profiles into a file; others that it holds stay.</source>
+        <translation>تصدير ملفات تعريف إلى ملف؛ ويبقى ما فيه غيرها.</translation>
+    </message>
+    <message>
+        <source>Fields:</source>
+        <translation>الحقول:</translation>
     </message>
     <message>
         <source>GID1</source>
@@ -1424,6 +1560,38 @@
         <translation>IMSI</translation>
     </message>
     <message>
+        <source>Import all profiles of a file, or the named ones.</source>
+        <translation>استيراد كل ملفات التعريف من ملف، أو المسماة منها.</translation>
+    </message>
+    <message>
+        <source>Keep the user's profiles in this folder.</source>
+        <translation>حفظ ملفات تعريف المستخدم في هذا المجلد.</translation>
+    </message>
+    <message>
+        <source>List all profiles; * marks the default.</source>
+        <translation>سرد كل ملفات التعريف؛ تشير * إلى الافتراضي.</translation>
+    </message>
+    <message>
+        <source>List the modems; * marks the one in use.</source>
+        <translation>سرد أجهزة المودم؛ تشير * إلى المستخدم منها.</translation>
+    </message>
+    <message>
+        <source>New PIN again: </source>
+        <translation>أعد رمز PIN الجديد: </translation>
+    </message>
+    <message>
+        <source>New PIN: </source>
+        <translation>رمز PIN الجديد: </translation>
+    </message>
+    <message>
+        <source>PIN (%1): </source>
+        <translation>رمز PIN (%1): </translation>
+    </message>
+    <message>
+        <source>PUK (%1): </source>
+        <translation>رمز PUK (%1): </translation>
+    </message>
+    <message>
         <source>Password [as stored]: </source>
         <translation>كلمة المرور [المحفوظة]: </translation>
     </message>
@@ -1432,12 +1600,188 @@
         <translation>كلمة المرور: </translation>
     </message>
     <message>
+        <source>Replace a file even if it holds something else than profiles.</source>
+        <translation>استبدال الملف حتى لو احتوى على غير ملفات التعريف.</translation>
+    </message>
+    <message>
+        <source>Replace profiles whose names exist; without it they are skipped.</source>
+        <translation>استبدال ملفات التعريف الموجودة أسماؤها؛ وإلا تُتخطى.</translation>
+    </message>
+    <message>
+        <source>Save all profiles of one's own, and the chosen default, in a file.</source>
+        <translation>حفظ كل ملفات التعريف الخاصة والافتراضي المختار في ملف.</translation>
+    </message>
+    <message>
+        <source>See orbisctl COMMAND --help.</source>
+        <translation>انظر orbisctl COMMAND --help.</translation>
+    </message>
+    <message>
+        <source>Send a command such as *100# to the network and show its answer.</source>
+        <translation>إرسال أمر مثل *100# إلى الشبكة وعرض جوابها.</translation>
+    </message>
+    <message>
+        <source>Show a value of the function configuration, or all.</source>
+        <translation>عرض قيمة من تهيئة الوظائف، أو كلها.</translation>
+    </message>
+    <message>
+        <source>Show the connection.</source>
+        <translation>عرض الاتصال.</translation>
+    </message>
+    <message>
+        <source>Show the default profile, or choose it.</source>
+        <translation>عرض ملف التعريف الافتراضي أو اختياره.</translation>
+    </message>
+    <message>
+        <source>Show the fields of profiles.</source>
+        <translation>عرض حقول ملفات التعريف.</translation>
+    </message>
+    <message>
+        <source>Show the modem in use, or choose one by its key, IMEI or port.</source>
+        <translation>عرض المودم المستخدم، أو اختيار مودم بمفتاحه أو IMEI أو منفذه.</translation>
+    </message>
+    <message>
+        <source>Show the password too.</source>
+        <translation>إظهار كلمة المرور أيضًا.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>عرض الإصدار.</translation>
+    </message>
+    <message>
+        <source>Show this help, or that of a command.</source>
+        <translation>عرض هذه المساعدة أو مساعدة أمر.</translation>
+    </message>
+    <message>
+        <source>Show what the modem and its SIM card report, and the connection.</source>
+        <translation>عرض ما يفيد به المودم وبطاقة SIM، والاتصال.</translation>
+    </message>
+    <message>
+        <source>Spend the last attempt, too.</source>
+        <translation>استخدام المحاولة الأخيرة أيضًا.</translation>
+    </message>
+    <message>
+        <source>Start from this profile instead of the template for new ones.</source>
+        <translation>البدء من ملف التعريف هذا بدلًا من قالب الملفات الجديدة.</translation>
+    </message>
+    <message>
+        <source>Stay, and hang up on Ctrl-C.</source>
+        <translation>البقاء، وقطع الاتصال عند الضغط على Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>Stay, and show each change.</source>
+        <translation>البقاء، وإظهار كل تغيير.</translation>
+    </message>
+    <message>
+        <source>Take profiles and default from a backup; those of other names stay.</source>
+        <translation>استعادة ملفات التعريف والافتراضي من نسخة احتياطية؛ وتبقى الأسماء الأخرى.</translation>
+    </message>
+    <message>
+        <source>Take the choice back.</source>
+        <translation>إلغاء الاختيار.</translation>
+    </message>
+    <message>
+        <source>Tell what is wrong with the shipped files, or with these.</source>
+        <translation>ذكر الأخطاء في الملفات المرفقة أو في هذه الملفات.</translation>
+    </message>
+    <message>
+        <source>Tell which presets SIM cards select; - reads IMSIs from standard input.</source>
+        <translation>ذكر ملفات التعريف المعدّة مسبقًا التي تختارها بطاقات SIM؛ ويقرأ - أرقام IMSI من الدخل القياسي.</translation>
+    </message>
+    <message>
         <source>This is a simulated modem.</source>
         <translation>هذا مودم محاكى.</translation>
     </message>
     <message>
+        <source>Unlock the SIM card with its PUK and set a new PIN, a line each.</source>
+        <translation>إلغاء قفل بطاقة SIM برمز PUK وتعيين رمز PIN جديد، كل منهما في سطر.</translation>
+    </message>
+    <message>
+        <source>Unlock the SIM card; the PIN is asked for, or read from standard input.</source>
+        <translation>إلغاء قفل بطاقة SIM؛ يُطلب رمز PIN أو يُقرأ من الدخل القياسي.</translation>
+    </message>
+    <message>
+        <source>Use this modem: %1.</source>
+        <translation>استخدام هذا المودم: %1.</translation>
+    </message>
+    <message>
         <source>User name [%1]: </source>
         <translation>اسم المستخدم [%1]: </translation>
+    </message>
+    <message>
+        <source>Wait no longer than so many seconds.</source>
+        <translation>عدم الانتظار أكثر من هذا العدد من الثواني.</translation>
+    </message>
+    <message>
+        <source>What the SIM cards call their operator.</source>
+        <translation>الاسم الذي تطلقه بطاقات SIM على مشغّلها.</translation>
+    </message>
+    <message>
+        <source>Whether the window connects with a profile by itself.</source>
+        <translation>هل تتصل النافذة تلقائيًا باستخدام ملف تعريف.</translation>
+    </message>
+    <message>
+        <source>While roaming, too.</source>
+        <translation>أثناء التجوال أيضًا.</translation>
+    </message>
+    <message>
+        <source>Write results as JSON, one object a line.</source>
+        <translation>كتابة النتائج بصيغة JSON، كائن في كل سطر.</translation>
+    </message>
+    <message>
+        <source>Write results as fields between tabs, for scripts.</source>
+        <translation>كتابة النتائج كحقول تفصلها علامات جدولة، للنصوص البرمجية.</translation>
+    </message>
+    <message>
+        <source>Write these fields only, in this order; their names are those of --json.</source>
+        <translation>كتابة هذه الحقول فقط بهذا الترتيب؛ وأسماؤها كما في --json.</translation>
+    </message>
+    <message>
+        <source>Write traces to standard error.</source>
+        <translation>كتابة التتبّع إلى خرج الأخطاء القياسي.</translation>
+    </message>
+    <message>
+        <source>a PIN has 4 to 8 digits</source>
+        <translation>يتكون رمز PIN من 4 إلى 8 أرقام</translation>
+    </message>
+    <message>
+        <source>a PUK has 8 digits</source>
+        <translation>يتكون رمز PUK من 8 أرقام</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>يجب ألا يحتوي الاسم على محارف تحكم</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>يحتاج ملف التعريف إلى اسم</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>يحتاج ملف التعريف إلى رقم اتصال، مثل phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an IPv4 address, or nothing</source>
+        <translation>عنوان IPv4 أو لا شيء</translation>
+    </message>
+    <message>
+        <source>an argument is not FIELD=VALUE; fields: %1</source>
+        <translation>أحد الوسائط ليس بصيغة حقل=قيمة؛ الحقول: %1</translation>
+    </message>
+    <message>
+        <source>an option's value is empty</source>
+        <translation>قيمة أحد الخيارات فارغة</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: يجب أن يبدأ وينتهي بحرف أو رقم</translation>
+    </message>
+    <message>
+        <source>argument %1 is not UTF-8</source>
+        <translation>الوسيط %1 ليس بترميز UTF-8</translation>
+    </message>
+    <message>
+        <source>attempts left: %1</source>
+        <translation>المحاولات المتبقية: %1</translation>
     </message>
     <message>
         <source>attempts to unlock</source>
@@ -1450,6 +1794,10 @@
     <message>
         <source>backend</source>
         <translation>الواجهة الخلفية</translation>
+    </message>
+    <message>
+        <source>by the card's operator name %1: %2</source>
+        <translation>حسب اسم المشغّل في البطاقة، %1: %2</translation>
     </message>
     <message>
         <source>can't be dialled with</source>
@@ -1470,6 +1818,18 @@
     <message>
         <source>chosen</source>
         <translation>المختار</translation>
+    </message>
+    <message>
+        <source>chosen, not plugged in</source>
+        <translation>المختار، غير موصول</translation>
+    </message>
+    <message>
+        <source>complete is for the shells' completions</source>
+        <translation>complete مخصص للإكمال التلقائي في الصدفات</translation>
+    </message>
+    <message>
+        <source>config takes one key; see config --check</source>
+        <translation>يأخذ config مفتاحًا واحدًا؛ انظر config --check</translation>
     </message>
     <message>
         <source>connected: %1</source>
@@ -1532,12 +1892,24 @@
         <translation>الشبكة الأصلية</translation>
     </message>
     <message>
+        <source>how %1 tells a balance is not known; see orbisctl ussd CODE</source>
+        <translation>لا يُعرف كيف يخبر المشغّل %1 بالرصيد؛ انظر orbisctl ussd CODE</translation>
+    </message>
+    <message>
+        <source>how many attempts are left is not known</source>
+        <translation>عدد المحاولات المتبقية غير معروف</translation>
+    </message>
+    <message>
         <source>idle</source>
         <translation>خامل</translation>
     </message>
     <message>
         <source>imported %1</source>
         <translation>استُورد %1</translation>
+    </message>
+    <message>
+        <source>letters, digits, dots and hyphens</source>
+        <translation>أحرف وأرقام ونقاط وواصلات</translation>
     </message>
     <message>
         <source>lock</source>
@@ -1568,12 +1940,20 @@
         <translation>بطاقة متعددة الأوضاع</translation>
     </message>
     <message>
+        <source>neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE</source>
+        <translation>لا يدل ملف التعريف ولا بطاقة SIM على المشغّل؛ انظر orbisctl ussd CODE</translation>
+    </message>
+    <message>
         <source>network</source>
         <translation>الشبكة</translation>
     </message>
     <message>
         <source>network's code</source>
         <translation>رمز الشبكة</translation>
+    </message>
+    <message>
+        <source>new name</source>
+        <translation>اسم جديد</translation>
     </message>
     <message>
         <source>no</source>
@@ -1588,12 +1968,20 @@
         <translation>لم يتم الاتصال في الوقت المحدد</translation>
     </message>
     <message>
+        <source>no event counter can be had: %1</source>
+        <translation>لا يتوفر عدّاد أحداث: %1</translation>
+    </message>
+    <message>
+        <source>no temporary folder: %1</source>
+        <translation>لا يوجد مجلد مؤقت: %1</translation>
+    </message>
+    <message>
         <source>no-modem</source>
         <translation>لا يوجد مودم</translation>
     </message>
     <message>
         <source>none</source>
-        <translation>لا يوجد</translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>not connected</source>
@@ -1616,16 +2004,52 @@
         <translation>لا مصدر لمعلومات الاتصالات</translation>
     </message>
     <message>
+        <source>nothing can tell which modem is in use</source>
+        <translation>لا مصدر يخبر بالمودم المستخدم</translation>
+    </message>
+    <message>
+        <source>nothing can tell which modems there are</source>
+        <translation>لا مصدر يخبر بأجهزة المودم الموجودة</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>لم يُستورد شيء من %1</translation>
     </message>
     <message>
+        <source>nothing was sent: %1 tells a balance by message or phone alone</source>
+        <translation>لم يُرسل شيء: لا يخبر المشغّل %1 بالرصيد إلا برسالة أو بالهاتف</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>متوقف</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>مفعّل</translation>
+    </message>
+    <message>
+        <source>on, roaming too</source>
+        <translation>مفعّل، وأثناء التجوال أيضًا</translation>
+    </message>
+    <message>
         <source>other</source>
-        <translation>أخرى</translation>
+        <translation>آخر</translation>
+    </message>
+    <message>
+        <source>others can read a password on the command line in the list of processes; use password=-</source>
+        <translation>يمكن للآخرين قراءة كلمة المرور من سطر الأوامر في قائمة العمليات؛ استخدم password=-</translation>
     </message>
     <message>
         <source>own number</source>
         <translation>رقم الشريحة</translation>
+    </message>
+    <message>
+        <source>password</source>
+        <translation>كلمة المرور</translation>
+    </message>
+    <message>
+        <source>password: only Latin-1 characters can be stored sealed</source>
+        <translation>password: لا تُحفظ مشفّرة إلا محارف Latin-1</translation>
     </message>
     <message>
         <source>pin</source>
@@ -1644,8 +2068,20 @@
         <translation>معدّ</translation>
     </message>
     <message>
+        <source>preset, default</source>
+        <translation>معدّ، افتراضي</translation>
+    </message>
+    <message>
         <source>product type (1 is CDMA)</source>
         <translation>نوع المنتج (1 هو CDMA)</translation>
+    </message>
+    <message>
+        <source>profiles restored: %1</source>
+        <translation>ملفات التعريف المستعادة: %1</translation>
+    </message>
+    <message>
+        <source>profiles saved to %1: %2</source>
+        <translation>ملفات التعريف المحفوظة في %1: %2</translation>
     </message>
     <message>
         <source>proposed default</source>
@@ -1680,6 +2116,10 @@
         <translation>%1 دون تغيير</translation>
     </message>
     <message>
+        <source>say on or off, not %1</source>
+        <translation>حدّد on أو off، لا %1</translation>
+    </message>
+    <message>
         <source>searching</source>
         <translation>جارٍ البحث</translation>
     </message>
@@ -1690,6 +2130,14 @@
     <message>
         <source>skipped  %1 (exists; see --replace)</source>
         <translation>تُخطّي %1 (موجود؛ انظر --replace)</translation>
+    </message>
+    <message>
+        <source>standard input can't be read</source>
+        <translation>لا يمكن قراءة الدخل القياسي</translation>
+    </message>
+    <message>
+        <source>standard input can't be read: %1</source>
+        <translation>لا يمكن قراءة الدخل القياسي: %1</translation>
     </message>
     <message>
         <source>starting</source>
@@ -1724,12 +2172,56 @@
         <translation>التقنية</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>نص</translation>
+    </message>
+    <message>
+        <source>the backup can't be read</source>
+        <translation>لا يمكن قراءة النسخة الاحتياطية</translation>
+    </message>
+    <message>
+        <source>the card asks for its %1; see orbisctl %2</source>
+        <translation>تطلب البطاقة رمز %1؛ انظر orbisctl %2</translation>
+    </message>
+    <message>
+        <source>the card asks for no %1</source>
+        <translation>لا تطلب البطاقة رمز %1</translation>
+    </message>
+    <message>
+        <source>the card can't be unlocked</source>
+        <translation>لا يمكن إلغاء قفل البطاقة</translation>
+    </message>
+    <message>
+        <source>the card does not answer; whether it took the code is not known</source>
+        <translation>لا تجيب البطاقة؛ ولا يُعرف هل قبلت الرمز</translation>
+    </message>
+    <message>
+        <source>the card is locked in a way that neither PIN nor PUK opens</source>
+        <translation>البطاقة مقفلة بقفل لا يفتحه رمز PIN ولا رمز PUK</translation>
+    </message>
+    <message>
+        <source>the card is unlocked</source>
+        <translation>أُلغي قفل البطاقة</translation>
+    </message>
+    <message>
+        <source>the card takes no code now</source>
+        <translation>لا تقبل البطاقة رمزًا الآن</translation>
+    </message>
+    <message>
+        <source>the card's operator name %1 tells none of these</source>
+        <translation>اسم المشغّل في البطاقة، %1، لا يدل على أي منها</translation>
+    </message>
+    <message>
+        <source>the choice can't be kept in the settings</source>
+        <translation>لا يمكن حفظ الاختيار في الإعدادات</translation>
+    </message>
+    <message>
         <source>the configuration customised for %1 leaves no presets by IMSI</source>
-        <translation>الإعداد المخصص لـ %1 لا يترك ملفات تعريف حسب IMSI</translation>
+        <translation>التهيئة المخصصة لـ %1 لا تترك ملفات تعريف معدّة مسبقًا حسب IMSI</translation>
     </message>
     <message>
         <source>the configuration has no presets by IMSI</source>
-        <translation>لا يحتوي الإعداد على ملفات تعريف حسب IMSI</translation>
+        <translation>لا تحتوي التهيئة على ملفات تعريف معدّة مسبقًا حسب IMSI</translation>
     </message>
     <message>
         <source>the connection can't be ended</source>
@@ -1748,20 +2240,56 @@
         <translation>أُنهي الاتصال من مكان آخر</translation>
     </message>
     <message>
+        <source>the data folder %1 can't be made or entered</source>
+        <translation>لا يمكن إنشاء مجلد البيانات %1 أو فتحه</translation>
+    </message>
+    <message>
+        <source>the data folder %1 is not a folder</source>
+        <translation>مجلد البيانات %1 ليس مجلدًا</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>لا يمكن إلغاء الافتراضي</translation>
+    </message>
+    <message>
+        <source>the default can't be restored</source>
+        <translation>لا يمكن استعادة الافتراضي</translation>
     </message>
     <message>
         <source>the default can't be set</source>
         <translation>لا يمكن تعيين الافتراضي</translation>
     </message>
     <message>
+        <source>the field %1 is given twice</source>
+        <translation>ذُكر الحقل %1 مرتين</translation>
+    </message>
+    <message>
         <source>the file can't be imported</source>
         <translation>لا يمكن استيراد الملف</translation>
     </message>
     <message>
+        <source>the file's name is empty</source>
+        <translation>اسم الملف فارغ</translation>
+    </message>
+    <message>
+        <source>the modem does not answer</source>
+        <translation>لا يجيب المودم</translation>
+    </message>
+    <message>
+        <source>the modem is not ready for a command, or another one is under way</source>
+        <translation>المودم غير جاهز لأمر، أو أمر آخر قيد التنفيذ</translation>
+    </message>
+    <message>
+        <source>the modem's backend can't be had</source>
+        <translation>الواجهة الخلفية للمودم غير متاحة</translation>
+    </message>
+    <message>
         <source>the name is empty; see default --clear</source>
         <translation>الاسم فارغ؛ انظر default --clear</translation>
+    </message>
+    <message>
+        <source>the network did not answer in time</source>
+        <translation>لم تجب الشبكة في الوقت المناسب</translation>
     </message>
     <message>
         <source>the new profile's name is the first argument</source>
@@ -1785,7 +2313,7 @@
     </message>
     <message>
         <source>the profile library does not hold the preset %1</source>
-        <translation>لا تحتوي مكتبة ملفات التعريف على %1</translation>
+        <translation>لا تحتوي مكتبة ملفات التعريف على ملف التعريف المعدّ مسبقًا %1</translation>
     </message>
     <message>
         <source>the profiles can't be changed</source>
@@ -1804,12 +2332,28 @@
         <translation>لا يمكن سرد ملفات التعريف</translation>
     </message>
     <message>
+        <source>the profiles can't be restored</source>
+        <translation>لا يمكن استعادة ملفات التعريف</translation>
+    </message>
+    <message>
         <source>the profiles can't be stored</source>
         <translation>لا يمكن حفظ ملفات التعريف</translation>
     </message>
     <message>
+        <source>the session has ended</source>
+        <translation>انتهت الجلسة</translation>
+    </message>
+    <message>
+        <source>the settings can't be stored</source>
+        <translation>لا يمكن حفظ الإعدادات</translation>
+    </message>
+    <message>
         <source>the settings of automatic connection can't be stored</source>
         <translation>لا يمكن حفظ إعدادات الاتصال التلقائي</translation>
+    </message>
+    <message>
+        <source>the two PINs differ</source>
+        <translation>رمزا PIN مختلفان</translation>
     </message>
     <message>
         <source>there are no profiles %1</source>
@@ -1820,12 +2364,28 @@
         <translation>يوجد ملف تعريف %1 بالفعل</translation>
     </message>
     <message>
+        <source>there is no SIM card</source>
+        <translation>لا توجد بطاقة SIM</translation>
+    </message>
+    <message>
         <source>there is no configuration key %1</source>
-        <translation>لا يوجد مفتاح إعداد %1</translation>
+        <translation>لا يوجد مفتاح تهيئة %1</translation>
     </message>
     <message>
         <source>there is no default profile; name one: orbisctl connect NAME</source>
         <translation>لا يوجد ملف تعريف افتراضي؛ سمِّ واحدًا: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no field %1; there are: %2</source>
+        <translation>لا يوجد حقل %1؛ الموجود: %2</translation>
+    </message>
+    <message>
+        <source>there is no modem</source>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>there is no modem %1; see orbisctl modems</source>
+        <translation>لا يوجد مودم %1؛ انظر orbisctl modems</translation>
     </message>
     <message>
         <source>there is no profile %1</source>
@@ -1836,12 +2396,24 @@
         <translation>لا يوجد ملف تعريف خاص</translation>
     </message>
     <message>
+        <source>this user may not unlock the card</source>
+        <translation>لا يُسمح لهذا المستخدم بإلغاء قفل البطاقة</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true أو false</translation>
+    </message>
+    <message>
         <source>unknown</source>
-        <translation>غير معروف</translation>
+        <translation>لا معلومات</translation>
     </message>
     <message>
         <source>unknown command %1; see orbisctl --help</source>
         <translation>أمر غير معروف %1؛ انظر orbisctl --help</translation>
+    </message>
+    <message>
+        <source>unknown device %1; use one of %2</source>
+        <translation>جهاز غير معروف %1؛ الممكن: %2</translation>
     </message>
     <message>
         <source>usage: %1</source>
@@ -1852,8 +2424,28 @@
         <translation>خاص</translation>
     </message>
     <message>
+        <source>user name</source>
+        <translation>اسم المستخدم</translation>
+    </message>
+    <message>
+        <source>user, default</source>
+        <translation>خاص، افتراضي</translation>
+    </message>
+    <message>
         <source>warning: %1</source>
         <translation>تحذير: %1</translation>
+    </message>
+    <message>
+        <source>wrong %1: %2</source>
+        <translation>رمز %1 خاطئ: %2</translation>
+    </message>
+    <message>
+        <source>wrong %1: nothing opens the card any more</source>
+        <translation>رمز %1 خاطئ: لم يعد شيء يفتح البطاقة</translation>
+    </message>
+    <message>
+        <source>wrong %1: the card now asks for its PUK</source>
+        <translation>رمز %1 خاطئ: تطلب البطاقة الآن رمز PUK</translation>
     </message>
     <message>
         <source>yes</source>

@@ -1348,12 +1348,24 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
 <context>
     <name>orbisctl</name>
     <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
         <source>%1 (chosen by the user)</source>
         <translation>%1 (vom Benutzer gewählt)</translation>
     </message>
     <message>
         <source>%1 (proposed by the configuration)</source>
         <translation>%1 (von der Konfiguration vorgeschlagen)</translation>
+    </message>
+    <message>
+        <source>%1 (simulated modem)</source>
+        <translation>%1 (simuliertes Modem)</translation>
+    </message>
+    <message>
+        <source>%1 Put -- before a name that begins with a hyphen.</source>
+        <translation>%1 Setzen Sie -- vor einen Namen, der mit einem Bindestrich beginnt.</translation>
     </message>
     <message>
         <source>%1 bytes received, %2 sent</source>
@@ -1364,20 +1376,48 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1 enthält kein Profil %2</translation>
     </message>
     <message>
-        <source>%1 is a preset</source>
-        <translation>%1 ist eine Vorgabe</translation>
+        <source>%1 is a preset; make one of your own from it: %2</source>
+        <translation>%1 ist eine Vorgabe; machen Sie daraus ein eigenes Profil: %2</translation>
     </message>
     <message>
         <source>%1 is connected; see orbisctl disconnect</source>
         <translation>%1 ist verbunden; siehe orbisctl disconnect</translation>
     </message>
     <message>
-        <source>%1 is read-only</source>
-        <translation>%1 ist schreibgeschützt</translation>
+        <source>%1 is no field to set; fields: %2</source>
+        <translation>%1 ist kein setzbares Feld; Felder: %2</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; make one of your own from it: %2</source>
+        <translation>%1 ist schreibgeschützt; machen Sie daraus ein eigenes Profil: %2</translation>
     </message>
     <message>
         <source>%1 may be more than one command: %2</source>
         <translation>%1 kann mehr als ein Befehl sein: %2</translation>
+    </message>
+    <message>
+        <source>%1 names a modem, and counts before the choice</source>
+        <translation>%1 nennt ein Modem und geht der Wahl vor</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were no IMSI, which has 5 to 15 digits</source>
+        <translation>%1 von %2 waren keine IMSI, die 5 bis 15 Ziffern hat</translation>
+    </message>
+    <message>
+        <source>%1, %2:</source>
+        <translation>%1, %2:</translation>
+    </message>
+    <message>
+        <source>%1, at most %2 characters</source>
+        <translation>%1, höchstens %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: can't be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1388,28 +1428,124 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1: enthält keine Vorlage für neue Profile; siehe --like</translation>
     </message>
     <message>
+        <source>%1: is no profile file; --force replaces it</source>
+        <translation>%1: ist keine Profildatei; --force ersetzt sie</translation>
+    </message>
+    <message>
+        <source>%1: is the user's profile file itself</source>
+        <translation>%1: ist die Profildatei des Benutzers selbst</translation>
+    </message>
+    <message>
+        <source>%1: line %2: %3</source>
+        <translation>%1: Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: no prefix matches; the configuration's own presets</source>
+        <translation>%1: kein Präfix passt; die Vorgaben der Konfiguration</translation>
+    </message>
+    <message>
+        <source>%1: not UTF-8 on standard input</source>
+        <translation>%1: auf der Standardeingabe nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>%1: not an IMSI</source>
+        <translation>%1: keine IMSI</translation>
+    </message>
+    <message>
+        <source>%1: prefix %2</source>
+        <translation>%1: Präfix %2</translation>
+    </message>
+    <message>
+        <source>%1: standard input holds none</source>
+        <translation>%1: fehlt auf der Standardeingabe</translation>
+    </message>
+    <message>
         <source>%1; give a new one with password=</source>
         <translation>%1; geben Sie mit password= ein neues an</translation>
+    </message>
+    <message>
+        <source>%1; it ends with this program, see --hold</source>
+        <translation>%1; sie endet mit diesem Programm, siehe --hold</translation>
+    </message>
+    <message>
+        <source>%1; then the card asks for its PUK; --last takes it</source>
+        <translation>%1; danach verlangt die Karte ihre PUK; --last nutzt ihn</translation>
+    </message>
+    <message>
+        <source>%1; then the card is lost; --last takes it</source>
+        <translation>%1; danach ist die Karte unbrauchbar; --last nutzt ihn</translation>
+    </message>
+    <message>
+        <source>%1; waits, since the network refused user name or password</source>
+        <translation>%1; wartet, weil das Netz Benutzernamen oder Kennwort abgelehnt hat</translation>
     </message>
     <message>
         <source>(hidden)</source>
         <translation>(verborgen)</translation>
     </message>
     <message>
-        <source>(simulated modem)</source>
-        <translation>(simuliertes Modem)</translation>
+        <source>--clear takes no modem</source>
+        <translation>--clear nimmt kein Modem</translation>
+    </message>
+    <message>
+        <source>--json goes with neither --terse nor --fields</source>
+        <translation>--json verträgt sich weder mit --terse noch mit --fields</translation>
+    </message>
+    <message>
+        <source>--roaming goes with on</source>
+        <translation>--roaming gehört zu on</translation>
     </message>
     <message>
         <source>--timeout takes a number of seconds from 1 to 86400</source>
         <translation>--timeout erwartet eine Zahl von Sekunden von 1 bis 86400</translation>
     </message>
     <message>
-        <source>; it ends with this program, see --hold</source>
-        <translation>; sie endet mit diesem Programm, siehe --hold</translation>
+        <source>Add a profile. password=- reads the password from standard input.</source>
+        <translation>Ein Profil anlegen. password=- liest das Kennwort von der Standardeingabe.</translation>
     </message>
     <message>
-        <source>; make one of your own from it: %1</source>
-        <translation>; machen Sie daraus ein eigenes: %1</translation>
+        <source>All profiles of one's own.</source>
+        <translation>Alle eigenen Profile.</translation>
+    </message>
+    <message>
+        <source>Answer (none ends the session): </source>
+        <translation>Antwort (leer beendet die Sitzung): </translation>
+    </message>
+    <message>
+        <source>Ask the network for a prepaid card's balance.</source>
+        <translation>Das Guthaben einer Prepaid-Karte beim Netz abfragen.</translation>
+    </message>
+    <message>
+        <source>Change fields of a profile; name=NEW renames it.</source>
+        <translation>Felder eines Profils ändern; name=NEU benennt es um.</translation>
+    </message>
+    <message>
+        <source>Command-line client of the OrbisDial connection manager.</source>
+        <translation>Das Befehlszeilenprogramm des Verbindungsmanagers OrbisDial.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>Connect with a profile, or with the default.</source>
+        <translation>Mit einem Profil verbinden oder mit dem Standardprofil.</translation>
+    </message>
+    <message>
+        <source>Delete profiles: all of them, or none.</source>
+        <translation>Profile löschen: alle genannten oder keines.</translation>
+    </message>
+    <message>
+        <source>End the connection, or give it up.</source>
+        <translation>Die Verbindung beenden oder den Aufbau abbrechen.</translation>
+    </message>
+    <message>
+        <source>Export profiles into a file; others that it holds stay.</source>
+        <translation>Profile in eine Datei exportieren; andere darin bleiben.</translation>
+    </message>
+    <message>
+        <source>Fields:</source>
+        <translation>Felder:</translation>
     </message>
     <message>
         <source>GID1</source>
@@ -1424,6 +1560,38 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>IMSI</translation>
     </message>
     <message>
+        <source>Import all profiles of a file, or the named ones.</source>
+        <translation>Alle Profile einer Datei importieren oder die genannten.</translation>
+    </message>
+    <message>
+        <source>Keep the user's profiles in this folder.</source>
+        <translation>Die Profile des Benutzers in diesem Ordner führen.</translation>
+    </message>
+    <message>
+        <source>List all profiles; * marks the default.</source>
+        <translation>Alle Profile auflisten; * markiert den Standard.</translation>
+    </message>
+    <message>
+        <source>List the modems; * marks the one in use.</source>
+        <translation>Die Modems auflisten; * markiert das benutzte.</translation>
+    </message>
+    <message>
+        <source>New PIN again: </source>
+        <translation>Neue PIN wiederholen: </translation>
+    </message>
+    <message>
+        <source>New PIN: </source>
+        <translation>Neue PIN: </translation>
+    </message>
+    <message>
+        <source>PIN (%1): </source>
+        <translation>PIN (%1): </translation>
+    </message>
+    <message>
+        <source>PUK (%1): </source>
+        <translation>PUK (%1): </translation>
+    </message>
+    <message>
         <source>Password [as stored]: </source>
         <translation>Kennwort [wie gespeichert]: </translation>
     </message>
@@ -1432,12 +1600,188 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Kennwort: </translation>
     </message>
     <message>
+        <source>Replace a file even if it holds something else than profiles.</source>
+        <translation>Eine Datei auch dann ersetzen, wenn sie etwas anderes als Profile enthält.</translation>
+    </message>
+    <message>
+        <source>Replace profiles whose names exist; without it they are skipped.</source>
+        <translation>Profile mit vorhandenen Namen ersetzen; sonst werden sie übersprungen.</translation>
+    </message>
+    <message>
+        <source>Save all profiles of one's own, and the chosen default, in a file.</source>
+        <translation>Alle eigenen Profile und den gewählten Standard in einer Datei sichern.</translation>
+    </message>
+    <message>
+        <source>See orbisctl COMMAND --help.</source>
+        <translation>Siehe orbisctl COMMAND --help.</translation>
+    </message>
+    <message>
+        <source>Send a command such as *100# to the network and show its answer.</source>
+        <translation>Einen Befehl wie *100# an das Netz senden und die Antwort anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show a value of the function configuration, or all.</source>
+        <translation>Einen Wert der Funktionskonfiguration anzeigen oder alle.</translation>
+    </message>
+    <message>
+        <source>Show the connection.</source>
+        <translation>Die Verbindung anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show the default profile, or choose it.</source>
+        <translation>Das Standardprofil anzeigen oder wählen.</translation>
+    </message>
+    <message>
+        <source>Show the fields of profiles.</source>
+        <translation>Die Felder von Profilen anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show the modem in use, or choose one by its key, IMEI or port.</source>
+        <translation>Das benutzte Modem anzeigen oder eines nach Schlüssel, IMEI oder Anschluss wählen.</translation>
+    </message>
+    <message>
+        <source>Show the password too.</source>
+        <translation>Auch das Kennwort anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Die Version anzeigen.</translation>
+    </message>
+    <message>
+        <source>Show this help, or that of a command.</source>
+        <translation>Diese Hilfe anzeigen oder die eines Befehls.</translation>
+    </message>
+    <message>
+        <source>Show what the modem and its SIM card report, and the connection.</source>
+        <translation>Anzeigen, was Modem und SIM-Karte melden, und die Verbindung.</translation>
+    </message>
+    <message>
+        <source>Spend the last attempt, too.</source>
+        <translation>Auch den letzten Versuch nutzen.</translation>
+    </message>
+    <message>
+        <source>Start from this profile instead of the template for new ones.</source>
+        <translation>Von diesem Profil ausgehen statt von der Vorlage für neue.</translation>
+    </message>
+    <message>
+        <source>Stay, and hang up on Ctrl-C.</source>
+        <translation>Laufen, bis Strg-C die Verbindung trennt.</translation>
+    </message>
+    <message>
+        <source>Stay, and show each change.</source>
+        <translation>Weiterlaufen und jede Änderung zeigen.</translation>
+    </message>
+    <message>
+        <source>Take profiles and default from a backup; those of other names stay.</source>
+        <translation>Profile und Standard aus einer Sicherung übernehmen; andere bleiben.</translation>
+    </message>
+    <message>
+        <source>Take the choice back.</source>
+        <translation>Die Wahl zurücknehmen.</translation>
+    </message>
+    <message>
+        <source>Tell what is wrong with the shipped files, or with these.</source>
+        <translation>Sagen, was an den mitgelieferten oder diesen Dateien falsch ist.</translation>
+    </message>
+    <message>
+        <source>Tell which presets SIM cards select; - reads IMSIs from standard input.</source>
+        <translation>Sagen, welche Vorgaben SIM-Karten auswählen; - liest IMSIs von der Standardeingabe.</translation>
+    </message>
+    <message>
         <source>This is a simulated modem.</source>
         <translation>Dies ist ein simuliertes Modem.</translation>
     </message>
     <message>
+        <source>Unlock the SIM card with its PUK and set a new PIN, a line each.</source>
+        <translation>Die SIM-Karte mit ihrer PUK entsperren und eine neue PIN setzen, je eine Zeile.</translation>
+    </message>
+    <message>
+        <source>Unlock the SIM card; the PIN is asked for, or read from standard input.</source>
+        <translation>Die SIM-Karte entsperren; die PIN wird abgefragt oder von der Standardeingabe gelesen.</translation>
+    </message>
+    <message>
+        <source>Use this modem: %1.</source>
+        <translation>Dieses Modem verwenden: %1.</translation>
+    </message>
+    <message>
         <source>User name [%1]: </source>
         <translation>Benutzername [%1]: </translation>
+    </message>
+    <message>
+        <source>Wait no longer than so many seconds.</source>
+        <translation>Höchstens so viele Sekunden warten.</translation>
+    </message>
+    <message>
+        <source>What the SIM cards call their operator.</source>
+        <translation>Wie die SIM-Karten ihren Anbieter nennen.</translation>
+    </message>
+    <message>
+        <source>Whether the window connects with a profile by itself.</source>
+        <translation>Ob das Fenster von selbst mit einem Profil verbindet.</translation>
+    </message>
+    <message>
+        <source>While roaming, too.</source>
+        <translation>Auch im Roaming.</translation>
+    </message>
+    <message>
+        <source>Write results as JSON, one object a line.</source>
+        <translation>Ergebnisse als JSON ausgeben, ein Objekt je Zeile.</translation>
+    </message>
+    <message>
+        <source>Write results as fields between tabs, for scripts.</source>
+        <translation>Ergebnisse als Felder zwischen Tabulatoren ausgeben, für Skripte.</translation>
+    </message>
+    <message>
+        <source>Write these fields only, in this order; their names are those of --json.</source>
+        <translation>Nur diese Felder in dieser Reihenfolge ausgeben; sie heißen wie bei --json.</translation>
+    </message>
+    <message>
+        <source>Write traces to standard error.</source>
+        <translation>Protokoll auf die Standardfehlerausgabe schreiben.</translation>
+    </message>
+    <message>
+        <source>a PIN has 4 to 8 digits</source>
+        <translation>eine PIN hat 4 bis 8 Ziffern</translation>
+    </message>
+    <message>
+        <source>a PUK has 8 digits</source>
+        <translation>eine PUK hat 8 Ziffern</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>ein Name darf keine Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>ein Profil braucht einen Namen</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>ein Profil braucht eine Einwahlnummer, zum Beispiel phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an IPv4 address, or nothing</source>
+        <translation>eine IPv4-Adresse oder nichts</translation>
+    </message>
+    <message>
+        <source>an argument is not FIELD=VALUE; fields: %1</source>
+        <translation>ein Argument hat nicht die Form FELD=WERT; Felder: %1</translation>
+    </message>
+    <message>
+        <source>an option's value is empty</source>
+        <translation>der Wert einer Option ist leer</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: muss mit einem Buchstaben oder einer Ziffer beginnen und enden</translation>
+    </message>
+    <message>
+        <source>argument %1 is not UTF-8</source>
+        <translation>Argument %1 ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>attempts left: %1</source>
+        <translation>verbleibende Versuche: %1</translation>
     </message>
     <message>
         <source>attempts to unlock</source>
@@ -1450,6 +1794,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>backend</source>
         <translation>Backend</translation>
+    </message>
+    <message>
+        <source>by the card's operator name %1: %2</source>
+        <translation>nach dem Anbieternamen der Karte, %1: %2</translation>
     </message>
     <message>
         <source>can't be dialled with</source>
@@ -1472,6 +1820,18 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>gewählt</translation>
     </message>
     <message>
+        <source>chosen, not plugged in</source>
+        <translation>gewählt, nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>complete is for the shells' completions</source>
+        <translation>complete ist für die Vervollständigung der Shells da</translation>
+    </message>
+    <message>
+        <source>config takes one key; see config --check</source>
+        <translation>config nimmt einen Schlüssel; siehe config --check</translation>
+    </message>
+    <message>
         <source>connected: %1</source>
         <translation>verbunden: %1</translation>
     </message>
@@ -1489,7 +1849,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>data-service user</source>
-        <translation>Benutzer des Datendienstes</translation>
+        <translation>Datendienst-Benutzer</translation>
     </message>
     <message>
         <source>default takes a name or --clear, not both</source>
@@ -1532,12 +1892,24 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Heimnetz</translation>
     </message>
     <message>
+        <source>how %1 tells a balance is not known; see orbisctl ussd CODE</source>
+        <translation>wie %1 das Guthaben nennt, ist nicht bekannt; siehe orbisctl ussd CODE</translation>
+    </message>
+    <message>
+        <source>how many attempts are left is not known</source>
+        <translation>wie viele Versuche verbleiben, ist nicht bekannt</translation>
+    </message>
+    <message>
         <source>idle</source>
-        <translation>untätig</translation>
+        <translation>nicht angemeldet</translation>
     </message>
     <message>
         <source>imported %1</source>
         <translation>%1 importiert</translation>
+    </message>
+    <message>
+        <source>letters, digits, dots and hyphens</source>
+        <translation>Buchstaben, Ziffern, Punkte und Bindestriche</translation>
     </message>
     <message>
         <source>lock</source>
@@ -1568,12 +1940,20 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Multimode-Karte</translation>
     </message>
     <message>
+        <source>neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE</source>
+        <translation>weder das Profil noch die SIM-Karte verrät den Anbieter; siehe orbisctl ussd CODE</translation>
+    </message>
+    <message>
         <source>network</source>
         <translation>Netz</translation>
     </message>
     <message>
         <source>network's code</source>
-        <translation>Kennzahl des Netzes</translation>
+        <translation>Netzkennung</translation>
+    </message>
+    <message>
+        <source>new name</source>
+        <translation>neuer Name</translation>
     </message>
     <message>
         <source>no</source>
@@ -1586,6 +1966,14 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>no connection in time</source>
         <translation>keine Verbindung in der gesetzten Zeit</translation>
+    </message>
+    <message>
+        <source>no event counter can be had: %1</source>
+        <translation>kein Ereigniszähler verfügbar: %1</translation>
+    </message>
+    <message>
+        <source>no temporary folder: %1</source>
+        <translation>kein temporärer Ordner: %1</translation>
     </message>
     <message>
         <source>no-modem</source>
@@ -1616,16 +2004,52 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>über Verbindungen gibt nichts Auskunft</translation>
     </message>
     <message>
+        <source>nothing can tell which modem is in use</source>
+        <translation>welches Modem benutzt wird, ist nicht zu erfahren</translation>
+    </message>
+    <message>
+        <source>nothing can tell which modems there are</source>
+        <translation>welche Modems es gibt, ist nicht zu erfahren</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>aus %1 wurde nichts importiert</translation>
+    </message>
+    <message>
+        <source>nothing was sent: %1 tells a balance by message or phone alone</source>
+        <translation>nichts wurde gesendet: %1 nennt das Guthaben nur per SMS oder Anruf</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>on, roaming too</source>
+        <translation>ein, auch im Roaming</translation>
     </message>
     <message>
         <source>other</source>
         <translation>andere</translation>
     </message>
     <message>
+        <source>others can read a password on the command line in the list of processes; use password=-</source>
+        <translation>ein Kennwort auf der Befehlszeile können andere in der Prozessliste lesen; verwenden Sie password=-</translation>
+    </message>
+    <message>
         <source>own number</source>
         <translation>eigene Nummer</translation>
+    </message>
+    <message>
+        <source>password</source>
+        <translation>Kennwort</translation>
+    </message>
+    <message>
+        <source>password: only Latin-1 characters can be stored sealed</source>
+        <translation>password: verschlüsselt sind nur Latin-1-Zeichen speicherbar</translation>
     </message>
     <message>
         <source>pin</source>
@@ -1644,8 +2068,20 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Vorgabe</translation>
     </message>
     <message>
+        <source>preset, default</source>
+        <translation>Vorgabe, Standard</translation>
+    </message>
+    <message>
         <source>product type (1 is CDMA)</source>
         <translation>Produkttyp (1 ist CDMA)</translation>
+    </message>
+    <message>
+        <source>profiles restored: %1</source>
+        <translation>wiederhergestellte Profile: %1</translation>
+    </message>
+    <message>
+        <source>profiles saved to %1: %2</source>
+        <translation>in %1 gesicherte Profile: %2</translation>
     </message>
     <message>
         <source>proposed default</source>
@@ -1680,6 +2116,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1 unverändert</translation>
     </message>
     <message>
+        <source>say on or off, not %1</source>
+        <translation>geben Sie on oder off an, nicht %1</translation>
+    </message>
+    <message>
         <source>searching</source>
         <translation>sucht</translation>
     </message>
@@ -1690,6 +2130,14 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>skipped  %1 (exists; see --replace)</source>
         <translation>%1 übersprungen (vorhanden; siehe --replace)</translation>
+    </message>
+    <message>
+        <source>standard input can't be read</source>
+        <translation>die Standardeingabe kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>standard input can't be read: %1</source>
+        <translation>die Standardeingabe kann nicht gelesen werden: %1</translation>
     </message>
     <message>
         <source>starting</source>
@@ -1724,6 +2172,50 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Technik</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>the backup can't be read</source>
+        <translation>die Sicherung kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the card asks for its %1; see orbisctl %2</source>
+        <translation>die Karte verlangt ihre %1; siehe orbisctl %2</translation>
+    </message>
+    <message>
+        <source>the card asks for no %1</source>
+        <translation>die Karte verlangt keine %1</translation>
+    </message>
+    <message>
+        <source>the card can't be unlocked</source>
+        <translation>die Karte kann nicht entsperrt werden</translation>
+    </message>
+    <message>
+        <source>the card does not answer; whether it took the code is not known</source>
+        <translation>die Karte antwortet nicht; ob sie den Code angenommen hat, ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>the card is locked in a way that neither PIN nor PUK opens</source>
+        <translation>die Karte hat eine Sperre, die weder PIN noch PUK öffnet</translation>
+    </message>
+    <message>
+        <source>the card is unlocked</source>
+        <translation>die Karte ist entsperrt</translation>
+    </message>
+    <message>
+        <source>the card takes no code now</source>
+        <translation>die Karte nimmt jetzt keinen Code an</translation>
+    </message>
+    <message>
+        <source>the card's operator name %1 tells none of these</source>
+        <translation>der Anbietername der Karte, %1, bezeichnet keine davon</translation>
+    </message>
+    <message>
+        <source>the choice can't be kept in the settings</source>
+        <translation>die Wahl kann nicht in den Einstellungen gespeichert werden</translation>
+    </message>
+    <message>
         <source>the configuration customised for %1 leaves no presets by IMSI</source>
         <translation>die für %1 angepasste Konfiguration enthält keine Vorgaben nach IMSI</translation>
     </message>
@@ -1748,20 +2240,56 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>die Verbindung wurde anderswo beendet</translation>
     </message>
     <message>
+        <source>the data folder %1 can't be made or entered</source>
+        <translation>der Datenordner %1 kann nicht angelegt oder geöffnet werden</translation>
+    </message>
+    <message>
+        <source>the data folder %1 is not a folder</source>
+        <translation>der Datenordner %1 ist kein Ordner</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>der Standard kann nicht aufgehoben werden</translation>
+    </message>
+    <message>
+        <source>the default can't be restored</source>
+        <translation>der Standard kann nicht wiederhergestellt werden</translation>
     </message>
     <message>
         <source>the default can't be set</source>
         <translation>der Standard kann nicht gesetzt werden</translation>
     </message>
     <message>
+        <source>the field %1 is given twice</source>
+        <translation>das Feld %1 ist zweimal angegeben</translation>
+    </message>
+    <message>
         <source>the file can't be imported</source>
         <translation>die Datei kann nicht importiert werden</translation>
     </message>
     <message>
+        <source>the file's name is empty</source>
+        <translation>der Dateiname ist leer</translation>
+    </message>
+    <message>
+        <source>the modem does not answer</source>
+        <translation>das Modem antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the modem is not ready for a command, or another one is under way</source>
+        <translation>das Modem ist nicht bereit für einen Befehl, oder ein anderer läuft noch</translation>
+    </message>
+    <message>
+        <source>the modem's backend can't be had</source>
+        <translation>das Backend des Modems ist nicht verfügbar</translation>
+    </message>
+    <message>
         <source>the name is empty; see default --clear</source>
         <translation>der Name ist leer; siehe default --clear</translation>
+    </message>
+    <message>
+        <source>the network did not answer in time</source>
+        <translation>das Netz hat nicht rechtzeitig geantwortet</translation>
     </message>
     <message>
         <source>the new profile's name is the first argument</source>
@@ -1804,12 +2332,28 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>die Profile können nicht aufgelistet werden</translation>
     </message>
     <message>
+        <source>the profiles can't be restored</source>
+        <translation>die Profile können nicht wiederhergestellt werden</translation>
+    </message>
+    <message>
         <source>the profiles can't be stored</source>
         <translation>die Profile können nicht gespeichert werden</translation>
     </message>
     <message>
+        <source>the session has ended</source>
+        <translation>die Sitzung ist beendet</translation>
+    </message>
+    <message>
+        <source>the settings can't be stored</source>
+        <translation>die Einstellungen können nicht gespeichert werden</translation>
+    </message>
+    <message>
         <source>the settings of automatic connection can't be stored</source>
         <translation>die Einstellungen der automatischen Verbindung können nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>the two PINs differ</source>
+        <translation>die beiden PINs sind verschieden</translation>
     </message>
     <message>
         <source>there are no profiles %1</source>
@@ -1820,12 +2364,28 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>ein Profil %1 ist bereits vorhanden</translation>
     </message>
     <message>
+        <source>there is no SIM card</source>
+        <translation>es gibt keine SIM-Karte</translation>
+    </message>
+    <message>
         <source>there is no configuration key %1</source>
         <translation>es gibt keinen Konfigurationsschlüssel %1</translation>
     </message>
     <message>
         <source>there is no default profile; name one: orbisctl connect NAME</source>
         <translation>es gibt kein Standardprofil; nennen Sie eines: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no field %1; there are: %2</source>
+        <translation>es gibt kein Feld %1, nur: %2</translation>
+    </message>
+    <message>
+        <source>there is no modem</source>
+        <translation>es gibt kein Modem</translation>
+    </message>
+    <message>
+        <source>there is no modem %1; see orbisctl modems</source>
+        <translation>es gibt kein Modem %1; siehe orbisctl modems</translation>
     </message>
     <message>
         <source>there is no profile %1</source>
@@ -1836,12 +2396,24 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>es gibt kein eigenes Profil</translation>
     </message>
     <message>
+        <source>this user may not unlock the card</source>
+        <translation>dieser Benutzer darf die Karte nicht entsperren</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
         <source>unknown</source>
         <translation>unbekannt</translation>
     </message>
     <message>
         <source>unknown command %1; see orbisctl --help</source>
         <translation>unbekannter Befehl %1; siehe orbisctl --help</translation>
+    </message>
+    <message>
+        <source>unknown device %1; use one of %2</source>
+        <translation>unbekanntes Gerät %1; möglich sind: %2</translation>
     </message>
     <message>
         <source>usage: %1</source>
@@ -1852,8 +2424,28 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>eigen</translation>
     </message>
     <message>
+        <source>user name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>user, default</source>
+        <translation>eigen, Standard</translation>
+    </message>
+    <message>
         <source>warning: %1</source>
         <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>wrong %1: %2</source>
+        <translation>falsche %1: %2</translation>
+    </message>
+    <message>
+        <source>wrong %1: nothing opens the card any more</source>
+        <translation>falsche %1: die Karte lässt sich nicht mehr öffnen</translation>
+    </message>
+    <message>
+        <source>wrong %1: the card now asks for its PUK</source>
+        <translation>falsche %1: die Karte verlangt jetzt ihre PUK</translation>
     </message>
     <message>
         <source>yes</source>

@@ -1348,12 +1348,24 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
 <context>
     <name>orbisctl</name>
     <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
         <source>%1 (chosen by the user)</source>
         <translation>%1 (elegido por el usuario)</translation>
     </message>
     <message>
         <source>%1 (proposed by the configuration)</source>
         <translation>%1 (propuesto por la configuración)</translation>
+    </message>
+    <message>
+        <source>%1 (simulated modem)</source>
+        <translation>%1 (módem simulado)</translation>
+    </message>
+    <message>
+        <source>%1 Put -- before a name that begins with a hyphen.</source>
+        <translation>%1 Ponga -- delante de un nombre que empiece por un guion.</translation>
     </message>
     <message>
         <source>%1 bytes received, %2 sent</source>
@@ -1364,20 +1376,48 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>%1 no contiene ningún perfil %2</translation>
     </message>
     <message>
-        <source>%1 is a preset</source>
-        <translation>%1 es un perfil predefinido</translation>
+        <source>%1 is a preset; make one of your own from it: %2</source>
+        <translation>%1 es un perfil predefinido; cree uno propio a partir de él: %2</translation>
     </message>
     <message>
         <source>%1 is connected; see orbisctl disconnect</source>
         <translation>%1 está conectado; vea orbisctl disconnect</translation>
     </message>
     <message>
-        <source>%1 is read-only</source>
-        <translation>%1 es de solo lectura</translation>
+        <source>%1 is no field to set; fields: %2</source>
+        <translation>%1 no es un campo modificable; campos: %2</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; make one of your own from it: %2</source>
+        <translation>%1 es de solo lectura; cree uno propio a partir de él: %2</translation>
     </message>
     <message>
         <source>%1 may be more than one command: %2</source>
         <translation>%1 puede ser más de una orden: %2</translation>
+    </message>
+    <message>
+        <source>%1 names a modem, and counts before the choice</source>
+        <translation>%1 indica un módem y prevalece sobre la elección</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were no IMSI, which has 5 to 15 digits</source>
+        <translation>no son IMSI (de 5 a 15 dígitos): %1 de %2</translation>
+    </message>
+    <message>
+        <source>%1, %2:</source>
+        <translation>%1, %2:</translation>
+    </message>
+    <message>
+        <source>%1, at most %2 characters</source>
+        <translation>%1, como máximo %2 caracteres</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: can't be written: %2</source>
+        <translation>%1: no se puede escribir: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1388,28 +1428,124 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>%1: no contiene ninguna plantilla para perfiles nuevos; vea --like</translation>
     </message>
     <message>
+        <source>%1: is no profile file; --force replaces it</source>
+        <translation>%1: no es un archivo de perfiles; --force lo reemplaza</translation>
+    </message>
+    <message>
+        <source>%1: is the user's profile file itself</source>
+        <translation>%1: es el propio archivo de perfiles del usuario</translation>
+    </message>
+    <message>
+        <source>%1: line %2: %3</source>
+        <translation>%1: línea %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: no prefix matches; the configuration's own presets</source>
+        <translation>%1: ningún prefijo coincide; los perfiles predefinidos de la configuración</translation>
+    </message>
+    <message>
+        <source>%1: not UTF-8 on standard input</source>
+        <translation>%1: no está en UTF-8 en la entrada estándar</translation>
+    </message>
+    <message>
+        <source>%1: not an IMSI</source>
+        <translation>%1: no es un IMSI</translation>
+    </message>
+    <message>
+        <source>%1: prefix %2</source>
+        <translation>%1: prefijo %2</translation>
+    </message>
+    <message>
+        <source>%1: standard input holds none</source>
+        <translation>%1: falta en la entrada estándar</translation>
+    </message>
+    <message>
         <source>%1; give a new one with password=</source>
         <translation>%1; indique una nueva con password=</translation>
+    </message>
+    <message>
+        <source>%1; it ends with this program, see --hold</source>
+        <translation>%1; termina con este programa, vea --hold</translation>
+    </message>
+    <message>
+        <source>%1; then the card asks for its PUK; --last takes it</source>
+        <translation>%1; después la tarjeta pedirá su PUK; --last lo usa</translation>
+    </message>
+    <message>
+        <source>%1; then the card is lost; --last takes it</source>
+        <translation>%1; después la tarjeta quedará inservible; --last lo usa</translation>
+    </message>
+    <message>
+        <source>%1; waits, since the network refused user name or password</source>
+        <translation>%1; en espera, porque la red rechazó el nombre de usuario o la contraseña</translation>
     </message>
     <message>
         <source>(hidden)</source>
         <translation>(oculta)</translation>
     </message>
     <message>
-        <source>(simulated modem)</source>
-        <translation>(módem simulado)</translation>
+        <source>--clear takes no modem</source>
+        <translation>--clear no admite ningún módem</translation>
+    </message>
+    <message>
+        <source>--json goes with neither --terse nor --fields</source>
+        <translation>--json no se puede usar con --terse ni con --fields</translation>
+    </message>
+    <message>
+        <source>--roaming goes with on</source>
+        <translation>--roaming solo se usa con on</translation>
     </message>
     <message>
         <source>--timeout takes a number of seconds from 1 to 86400</source>
         <translation>--timeout admite un número de segundos de 1 a 86400</translation>
     </message>
     <message>
-        <source>; it ends with this program, see --hold</source>
-        <translation>; termina con este programa, vea --hold</translation>
+        <source>Add a profile. password=- reads the password from standard input.</source>
+        <translation>Añadir un perfil. password=- lee la contraseña de la entrada estándar.</translation>
     </message>
     <message>
-        <source>; make one of your own from it: %1</source>
-        <translation>; cree uno propio a partir de él: %1</translation>
+        <source>All profiles of one's own.</source>
+        <translation>Todos los perfiles propios.</translation>
+    </message>
+    <message>
+        <source>Answer (none ends the session): </source>
+        <translation>Respuesta (vacía para terminar la sesión): </translation>
+    </message>
+    <message>
+        <source>Ask the network for a prepaid card's balance.</source>
+        <translation>Consultar en la red el saldo de una tarjeta de prepago.</translation>
+    </message>
+    <message>
+        <source>Change fields of a profile; name=NEW renames it.</source>
+        <translation>Modificar campos de un perfil; name=NUEVO lo renombra.</translation>
+    </message>
+    <message>
+        <source>Command-line client of the OrbisDial connection manager.</source>
+        <translation>Cliente de línea de órdenes del gestor de conexiones OrbisDial.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Órdenes:</translation>
+    </message>
+    <message>
+        <source>Connect with a profile, or with the default.</source>
+        <translation>Conectar con un perfil o con el perfil por defecto.</translation>
+    </message>
+    <message>
+        <source>Delete profiles: all of them, or none.</source>
+        <translation>Eliminar perfiles: todos los indicados o ninguno.</translation>
+    </message>
+    <message>
+        <source>End the connection, or give it up.</source>
+        <translation>Terminar la conexión o cancelarla.</translation>
+    </message>
+    <message>
+        <source>Export profiles into a file; others that it holds stay.</source>
+        <translation>Exportar perfiles a un archivo; los demás que contenga se conservan.</translation>
+    </message>
+    <message>
+        <source>Fields:</source>
+        <translation>Campos:</translation>
     </message>
     <message>
         <source>GID1</source>
@@ -1424,6 +1560,38 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>IMSI</translation>
     </message>
     <message>
+        <source>Import all profiles of a file, or the named ones.</source>
+        <translation>Importar todos los perfiles de un archivo o los indicados.</translation>
+    </message>
+    <message>
+        <source>Keep the user's profiles in this folder.</source>
+        <translation>Guardar los perfiles del usuario en esta carpeta.</translation>
+    </message>
+    <message>
+        <source>List all profiles; * marks the default.</source>
+        <translation>Listar todos los perfiles; * marca el perfil por defecto.</translation>
+    </message>
+    <message>
+        <source>List the modems; * marks the one in use.</source>
+        <translation>Listar los módems; * marca el que está en uso.</translation>
+    </message>
+    <message>
+        <source>New PIN again: </source>
+        <translation>Repetir el PIN nuevo: </translation>
+    </message>
+    <message>
+        <source>New PIN: </source>
+        <translation>PIN nuevo: </translation>
+    </message>
+    <message>
+        <source>PIN (%1): </source>
+        <translation>PIN (%1): </translation>
+    </message>
+    <message>
+        <source>PUK (%1): </source>
+        <translation>PUK (%1): </translation>
+    </message>
+    <message>
         <source>Password [as stored]: </source>
         <translation>Contraseña [la guardada]: </translation>
     </message>
@@ -1432,12 +1600,188 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>Contraseña: </translation>
     </message>
     <message>
+        <source>Replace a file even if it holds something else than profiles.</source>
+        <translation>Reemplazar un archivo aunque contenga algo que no sean perfiles.</translation>
+    </message>
+    <message>
+        <source>Replace profiles whose names exist; without it they are skipped.</source>
+        <translation>Reemplazar los perfiles cuyo nombre exista; si no, se omiten.</translation>
+    </message>
+    <message>
+        <source>Save all profiles of one's own, and the chosen default, in a file.</source>
+        <translation>Guardar en un archivo todos los perfiles propios y el elegido por defecto.</translation>
+    </message>
+    <message>
+        <source>See orbisctl COMMAND --help.</source>
+        <translation>Vea orbisctl COMMAND --help.</translation>
+    </message>
+    <message>
+        <source>Send a command such as *100# to the network and show its answer.</source>
+        <translation>Enviar un código como *100# a la red y mostrar su respuesta.</translation>
+    </message>
+    <message>
+        <source>Show a value of the function configuration, or all.</source>
+        <translation>Mostrar un valor de la configuración de funciones o todos.</translation>
+    </message>
+    <message>
+        <source>Show the connection.</source>
+        <translation>Mostrar la conexión.</translation>
+    </message>
+    <message>
+        <source>Show the default profile, or choose it.</source>
+        <translation>Mostrar el perfil por defecto o elegirlo.</translation>
+    </message>
+    <message>
+        <source>Show the fields of profiles.</source>
+        <translation>Mostrar los campos de perfiles.</translation>
+    </message>
+    <message>
+        <source>Show the modem in use, or choose one by its key, IMEI or port.</source>
+        <translation>Mostrar el módem en uso o elegir uno por su clave, IMEI o puerto.</translation>
+    </message>
+    <message>
+        <source>Show the password too.</source>
+        <translation>Mostrar también la contraseña.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Mostrar la versión.</translation>
+    </message>
+    <message>
+        <source>Show this help, or that of a command.</source>
+        <translation>Mostrar esta ayuda o la de una orden.</translation>
+    </message>
+    <message>
+        <source>Show what the modem and its SIM card report, and the connection.</source>
+        <translation>Mostrar lo que indican el módem y su tarjeta SIM, y la conexión.</translation>
+    </message>
+    <message>
+        <source>Spend the last attempt, too.</source>
+        <translation>Usar también el último intento.</translation>
+    </message>
+    <message>
+        <source>Start from this profile instead of the template for new ones.</source>
+        <translation>Partir de este perfil y no de la plantilla para perfiles nuevos.</translation>
+    </message>
+    <message>
+        <source>Stay, and hang up on Ctrl-C.</source>
+        <translation>Permanecer y desconectar con Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>Stay, and show each change.</source>
+        <translation>Permanecer y mostrar cada cambio.</translation>
+    </message>
+    <message>
+        <source>Take profiles and default from a backup; those of other names stay.</source>
+        <translation>Recuperar de una copia los perfiles y el elegido por defecto; los demás se conservan.</translation>
+    </message>
+    <message>
+        <source>Take the choice back.</source>
+        <translation>Anular la elección.</translation>
+    </message>
+    <message>
+        <source>Tell what is wrong with the shipped files, or with these.</source>
+        <translation>Decir qué está mal en los archivos incluidos o en estos.</translation>
+    </message>
+    <message>
+        <source>Tell which presets SIM cards select; - reads IMSIs from standard input.</source>
+        <translation>Decir qué perfiles predefinidos eligen las tarjetas SIM; - lee los IMSI de la entrada estándar.</translation>
+    </message>
+    <message>
         <source>This is a simulated modem.</source>
         <translation>Este es un módem simulado.</translation>
     </message>
     <message>
+        <source>Unlock the SIM card with its PUK and set a new PIN, a line each.</source>
+        <translation>Desbloquear la tarjeta SIM con su PUK y poner un PIN nuevo, cada uno en una línea.</translation>
+    </message>
+    <message>
+        <source>Unlock the SIM card; the PIN is asked for, or read from standard input.</source>
+        <translation>Desbloquear la tarjeta SIM; el PIN se pide o se lee de la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Use this modem: %1.</source>
+        <translation>Usar este módem: %1.</translation>
+    </message>
+    <message>
         <source>User name [%1]: </source>
         <translation>Nombre de usuario [%1]: </translation>
+    </message>
+    <message>
+        <source>Wait no longer than so many seconds.</source>
+        <translation>No esperar más que estos segundos.</translation>
+    </message>
+    <message>
+        <source>What the SIM cards call their operator.</source>
+        <translation>Cómo llaman las tarjetas SIM a su operador.</translation>
+    </message>
+    <message>
+        <source>Whether the window connects with a profile by itself.</source>
+        <translation>Si la ventana conecta por sí misma con un perfil.</translation>
+    </message>
+    <message>
+        <source>While roaming, too.</source>
+        <translation>También en itinerancia.</translation>
+    </message>
+    <message>
+        <source>Write results as JSON, one object a line.</source>
+        <translation>Escribir los resultados en JSON, un objeto por línea.</translation>
+    </message>
+    <message>
+        <source>Write results as fields between tabs, for scripts.</source>
+        <translation>Escribir los resultados en campos separados por tabuladores, para scripts.</translation>
+    </message>
+    <message>
+        <source>Write these fields only, in this order; their names are those of --json.</source>
+        <translation>Escribir solo estos campos, en este orden; sus nombres son los de --json.</translation>
+    </message>
+    <message>
+        <source>Write traces to standard error.</source>
+        <translation>Escribir trazas en la salida de error estándar.</translation>
+    </message>
+    <message>
+        <source>a PIN has 4 to 8 digits</source>
+        <translation>un PIN tiene de 4 a 8 dígitos</translation>
+    </message>
+    <message>
+        <source>a PUK has 8 digits</source>
+        <translation>un PUK tiene 8 dígitos</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>un nombre no puede contener caracteres de control</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>un perfil necesita un nombre</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>un perfil necesita un número de acceso, por ejemplo phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an IPv4 address, or nothing</source>
+        <translation>una dirección IPv4 o nada</translation>
+    </message>
+    <message>
+        <source>an argument is not FIELD=VALUE; fields: %1</source>
+        <translation>un argumento no es CAMPO=VALOR; campos: %1</translation>
+    </message>
+    <message>
+        <source>an option's value is empty</source>
+        <translation>el valor de una opción está vacío</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: debe empezar y terminar con una letra o un dígito</translation>
+    </message>
+    <message>
+        <source>argument %1 is not UTF-8</source>
+        <translation>el argumento %1 no está en UTF-8</translation>
+    </message>
+    <message>
+        <source>attempts left: %1</source>
+        <translation>intentos restantes: %1</translation>
     </message>
     <message>
         <source>attempts to unlock</source>
@@ -1450,6 +1794,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>backend</source>
         <translation>motor</translation>
+    </message>
+    <message>
+        <source>by the card's operator name %1: %2</source>
+        <translation>según el nombre de operador de la tarjeta, %1: %2</translation>
     </message>
     <message>
         <source>can't be dialled with</source>
@@ -1470,6 +1818,18 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>chosen</source>
         <translation>elegido</translation>
+    </message>
+    <message>
+        <source>chosen, not plugged in</source>
+        <translation>elegido, no conectado</translation>
+    </message>
+    <message>
+        <source>complete is for the shells' completions</source>
+        <translation>complete sirve para el autocompletado de los shells</translation>
+    </message>
+    <message>
+        <source>config takes one key; see config --check</source>
+        <translation>config admite una sola clave; vea config --check</translation>
     </message>
     <message>
         <source>connected: %1</source>
@@ -1532,12 +1892,24 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>red propia</translation>
     </message>
     <message>
+        <source>how %1 tells a balance is not known; see orbisctl ussd CODE</source>
+        <translation>no se sabe cómo indica el saldo %1; vea orbisctl ussd CODE</translation>
+    </message>
+    <message>
+        <source>how many attempts are left is not known</source>
+        <translation>no se sabe cuántos intentos quedan</translation>
+    </message>
+    <message>
         <source>idle</source>
         <translation>inactivo</translation>
     </message>
     <message>
         <source>imported %1</source>
         <translation>%1 importado</translation>
+    </message>
+    <message>
+        <source>letters, digits, dots and hyphens</source>
+        <translation>letras, dígitos, puntos y guiones</translation>
     </message>
     <message>
         <source>lock</source>
@@ -1568,12 +1940,20 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>tarjeta multimodo</translation>
     </message>
     <message>
+        <source>neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE</source>
+        <translation>ni el perfil ni la tarjeta SIM indican el operador; vea orbisctl ussd CODE</translation>
+    </message>
+    <message>
         <source>network</source>
         <translation>red</translation>
     </message>
     <message>
         <source>network's code</source>
         <translation>código de la red</translation>
+    </message>
+    <message>
+        <source>new name</source>
+        <translation>nombre nuevo</translation>
     </message>
     <message>
         <source>no</source>
@@ -1588,12 +1968,20 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>sin conexión dentro del plazo</translation>
     </message>
     <message>
+        <source>no event counter can be had: %1</source>
+        <translation>no hay ningún contador de eventos disponible: %1</translation>
+    </message>
+    <message>
+        <source>no temporary folder: %1</source>
+        <translation>no hay carpeta temporal: %1</translation>
+    </message>
+    <message>
         <source>no-modem</source>
         <translation>sin módem</translation>
     </message>
     <message>
         <source>none</source>
-        <translation>ninguno</translation>
+        <translation>no hay</translation>
     </message>
     <message>
         <source>not connected</source>
@@ -1616,16 +2004,52 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>nada informa de las conexiones</translation>
     </message>
     <message>
+        <source>nothing can tell which modem is in use</source>
+        <translation>no hay forma de saber qué módem está en uso</translation>
+    </message>
+    <message>
+        <source>nothing can tell which modems there are</source>
+        <translation>no hay forma de saber qué módems hay</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>no se importó nada de %1</translation>
+    </message>
+    <message>
+        <source>nothing was sent: %1 tells a balance by message or phone alone</source>
+        <translation>no se envió nada: %1 solo indica el saldo por SMS o por teléfono</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>desactivada</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activada</translation>
+    </message>
+    <message>
+        <source>on, roaming too</source>
+        <translation>activada, también en itinerancia</translation>
     </message>
     <message>
         <source>other</source>
         <translation>otro</translation>
     </message>
     <message>
+        <source>others can read a password on the command line in the list of processes; use password=-</source>
+        <translation>otros pueden leer una contraseña de la línea de órdenes en la lista de procesos; use password=-</translation>
+    </message>
+    <message>
         <source>own number</source>
         <translation>número propio</translation>
+    </message>
+    <message>
+        <source>password</source>
+        <translation>contraseña</translation>
+    </message>
+    <message>
+        <source>password: only Latin-1 characters can be stored sealed</source>
+        <translation>password: solo los caracteres Latin-1 se pueden guardar cifrados</translation>
     </message>
     <message>
         <source>pin</source>
@@ -1644,8 +2068,20 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>predef.</translation>
     </message>
     <message>
+        <source>preset, default</source>
+        <translation>predef., por defecto</translation>
+    </message>
+    <message>
         <source>product type (1 is CDMA)</source>
         <translation>tipo de módem (1: CDMA)</translation>
+    </message>
+    <message>
+        <source>profiles restored: %1</source>
+        <translation>perfiles restaurados: %1</translation>
+    </message>
+    <message>
+        <source>profiles saved to %1: %2</source>
+        <translation>perfiles guardados en %1: %2</translation>
     </message>
     <message>
         <source>proposed default</source>
@@ -1680,6 +2116,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>%1 sin cambios</translation>
     </message>
     <message>
+        <source>say on or off, not %1</source>
+        <translation>indique on u off, no %1</translation>
+    </message>
+    <message>
         <source>searching</source>
         <translation>buscando</translation>
     </message>
@@ -1690,6 +2130,14 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>skipped  %1 (exists; see --replace)</source>
         <translation>%1 omitido (existe; vea --replace)</translation>
+    </message>
+    <message>
+        <source>standard input can't be read</source>
+        <translation>no se puede leer la entrada estándar</translation>
+    </message>
+    <message>
+        <source>standard input can't be read: %1</source>
+        <translation>no se puede leer la entrada estándar: %1</translation>
     </message>
     <message>
         <source>starting</source>
@@ -1724,12 +2172,56 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>tecnología</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>the backup can't be read</source>
+        <translation>no se puede leer la copia de seguridad</translation>
+    </message>
+    <message>
+        <source>the card asks for its %1; see orbisctl %2</source>
+        <translation>la tarjeta pide su %1; vea orbisctl %2</translation>
+    </message>
+    <message>
+        <source>the card asks for no %1</source>
+        <translation>la tarjeta no pide ningún %1</translation>
+    </message>
+    <message>
+        <source>the card can't be unlocked</source>
+        <translation>no se puede desbloquear la tarjeta</translation>
+    </message>
+    <message>
+        <source>the card does not answer; whether it took the code is not known</source>
+        <translation>la tarjeta no responde; no se sabe si aceptó el código</translation>
+    </message>
+    <message>
+        <source>the card is locked in a way that neither PIN nor PUK opens</source>
+        <translation>la tarjeta tiene un bloqueo que ni el PIN ni el PUK abren</translation>
+    </message>
+    <message>
+        <source>the card is unlocked</source>
+        <translation>la tarjeta está desbloqueada</translation>
+    </message>
+    <message>
+        <source>the card takes no code now</source>
+        <translation>la tarjeta no acepta ahora ningún código</translation>
+    </message>
+    <message>
+        <source>the card's operator name %1 tells none of these</source>
+        <translation>el nombre de operador de la tarjeta, %1, no indica ninguno de estos</translation>
+    </message>
+    <message>
+        <source>the choice can't be kept in the settings</source>
+        <translation>la elección no se puede guardar en la configuración</translation>
+    </message>
+    <message>
         <source>the configuration customised for %1 leaves no presets by IMSI</source>
-        <translation>la configuración personalizada para %1 no deja perfiles por IMSI</translation>
+        <translation>la configuración personalizada para %1 no deja perfiles predefinidos por IMSI</translation>
     </message>
     <message>
         <source>the configuration has no presets by IMSI</source>
-        <translation>la configuración no tiene perfiles por IMSI</translation>
+        <translation>la configuración no tiene perfiles predefinidos por IMSI</translation>
     </message>
     <message>
         <source>the connection can't be ended</source>
@@ -1748,20 +2240,56 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>la conexión se terminó en otro lugar</translation>
     </message>
     <message>
+        <source>the data folder %1 can't be made or entered</source>
+        <translation>la carpeta de datos %1 no se puede crear o abrir</translation>
+    </message>
+    <message>
+        <source>the data folder %1 is not a folder</source>
+        <translation>la carpeta de datos %1 no es una carpeta</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>no se puede quitar el perfil por defecto</translation>
+    </message>
+    <message>
+        <source>the default can't be restored</source>
+        <translation>no se puede restaurar el perfil por defecto</translation>
     </message>
     <message>
         <source>the default can't be set</source>
         <translation>no se puede fijar el perfil por defecto</translation>
     </message>
     <message>
+        <source>the field %1 is given twice</source>
+        <translation>el campo %1 se indica dos veces</translation>
+    </message>
+    <message>
         <source>the file can't be imported</source>
         <translation>no se puede importar el archivo</translation>
     </message>
     <message>
+        <source>the file's name is empty</source>
+        <translation>el nombre del archivo está vacío</translation>
+    </message>
+    <message>
+        <source>the modem does not answer</source>
+        <translation>el módem no responde</translation>
+    </message>
+    <message>
+        <source>the modem is not ready for a command, or another one is under way</source>
+        <translation>el módem no está listo para un código o hay otro en curso</translation>
+    </message>
+    <message>
+        <source>the modem's backend can't be had</source>
+        <translation>el motor del módem no está disponible</translation>
+    </message>
+    <message>
         <source>the name is empty; see default --clear</source>
         <translation>el nombre está vacío; vea default --clear</translation>
+    </message>
+    <message>
+        <source>the network did not answer in time</source>
+        <translation>la red no respondió a tiempo</translation>
     </message>
     <message>
         <source>the new profile's name is the first argument</source>
@@ -1785,7 +2313,7 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
     <message>
         <source>the profile library does not hold the preset %1</source>
-        <translation>la biblioteca no contiene el perfil predefinido %1</translation>
+        <translation>la biblioteca de perfiles no contiene el perfil predefinido %1</translation>
     </message>
     <message>
         <source>the profiles can't be changed</source>
@@ -1804,12 +2332,28 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>no se pueden listar los perfiles</translation>
     </message>
     <message>
+        <source>the profiles can't be restored</source>
+        <translation>no se pueden restaurar los perfiles</translation>
+    </message>
+    <message>
         <source>the profiles can't be stored</source>
         <translation>no se pueden guardar los perfiles</translation>
     </message>
     <message>
+        <source>the session has ended</source>
+        <translation>la sesión ha terminado</translation>
+    </message>
+    <message>
+        <source>the settings can't be stored</source>
+        <translation>no se puede guardar la configuración</translation>
+    </message>
+    <message>
         <source>the settings of automatic connection can't be stored</source>
         <translation>no se puede guardar la configuración de la conexión automática</translation>
+    </message>
+    <message>
+        <source>the two PINs differ</source>
+        <translation>los dos PIN no coinciden</translation>
     </message>
     <message>
         <source>there are no profiles %1</source>
@@ -1820,12 +2364,28 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>ya existe un perfil %1</translation>
     </message>
     <message>
+        <source>there is no SIM card</source>
+        <translation>no hay tarjeta SIM</translation>
+    </message>
+    <message>
         <source>there is no configuration key %1</source>
         <translation>no existe la clave de configuración %1</translation>
     </message>
     <message>
         <source>there is no default profile; name one: orbisctl connect NAME</source>
         <translation>no hay perfil por defecto; nombre uno: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no field %1; there are: %2</source>
+        <translation>no existe el campo %1; existen: %2</translation>
+    </message>
+    <message>
+        <source>there is no modem</source>
+        <translation>no hay ningún módem</translation>
+    </message>
+    <message>
+        <source>there is no modem %1; see orbisctl modems</source>
+        <translation>no existe ningún módem %1; vea orbisctl modems</translation>
     </message>
     <message>
         <source>there is no profile %1</source>
@@ -1836,12 +2396,24 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>no hay ningún perfil propio</translation>
     </message>
     <message>
+        <source>this user may not unlock the card</source>
+        <translation>este usuario no tiene permiso para desbloquear la tarjeta</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true o false</translation>
+    </message>
+    <message>
         <source>unknown</source>
-        <translation>desconocido</translation>
+        <translation>se desconoce</translation>
     </message>
     <message>
         <source>unknown command %1; see orbisctl --help</source>
         <translation>orden desconocida %1; vea orbisctl --help</translation>
+    </message>
+    <message>
+        <source>unknown device %1; use one of %2</source>
+        <translation>dispositivo desconocido %1; los posibles son: %2</translation>
     </message>
     <message>
         <source>usage: %1</source>
@@ -1852,8 +2424,28 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>propio</translation>
     </message>
     <message>
+        <source>user name</source>
+        <translation>nombre de usuario</translation>
+    </message>
+    <message>
+        <source>user, default</source>
+        <translation>propio, por defecto</translation>
+    </message>
+    <message>
         <source>warning: %1</source>
         <translation>aviso: %1</translation>
+    </message>
+    <message>
+        <source>wrong %1: %2</source>
+        <translation>%1 incorrecto: %2</translation>
+    </message>
+    <message>
+        <source>wrong %1: nothing opens the card any more</source>
+        <translation>%1 incorrecto: ya nada desbloquea la tarjeta</translation>
+    </message>
+    <message>
+        <source>wrong %1: the card now asks for its PUK</source>
+        <translation>%1 incorrecto: la tarjeta pide ahora su PUK</translation>
     </message>
     <message>
         <source>yes</source>

@@ -1348,12 +1348,24 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
 <context>
     <name>orbisctl</name>
     <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
         <source>%1 (chosen by the user)</source>
         <translation>%1 (choisi par l’utilisateur)</translation>
     </message>
     <message>
         <source>%1 (proposed by the configuration)</source>
         <translation>%1 (proposé par la configuration)</translation>
+    </message>
+    <message>
+        <source>%1 (simulated modem)</source>
+        <translation>%1 (modem simulé)</translation>
+    </message>
+    <message>
+        <source>%1 Put -- before a name that begins with a hyphen.</source>
+        <translation>%1 Mettez -- devant un nom qui commence par un tiret.</translation>
     </message>
     <message>
         <source>%1 bytes received, %2 sent</source>
@@ -1364,20 +1376,48 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>%1 ne contient pas de profil %2</translation>
     </message>
     <message>
-        <source>%1 is a preset</source>
-        <translation>%1 est un profil prédéfini</translation>
+        <source>%1 is a preset; make one of your own from it: %2</source>
+        <translation>%1 est un profil prédéfini&#xa0;; créez le vôtre à partir de celui-ci&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is connected; see orbisctl disconnect</source>
         <translation>%1 est connecté&#xa0;; voir orbisctl disconnect</translation>
     </message>
     <message>
-        <source>%1 is read-only</source>
-        <translation>%1 est en lecture seule</translation>
+        <source>%1 is no field to set; fields: %2</source>
+        <translation>%1 n’est pas un champ modifiable&#xa0;; champs&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; make one of your own from it: %2</source>
+        <translation>%1 est en lecture seule&#xa0;; créez le vôtre à partir de celui-ci&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 may be more than one command: %2</source>
         <translation>%1 peut désigner plusieurs commandes&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 names a modem, and counts before the choice</source>
+        <translation>%1 désigne un modem et l’emporte sur ce choix</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were no IMSI, which has 5 to 15 digits</source>
+        <translation>ne sont pas des IMSI (5 à 15 chiffres)&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1, %2:</source>
+        <translation>%1, %2&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1, at most %2 characters</source>
+        <translation>%1, %2 caractères au plus</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: can't be written: %2</source>
+        <translation>%1&#xa0;: écriture impossible&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1388,28 +1428,124 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>%1&#xa0;: ne contient pas de modèle pour les nouveaux profils&#xa0;; voir --like</translation>
     </message>
     <message>
+        <source>%1: is no profile file; --force replaces it</source>
+        <translation>%1&#xa0;: n’est pas un fichier de profils&#xa0;; --force le remplace</translation>
+    </message>
+    <message>
+        <source>%1: is the user's profile file itself</source>
+        <translation>%1&#xa0;: c’est le fichier de profils de l’utilisateur lui-même</translation>
+    </message>
+    <message>
+        <source>%1: line %2: %3</source>
+        <translation>%1&#xa0;: ligne %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>%1: no prefix matches; the configuration's own presets</source>
+        <translation>%1&#xa0;: aucun préfixe ne correspond&#xa0;; profils prédéfinis de la configuration</translation>
+    </message>
+    <message>
+        <source>%1: not UTF-8 on standard input</source>
+        <translation>%1&#xa0;: pas en UTF-8 sur l’entrée standard</translation>
+    </message>
+    <message>
+        <source>%1: not an IMSI</source>
+        <translation>%1&#xa0;: n’est pas un IMSI</translation>
+    </message>
+    <message>
+        <source>%1: prefix %2</source>
+        <translation>%1&#xa0;: préfixe %2</translation>
+    </message>
+    <message>
+        <source>%1: standard input holds none</source>
+        <translation>%1&#xa0;: absent de l’entrée standard</translation>
+    </message>
+    <message>
         <source>%1; give a new one with password=</source>
         <translation>%1&#xa0;; donnez-en un nouveau avec password=</translation>
+    </message>
+    <message>
+        <source>%1; it ends with this program, see --hold</source>
+        <translation>%1&#xa0;; elle prend fin avec ce programme, voir --hold</translation>
+    </message>
+    <message>
+        <source>%1; then the card asks for its PUK; --last takes it</source>
+        <translation>%1&#xa0;; ensuite la carte demandera son code PUK&#xa0;; --last l’utilise</translation>
+    </message>
+    <message>
+        <source>%1; then the card is lost; --last takes it</source>
+        <translation>%1&#xa0;; ensuite la carte sera inutilisable&#xa0;; --last l’utilise</translation>
+    </message>
+    <message>
+        <source>%1; waits, since the network refused user name or password</source>
+        <translation>%1&#xa0;; en attente, car le réseau a refusé le nom d’utilisateur ou le mot de passe</translation>
     </message>
     <message>
         <source>(hidden)</source>
         <translation>(masqué)</translation>
     </message>
     <message>
-        <source>(simulated modem)</source>
-        <translation>(modem simulé)</translation>
+        <source>--clear takes no modem</source>
+        <translation>--clear ne prend pas de modem</translation>
+    </message>
+    <message>
+        <source>--json goes with neither --terse nor --fields</source>
+        <translation>--json ne va ni avec --terse ni avec --fields</translation>
+    </message>
+    <message>
+        <source>--roaming goes with on</source>
+        <translation>--roaming ne va qu’avec on</translation>
     </message>
     <message>
         <source>--timeout takes a number of seconds from 1 to 86400</source>
         <translation>--timeout attend un nombre de secondes de 1 à 86400</translation>
     </message>
     <message>
-        <source>; it ends with this program, see --hold</source>
-        <translation>&#xa0;; elle prend fin avec ce programme, voir --hold</translation>
+        <source>Add a profile. password=- reads the password from standard input.</source>
+        <translation>Ajouter un profil. password=- lit le mot de passe sur l’entrée standard.</translation>
     </message>
     <message>
-        <source>; make one of your own from it: %1</source>
-        <translation>&#xa0;; créez le vôtre à partir de celui-ci&#xa0;: %1</translation>
+        <source>All profiles of one's own.</source>
+        <translation>Tous les profils personnels.</translation>
+    </message>
+    <message>
+        <source>Answer (none ends the session): </source>
+        <translation>Réponse (vide pour terminer la session)&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Ask the network for a prepaid card's balance.</source>
+        <translation>Demander au réseau le solde d’une carte prépayée.</translation>
+    </message>
+    <message>
+        <source>Change fields of a profile; name=NEW renames it.</source>
+        <translation>Modifier des champs d’un profil&#xa0;; name=NOUVEAU le renomme.</translation>
+    </message>
+    <message>
+        <source>Command-line client of the OrbisDial connection manager.</source>
+        <translation>Client en ligne de commande du gestionnaire de connexions OrbisDial.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commandes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Connect with a profile, or with the default.</source>
+        <translation>Se connecter avec un profil, ou avec celui par défaut.</translation>
+    </message>
+    <message>
+        <source>Delete profiles: all of them, or none.</source>
+        <translation>Supprimer des profils&#xa0;: tous ceux nommés, ou aucun.</translation>
+    </message>
+    <message>
+        <source>End the connection, or give it up.</source>
+        <translation>Terminer la connexion, ou y renoncer.</translation>
+    </message>
+    <message>
+        <source>Export profiles into a file; others that it holds stay.</source>
+        <translation>Exporter des profils dans un fichier&#xa0;; les autres y restent.</translation>
+    </message>
+    <message>
+        <source>Fields:</source>
+        <translation>Champs&#xa0;:</translation>
     </message>
     <message>
         <source>GID1</source>
@@ -1424,6 +1560,38 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>IMSI</translation>
     </message>
     <message>
+        <source>Import all profiles of a file, or the named ones.</source>
+        <translation>Importer tous les profils d’un fichier, ou ceux nommés.</translation>
+    </message>
+    <message>
+        <source>Keep the user's profiles in this folder.</source>
+        <translation>Conserver les profils de l’utilisateur dans ce dossier.</translation>
+    </message>
+    <message>
+        <source>List all profiles; * marks the default.</source>
+        <translation>Lister tous les profils&#xa0;; * marque celui par défaut.</translation>
+    </message>
+    <message>
+        <source>List the modems; * marks the one in use.</source>
+        <translation>Lister les modems&#xa0;; * marque celui utilisé.</translation>
+    </message>
+    <message>
+        <source>New PIN again: </source>
+        <translation>Confirmer le code PIN&#xa0;: </translation>
+    </message>
+    <message>
+        <source>New PIN: </source>
+        <translation>Nouveau code PIN&#xa0;: </translation>
+    </message>
+    <message>
+        <source>PIN (%1): </source>
+        <translation>Code PIN (%1)&#xa0;: </translation>
+    </message>
+    <message>
+        <source>PUK (%1): </source>
+        <translation>Code PUK (%1)&#xa0;: </translation>
+    </message>
+    <message>
         <source>Password [as stored]: </source>
         <translation>Mot de passe [celui enregistré]&#xa0;: </translation>
     </message>
@@ -1432,12 +1600,188 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>Mot de passe&#xa0;: </translation>
     </message>
     <message>
+        <source>Replace a file even if it holds something else than profiles.</source>
+        <translation>Remplacer un fichier même s’il contient autre chose que des profils.</translation>
+    </message>
+    <message>
+        <source>Replace profiles whose names exist; without it they are skipped.</source>
+        <translation>Remplacer les profils dont le nom existe&#xa0;; sinon ils sont ignorés.</translation>
+    </message>
+    <message>
+        <source>Save all profiles of one's own, and the chosen default, in a file.</source>
+        <translation>Sauvegarder dans un fichier tous les profils personnels et le choix du profil par défaut.</translation>
+    </message>
+    <message>
+        <source>See orbisctl COMMAND --help.</source>
+        <translation>Voir orbisctl COMMAND --help.</translation>
+    </message>
+    <message>
+        <source>Send a command such as *100# to the network and show its answer.</source>
+        <translation>Envoyer un code comme *100# au réseau et afficher sa réponse.</translation>
+    </message>
+    <message>
+        <source>Show a value of the function configuration, or all.</source>
+        <translation>Afficher une valeur de la configuration des fonctions, ou toutes.</translation>
+    </message>
+    <message>
+        <source>Show the connection.</source>
+        <translation>Afficher la connexion.</translation>
+    </message>
+    <message>
+        <source>Show the default profile, or choose it.</source>
+        <translation>Afficher le profil par défaut, ou le choisir.</translation>
+    </message>
+    <message>
+        <source>Show the fields of profiles.</source>
+        <translation>Afficher les champs de profils.</translation>
+    </message>
+    <message>
+        <source>Show the modem in use, or choose one by its key, IMEI or port.</source>
+        <translation>Afficher le modem utilisé, ou en choisir un par sa clé, son IMEI ou son port.</translation>
+    </message>
+    <message>
+        <source>Show the password too.</source>
+        <translation>Afficher aussi le mot de passe.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
+    </message>
+    <message>
+        <source>Show this help, or that of a command.</source>
+        <translation>Afficher cette aide, ou celle d’une commande.</translation>
+    </message>
+    <message>
+        <source>Show what the modem and its SIM card report, and the connection.</source>
+        <translation>Afficher ce que signalent le modem et sa carte SIM, et la connexion.</translation>
+    </message>
+    <message>
+        <source>Spend the last attempt, too.</source>
+        <translation>Utiliser même la dernière tentative.</translation>
+    </message>
+    <message>
+        <source>Start from this profile instead of the template for new ones.</source>
+        <translation>Partir de ce profil au lieu du modèle des nouveaux profils.</translation>
+    </message>
+    <message>
+        <source>Stay, and hang up on Ctrl-C.</source>
+        <translation>Rester, et se déconnecter à Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>Stay, and show each change.</source>
+        <translation>Rester, et afficher chaque changement.</translation>
+    </message>
+    <message>
+        <source>Take profiles and default from a backup; those of other names stay.</source>
+        <translation>Reprendre d’une sauvegarde les profils et celui par défaut&#xa0;; les autres restent.</translation>
+    </message>
+    <message>
+        <source>Take the choice back.</source>
+        <translation>Annuler le choix.</translation>
+    </message>
+    <message>
+        <source>Tell what is wrong with the shipped files, or with these.</source>
+        <translation>Dire ce qui ne va pas dans les fichiers fournis, ou dans ceux-ci.</translation>
+    </message>
+    <message>
+        <source>Tell which presets SIM cards select; - reads IMSIs from standard input.</source>
+        <translation>Dire quels profils prédéfinis les cartes SIM choisissent&#xa0;; - lit les IMSI sur l’entrée standard.</translation>
+    </message>
+    <message>
         <source>This is a simulated modem.</source>
         <translation>Ceci est un modem simulé.</translation>
     </message>
     <message>
+        <source>Unlock the SIM card with its PUK and set a new PIN, a line each.</source>
+        <translation>Déverrouiller la carte SIM avec son code PUK et définir un nouveau code PIN, un par ligne.</translation>
+    </message>
+    <message>
+        <source>Unlock the SIM card; the PIN is asked for, or read from standard input.</source>
+        <translation>Déverrouiller la carte SIM&#xa0;; le code PIN est demandé, ou lu sur l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>Use this modem: %1.</source>
+        <translation>Utiliser ce modem&#xa0;: %1.</translation>
+    </message>
+    <message>
         <source>User name [%1]: </source>
         <translation>Nom d’utilisateur [%1]&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Wait no longer than so many seconds.</source>
+        <translation>Ne pas attendre plus que ce nombre de secondes.</translation>
+    </message>
+    <message>
+        <source>What the SIM cards call their operator.</source>
+        <translation>Comment les cartes SIM nomment leur opérateur.</translation>
+    </message>
+    <message>
+        <source>Whether the window connects with a profile by itself.</source>
+        <translation>Si la fenêtre se connecte d’elle-même avec un profil.</translation>
+    </message>
+    <message>
+        <source>While roaming, too.</source>
+        <translation>Y compris en itinérance.</translation>
+    </message>
+    <message>
+        <source>Write results as JSON, one object a line.</source>
+        <translation>Écrire les résultats en JSON, un objet par ligne.</translation>
+    </message>
+    <message>
+        <source>Write results as fields between tabs, for scripts.</source>
+        <translation>Écrire les résultats en champs séparés par des tabulations, pour les scripts.</translation>
+    </message>
+    <message>
+        <source>Write these fields only, in this order; their names are those of --json.</source>
+        <translation>N’écrire que ces champs, dans cet ordre&#xa0;; leurs noms sont ceux de --json.</translation>
+    </message>
+    <message>
+        <source>Write traces to standard error.</source>
+        <translation>Écrire des traces sur la sortie d’erreur standard.</translation>
+    </message>
+    <message>
+        <source>a PIN has 4 to 8 digits</source>
+        <translation>un code PIN a de 4 à 8 chiffres</translation>
+    </message>
+    <message>
+        <source>a PUK has 8 digits</source>
+        <translation>un code PUK a 8 chiffres</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>un nom ne doit pas contenir de caractères de contrôle</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>un profil doit avoir un nom</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>un profil doit avoir un numéro d’accès, par exemple phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an IPv4 address, or nothing</source>
+        <translation>une adresse IPv4, ou rien</translation>
+    </message>
+    <message>
+        <source>an argument is not FIELD=VALUE; fields: %1</source>
+        <translation>un argument n’est pas de la forme CHAMP=VALEUR&#xa0;; champs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>an option's value is empty</source>
+        <translation>la valeur d’une option est vide</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn&#xa0;: doit commencer et se terminer par une lettre ou un chiffre</translation>
+    </message>
+    <message>
+        <source>argument %1 is not UTF-8</source>
+        <translation>l’argument %1 n’est pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>attempts left: %1</source>
+        <translation>tentatives restantes&#xa0;: %1</translation>
     </message>
     <message>
         <source>attempts to unlock</source>
@@ -1450,6 +1794,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>backend</source>
         <translation>moteur</translation>
+    </message>
+    <message>
+        <source>by the card's operator name %1: %2</source>
+        <translation>d’après le nom d’opérateur de la carte, %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>can't be dialled with</source>
@@ -1470,6 +1818,18 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>chosen</source>
         <translation>choisi</translation>
+    </message>
+    <message>
+        <source>chosen, not plugged in</source>
+        <translation>choisi, non branché</translation>
+    </message>
+    <message>
+        <source>complete is for the shells' completions</source>
+        <translation>complete sert à la complétion des shells</translation>
+    </message>
+    <message>
+        <source>config takes one key; see config --check</source>
+        <translation>config prend une seule clé&#xa0;; voir config --check</translation>
     </message>
     <message>
         <source>connected: %1</source>
@@ -1532,12 +1892,24 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>réseau d’origine</translation>
     </message>
     <message>
+        <source>how %1 tells a balance is not known; see orbisctl ussd CODE</source>
+        <translation>on ignore comment %1 indique le solde&#xa0;; voir orbisctl ussd CODE</translation>
+    </message>
+    <message>
+        <source>how many attempts are left is not known</source>
+        <translation>le nombre de tentatives restantes est inconnu</translation>
+    </message>
+    <message>
         <source>idle</source>
-        <translation>inactif</translation>
+        <translation>inactive</translation>
     </message>
     <message>
         <source>imported %1</source>
         <translation>%1 importé</translation>
+    </message>
+    <message>
+        <source>letters, digits, dots and hyphens</source>
+        <translation>lettres, chiffres, points et tirets</translation>
     </message>
     <message>
         <source>lock</source>
@@ -1568,12 +1940,20 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>carte multimode</translation>
     </message>
     <message>
+        <source>neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE</source>
+        <translation>ni le profil ni la carte SIM n’indiquent l’opérateur&#xa0;; voir orbisctl ussd CODE</translation>
+    </message>
+    <message>
         <source>network</source>
         <translation>réseau</translation>
     </message>
     <message>
         <source>network's code</source>
         <translation>code du réseau</translation>
+    </message>
+    <message>
+        <source>new name</source>
+        <translation>nouveau nom</translation>
     </message>
     <message>
         <source>no</source>
@@ -1588,12 +1968,20 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>pas de connexion dans le délai</translation>
     </message>
     <message>
+        <source>no event counter can be had: %1</source>
+        <translation>aucun compteur d’événements disponible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no temporary folder: %1</source>
+        <translation>pas de dossier temporaire&#xa0;: %1</translation>
+    </message>
+    <message>
         <source>no-modem</source>
         <translation>aucun modem</translation>
     </message>
     <message>
         <source>none</source>
-        <translation>aucune</translation>
+        <translation>néant</translation>
     </message>
     <message>
         <source>not connected</source>
@@ -1616,16 +2004,52 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>rien ne renseigne sur les connexions</translation>
     </message>
     <message>
+        <source>nothing can tell which modem is in use</source>
+        <translation>impossible de savoir quel modem est utilisé</translation>
+    </message>
+    <message>
+        <source>nothing can tell which modems there are</source>
+        <translation>impossible de savoir quels modems sont présents</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>rien n’a été importé de %1</translation>
+    </message>
+    <message>
+        <source>nothing was sent: %1 tells a balance by message or phone alone</source>
+        <translation>rien n’a été envoyé&#xa0;: %1 n’indique le solde que par SMS ou par téléphone</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>désactivée</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activée</translation>
+    </message>
+    <message>
+        <source>on, roaming too</source>
+        <translation>activée, y compris en itinérance</translation>
     </message>
     <message>
         <source>other</source>
         <translation>autre</translation>
     </message>
     <message>
+        <source>others can read a password on the command line in the list of processes; use password=-</source>
+        <translation>un mot de passe sur la ligne de commande est lisible par d’autres dans la liste des processus&#xa0;; utilisez password=-</translation>
+    </message>
+    <message>
         <source>own number</source>
         <translation>numéro de la carte</translation>
+    </message>
+    <message>
+        <source>password</source>
+        <translation>mot de passe</translation>
+    </message>
+    <message>
+        <source>password: only Latin-1 characters can be stored sealed</source>
+        <translation>password&#xa0;: seuls les caractères Latin-1 peuvent être enregistrés chiffrés</translation>
     </message>
     <message>
         <source>pin</source>
@@ -1644,8 +2068,20 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>prédéfini</translation>
     </message>
     <message>
+        <source>preset, default</source>
+        <translation>prédéfini, par défaut</translation>
+    </message>
+    <message>
         <source>product type (1 is CDMA)</source>
         <translation>type de modem (1&#xa0;: CDMA)</translation>
+    </message>
+    <message>
+        <source>profiles restored: %1</source>
+        <translation>profils restaurés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>profiles saved to %1: %2</source>
+        <translation>profils sauvegardés dans %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>proposed default</source>
@@ -1680,6 +2116,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>%1 inchangé</translation>
     </message>
     <message>
+        <source>say on or off, not %1</source>
+        <translation>indiquez on ou off, et non %1</translation>
+    </message>
+    <message>
         <source>searching</source>
         <translation>recherche</translation>
     </message>
@@ -1690,6 +2130,14 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>skipped  %1 (exists; see --replace)</source>
         <translation>%1 ignoré (existe&#xa0;; voir --replace)</translation>
+    </message>
+    <message>
+        <source>standard input can't be read</source>
+        <translation>l’entrée standard ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>standard input can't be read: %1</source>
+        <translation>l’entrée standard ne peut pas être lue&#xa0;: %1</translation>
     </message>
     <message>
         <source>starting</source>
@@ -1724,12 +2172,56 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>technologie</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>the backup can't be read</source>
+        <translation>la sauvegarde ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>the card asks for its %1; see orbisctl %2</source>
+        <translation>la carte demande son code %1&#xa0;; voir orbisctl %2</translation>
+    </message>
+    <message>
+        <source>the card asks for no %1</source>
+        <translation>la carte ne demande pas de code %1</translation>
+    </message>
+    <message>
+        <source>the card can't be unlocked</source>
+        <translation>la carte ne peut pas être déverrouillée</translation>
+    </message>
+    <message>
+        <source>the card does not answer; whether it took the code is not known</source>
+        <translation>la carte ne répond pas&#xa0;; on ignore si elle a accepté le code</translation>
+    </message>
+    <message>
+        <source>the card is locked in a way that neither PIN nor PUK opens</source>
+        <translation>la carte a un verrou que ni le code PIN ni le code PUK ne lèvent</translation>
+    </message>
+    <message>
+        <source>the card is unlocked</source>
+        <translation>la carte est déverrouillée</translation>
+    </message>
+    <message>
+        <source>the card takes no code now</source>
+        <translation>la carte n’accepte pas de code pour l’instant</translation>
+    </message>
+    <message>
+        <source>the card's operator name %1 tells none of these</source>
+        <translation>le nom d’opérateur de la carte, %1, n’en désigne aucun</translation>
+    </message>
+    <message>
+        <source>the choice can't be kept in the settings</source>
+        <translation>le choix ne peut pas être enregistré dans les paramètres</translation>
+    </message>
+    <message>
         <source>the configuration customised for %1 leaves no presets by IMSI</source>
-        <translation>la configuration personnalisée pour %1 ne laisse aucun profil par IMSI</translation>
+        <translation>la configuration personnalisée pour %1 ne laisse aucun profil prédéfini par IMSI</translation>
     </message>
     <message>
         <source>the configuration has no presets by IMSI</source>
-        <translation>la configuration n’a pas de profils par IMSI</translation>
+        <translation>la configuration n’a pas de profils prédéfinis par IMSI</translation>
     </message>
     <message>
         <source>the connection can't be ended</source>
@@ -1748,20 +2240,56 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>la connexion a été terminée ailleurs</translation>
     </message>
     <message>
+        <source>the data folder %1 can't be made or entered</source>
+        <translation>le dossier de données %1 ne peut pas être créé ou ouvert</translation>
+    </message>
+    <message>
+        <source>the data folder %1 is not a folder</source>
+        <translation>le dossier de données %1 n’est pas un dossier</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>le profil par défaut ne peut pas être effacé</translation>
+    </message>
+    <message>
+        <source>the default can't be restored</source>
+        <translation>le profil par défaut ne peut pas être restauré</translation>
     </message>
     <message>
         <source>the default can't be set</source>
         <translation>le profil par défaut ne peut pas être défini</translation>
     </message>
     <message>
+        <source>the field %1 is given twice</source>
+        <translation>le champ %1 est donné deux fois</translation>
+    </message>
+    <message>
         <source>the file can't be imported</source>
         <translation>le fichier ne peut pas être importé</translation>
     </message>
     <message>
+        <source>the file's name is empty</source>
+        <translation>le nom du fichier est vide</translation>
+    </message>
+    <message>
+        <source>the modem does not answer</source>
+        <translation>le modem ne répond pas</translation>
+    </message>
+    <message>
+        <source>the modem is not ready for a command, or another one is under way</source>
+        <translation>le modem n’est pas prêt pour un code, ou un autre est en cours</translation>
+    </message>
+    <message>
+        <source>the modem's backend can't be had</source>
+        <translation>le moteur du modem n’est pas disponible</translation>
+    </message>
+    <message>
         <source>the name is empty; see default --clear</source>
         <translation>le nom est vide&#xa0;; voir default --clear</translation>
+    </message>
+    <message>
+        <source>the network did not answer in time</source>
+        <translation>le réseau n’a pas répondu à temps</translation>
     </message>
     <message>
         <source>the new profile's name is the first argument</source>
@@ -1804,12 +2332,28 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>les profils ne peuvent pas être listés</translation>
     </message>
     <message>
+        <source>the profiles can't be restored</source>
+        <translation>les profils ne peuvent pas être restaurés</translation>
+    </message>
+    <message>
         <source>the profiles can't be stored</source>
         <translation>les profils ne peuvent pas être enregistrés</translation>
     </message>
     <message>
+        <source>the session has ended</source>
+        <translation>la session est terminée</translation>
+    </message>
+    <message>
+        <source>the settings can't be stored</source>
+        <translation>les paramètres ne peuvent pas être enregistrés</translation>
+    </message>
+    <message>
         <source>the settings of automatic connection can't be stored</source>
-        <translation>les réglages de la connexion automatique ne peuvent pas être enregistrés</translation>
+        <translation>les paramètres de la connexion automatique ne peuvent pas être enregistrés</translation>
+    </message>
+    <message>
+        <source>the two PINs differ</source>
+        <translation>les deux codes PIN diffèrent</translation>
     </message>
     <message>
         <source>there are no profiles %1</source>
@@ -1820,12 +2364,28 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>il y a déjà un profil %1</translation>
     </message>
     <message>
+        <source>there is no SIM card</source>
+        <translation>il n’y a pas de carte SIM</translation>
+    </message>
+    <message>
         <source>there is no configuration key %1</source>
         <translation>il n’y a pas de clé de configuration %1</translation>
     </message>
     <message>
         <source>there is no default profile; name one: orbisctl connect NAME</source>
         <translation>il n’y a pas de profil par défaut&#xa0;; nommez-en un&#xa0;: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no field %1; there are: %2</source>
+        <translation>il n’y a pas de champ %1&#xa0;; il y a&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>there is no modem</source>
+        <translation>il n’y a pas de modem</translation>
+    </message>
+    <message>
+        <source>there is no modem %1; see orbisctl modems</source>
+        <translation>il n’y a pas de modem %1&#xa0;; voir orbisctl modems</translation>
     </message>
     <message>
         <source>there is no profile %1</source>
@@ -1836,12 +2396,24 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>il n’y a aucun profil personnel</translation>
     </message>
     <message>
+        <source>this user may not unlock the card</source>
+        <translation>cet utilisateur n’est pas autorisé à déverrouiller la carte</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true ou false</translation>
+    </message>
+    <message>
         <source>unknown</source>
         <translation>inconnue</translation>
     </message>
     <message>
         <source>unknown command %1; see orbisctl --help</source>
         <translation>commande inconnue %1&#xa0;; voir orbisctl --help</translation>
+    </message>
+    <message>
+        <source>unknown device %1; use one of %2</source>
+        <translation>périphérique inconnu %1&#xa0;; possibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>usage: %1</source>
@@ -1852,8 +2424,28 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>perso.</translation>
     </message>
     <message>
+        <source>user name</source>
+        <translation>nom d’utilisateur</translation>
+    </message>
+    <message>
+        <source>user, default</source>
+        <translation>perso., par défaut</translation>
+    </message>
+    <message>
         <source>warning: %1</source>
         <translation>attention&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>wrong %1: %2</source>
+        <translation>code %1 erroné&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>wrong %1: nothing opens the card any more</source>
+        <translation>code %1 erroné&#xa0;: plus rien ne déverrouille la carte</translation>
+    </message>
+    <message>
+        <source>wrong %1: the card now asks for its PUK</source>
+        <translation>code %1 erroné&#xa0;: la carte demande maintenant son code PUK</translation>
     </message>
     <message>
         <source>yes</source>

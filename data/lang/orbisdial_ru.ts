@@ -1348,12 +1348,24 @@
 <context>
     <name>orbisctl</name>
     <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
         <source>%1 (chosen by the user)</source>
         <translation>%1 (выбран пользователем)</translation>
     </message>
     <message>
         <source>%1 (proposed by the configuration)</source>
         <translation>%1 (предложен конфигурацией)</translation>
+    </message>
+    <message>
+        <source>%1 (simulated modem)</source>
+        <translation>%1 (имитация модема)</translation>
+    </message>
+    <message>
+        <source>%1 Put -- before a name that begins with a hyphen.</source>
+        <translation>%1 Перед именем, которое начинается с дефиса, поставьте --.</translation>
     </message>
     <message>
         <source>%1 bytes received, %2 sent</source>
@@ -1364,20 +1376,48 @@
         <translation>в %1 нет профиля %2</translation>
     </message>
     <message>
-        <source>%1 is a preset</source>
-        <translation>%1 — готовый профиль оператора</translation>
+        <source>%1 is a preset; make one of your own from it: %2</source>
+        <translation>%1 — готовый профиль оператора; создайте на его основе свой: %2</translation>
     </message>
     <message>
         <source>%1 is connected; see orbisctl disconnect</source>
         <translation>%1 уже подключён; см. orbisctl disconnect</translation>
     </message>
     <message>
-        <source>%1 is read-only</source>
-        <translation>%1 доступен только для чтения</translation>
+        <source>%1 is no field to set; fields: %2</source>
+        <translation>%1 — не изменяемое поле; поля: %2</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; make one of your own from it: %2</source>
+        <translation>%1 доступен только для чтения; создайте на его основе свой: %2</translation>
     </message>
     <message>
         <source>%1 may be more than one command: %2</source>
         <translation>%1 может означать несколько команд: %2</translation>
+    </message>
+    <message>
+        <source>%1 names a modem, and counts before the choice</source>
+        <translation>%1 указывает модем и важнее этого выбора</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were no IMSI, which has 5 to 15 digits</source>
+        <translation>не IMSI (от 5 до 15 цифр): %1 из %2</translation>
+    </message>
+    <message>
+        <source>%1, %2:</source>
+        <translation>%1, %2:</translation>
+    </message>
+    <message>
+        <source>%1, at most %2 characters</source>
+        <translation>%1, не больше %2 символов</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: can't be written: %2</source>
+        <translation>%1: не удаётся записать: %2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1388,28 +1428,124 @@
         <translation>%1: нет шаблона для новых профилей; см. --like</translation>
     </message>
     <message>
+        <source>%1: is no profile file; --force replaces it</source>
+        <translation>%1: не файл профилей; --force заменит его</translation>
+    </message>
+    <message>
+        <source>%1: is the user's profile file itself</source>
+        <translation>%1: это сам файл профилей пользователя</translation>
+    </message>
+    <message>
+        <source>%1: line %2: %3</source>
+        <translation>%1: строка %2: %3</translation>
+    </message>
+    <message>
+        <source>%1: no prefix matches; the configuration's own presets</source>
+        <translation>%1: подходящего префикса нет; готовые профили самой конфигурации</translation>
+    </message>
+    <message>
+        <source>%1: not UTF-8 on standard input</source>
+        <translation>%1: на стандартном вводе не в UTF-8</translation>
+    </message>
+    <message>
+        <source>%1: not an IMSI</source>
+        <translation>%1: не IMSI</translation>
+    </message>
+    <message>
+        <source>%1: prefix %2</source>
+        <translation>%1: префикс %2</translation>
+    </message>
+    <message>
+        <source>%1: standard input holds none</source>
+        <translation>%1: нет на стандартном вводе</translation>
+    </message>
+    <message>
         <source>%1; give a new one with password=</source>
         <translation>%1; задайте новый с помощью password=</translation>
+    </message>
+    <message>
+        <source>%1; it ends with this program, see --hold</source>
+        <translation>%1; завершится вместе с программой, см. --hold</translation>
+    </message>
+    <message>
+        <source>%1; then the card asks for its PUK; --last takes it</source>
+        <translation>%1; потом карта запросит PUK-код; --last использует попытку</translation>
+    </message>
+    <message>
+        <source>%1; then the card is lost; --last takes it</source>
+        <translation>%1; потом карта станет непригодной; --last использует попытку</translation>
+    </message>
+    <message>
+        <source>%1; waits, since the network refused user name or password</source>
+        <translation>%1; ожидает, так как сеть отклонила имя пользователя или пароль</translation>
     </message>
     <message>
         <source>(hidden)</source>
         <translation>(скрыт)</translation>
     </message>
     <message>
-        <source>(simulated modem)</source>
-        <translation>(имитация модема)</translation>
+        <source>--clear takes no modem</source>
+        <translation>с --clear модем не указывается</translation>
+    </message>
+    <message>
+        <source>--json goes with neither --terse nor --fields</source>
+        <translation>--json нельзя сочетать ни с --terse, ни с --fields</translation>
+    </message>
+    <message>
+        <source>--roaming goes with on</source>
+        <translation>--roaming указывается вместе с on</translation>
     </message>
     <message>
         <source>--timeout takes a number of seconds from 1 to 86400</source>
         <translation>--timeout принимает число секунд от 1 до 86400</translation>
     </message>
     <message>
-        <source>; it ends with this program, see --hold</source>
-        <translation>; завершится вместе с программой, см. --hold</translation>
+        <source>Add a profile. password=- reads the password from standard input.</source>
+        <translation>Добавить профиль. password=- читает пароль со стандартного ввода.</translation>
     </message>
     <message>
-        <source>; make one of your own from it: %1</source>
-        <translation>; создайте на его основе свой: %1</translation>
+        <source>All profiles of one's own.</source>
+        <translation>Все свои профили.</translation>
+    </message>
+    <message>
+        <source>Answer (none ends the session): </source>
+        <translation>Ответ (пустой завершит сеанс): </translation>
+    </message>
+    <message>
+        <source>Ask the network for a prepaid card's balance.</source>
+        <translation>Запросить у сети баланс предоплаченной карты.</translation>
+    </message>
+    <message>
+        <source>Change fields of a profile; name=NEW renames it.</source>
+        <translation>Изменить поля профиля; name=НОВОЕ переименует его.</translation>
+    </message>
+    <message>
+        <source>Command-line client of the OrbisDial connection manager.</source>
+        <translation>Управление подключениями OrbisDial из командной строки.</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Команды:</translation>
+    </message>
+    <message>
+        <source>Connect with a profile, or with the default.</source>
+        <translation>Подключиться с указанным профилем или с основным.</translation>
+    </message>
+    <message>
+        <source>Delete profiles: all of them, or none.</source>
+        <translation>Удалить профили: все указанные или ни одного.</translation>
+    </message>
+    <message>
+        <source>End the connection, or give it up.</source>
+        <translation>Завершить подключение или отказаться от него.</translation>
+    </message>
+    <message>
+        <source>Export profiles into a file; others that it holds stay.</source>
+        <translation>Экспортировать профили в файл; остальные в нём сохранятся.</translation>
+    </message>
+    <message>
+        <source>Fields:</source>
+        <translation>Поля:</translation>
     </message>
     <message>
         <source>GID1</source>
@@ -1424,6 +1560,38 @@
         <translation>IMSI</translation>
     </message>
     <message>
+        <source>Import all profiles of a file, or the named ones.</source>
+        <translation>Импортировать все профили из файла или указанные.</translation>
+    </message>
+    <message>
+        <source>Keep the user's profiles in this folder.</source>
+        <translation>Хранить профили пользователя в этой папке.</translation>
+    </message>
+    <message>
+        <source>List all profiles; * marks the default.</source>
+        <translation>Перечислить все профили; * отмечает основной.</translation>
+    </message>
+    <message>
+        <source>List the modems; * marks the one in use.</source>
+        <translation>Перечислить модемы; * отмечает используемый.</translation>
+    </message>
+    <message>
+        <source>New PIN again: </source>
+        <translation>Повторите новый PIN-код: </translation>
+    </message>
+    <message>
+        <source>New PIN: </source>
+        <translation>Новый PIN-код: </translation>
+    </message>
+    <message>
+        <source>PIN (%1): </source>
+        <translation>PIN-код (%1): </translation>
+    </message>
+    <message>
+        <source>PUK (%1): </source>
+        <translation>PUK-код (%1): </translation>
+    </message>
+    <message>
         <source>Password [as stored]: </source>
         <translation>Пароль [сохранённый]: </translation>
     </message>
@@ -1432,12 +1600,188 @@
         <translation>Пароль: </translation>
     </message>
     <message>
+        <source>Replace a file even if it holds something else than profiles.</source>
+        <translation>Заменить файл, даже если в нём не профили.</translation>
+    </message>
+    <message>
+        <source>Replace profiles whose names exist; without it they are skipped.</source>
+        <translation>Заменять профили с уже имеющимися именами; иначе они пропускаются.</translation>
+    </message>
+    <message>
+        <source>Save all profiles of one's own, and the chosen default, in a file.</source>
+        <translation>Сохранить в файл все свои профили и выбранный основной.</translation>
+    </message>
+    <message>
+        <source>See orbisctl COMMAND --help.</source>
+        <translation>См. orbisctl COMMAND --help.</translation>
+    </message>
+    <message>
+        <source>Send a command such as *100# to the network and show its answer.</source>
+        <translation>Отправить в сеть команду, например *100#, и показать ответ.</translation>
+    </message>
+    <message>
+        <source>Show a value of the function configuration, or all.</source>
+        <translation>Показать одно значение конфигурации функций или все.</translation>
+    </message>
+    <message>
+        <source>Show the connection.</source>
+        <translation>Показать подключение.</translation>
+    </message>
+    <message>
+        <source>Show the default profile, or choose it.</source>
+        <translation>Показать основной профиль или выбрать его.</translation>
+    </message>
+    <message>
+        <source>Show the fields of profiles.</source>
+        <translation>Показать поля профилей.</translation>
+    </message>
+    <message>
+        <source>Show the modem in use, or choose one by its key, IMEI or port.</source>
+        <translation>Показать используемый модем или выбрать его по ключу, IMEI или порту.</translation>
+    </message>
+    <message>
+        <source>Show the password too.</source>
+        <translation>Показать и пароль.</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>Показать версию.</translation>
+    </message>
+    <message>
+        <source>Show this help, or that of a command.</source>
+        <translation>Показать эту справку или справку по команде.</translation>
+    </message>
+    <message>
+        <source>Show what the modem and its SIM card report, and the connection.</source>
+        <translation>Показать, что сообщают модем и его SIM-карта, и подключение.</translation>
+    </message>
+    <message>
+        <source>Spend the last attempt, too.</source>
+        <translation>Использовать даже последнюю попытку.</translation>
+    </message>
+    <message>
+        <source>Start from this profile instead of the template for new ones.</source>
+        <translation>Взять за основу этот профиль, а не шаблон для новых.</translation>
+    </message>
+    <message>
+        <source>Stay, and hang up on Ctrl-C.</source>
+        <translation>Остаться и отключиться по Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>Stay, and show each change.</source>
+        <translation>Остаться и показывать каждое изменение.</translation>
+    </message>
+    <message>
+        <source>Take profiles and default from a backup; those of other names stay.</source>
+        <translation>Взять профили и основной из резервной копии; прочие сохранятся.</translation>
+    </message>
+    <message>
+        <source>Take the choice back.</source>
+        <translation>Отменить выбор.</translation>
+    </message>
+    <message>
+        <source>Tell what is wrong with the shipped files, or with these.</source>
+        <translation>Сообщить, что не так с файлами из поставки или с этими.</translation>
+    </message>
+    <message>
+        <source>Tell which presets SIM cards select; - reads IMSIs from standard input.</source>
+        <translation>Сообщить, какие готовые профили выбирают SIM-карты; - читает IMSI со стандартного ввода.</translation>
+    </message>
+    <message>
         <source>This is a simulated modem.</source>
         <translation>Это имитация модема.</translation>
     </message>
     <message>
+        <source>Unlock the SIM card with its PUK and set a new PIN, a line each.</source>
+        <translation>Разблокировать SIM-карту PUK-кодом и задать новый PIN-код, по одному в строке.</translation>
+    </message>
+    <message>
+        <source>Unlock the SIM card; the PIN is asked for, or read from standard input.</source>
+        <translation>Разблокировать SIM-карту; PIN-код запрашивается или читается со стандартного ввода.</translation>
+    </message>
+    <message>
+        <source>Use this modem: %1.</source>
+        <translation>Использовать этот модем: %1.</translation>
+    </message>
+    <message>
         <source>User name [%1]: </source>
         <translation>Имя пользователя [%1]: </translation>
+    </message>
+    <message>
+        <source>Wait no longer than so many seconds.</source>
+        <translation>Ждать не дольше указанного числа секунд.</translation>
+    </message>
+    <message>
+        <source>What the SIM cards call their operator.</source>
+        <translation>Как SIM-карты называют своего оператора.</translation>
+    </message>
+    <message>
+        <source>Whether the window connects with a profile by itself.</source>
+        <translation>Подключается ли окно с профилем само.</translation>
+    </message>
+    <message>
+        <source>While roaming, too.</source>
+        <translation>В том числе в роуминге.</translation>
+    </message>
+    <message>
+        <source>Write results as JSON, one object a line.</source>
+        <translation>Выводить результаты в JSON, по объекту в строке.</translation>
+    </message>
+    <message>
+        <source>Write results as fields between tabs, for scripts.</source>
+        <translation>Выводить результаты полями через табуляцию, для скриптов.</translation>
+    </message>
+    <message>
+        <source>Write these fields only, in this order; their names are those of --json.</source>
+        <translation>Выводить только эти поля в этом порядке; имена те же, что в --json.</translation>
+    </message>
+    <message>
+        <source>Write traces to standard error.</source>
+        <translation>Писать трассировку в стандартный вывод ошибок.</translation>
+    </message>
+    <message>
+        <source>a PIN has 4 to 8 digits</source>
+        <translation>в PIN-коде от 4 до 8 цифр</translation>
+    </message>
+    <message>
+        <source>a PUK has 8 digits</source>
+        <translation>в PUK-коде 8 цифр</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>имя не должно содержать управляющих символов</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>профилю нужно имя</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>профилю нужен номер дозвона, например phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an IPv4 address, or nothing</source>
+        <translation>IPv4-адрес или ничего</translation>
+    </message>
+    <message>
+        <source>an argument is not FIELD=VALUE; fields: %1</source>
+        <translation>аргумент не вида ПОЛЕ=ЗНАЧЕНИЕ; поля: %1</translation>
+    </message>
+    <message>
+        <source>an option's value is empty</source>
+        <translation>значение параметра пустое</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: должен начинаться и заканчиваться буквой или цифрой</translation>
+    </message>
+    <message>
+        <source>argument %1 is not UTF-8</source>
+        <translation>аргумент %1 не в UTF-8</translation>
+    </message>
+    <message>
+        <source>attempts left: %1</source>
+        <translation>осталось попыток: %1</translation>
     </message>
     <message>
         <source>attempts to unlock</source>
@@ -1450,6 +1794,10 @@
     <message>
         <source>backend</source>
         <translation>серверная часть</translation>
+    </message>
+    <message>
+        <source>by the card's operator name %1: %2</source>
+        <translation>по имени оператора на карте, %1: %2</translation>
     </message>
     <message>
         <source>can't be dialled with</source>
@@ -1470,6 +1818,18 @@
     <message>
         <source>chosen</source>
         <translation>выбран</translation>
+    </message>
+    <message>
+        <source>chosen, not plugged in</source>
+        <translation>выбран, не подключён</translation>
+    </message>
+    <message>
+        <source>complete is for the shells' completions</source>
+        <translation>complete служит для автодополнения в оболочках</translation>
+    </message>
+    <message>
+        <source>config takes one key; see config --check</source>
+        <translation>config принимает один ключ; см. config --check</translation>
     </message>
     <message>
         <source>connected: %1</source>
@@ -1532,12 +1892,24 @@
         <translation>домашняя сеть</translation>
     </message>
     <message>
+        <source>how %1 tells a balance is not known; see orbisctl ussd CODE</source>
+        <translation>как %1 сообщает баланс, неизвестно; см. orbisctl ussd CODE</translation>
+    </message>
+    <message>
+        <source>how many attempts are left is not known</source>
+        <translation>число оставшихся попыток неизвестно</translation>
+    </message>
+    <message>
         <source>idle</source>
         <translation>не ведётся</translation>
     </message>
     <message>
         <source>imported %1</source>
         <translation>%1 импортирован</translation>
+    </message>
+    <message>
+        <source>letters, digits, dots and hyphens</source>
+        <translation>буквы, цифры, точки и дефисы</translation>
     </message>
     <message>
         <source>lock</source>
@@ -1568,12 +1940,20 @@
         <translation>многорежимная карта</translation>
     </message>
     <message>
+        <source>neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE</source>
+        <translation>ни по профилю, ни по SIM-карте оператора не узнать; см. orbisctl ussd CODE</translation>
+    </message>
+    <message>
         <source>network</source>
         <translation>сеть</translation>
     </message>
     <message>
         <source>network's code</source>
         <translation>код сети</translation>
+    </message>
+    <message>
+        <source>new name</source>
+        <translation>новое имя</translation>
     </message>
     <message>
         <source>no</source>
@@ -1586,6 +1966,14 @@
     <message>
         <source>no connection in time</source>
         <translation>нет подключения за отведённое время</translation>
+    </message>
+    <message>
+        <source>no event counter can be had: %1</source>
+        <translation>не удаётся получить счётчик событий: %1</translation>
+    </message>
+    <message>
+        <source>no temporary folder: %1</source>
+        <translation>нет временной папки: %1</translation>
     </message>
     <message>
         <source>no-modem</source>
@@ -1616,16 +2004,52 @@
         <translation>сведений о подключениях получить неоткуда</translation>
     </message>
     <message>
+        <source>nothing can tell which modem is in use</source>
+        <translation>неоткуда узнать, какой модем используется</translation>
+    </message>
+    <message>
+        <source>nothing can tell which modems there are</source>
+        <translation>неоткуда узнать, какие есть модемы</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>из %1 ничего не импортировано</translation>
+    </message>
+    <message>
+        <source>nothing was sent: %1 tells a balance by message or phone alone</source>
+        <translation>ничего не отправлено: %1 сообщает баланс только по SMS или телефону</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выключено</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>включено</translation>
+    </message>
+    <message>
+        <source>on, roaming too</source>
+        <translation>включено, в том числе в роуминге</translation>
     </message>
     <message>
         <source>other</source>
         <translation>другая</translation>
     </message>
     <message>
+        <source>others can read a password on the command line in the list of processes; use password=-</source>
+        <translation>пароль из командной строки видно другим в списке процессов; используйте password=-</translation>
+    </message>
+    <message>
         <source>own number</source>
         <translation>свой номер</translation>
+    </message>
+    <message>
+        <source>password</source>
+        <translation>пароль</translation>
+    </message>
+    <message>
+        <source>password: only Latin-1 characters can be stored sealed</source>
+        <translation>password: в зашифрованном виде хранятся только символы Latin-1</translation>
     </message>
     <message>
         <source>pin</source>
@@ -1644,8 +2068,20 @@
         <translation>готовый</translation>
     </message>
     <message>
+        <source>preset, default</source>
+        <translation>готовый, основной</translation>
+    </message>
+    <message>
         <source>product type (1 is CDMA)</source>
         <translation>тип устройства (1 — CDMA)</translation>
+    </message>
+    <message>
+        <source>profiles restored: %1</source>
+        <translation>профилей восстановлено: %1</translation>
+    </message>
+    <message>
+        <source>profiles saved to %1: %2</source>
+        <translation>профилей сохранено в %1: %2</translation>
     </message>
     <message>
         <source>proposed default</source>
@@ -1680,6 +2116,10 @@
         <translation>%1 без изменений</translation>
     </message>
     <message>
+        <source>say on or off, not %1</source>
+        <translation>укажите on или off, а не %1</translation>
+    </message>
+    <message>
         <source>searching</source>
         <translation>поиск</translation>
     </message>
@@ -1690,6 +2130,14 @@
     <message>
         <source>skipped  %1 (exists; see --replace)</source>
         <translation>%1 пропущен (уже есть; см. --replace)</translation>
+    </message>
+    <message>
+        <source>standard input can't be read</source>
+        <translation>не удаётся прочитать стандартный ввод</translation>
+    </message>
+    <message>
+        <source>standard input can't be read: %1</source>
+        <translation>не удаётся прочитать стандартный ввод: %1</translation>
     </message>
     <message>
         <source>starting</source>
@@ -1724,6 +2172,50 @@
         <translation>технология</translation>
     </message>
     <message>
+        <source>text</source>
+        <translation>текст</translation>
+    </message>
+    <message>
+        <source>the backup can't be read</source>
+        <translation>резервную копию нельзя прочитать</translation>
+    </message>
+    <message>
+        <source>the card asks for its %1; see orbisctl %2</source>
+        <translation>карта запрашивает %1-код; см. orbisctl %2</translation>
+    </message>
+    <message>
+        <source>the card asks for no %1</source>
+        <translation>карта не запрашивает %1-код</translation>
+    </message>
+    <message>
+        <source>the card can't be unlocked</source>
+        <translation>карту нельзя разблокировать</translation>
+    </message>
+    <message>
+        <source>the card does not answer; whether it took the code is not known</source>
+        <translation>карта не отвечает; принят ли код, неизвестно</translation>
+    </message>
+    <message>
+        <source>the card is locked in a way that neither PIN nor PUK opens</source>
+        <translation>карта заблокирована так, что ни PIN-, ни PUK-код не поможет</translation>
+    </message>
+    <message>
+        <source>the card is unlocked</source>
+        <translation>карта разблокирована</translation>
+    </message>
+    <message>
+        <source>the card takes no code now</source>
+        <translation>карта сейчас не принимает код</translation>
+    </message>
+    <message>
+        <source>the card's operator name %1 tells none of these</source>
+        <translation>по имени оператора на карте, %1, ни один не выбран</translation>
+    </message>
+    <message>
+        <source>the choice can't be kept in the settings</source>
+        <translation>выбор нельзя сохранить в настройках</translation>
+    </message>
+    <message>
         <source>the configuration customised for %1 leaves no presets by IMSI</source>
         <translation>в конфигурации для %1 нет готовых профилей по IMSI</translation>
     </message>
@@ -1748,20 +2240,56 @@
         <translation>подключение завершено другой программой</translation>
     </message>
     <message>
+        <source>the data folder %1 can't be made or entered</source>
+        <translation>папку данных %1 нельзя создать или открыть</translation>
+    </message>
+    <message>
+        <source>the data folder %1 is not a folder</source>
+        <translation>папка данных %1 — не папка</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>нельзя отменить выбор основного профиля</translation>
+    </message>
+    <message>
+        <source>the default can't be restored</source>
+        <translation>нельзя восстановить выбор основного профиля</translation>
     </message>
     <message>
         <source>the default can't be set</source>
         <translation>нельзя назначить основной профиль</translation>
     </message>
     <message>
+        <source>the field %1 is given twice</source>
+        <translation>поле %1 указано дважды</translation>
+    </message>
+    <message>
         <source>the file can't be imported</source>
         <translation>файл нельзя импортировать</translation>
     </message>
     <message>
+        <source>the file's name is empty</source>
+        <translation>имя файла пустое</translation>
+    </message>
+    <message>
+        <source>the modem does not answer</source>
+        <translation>модем не отвечает</translation>
+    </message>
+    <message>
+        <source>the modem is not ready for a command, or another one is under way</source>
+        <translation>модем не готов к команде, или выполняется другая</translation>
+    </message>
+    <message>
+        <source>the modem's backend can't be had</source>
+        <translation>серверная часть модема недоступна</translation>
+    </message>
+    <message>
         <source>the name is empty; see default --clear</source>
         <translation>имя пустое; см. default --clear</translation>
+    </message>
+    <message>
+        <source>the network did not answer in time</source>
+        <translation>сеть не ответила вовремя</translation>
     </message>
     <message>
         <source>the new profile's name is the first argument</source>
@@ -1785,7 +2313,7 @@
     </message>
     <message>
         <source>the profile library does not hold the preset %1</source>
-        <translation>в библиотеке нет готового профиля %1</translation>
+        <translation>в библиотеке профилей нет готового профиля %1</translation>
     </message>
     <message>
         <source>the profiles can't be changed</source>
@@ -1804,12 +2332,28 @@
         <translation>профили нельзя перечислить</translation>
     </message>
     <message>
+        <source>the profiles can't be restored</source>
+        <translation>профили нельзя восстановить</translation>
+    </message>
+    <message>
         <source>the profiles can't be stored</source>
         <translation>профили нельзя сохранить</translation>
     </message>
     <message>
+        <source>the session has ended</source>
+        <translation>сеанс завершён</translation>
+    </message>
+    <message>
+        <source>the settings can't be stored</source>
+        <translation>настройки нельзя сохранить</translation>
+    </message>
+    <message>
         <source>the settings of automatic connection can't be stored</source>
         <translation>настройки автоматического подключения нельзя сохранить</translation>
+    </message>
+    <message>
+        <source>the two PINs differ</source>
+        <translation>PIN-коды не совпадают</translation>
     </message>
     <message>
         <source>there are no profiles %1</source>
@@ -1820,12 +2364,28 @@
         <translation>профиль %1 уже есть</translation>
     </message>
     <message>
+        <source>there is no SIM card</source>
+        <translation>SIM-карты нет</translation>
+    </message>
+    <message>
         <source>there is no configuration key %1</source>
         <translation>нет ключа конфигурации %1</translation>
     </message>
     <message>
         <source>there is no default profile; name one: orbisctl connect NAME</source>
         <translation>основной профиль не задан; укажите имя: orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no field %1; there are: %2</source>
+        <translation>нет поля %1; есть: %2</translation>
+    </message>
+    <message>
+        <source>there is no modem</source>
+        <translation>модема нет</translation>
+    </message>
+    <message>
+        <source>there is no modem %1; see orbisctl modems</source>
+        <translation>нет модема %1; см. orbisctl modems</translation>
     </message>
     <message>
         <source>there is no profile %1</source>
@@ -1836,12 +2396,24 @@
         <translation>нет ни одного своего профиля</translation>
     </message>
     <message>
+        <source>this user may not unlock the card</source>
+        <translation>у этого пользователя нет прав разблокировать карту</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true или false</translation>
+    </message>
+    <message>
         <source>unknown</source>
         <translation>неизвестно</translation>
     </message>
     <message>
         <source>unknown command %1; see orbisctl --help</source>
         <translation>неизвестная команда %1; см. orbisctl --help</translation>
+    </message>
+    <message>
+        <source>unknown device %1; use one of %2</source>
+        <translation>неизвестное устройство %1; возможны: %2</translation>
     </message>
     <message>
         <source>usage: %1</source>
@@ -1852,8 +2424,28 @@
         <translation>свой</translation>
     </message>
     <message>
+        <source>user name</source>
+        <translation>имя пользователя</translation>
+    </message>
+    <message>
+        <source>user, default</source>
+        <translation>свой, основной</translation>
+    </message>
+    <message>
         <source>warning: %1</source>
         <translation>предупреждение: %1</translation>
+    </message>
+    <message>
+        <source>wrong %1: %2</source>
+        <translation>неверный %1-код: %2</translation>
+    </message>
+    <message>
+        <source>wrong %1: nothing opens the card any more</source>
+        <translation>неверный %1-код: карту больше ничем не разблокировать</translation>
+    </message>
+    <message>
+        <source>wrong %1: the card now asks for its PUK</source>
+        <translation>неверный %1-код: теперь карта запрашивает PUK-код</translation>
     </message>
     <message>
         <source>yes</source>

@@ -1348,12 +1348,24 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
 <context>
     <name>orbisctl</name>
     <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
         <source>%1 (chosen by the user)</source>
         <translation>%1（用户选定）</translation>
     </message>
     <message>
         <source>%1 (proposed by the configuration)</source>
         <translation>%1（配置建议）</translation>
+    </message>
+    <message>
+        <source>%1 (simulated modem)</source>
+        <translation>%1（模拟调制解调器）</translation>
+    </message>
+    <message>
+        <source>%1 Put -- before a name that begins with a hyphen.</source>
+        <translation>%1 名称以连字符开头时，请在其前面加上 --。</translation>
     </message>
     <message>
         <source>%1 bytes received, %2 sent</source>
@@ -1364,20 +1376,48 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>%1 中没有配置文件 %2</translation>
     </message>
     <message>
-        <source>%1 is a preset</source>
-        <translation>%1 是预设</translation>
+        <source>%1 is a preset; make one of your own from it: %2</source>
+        <translation>%1 是预设；请由它新建自己的配置文件：%2</translation>
     </message>
     <message>
         <source>%1 is connected; see orbisctl disconnect</source>
         <translation>%1 已连接；参见 orbisctl disconnect</translation>
     </message>
     <message>
-        <source>%1 is read-only</source>
-        <translation>%1 为只读</translation>
+        <source>%1 is no field to set; fields: %2</source>
+        <translation>%1 不是可设置的字段；字段：%2</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; make one of your own from it: %2</source>
+        <translation>%1 为只读；请由它新建自己的配置文件：%2</translation>
     </message>
     <message>
         <source>%1 may be more than one command: %2</source>
         <translation>%1 可能是多个命令：%2</translation>
+    </message>
+    <message>
+        <source>%1 names a modem, and counts before the choice</source>
+        <translation>%1 指定了调制解调器，优先于此选择</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were no IMSI, which has 5 to 15 digits</source>
+        <translation>%2 个中有 %1 个不是 IMSI（IMSI 为 5 到 15 位数字）</translation>
+    </message>
+    <message>
+        <source>%1, %2:</source>
+        <translation>%1，%2：</translation>
+    </message>
+    <message>
+        <source>%1, at most %2 characters</source>
+        <translation>%1，最多 %2 个字符</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: can't be written: %2</source>
+        <translation>%1：无法写入：%2</translation>
     </message>
     <message>
         <source>%1: does not exist</source>
@@ -1388,28 +1428,124 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>%1：没有新配置文件的模板；参见 --like</translation>
     </message>
     <message>
+        <source>%1: is no profile file; --force replaces it</source>
+        <translation>%1：不存放连接配置；--force 可替换它</translation>
+    </message>
+    <message>
+        <source>%1: is the user's profile file itself</source>
+        <translation>%1：这就是用户的配置文件库本身</translation>
+    </message>
+    <message>
+        <source>%1: line %2: %3</source>
+        <translation>%1：第 %2 行：%3</translation>
+    </message>
+    <message>
+        <source>%1: no prefix matches; the configuration's own presets</source>
+        <translation>%1：没有匹配的前缀；使用配置自身的预设</translation>
+    </message>
+    <message>
+        <source>%1: not UTF-8 on standard input</source>
+        <translation>%1：标准输入中的内容不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>%1: not an IMSI</source>
+        <translation>%1：不是 IMSI</translation>
+    </message>
+    <message>
+        <source>%1: prefix %2</source>
+        <translation>%1：前缀 %2</translation>
+    </message>
+    <message>
+        <source>%1: standard input holds none</source>
+        <translation>%1：标准输入中没有</translation>
+    </message>
+    <message>
         <source>%1; give a new one with password=</source>
         <translation>%1；请用 password= 指定新密码</translation>
+    </message>
+    <message>
+        <source>%1; it ends with this program, see --hold</source>
+        <translation>%1；它随本程序结束，参见 --hold</translation>
+    </message>
+    <message>
+        <source>%1; then the card asks for its PUK; --last takes it</source>
+        <translation>%1；之后卡会要求输入 PUK 码；用 --last 使用这次尝试</translation>
+    </message>
+    <message>
+        <source>%1; then the card is lost; --last takes it</source>
+        <translation>%1；之后卡将永久失效；用 --last 使用这次尝试</translation>
+    </message>
+    <message>
+        <source>%1; waits, since the network refused user name or password</source>
+        <translation>%1；正在等待，因为网络拒绝了用户名或密码</translation>
     </message>
     <message>
         <source>(hidden)</source>
         <translation>（已隐藏）</translation>
     </message>
     <message>
-        <source>(simulated modem)</source>
-        <translation>(模拟调制解调器)</translation>
+        <source>--clear takes no modem</source>
+        <translation>--clear 不带调制解调器</translation>
+    </message>
+    <message>
+        <source>--json goes with neither --terse nor --fields</source>
+        <translation>--json 不能与 --terse 或 --fields 同时使用</translation>
+    </message>
+    <message>
+        <source>--roaming goes with on</source>
+        <translation>--roaming 只能与 on 一起使用</translation>
     </message>
     <message>
         <source>--timeout takes a number of seconds from 1 to 86400</source>
         <translation>--timeout 需要 1 到 86400 之间的秒数</translation>
     </message>
     <message>
-        <source>; it ends with this program, see --hold</source>
-        <translation>；它随本程序结束，参见 --hold</translation>
+        <source>Add a profile. password=- reads the password from standard input.</source>
+        <translation>添加配置文件。password=- 从标准输入读取密码。</translation>
     </message>
     <message>
-        <source>; make one of your own from it: %1</source>
-        <translation>；请由它新建自己的配置文件：%1</translation>
+        <source>All profiles of one's own.</source>
+        <translation>所有自定义配置文件。</translation>
+    </message>
+    <message>
+        <source>Answer (none ends the session): </source>
+        <translation>回复（留空则结束会话）：</translation>
+    </message>
+    <message>
+        <source>Ask the network for a prepaid card's balance.</source>
+        <translation>向网络查询预付费卡的余额。</translation>
+    </message>
+    <message>
+        <source>Change fields of a profile; name=NEW renames it.</source>
+        <translation>更改配置文件的字段；name=新名称 可重命名。</translation>
+    </message>
+    <message>
+        <source>Command-line client of the OrbisDial connection manager.</source>
+        <translation>OrbisDial 连接管理器的命令行客户端。</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>命令：</translation>
+    </message>
+    <message>
+        <source>Connect with a profile, or with the default.</source>
+        <translation>使用某个配置文件或默认配置文件连接。</translation>
+    </message>
+    <message>
+        <source>Delete profiles: all of them, or none.</source>
+        <translation>删除配置文件：全部删除或一个都不删。</translation>
+    </message>
+    <message>
+        <source>End the connection, or give it up.</source>
+        <translation>断开连接或放弃连接。</translation>
+    </message>
+    <message>
+        <source>Export profiles into a file; others that it holds stay.</source>
+        <translation>将配置文件导出到文件；其中的其他配置文件保留。</translation>
+    </message>
+    <message>
+        <source>Fields:</source>
+        <translation>字段：</translation>
     </message>
     <message>
         <source>GID1</source>
@@ -1424,6 +1560,38 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>IMSI</translation>
     </message>
     <message>
+        <source>Import all profiles of a file, or the named ones.</source>
+        <translation>导入文件中的全部或指定的配置文件。</translation>
+    </message>
+    <message>
+        <source>Keep the user's profiles in this folder.</source>
+        <translation>将用户的配置文件保存在此文件夹中。</translation>
+    </message>
+    <message>
+        <source>List all profiles; * marks the default.</source>
+        <translation>列出所有配置文件；* 表示默认。</translation>
+    </message>
+    <message>
+        <source>List the modems; * marks the one in use.</source>
+        <translation>列出调制解调器；* 表示正在使用。</translation>
+    </message>
+    <message>
+        <source>New PIN again: </source>
+        <translation>再次输入新 PIN 码：</translation>
+    </message>
+    <message>
+        <source>New PIN: </source>
+        <translation>新 PIN 码：</translation>
+    </message>
+    <message>
+        <source>PIN (%1): </source>
+        <translation>PIN 码（%1）：</translation>
+    </message>
+    <message>
+        <source>PUK (%1): </source>
+        <translation>PUK 码（%1）：</translation>
+    </message>
+    <message>
         <source>Password [as stored]: </source>
         <translation>密码 [已保存的]：</translation>
     </message>
@@ -1432,12 +1600,188 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>密码：</translation>
     </message>
     <message>
+        <source>Replace a file even if it holds something else than profiles.</source>
+        <translation>即使文件中不是配置文件也替换。</translation>
+    </message>
+    <message>
+        <source>Replace profiles whose names exist; without it they are skipped.</source>
+        <translation>替换同名的配置文件；否则跳过它们。</translation>
+    </message>
+    <message>
+        <source>Save all profiles of one's own, and the chosen default, in a file.</source>
+        <translation>将所有自定义配置文件和所选默认项保存到文件。</translation>
+    </message>
+    <message>
+        <source>See orbisctl COMMAND --help.</source>
+        <translation>参见 orbisctl COMMAND --help。</translation>
+    </message>
+    <message>
+        <source>Send a command such as *100# to the network and show its answer.</source>
+        <translation>向网络发送 *100# 之类的代码并显示应答。</translation>
+    </message>
+    <message>
+        <source>Show a value of the function configuration, or all.</source>
+        <translation>显示功能配置的某个值或全部。</translation>
+    </message>
+    <message>
+        <source>Show the connection.</source>
+        <translation>显示连接。</translation>
+    </message>
+    <message>
+        <source>Show the default profile, or choose it.</source>
+        <translation>显示或选择默认配置文件。</translation>
+    </message>
+    <message>
+        <source>Show the fields of profiles.</source>
+        <translation>显示配置文件的字段。</translation>
+    </message>
+    <message>
+        <source>Show the modem in use, or choose one by its key, IMEI or port.</source>
+        <translation>显示正在使用的调制解调器，或按键值、IMEI 或端口选择。</translation>
+    </message>
+    <message>
+        <source>Show the password too.</source>
+        <translation>同时显示密码。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Show this help, or that of a command.</source>
+        <translation>显示此帮助或某个命令的帮助。</translation>
+    </message>
+    <message>
+        <source>Show what the modem and its SIM card report, and the connection.</source>
+        <translation>显示调制解调器和 SIM 卡报告的信息以及连接。</translation>
+    </message>
+    <message>
+        <source>Spend the last attempt, too.</source>
+        <translation>最后一次尝试也可使用。</translation>
+    </message>
+    <message>
+        <source>Start from this profile instead of the template for new ones.</source>
+        <translation>以此配置文件为基础，而不用新配置文件的模板。</translation>
+    </message>
+    <message>
+        <source>Stay, and hang up on Ctrl-C.</source>
+        <translation>保持运行，按 Ctrl-C 时断开。</translation>
+    </message>
+    <message>
+        <source>Stay, and show each change.</source>
+        <translation>保持运行，显示每次变化。</translation>
+    </message>
+    <message>
+        <source>Take profiles and default from a backup; those of other names stay.</source>
+        <translation>从备份取回配置文件和默认项；其他名称的保留。</translation>
+    </message>
+    <message>
+        <source>Take the choice back.</source>
+        <translation>取消所做的选择。</translation>
+    </message>
+    <message>
+        <source>Tell what is wrong with the shipped files, or with these.</source>
+        <translation>指出随附文件或这些文件中的错误。</translation>
+    </message>
+    <message>
+        <source>Tell which presets SIM cards select; - reads IMSIs from standard input.</source>
+        <translation>说明 SIM 卡会选定哪些预设；- 从标准输入读取 IMSI。</translation>
+    </message>
+    <message>
         <source>This is a simulated modem.</source>
         <translation>这是模拟调制解调器。</translation>
     </message>
     <message>
+        <source>Unlock the SIM card with its PUK and set a new PIN, a line each.</source>
+        <translation>用 PUK 码解锁 SIM 卡并设置新 PIN 码，各占一行。</translation>
+    </message>
+    <message>
+        <source>Unlock the SIM card; the PIN is asked for, or read from standard input.</source>
+        <translation>解锁 SIM 卡；PIN 码会询问，或从标准输入读取。</translation>
+    </message>
+    <message>
+        <source>Use this modem: %1.</source>
+        <translation>使用此调制解调器：%1。</translation>
+    </message>
+    <message>
         <source>User name [%1]: </source>
         <translation>用户名 [%1]：</translation>
+    </message>
+    <message>
+        <source>Wait no longer than so many seconds.</source>
+        <translation>最多等待这么多秒。</translation>
+    </message>
+    <message>
+        <source>What the SIM cards call their operator.</source>
+        <translation>SIM 卡对其运营商的称呼。</translation>
+    </message>
+    <message>
+        <source>Whether the window connects with a profile by itself.</source>
+        <translation>窗口是否自动使用某个配置文件连接。</translation>
+    </message>
+    <message>
+        <source>While roaming, too.</source>
+        <translation>漫游时也连接。</translation>
+    </message>
+    <message>
+        <source>Write results as JSON, one object a line.</source>
+        <translation>以 JSON 输出结果，每行一个对象。</translation>
+    </message>
+    <message>
+        <source>Write results as fields between tabs, for scripts.</source>
+        <translation>以制表符分隔的字段输出结果，供脚本使用。</translation>
+    </message>
+    <message>
+        <source>Write these fields only, in this order; their names are those of --json.</source>
+        <translation>只按此顺序输出这些字段；名称与 --json 相同。</translation>
+    </message>
+    <message>
+        <source>Write traces to standard error.</source>
+        <translation>将跟踪信息写到标准错误输出。</translation>
+    </message>
+    <message>
+        <source>a PIN has 4 to 8 digits</source>
+        <translation>PIN 码为 4 到 8 位数字</translation>
+    </message>
+    <message>
+        <source>a PUK has 8 digits</source>
+        <translation>PUK 码为 8 位数字</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>名称不能包含控制字符</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>配置文件需要名称</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>配置文件需要接入号码，例如 phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an IPv4 address, or nothing</source>
+        <translation>IPv4 地址或留空</translation>
+    </message>
+    <message>
+        <source>an argument is not FIELD=VALUE; fields: %1</source>
+        <translation>有参数不是 字段=值 的形式；字段：%1</translation>
+    </message>
+    <message>
+        <source>an option's value is empty</source>
+        <translation>选项的值为空</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn：必须以字母或数字开头和结尾</translation>
+    </message>
+    <message>
+        <source>argument %1 is not UTF-8</source>
+        <translation>第 %1 个参数不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>attempts left: %1</source>
+        <translation>剩余尝试次数：%1</translation>
     </message>
     <message>
         <source>attempts to unlock</source>
@@ -1450,6 +1794,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>backend</source>
         <translation>后端</translation>
+    </message>
+    <message>
+        <source>by the card's operator name %1: %2</source>
+        <translation>按卡的运营商名称 %1：%2</translation>
     </message>
     <message>
         <source>can't be dialled with</source>
@@ -1470,6 +1818,18 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>chosen</source>
         <translation>已选择</translation>
+    </message>
+    <message>
+        <source>chosen, not plugged in</source>
+        <translation>已选择，未插入</translation>
+    </message>
+    <message>
+        <source>complete is for the shells' completions</source>
+        <translation>complete 供 shell 的自动补全使用</translation>
+    </message>
+    <message>
+        <source>config takes one key; see config --check</source>
+        <translation>config 只带一个键；参见 config --check</translation>
     </message>
     <message>
         <source>connected: %1</source>
@@ -1532,12 +1892,24 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>归属网络</translation>
     </message>
     <message>
+        <source>how %1 tells a balance is not known; see orbisctl ussd CODE</source>
+        <translation>不知道 %1 如何告知余额；参见 orbisctl ussd CODE</translation>
+    </message>
+    <message>
+        <source>how many attempts are left is not known</source>
+        <translation>剩余尝试次数未知</translation>
+    </message>
+    <message>
         <source>idle</source>
         <translation>空闲</translation>
     </message>
     <message>
         <source>imported %1</source>
         <translation>已导入 %1</translation>
+    </message>
+    <message>
+        <source>letters, digits, dots and hyphens</source>
+        <translation>字母、数字、点和连字符</translation>
     </message>
     <message>
         <source>lock</source>
@@ -1568,12 +1940,20 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>多模卡</translation>
     </message>
     <message>
+        <source>neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE</source>
+        <translation>从配置文件和 SIM 卡都无法得知运营商；参见 orbisctl ussd CODE</translation>
+    </message>
+    <message>
         <source>network</source>
         <translation>网络</translation>
     </message>
     <message>
         <source>network's code</source>
         <translation>网络代码</translation>
+    </message>
+    <message>
+        <source>new name</source>
+        <translation>新名称</translation>
     </message>
     <message>
         <source>no</source>
@@ -1586,6 +1966,14 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>no connection in time</source>
         <translation>未能及时建立连接</translation>
+    </message>
+    <message>
+        <source>no event counter can be had: %1</source>
+        <translation>无法获得事件计数器：%1</translation>
+    </message>
+    <message>
+        <source>no temporary folder: %1</source>
+        <translation>没有临时文件夹：%1</translation>
     </message>
     <message>
         <source>no-modem</source>
@@ -1616,16 +2004,52 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>无法获得连接信息</translation>
     </message>
     <message>
+        <source>nothing can tell which modem is in use</source>
+        <translation>无法得知正在使用哪个调制解调器</translation>
+    </message>
+    <message>
+        <source>nothing can tell which modems there are</source>
+        <translation>无法得知有哪些调制解调器</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>没有从 %1 导入任何内容</translation>
+    </message>
+    <message>
+        <source>nothing was sent: %1 tells a balance by message or phone alone</source>
+        <translation>未发送任何内容：%1 只通过短信或电话告知余额</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>on, roaming too</source>
+        <translation>开，漫游时也自动连接</translation>
     </message>
     <message>
         <source>other</source>
         <translation>其他</translation>
     </message>
     <message>
+        <source>others can read a password on the command line in the list of processes; use password=-</source>
+        <translation>命令行上的密码会被他人在进程列表中看到；请使用 password=-</translation>
+    </message>
+    <message>
         <source>own number</source>
         <translation>本机号码</translation>
+    </message>
+    <message>
+        <source>password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>password: only Latin-1 characters can be stored sealed</source>
+        <translation>password：只有 Latin-1 字符才能加密保存</translation>
     </message>
     <message>
         <source>pin</source>
@@ -1644,8 +2068,20 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>预设</translation>
     </message>
     <message>
+        <source>preset, default</source>
+        <translation>预设，默认</translation>
+    </message>
+    <message>
         <source>product type (1 is CDMA)</source>
         <translation>产品类型（1 为 CDMA）</translation>
+    </message>
+    <message>
+        <source>profiles restored: %1</source>
+        <translation>已恢复的配置文件数：%1</translation>
+    </message>
+    <message>
+        <source>profiles saved to %1: %2</source>
+        <translation>已保存到 %1 的配置文件数：%2</translation>
     </message>
     <message>
         <source>proposed default</source>
@@ -1680,6 +2116,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>%1 未变</translation>
     </message>
     <message>
+        <source>say on or off, not %1</source>
+        <translation>请指定 on 或 off，而不是 %1</translation>
+    </message>
+    <message>
         <source>searching</source>
         <translation>正在搜索</translation>
     </message>
@@ -1690,6 +2130,14 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>skipped  %1 (exists; see --replace)</source>
         <translation>已跳过 %1（已存在；参见 --replace）</translation>
+    </message>
+    <message>
+        <source>standard input can't be read</source>
+        <translation>无法读取标准输入</translation>
+    </message>
+    <message>
+        <source>standard input can't be read: %1</source>
+        <translation>无法读取标准输入：%1</translation>
     </message>
     <message>
         <source>starting</source>
@@ -1717,11 +2165,55 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     </message>
     <message>
         <source>takes USSD commands</source>
-        <translation>支持 USSD 命令</translation>
+        <translation>支持 USSD 代码</translation>
     </message>
     <message>
         <source>technology</source>
         <translation>技术</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>the backup can't be read</source>
+        <translation>无法读取备份</translation>
+    </message>
+    <message>
+        <source>the card asks for its %1; see orbisctl %2</source>
+        <translation>卡需要 %1 码；参见 orbisctl %2</translation>
+    </message>
+    <message>
+        <source>the card asks for no %1</source>
+        <translation>卡不需要 %1 码</translation>
+    </message>
+    <message>
+        <source>the card can't be unlocked</source>
+        <translation>无法解锁卡</translation>
+    </message>
+    <message>
+        <source>the card does not answer; whether it took the code is not known</source>
+        <translation>卡没有应答；不知道它是否接受了该码</translation>
+    </message>
+    <message>
+        <source>the card is locked in a way that neither PIN nor PUK opens</source>
+        <translation>卡的锁定无法用 PIN 码或 PUK 码解除</translation>
+    </message>
+    <message>
+        <source>the card is unlocked</source>
+        <translation>卡已解锁</translation>
+    </message>
+    <message>
+        <source>the card takes no code now</source>
+        <translation>卡现在不接受该码</translation>
+    </message>
+    <message>
+        <source>the card's operator name %1 tells none of these</source>
+        <translation>卡的运营商名称 %1 与这些都不符</translation>
+    </message>
+    <message>
+        <source>the choice can't be kept in the settings</source>
+        <translation>无法将此选择保存到设置中</translation>
     </message>
     <message>
         <source>the configuration customised for %1 leaves no presets by IMSI</source>
@@ -1748,20 +2240,56 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>连接已在别处断开</translation>
     </message>
     <message>
+        <source>the data folder %1 can't be made or entered</source>
+        <translation>无法创建或进入数据文件夹 %1</translation>
+    </message>
+    <message>
+        <source>the data folder %1 is not a folder</source>
+        <translation>数据文件夹 %1 不是文件夹</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>无法清除默认配置文件</translation>
+    </message>
+    <message>
+        <source>the default can't be restored</source>
+        <translation>无法恢复默认配置文件</translation>
     </message>
     <message>
         <source>the default can't be set</source>
         <translation>无法设置默认配置文件</translation>
     </message>
     <message>
+        <source>the field %1 is given twice</source>
+        <translation>字段 %1 指定了两次</translation>
+    </message>
+    <message>
         <source>the file can't be imported</source>
         <translation>无法导入文件</translation>
     </message>
     <message>
+        <source>the file's name is empty</source>
+        <translation>文件名为空</translation>
+    </message>
+    <message>
+        <source>the modem does not answer</source>
+        <translation>调制解调器没有应答</translation>
+    </message>
+    <message>
+        <source>the modem is not ready for a command, or another one is under way</source>
+        <translation>调制解调器尚不能接受代码，或另一个代码正在处理</translation>
+    </message>
+    <message>
+        <source>the modem's backend can't be had</source>
+        <translation>调制解调器后端不可用</translation>
+    </message>
+    <message>
         <source>the name is empty; see default --clear</source>
         <translation>名称为空；参见 default --clear</translation>
+    </message>
+    <message>
+        <source>the network did not answer in time</source>
+        <translation>网络未及时应答</translation>
     </message>
     <message>
         <source>the new profile's name is the first argument</source>
@@ -1804,12 +2332,28 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>无法列出配置文件</translation>
     </message>
     <message>
+        <source>the profiles can't be restored</source>
+        <translation>无法恢复配置文件</translation>
+    </message>
+    <message>
         <source>the profiles can't be stored</source>
         <translation>无法保存配置文件</translation>
     </message>
     <message>
+        <source>the session has ended</source>
+        <translation>会话已结束</translation>
+    </message>
+    <message>
+        <source>the settings can't be stored</source>
+        <translation>无法保存设置</translation>
+    </message>
+    <message>
         <source>the settings of automatic connection can't be stored</source>
         <translation>无法保存自动连接的设置</translation>
+    </message>
+    <message>
+        <source>the two PINs differ</source>
+        <translation>两次输入的 PIN 码不一致</translation>
     </message>
     <message>
         <source>there are no profiles %1</source>
@@ -1820,12 +2364,28 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>已存在配置文件 %1</translation>
     </message>
     <message>
+        <source>there is no SIM card</source>
+        <translation>没有 SIM 卡</translation>
+    </message>
+    <message>
         <source>there is no configuration key %1</source>
         <translation>没有配置项 %1</translation>
     </message>
     <message>
         <source>there is no default profile; name one: orbisctl connect NAME</source>
         <translation>没有默认配置文件；请指定一个：orbisctl connect NAME</translation>
+    </message>
+    <message>
+        <source>there is no field %1; there are: %2</source>
+        <translation>没有字段 %1；可用的有：%2</translation>
+    </message>
+    <message>
+        <source>there is no modem</source>
+        <translation>没有调制解调器</translation>
+    </message>
+    <message>
+        <source>there is no modem %1; see orbisctl modems</source>
+        <translation>没有调制解调器 %1；参见 orbisctl modems</translation>
     </message>
     <message>
         <source>there is no profile %1</source>
@@ -1836,12 +2396,24 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>没有自己的配置文件</translation>
     </message>
     <message>
+        <source>this user may not unlock the card</source>
+        <translation>此用户无权解锁卡</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true 或 false</translation>
+    </message>
+    <message>
         <source>unknown</source>
         <translation>未知</translation>
     </message>
     <message>
         <source>unknown command %1; see orbisctl --help</source>
         <translation>未知命令 %1；参见 orbisctl --help</translation>
+    </message>
+    <message>
+        <source>unknown device %1; use one of %2</source>
+        <translation>未知设备 %1；可用的有：%2</translation>
     </message>
     <message>
         <source>usage: %1</source>
@@ -1852,8 +2424,28 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>自定义</translation>
     </message>
     <message>
+        <source>user name</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>user, default</source>
+        <translation>自定义，默认</translation>
+    </message>
+    <message>
         <source>warning: %1</source>
         <translation>警告：%1</translation>
+    </message>
+    <message>
+        <source>wrong %1: %2</source>
+        <translation>%1 码错误：%2</translation>
+    </message>
+    <message>
+        <source>wrong %1: nothing opens the card any more</source>
+        <translation>%1 码错误：此卡已无法解锁</translation>
+    </message>
+    <message>
+        <source>wrong %1: the card now asks for its PUK</source>
+        <translation>%1 码错误：卡现在要求输入 PUK 码</translation>
     </message>
     <message>
         <source>yes</source>

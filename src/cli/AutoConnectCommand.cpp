@@ -5,15 +5,16 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "ConnectionSettings.h"
+#include "Message.h"
 #include "Output.h"
 #include "ProfileSession.h"
 
 namespace {
 
-QString wordOf(bool isOn, const AutoConnectSettings::Rule& rule) {
-    if (!isOn) return "off";
-    const QString word = rule.mayRoam ? "on, roaming too" : "on";
-    return rule.isRefused ? word + "; waits, since the network refused user name or password" : word;
+QString sentence(bool isOn, const AutoConnectSettings::Rule& rule) {
+    if (!isOn) return message("off");
+    const QString on = rule.mayRoam ? message("on, roaming too") : message("on");
+    return rule.isRefused ? message("%1; waits, since the network refused user name or password", {on}) : on;
 }
 
 void show(const QString& name, Output& output) {
@@ -21,12 +22,12 @@ void show(const QString& name, Output& output) {
     const bool isOn = rules.contains(name);
     const AutoConnectSettings::Rule rule = rules.value(name);
     output.result({{"name", name}, {"autoconnect", isOn}, {"roaming", rule.mayRoam}, {"refused", rule.isRefused}},
-                  {wordOf(isOn, rule)});
+                  {sentence(isOn, rule)});
 }
 
 bool isOn(const QString& word) {
     if (word == "on" || word == "off") return word == "on";
-    throw CommandError::usage("say on or off, not " + quoted(word));
+    throw CommandError::usage(message("say on or off, not %1", {quoted(word)}));
 }
 
 void requireProfile(const QString& name) {
@@ -41,10 +42,10 @@ void setAutoConnect(const Invocation& invocation, Output& output) {
     const QString word = invocation.arguments().value(1);
     const bool roams = invocation.isSet("roaming");
     const bool on = word.isEmpty() ? false : isOn(word);
-    if (roams && !on) throw CommandError::usage("--roaming goes with on");
+    if (roams && !on) throw CommandError::usage(message("--roaming goes with on"));
     // What is switched off may be gone already.
     if (on || word.isEmpty()) requireProfile(name);
     if (!word.isEmpty() && !AutoConnectSettings::set(name, on, roams))
-        throw CommandError::failed("the settings can't be stored");
+        throw CommandError::failed(message("the settings can't be stored"));
     show(name, output);
 }

@@ -8,6 +8,7 @@
 #include "Commands.h"
 #include "FileArgument.h"
 #include "FileReplacement.h"
+#include "Message.h"
 #include "Output.h"
 #include "ProfileDocument.h"
 #include "ProfileSession.h"
@@ -26,13 +27,13 @@ bool readDocument(const QString& path, ProfileDocument* document) {
     QString reason;
     const FileReplacement::Outcome outcome = FileReplacement::read(path, &content, &reason);
     if (outcome == FileReplacement::Missing) return false;
-    if (outcome != FileReplacement::Done) throw CommandError::failed(path + ": " + reason);
+    if (outcome != FileReplacement::Done) throw CommandError::failed(withReason(path, reason));
     if (document->scan(content)) return true;
     QXmlStreamReader reader(content);
     document->read(reader);
     if (reader.hasError())
         throw CommandError::failed(
-            QString("%1: line %2: %3").arg(path).arg(reader.lineNumber()).arg(reader.errorString()));
+            message("%1: line %2: %3", {path, QString::number(reader.lineNumber()), reader.errorString()}));
     return true;
 }
 
@@ -48,7 +49,7 @@ void write(const OutputFile& file, const ProfileDocument& document) {
     const bool isWritten =
         !content.isEmpty() && FileReplacement::write(file.path(), content, FileReplacement::Export,
                                                      FileReplacement::OverOld, &reason) == FileReplacement::Done;
-    if (!isWritten) throw CommandError::failed(file.path() + ": can't be written: " + reason);
+    if (!isWritten) throw CommandError::failed(message("%1: can't be written: %2", {file.path(), reason}));
     file.finish();
 }
 
@@ -62,18 +63,19 @@ QString chosenDefault(const ProfileDocument& document) {
 
 void importAll(ProfileSession& session, const QString& path) {
     QStringList names;
-    session.require(session->GetDialUpProfileFromFile(&names, path), "the backup can't be read");
+    session.require(session->GetDialUpProfileFromFile(&names, path), message("the backup can't be read"));
     names.removeDuplicates();
     session.loadNames();
     Replacing policy;
     const int status = session->ImportChosenProfiles(names, &policy);
-    if (status != NetConnectSettingUILogic::NothingImported) session.require(status, "the profiles can't be restored");
+    if (status != NetConnectSettingUILogic::NothingImported)
+        session.require(status, message("the profiles can't be restored"));
 }
 
 // A preset that another SIM card offers waits for that card.
 void setDefault(const ProfileSession& session, const QString& name) {
     if (name.isEmpty()) return;
-    session.require(session->SetDefaultDialUpProfileName(name, true), "the default can't be restored");
+    session.require(session->SetDefaultDialUpProfileName(name, true), message("the default can't be restored"));
 }
 
 }  // namespace
@@ -84,23 +86,24 @@ void backUp(const Invocation& invocation, Output& output) {
     session.requireUserFile();
     const QString users = session->UserFilePath();
     if (FileReplacement::isSameFile(users, file.path()))
-        throw CommandError::refused(file.path() + ": is the user's profile file itself");
+        throw CommandError::refused(message("%1: is the user's profile file itself", {file.path()}));
     ProfileDocument document;
     readDocument(users, &document);  // before anybody made a profile there is none
     write(file, document);
     if (file.isStream()) return;
     output.result({{"file", file.path()}, {"saved", QJsonArray::fromStringList(namesOf(document))}},
-                  {QString("%1 profiles saved to %2").arg(document.profiles.size()).arg(file.path())});
+                  {message("profiles saved to %1: %2", {file.path(), QString::number(document.profiles.size())})});
 }
 
 void restore(const Invocation& invocation, Output& output) {
     const InputFile file(invocation.arguments().first());
     ProfileDocument document;
-    if (!readDocument(file.path(), &document)) throw CommandError::notFound(file.path() + ": does not exist");
+    if (!readDocument(file.path(), &document))
+        throw CommandError::notFound(message("%1: does not exist", {file.path()}));
     ProfileSession session(ProfileSession::Changing);
     importAll(session, file.path());
     setDefault(session, chosenDefault(document));
     session.finish();
     output.result({{"file", file.path()}, {"restored", QJsonArray::fromStringList(namesOf(document))}},
-                  {QString("%1 profiles restored").arg(document.profiles.size())});
+                  {message("profiles restored: %1", {QString::number(document.profiles.size())})});
 }

@@ -9,6 +9,7 @@
 #include "CommandError.h"
 #include "Commands.h"
 #include "FilesCheck.h"
+#include "Message.h"
 #include "NetConnectXMLParse.h"
 #include "Output.h"
 
@@ -51,7 +52,8 @@ QJsonObject asObject(const Finding& finding) {
 
 void checkShippedFiles(const Invocation& invocation, Output& output) {
     const QStringList named = invocation.arguments();
-    if (named.contains(QString())) throw CommandError::usage("a file's name is empty");
+    if (named.contains(QString())) throw CommandError::usage(message("the file's name is empty"));
+    useEnglish();  // what integrators read, and find in their files
     const FilesToCheck what = named.isEmpty() ? shippedFiles() : namedFiles(named);
     QJsonArray findings;
     QStringList lines;

@@ -11,19 +11,26 @@
 
 namespace {
 
-constexpr CommandOption Secrets{"secrets", "Show the password too.", nullptr};
-constexpr CommandOption Like{"like", "Start from this profile instead of the template for new ones.", "PROFILE"};
-constexpr CommandOption Clear{"clear", "Take the choice back.", nullptr};
-constexpr CommandOption Replace{"replace", "Replace profiles whose names exist; without it they are skipped.", nullptr};
-constexpr CommandOption All{"all", "All profiles of one's own.", nullptr};
-constexpr CommandOption Force{"force", "Replace a file even if it holds something else than profiles.", nullptr};
-constexpr CommandOption Last{"last", "Spend the last attempt, too.", nullptr};
-constexpr CommandOption Timeout{"timeout", "Wait no longer than so many seconds.", "SECONDS"};
-constexpr CommandOption Hold{"hold", "Stay, and hang up on Ctrl-C.", nullptr};
-constexpr CommandOption Watch{"watch", "Stay, and show each change.", nullptr};
-constexpr CommandOption Roaming{"roaming", "While roaming, too.", nullptr};
-constexpr CommandOption Check{"check", "Tell what is wrong with the shipped files, or with these.", nullptr};
-constexpr CommandOption Operator{"operator", "What the SIM cards call their operator.", "NAME"};
+constexpr CommandOption Secrets{"secrets", QT_TRANSLATE_NOOP("orbisctl", "Show the password too."), nullptr};
+constexpr CommandOption Like{
+    "like", QT_TRANSLATE_NOOP("orbisctl", "Start from this profile instead of the template for new ones."), "PROFILE"};
+constexpr CommandOption Clear{"clear", QT_TRANSLATE_NOOP("orbisctl", "Take the choice back."), nullptr};
+constexpr CommandOption Replace{
+    "replace", QT_TRANSLATE_NOOP("orbisctl", "Replace profiles whose names exist; without it they are skipped."),
+    nullptr};
+constexpr CommandOption All{"all", QT_TRANSLATE_NOOP("orbisctl", "All profiles of one's own."), nullptr};
+constexpr CommandOption Force{
+    "force", QT_TRANSLATE_NOOP("orbisctl", "Replace a file even if it holds something else than profiles."), nullptr};
+constexpr CommandOption Last{"last", QT_TRANSLATE_NOOP("orbisctl", "Spend the last attempt, too."), nullptr};
+constexpr CommandOption Timeout{"timeout", QT_TRANSLATE_NOOP("orbisctl", "Wait no longer than so many seconds."),
+                                "SECONDS"};
+constexpr CommandOption Hold{"hold", QT_TRANSLATE_NOOP("orbisctl", "Stay, and hang up on Ctrl-C."), nullptr};
+constexpr CommandOption Watch{"watch", QT_TRANSLATE_NOOP("orbisctl", "Stay, and show each change."), nullptr};
+constexpr CommandOption Roaming{"roaming", QT_TRANSLATE_NOOP("orbisctl", "While roaming, too."), nullptr};
+constexpr CommandOption Check{
+    "check", QT_TRANSLATE_NOOP("orbisctl", "Tell what is wrong with the shipped files, or with these."), nullptr};
+constexpr CommandOption Operator{"operator", QT_TRANSLATE_NOOP("orbisctl", "What the SIM cards call their operator."),
+                                 "NAME"};
 
 constexpr int Any = Command::AnyNumber;
 
@@ -35,39 +42,54 @@ constexpr CommandOptions with(const Options&... options) {
 constexpr CommandOptions NoOptions{};
 
 const std::vector<Command> Commands = {
-    {"list", "", 0, 0, NoOptions, "List all profiles; * marks the default.", listProfiles},
-    {"show", "NAME...", 1, Any, with(Secrets), "Show the fields of profiles.", showProfiles},
+    {"list", "", 0, 0, NoOptions, QT_TRANSLATE_NOOP("orbisctl", "List all profiles; * marks the default."),
+     listProfiles},
+    {"show", "NAME...", 1, Any, with(Secrets), QT_TRANSLATE_NOOP("orbisctl", "Show the fields of profiles."),
+     showProfiles},
     {"add", "NAME [FIELD=VALUE...]", 1, Any, with(Like),
-     "Add a profile. password=- reads the password from standard input.", addProfile, settableFieldsHelp},
-    {"set", "NAME FIELD=VALUE...", 2, Any, NoOptions, "Change fields of a profile; name=NEW renames it.", setFields,
+     QT_TRANSLATE_NOOP("orbisctl", "Add a profile. password=- reads the password from standard input."), addProfile,
      settableFieldsHelp},
-    {"delete", "NAME...", 1, Any, NoOptions, "Delete profiles: all of them, or none.", deleteProfiles},
-    {"default", "[NAME]", 0, 1, with(Clear), "Show the default profile, or choose it.", defaultProfile},
-    {"import", "FILE [NAME...]", 1, Any, with(Replace), "Import all profiles of a file, or the named ones.",
-     importProfiles},
-    {"export", "FILE [NAME...]", 1, Any, with(All, Force), "Export profiles into a file; others that it holds stay.",
-     exportProfiles},
-    {"backup", "FILE", 1, 1, with(Force), "Save all profiles of one's own, and the chosen default, in a file.", backUp},
-    {"restore", "FILE", 1, 1, NoOptions, "Take profiles and default from a backup; those of other names stay.",
-     restore},
+    {"set", "NAME FIELD=VALUE...", 2, Any, NoOptions,
+     QT_TRANSLATE_NOOP("orbisctl", "Change fields of a profile; name=NEW renames it."), setFields, settableFieldsHelp},
+    {"delete", "NAME...", 1, Any, NoOptions, QT_TRANSLATE_NOOP("orbisctl", "Delete profiles: all of them, or none."),
+     deleteProfiles},
+    {"default", "[NAME]", 0, 1, with(Clear), QT_TRANSLATE_NOOP("orbisctl", "Show the default profile, or choose it."),
+     defaultProfile},
+    {"import", "FILE [NAME...]", 1, Any, with(Replace),
+     QT_TRANSLATE_NOOP("orbisctl", "Import all profiles of a file, or the named ones."), importProfiles},
+    {"export", "FILE [NAME...]", 1, Any, with(All, Force),
+     QT_TRANSLATE_NOOP("orbisctl", "Export profiles into a file; others that it holds stay."), exportProfiles},
+    {"backup", "FILE", 1, 1, with(Force),
+     QT_TRANSLATE_NOOP("orbisctl", "Save all profiles of one's own, and the chosen default, in a file."), backUp},
+    {"restore", "FILE", 1, 1, NoOptions,
+     QT_TRANSLATE_NOOP("orbisctl", "Take profiles and default from a backup; those of other names stay."), restore},
     {"explain", "IMSI...", 1, Any, with(Operator),
-     "Tell which presets SIM cards select; - reads IMSIs from standard input.", explainIMSIs},
-    {"config", "[KEY] | --check [FILE...]", 0, Any, with(Check), "Show a value of the function configuration, or all.",
-     showConfiguration},
-    {"device", "", 0, 0, NoOptions, "Show what the modem and its SIM card report, and the connection.", showDevice},
-    {"modems", "", 0, 0, NoOptions, "List the modems; * marks the one in use.", listModems},
-    {"modem", "[ID]", 0, 1, with(Clear), "Show the modem in use, or choose one by its key, IMEI or port.", chooseModem},
-    {"pin", "", 0, 0, with(Last, Timeout), "Unlock the SIM card; the PIN is asked for, or read from standard input.",
+     QT_TRANSLATE_NOOP("orbisctl", "Tell which presets SIM cards select; - reads IMSIs from standard input."),
+     explainIMSIs},
+    {"config", "[KEY] | --check [FILE...]", 0, Any, with(Check),
+     QT_TRANSLATE_NOOP("orbisctl", "Show a value of the function configuration, or all."), showConfiguration},
+    {"device", "", 0, 0, NoOptions,
+     QT_TRANSLATE_NOOP("orbisctl", "Show what the modem and its SIM card report, and the connection."), showDevice},
+    {"modems", "", 0, 0, NoOptions, QT_TRANSLATE_NOOP("orbisctl", "List the modems; * marks the one in use."),
+     listModems},
+    {"modem", "[ID]", 0, 1, with(Clear),
+     QT_TRANSLATE_NOOP("orbisctl", "Show the modem in use, or choose one by its key, IMEI or port."), chooseModem},
+    {"pin", "", 0, 0, with(Last, Timeout),
+     QT_TRANSLATE_NOOP("orbisctl", "Unlock the SIM card; the PIN is asked for, or read from standard input."),
      enterPin},
-    {"puk", "", 0, 0, with(Last, Timeout), "Unlock the SIM card with its PUK and set a new PIN, a line each.",
-     enterPuk},
-    {"connect", "[NAME]", 0, 1, with(Hold, Timeout), "Connect with a profile, or with the default.", connectProfile},
-    {"disconnect", "", 0, 0, with(Timeout), "End the connection, or give it up.", disconnect},
-    {"status", "", 0, 0, with(Watch), "Show the connection.", showStatus},
-    {"autoconnect", "NAME [on|off]", 1, 2, with(Roaming), "Whether the window connects with a profile by itself.",
-     setAutoConnect},
-    {"ussd", "CODE", 1, 1, with(Timeout), "Send a command such as *100# to the network and show its answer.", sendUssd},
-    {"balance", "", 0, 0, with(Timeout), "Ask the network for a prepaid card's balance.", askBalance},
+    {"puk", "", 0, 0, with(Last, Timeout),
+     QT_TRANSLATE_NOOP("orbisctl", "Unlock the SIM card with its PUK and set a new PIN, a line each."), enterPuk},
+    {"connect", "[NAME]", 0, 1, with(Hold, Timeout),
+     QT_TRANSLATE_NOOP("orbisctl", "Connect with a profile, or with the default."), connectProfile},
+    {"disconnect", "", 0, 0, with(Timeout), QT_TRANSLATE_NOOP("orbisctl", "End the connection, or give it up."),
+     disconnect},
+    {"status", "", 0, 0, with(Watch), QT_TRANSLATE_NOOP("orbisctl", "Show the connection."), showStatus},
+    {"autoconnect", "NAME [on|off]", 1, 2, with(Roaming),
+     QT_TRANSLATE_NOOP("orbisctl", "Whether the window connects with a profile by itself."), setAutoConnect},
+    {"ussd", "CODE", 1, 1, with(Timeout),
+     QT_TRANSLATE_NOOP("orbisctl", "Send a command such as *100# to the network and show its answer."), sendUssd},
+    {"balance", "", 0, 0, with(Timeout), QT_TRANSLATE_NOOP("orbisctl", "Ask the network for a prepaid card's balance."),
+     askBalance},
 };
 
 QString candidateNames(const QList<const Command*>& candidates) {
@@ -93,8 +115,8 @@ void parse(QCommandLineParser* parser, const QStringList& commandLine) {
     if (parser->parse(commandLine)) return;
     const auto looksShort = [](const QString& word) { return word.size() > 1 && word[0] == '-' && word[1] != '-'; };
     const bool mayBeName = std::any_of(commandLine.begin(), commandLine.end(), looksShort);
-    throw CommandError::usage(parser->errorText() +
-                              (mayBeName ? " Put -- before a name that begins with a hyphen." : ""));
+    const QString text = parser->errorText();
+    throw CommandError::usage(mayBeName ? message("%1 Put -- before a name that begins with a hyphen.", {text}) : text);
 }
 
 // The command's name may follow options, so all options of all commands are looked at to find it.
@@ -115,9 +137,14 @@ QStringList withHelpAsOption(QStringList commandLine) {
 }
 
 QString overview() {
-    QString text = "Command-line client of the OrbisDial connection manager.\n\nCommands:\n";
-    for (const Command& command : Commands) text += QString("  %1 %2\n").arg(command.name, -11).arg(command.help);
-    return text + "  help        Show this help, or that of a command.";
+    const auto line = [](const char* name, const char* help) {
+        return QString("  %1 %2").arg(name, -11).arg(message(help));
+    };
+    QStringList lines{message("Command-line client of the OrbisDial connection manager."), QString(),
+                      message("Commands:")};
+    for (const Command& command : Commands) lines.append(line(command.name, command.help));
+    lines.append(line("help", HelpOfHelp));
+    return lines.join('\n');
 }
 
 }  // namespace
@@ -126,21 +153,23 @@ const std::vector<Command>& allCommands() { return Commands; }
 
 QList<QCommandLineOption> globalOptions() {
     return {
-        {"json", "Write results as JSON, one object a line."},
-        {{"t", "terse"}, "Write results as fields between tabs, for scripts."},
-        {{"f", "fields"}, "Write these fields only, in this order; their names are those of --json.", "FIELDS"},
-        {"data-dir", "Keep the user's profiles in this folder.", "DIR"},
-        {"device", "Use this modem: " + Platform::deviceKinds().join(", ") + ".", "KIND"},
-        {"trace", "Write traces to standard error."},
-        {{"h", "help"}, "Show this help, or that of a command."},
-        {{"v", "version"}, "Show the version."},
+        {"json", message("Write results as JSON, one object a line.")},
+        {{"t", "terse"}, message("Write results as fields between tabs, for scripts.")},
+        {{"f", "fields"},
+         message("Write these fields only, in this order; their names are those of --json."),
+         "FIELDS"},
+        {"data-dir", message("Keep the user's profiles in this folder."), "DIR"},
+        {"device", message("Use this modem: %1.", {Platform::deviceKinds().join(", ")}), "KIND"},
+        {"trace", message("Write traces to standard error.")},
+        {{"h", "help"}, message(HelpOfHelp)},
+        {{"v", "version"}, message("Show the version.")},
     };
 }
 
 QList<QCommandLineOption> optionsOf(const Command& command) {
     QList<QCommandLineOption> options = globalOptions();
     for (const CommandOption* option : command.options)
-        if (option) options.append({option->name, option->help, option->value});
+        if (option) options.append({option->name, message(option->help), option->value});
     return options;
 }
 
@@ -151,7 +180,7 @@ QList<QCommandLineOption> allOptions() {
         for (const CommandOption* option : command.options) {
             if (!option || added.contains(option)) continue;
             added.insert(option);
-            options.append({option->name, option->help, option->value});
+            options.append({option->name, message(option->help), option->value});
         }
     }
     return options;
@@ -170,11 +199,11 @@ void Invocation::describe() {
     m_Parser.addOptions(m_pCommand ? optionsOf(*m_pCommand) : globalOptions());
     if (!m_pCommand) {
         m_Parser.setApplicationDescription(overview());
-        m_Parser.addPositionalArgument("COMMAND", "See orbisctl COMMAND --help.", "COMMAND [ARGUMENT...]");
+        m_Parser.addPositionalArgument("COMMAND", message("See orbisctl COMMAND --help."), "COMMAND [ARGUMENT...]");
         return;
     }
     const QString syntax = QString("%1 %2").arg(m_pCommand->name, m_pCommand->arguments).trimmed();
-    m_Parser.addPositionalArgument(m_pCommand->name, m_pCommand->help, syntax);
+    m_Parser.addPositionalArgument(m_pCommand->name, message(m_pCommand->help), syntax);
 }
 
 void Invocation::checkArguments() const {

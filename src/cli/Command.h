@@ -14,11 +14,13 @@ class Output;
 // An option that a command has for itself. Without a value name it is a switch.
 struct CommandOption {
     const char* name;
-    const char* help;
+    const char* help;  // a message in English, as a command's
     const char* value;
 };
 
 using CommandOptions = std::array<const CommandOption*, 3>;  // null where there are fewer
+
+constexpr char HelpOfHelp[] = QT_TRANSLATE_NOOP("orbisctl", "Show this help, or that of a command.");
 
 struct Command {
     static constexpr int AnyNumber = -1;

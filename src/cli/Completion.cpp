@@ -8,6 +8,7 @@
 #include "ChosenModem.h"
 #include "Command.h"
 #include "CommandError.h"
+#include "Message.h"
 #include "ModemReport.h"
 #include "Output.h"
 #include "Platform.h"
@@ -84,8 +85,8 @@ QList<Word> plain(const QStringList& texts) {
 
 QList<Word> commandWords() {
     QList<Word> words;
-    for (const Command& command : allCommands()) words.append(Word{command.name, command.help});
-    words.append(Word{"help", "Show this help, or that of a command."});
+    for (const Command& command : allCommands()) words.append(Word{command.name, message(command.help)});
+    words.append(Word{"help", message(HelpOfHelp)});
     return words;
 }
 
@@ -103,8 +104,11 @@ QList<Word> profileWords(bool areOptionsOver) {
     QList<Word> words;
     for (const QString& name : session.names()) {
         if (name.startsWith('-') && !areOptionsOver) continue;
-        const QString source = session->HasUserProfile(name) ? "user" : "preset";
-        words.append({name, name == defaultName ? source + ", default" : source});
+        const bool isOwn = session->HasUserProfile(name);
+        if (name == defaultName)
+            words.append({name, isOwn ? message("user, default") : message("preset, default")});
+        else
+            words.append({name, isOwn ? message("user") : message("preset")});
     }
     return words;
 }
@@ -224,5 +228,5 @@ bool Completion::isWanted(const QStringList& commandLine) { return commandLine.v
 void Completion::answer(const QStringList& arguments) {
     if (arguments.value(0) == "words") return answerWords(arguments.mid(1));
     if (arguments.value(0) == "bash" && arguments.size() == 2) return answerBash(arguments.at(1));
-    throw CommandError::usage("complete is for the shells' completions");
+    throw CommandError::usage(message("complete is for the shells' completions"));
 }

@@ -63,10 +63,11 @@ Wanted wantedProfile(const Invocation& invocation) {
 void askCredentials(Wanted* wanted) {
     if (!wanted->mustAsk || !isTerminalInput()) return;
     DialupProfile& profile = wanted->profile;
-    const QString user = readShownLine(message("User name [%1]: ", {profile.user}), "user name");
+    const QString user =
+        readShownLine(message("User name [%1]: ", {profile.user}), QT_TRANSLATE_NOOP("orbisctl", "user name"));
     if (!user.isEmpty()) profile.user = user;
     const QString password =
-        readHiddenLine(profile.password.isEmpty() ? message("Password: ") : message("Password [as stored]: "));
+        readPassword(profile.password.isEmpty() ? message("Password: ") : message("Password [as stored]: "));
     if (!password.isEmpty()) profile.password = password;
 }
 
@@ -74,7 +75,7 @@ void refuseUndiallable(const Wanted& wanted) {
     const QString field = DialCall::badField(wanted.profile);
     if (field.isEmpty()) return;
     const QString text = ConnectionText::badField(field, wanted.name);
-    throw CommandError::refused(field + ": " + (text.isEmpty() ? message("can't be dialled with") : text));
+    throw CommandError::refused(withReason(field, text.isEmpty() ? message("can't be dialled with") : text));
 }
 
 void warn(const QStringList& notes) {
@@ -157,7 +158,7 @@ private:
 
     void showUp(const DataConnection& connection) {
         QString line = ConnectionReport::line(connection);
-        if (vrks_simulated_active() && !m_bHolds) line += message("; it ends with this program, see --hold");
+        if (vrks_simulated_active() && !m_bHolds) line = message("%1; it ends with this program, see --hold", {line});
         m_Output.result(ConnectionReport::object(connection), {line});
     }
 

@@ -44,8 +44,7 @@ QString duration(qint64 seconds) {
 QString failureText(const DataConnection& connection) {
     QString text = ConnectionText::failure(connection.failure, connection.name, connection.words);
     if (text.isEmpty()) text = failureName(connection.failure);
-    const QString details = ConnectionText::details(connection);
-    return details.isEmpty() ? text : QString("%1 (%2)").arg(text, details);
+    return withDetails(text, ConnectionText::details(connection));
 }
 
 QString upLine(const DataConnection& connection) {
@@ -133,7 +132,8 @@ QJsonObject ConnectionReport::object(const DataConnection& connection) {
 }
 
 QString ConnectionReport::line(const DataConnection& connection) {
-    return stateLine(connection) + (vrks_simulated_active() ? ' ' + message("(simulated modem)") : QString());
+    const QString line = stateLine(connection);
+    return vrks_simulated_active() ? message("%1 (simulated modem)", {line}) : line;
 }
 
 QString ConnectionReport::step(const DataConnection& connection) {

@@ -16,6 +16,7 @@
 #include <optional>
 
 #include "CommandError.h"
+#include "Message.h"
 
 namespace {
 
@@ -27,7 +28,7 @@ struct sigaction before[std::size(Endings)];
 
 int newBell() {
     const int bell = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    if (bell < 0) throw CommandError::failed(QString("no event counter can be had: ") + std::strerror(errno));
+    if (bell < 0) throw CommandError::failed(message("no event counter can be had: %1", {std::strerror(errno)}));
     return bell;
 }
 

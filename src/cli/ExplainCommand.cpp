@@ -10,6 +10,7 @@
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
+#include "Message.h"
 #include "Output.h"
 #include "ProfileSession.h"
 
@@ -45,13 +46,13 @@ public:
             const QString imsi = QString::fromUtf8(line).trimmed();
             if (!imsi.isEmpty()) explain(imsi);
         }
-        if (std::ferror(stdin)) throw CommandError::failed("standard input can't be read");
+        if (std::ferror(stdin)) throw CommandError::failed(message("standard input can't be read"));
     }
 
     void requireAllValid() const {
         if (m_nInvalid == 0) return;
-        throw CommandError::failed(
-            QString("%1 of %2 were no IMSI, which has 5 to 15 digits").arg(m_nInvalid).arg(m_nAsked));
+        throw CommandError::failed(message("%1 of %2 were no IMSI, which has 5 to 15 digits",
+                                           {QString::number(m_nInvalid), QString::number(m_nAsked)}));
     }
 
 private:
@@ -108,10 +109,10 @@ private:
     }
 
     QStringList toLines(const Explanation& explanation) {
-        if (!explanation.isIMSI) return {explanation.imsi + ": not an IMSI"};
-        QStringList lines{explanation.imsi + ": " +
-                          (explanation.prefix.isNull() ? "no prefix matches; the configuration's own presets"
-                                                       : "prefix " + explanation.prefix)};
+        if (!explanation.isIMSI) return {message("%1: not an IMSI", {explanation.imsi})};
+        QStringList lines{explanation.prefix.isNull()
+                              ? message("%1: no prefix matches; the configuration's own presets", {explanation.imsi})
+                              : message("%1: prefix %2", {explanation.imsi, explanation.prefix})};
         if (!explanation.cardOperator.isNull()) lines.append("  " + operatorLine(explanation));
         for (const QString& name : explanation.offered)
             lines.append(QString("  %1 %2 [%3]").arg(name == explanation.proposal ? "*" : " ", name, apnOf(name)));
@@ -120,8 +121,9 @@ private:
 
     static QString operatorLine(const Explanation& explanation) {
         const QString name = quoted(explanation.cardOperator);
-        if (explanation.operatorName.isEmpty()) return "the card's operator name " + name + " tells none of these";
-        return "by the card's operator name " + name + ": " + explanation.operatorName;
+        if (explanation.operatorName.isEmpty())
+            return message("the card's operator name %1 tells none of these", {name});
+        return message("by the card's operator name %1: %2", {name, explanation.operatorName});
     }
 
     const ProfileSession& m_Session;

@@ -11,6 +11,7 @@
 
 #include "CommandError.h"
 #include "FileReplacement.h"
+#include "Message.h"
 #include "Output.h"
 
 namespace {
@@ -36,7 +37,7 @@ QByteArray standardInput() {
         if (size == 0) break;
         if (size > 0) content.append(bytes, int(size));
         if (size < 0 && errno != EINTR)
-            throw CommandError::failed(QString("standard input can't be read: ") + std::strerror(errno));
+            throw CommandError::failed(message("standard input can't be read: %1", {std::strerror(errno)}));
     }
     return content;
 }
@@ -44,9 +45,10 @@ QByteArray standardInput() {
 }  // namespace
 
 FileArgument::FileArgument(const QString& argument, const char* streamName) {
-    if (argument.isEmpty()) throw CommandError::usage("the file's name is empty");
+    if (argument.isEmpty()) throw CommandError::usage(message("the file's name is empty"));
     if (argument == "-") m_Folder.emplace();
-    if (m_Folder && !m_Folder->isValid()) throw CommandError::failed("no temporary folder: " + m_Folder->errorString());
+    if (m_Folder && !m_Folder->isValid())
+        throw CommandError::failed(message("no temporary folder: %1", {m_Folder->errorString()}));
     m_Path = m_Folder ? m_Folder->filePath(streamName) : QFileInfo(argument).absoluteFilePath();
 }
 
@@ -55,17 +57,17 @@ InputFile::InputFile(const QString& argument) : FileArgument(argument, "standard
     QString reason;
     if (FileReplacement::write(path(), standardInput(), FileReplacement::Export, FileReplacement::OnlyNew, &reason) !=
         FileReplacement::Done)
-        throw CommandError::failed(path() + ": " + reason);
+        throw CommandError::failed(withReason(path(), reason));
 }
 
 OutputFile::OutputFile(const QString& argument, bool mayReplaceAny) : FileArgument(argument, "standard output") {
     if (!mayReplaceAny && holdsSomethingElse(path()))
-        throw CommandError::refused(path() + ": is no profile file; --force replaces it");
+        throw CommandError::refused(message("%1: is no profile file; --force replaces it", {path()}));
 }
 
 void OutputFile::finish() const {
     QFile file(path());
     if (!isStream() || !file.exists()) return;
-    if (!file.open(QIODevice::ReadOnly)) throw CommandError::failed(path() + ": " + file.errorString());
+    if (!file.open(QIODevice::ReadOnly)) throw CommandError::failed(withReason(path(), file.errorString()));
     Output::text(QString::fromUtf8(file.readAll()));
 }

@@ -11,6 +11,7 @@
 #include <cstring>
 
 #include "CommandError.h"
+#include "Message.h"
 #include "StandardOutput.h"
 #include "TerminalText.h"
 
@@ -108,7 +109,7 @@ bool readLine(const KeptSignals& kept, QByteArray* line) {
         if (!kept.waitForInput()) return false;
         const ssize_t size = ::read(STDIN_FILENO, &byte, 1);
         if (size < 0 && (errno == EINTR || errno == EAGAIN)) continue;
-        if (size < 0) throw CommandError::failed(QString("standard input can't be read: ") + std::strerror(errno));
+        if (size < 0) throw CommandError::failed(message("standard input can't be read: %1", {std::strerror(errno)}));
         if (size == 0) break;
         line->append(byte);
     }
@@ -138,17 +139,21 @@ QByteArray askForLine(const QByteArray& prompt, bool isShown) {
 
 QString readText(const QString& prompt, const char* name, bool isShown) {
     QByteArray line = askForLine(TerminalText::printable(prompt).toUtf8(), isShown);
-    if (line.isEmpty()) throw CommandError::failed(QString("standard input holds no %1").arg(name));
+    if (line.isEmpty()) throw CommandError::failed(message("%1: standard input holds none", {message(name)}));
     if (line.endsWith('\n')) line.chop(1);
     if (line.endsWith('\r')) line.chop(1);
     const QString text = QString::fromUtf8(line);
-    if (text.toUtf8() != line) throw CommandError::failed(QString("the %1 on standard input is not UTF-8").arg(name));
+    if (text.toUtf8() != line) throw CommandError::failed(message("%1: not UTF-8 on standard input", {message(name)}));
     return text;
 }
 
 }  // namespace
 
 QString readHiddenLine(const QString& prompt, const char* name) { return readText(prompt, name, false); }
+
+QString readPassword(const QString& prompt) {
+    return readHiddenLine(prompt, QT_TRANSLATE_NOOP("orbisctl", "password"));
+}
 
 QString readShownLine(const QString& prompt, const char* name) { return readText(prompt, name, true); }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Message.h"
 
+#include <clocale>
+
 #include "Change.h"
 #include "TextValues.h"
 
@@ -33,6 +35,7 @@ void useLanguageOfLocale() {
 }
 
 void useEnglish() {
+    std::setlocale(LC_MESSAGES, "C");  // what the system says, too
     if (Change::GetLangName() != English) Change::SetLanguage(English);
 }
 
@@ -40,4 +43,10 @@ QString message(const char* english, const QStringList& values) {
     const bool isForeign = Change::GetLangName() != English;
     const QString text = isForeign ? Change::tr(QString::fromUtf8(english), Context) : QString();
     return TextValues::filled(text.isEmpty() ? QString::fromUtf8(english) : text, values);
+}
+
+QString withReason(const QString& subject, const QString& reason) { return message("%1: %2", {subject, reason}); }
+
+QString withDetails(const QString& text, const QString& details) {
+    return details.isEmpty() ? text : message("%1 (%2)", {text, details});
 }

@@ -16,4 +16,10 @@ void useEnglish();
 // stand in such a call, but in a table, is marked with QT_TRANSLATE_NOOP("orbisctl", ...).
 QString message(const char* english, const QStringList& values = {});
 
+// "FILE: reason", and the like.
+QString withReason(const QString& subject, const QString& reason);
+
+// The text, with what somebody else said about it in parentheses, unless that is nothing.
+QString withDetails(const QString& text, const QString& details);
+
 #endif

@@ -23,7 +23,7 @@ bool isNamed(const VRKS_ModemInfo& info, const QString& name) {
 
 QList<VRKS_ModemInfo> modemsHere() {
     VRKS_ModemInfo info;
-    if (!ModemReport::current(&info)) throw CommandError::failed("nothing can tell which modems there are");
+    if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modems there are"));
     return ModemReport::all();
 }
 
@@ -32,23 +32,23 @@ QString keyNamed(const QString& name) {
     for (const VRKS_ModemInfo& info : modemsHere())
         if (isNamed(info, name)) return keyOf(info);
     if (name == ChosenModem::id()) return name;
-    throw CommandError::notFound("there is no modem " + quoted(name) + "; see orbisctl modems");
+    throw CommandError::notFound(message("there is no modem %1; see orbisctl modems", {quoted(name)}));
 }
 
 void warnOfVariable() {
     if (qEnvironmentVariableIsEmpty(ModemVariable)) return;
-    printWarning(QString("%1 names a modem, and counts before the choice").arg(ModemVariable));
+    printWarning(message("%1 names a modem, and counts before the choice", {ModemVariable}));
 }
 
 void keep(const QString& key) {
-    if (!ChosenModem::choose(key)) throw CommandError::failed("the choice can't be kept in the settings");
+    if (!ChosenModem::choose(key)) throw CommandError::failed(message("the choice can't be kept in the settings"));
     warnOfVariable();
 }
 
 void showModem(Output& output) {
     VRKS_ModemInfo info;
     const QString chosen = ChosenModem::id();
-    if (!ModemReport::current(&info)) throw CommandError::failed("nothing can tell which modem is in use");
+    if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modem is in use"));
     QStringList lines{ModemReport::line(QT_TRANSLATE_NOOP("orbisctl", "chosen"),
                                         chosen.isEmpty() ? message("automatically") : chosen)};
     QJsonObject object = ModemReport::object(info);
@@ -70,17 +70,17 @@ void listModems(const Invocation&, Output& output) {
         object["inUse"] = info.isSelected != 0;
         object["chosen"] = isChosen;
         modems.append(object);
-        lines.append(QString("%1 %2  %3, %4%5")
-                         .arg(info.isSelected ? "*" : " ", keyOf(info), ModemReport::title(info),
-                              object["status"].toString(), isChosen ? ", chosen" : ""));
+        QStringList about{ModemReport::title(info), ModemReport::status(info)};
+        if (isChosen) about.append(message("chosen"));
+        lines.append(QString("%1 %2  %3").arg(info.isSelected ? "*" : " ", keyOf(info), about.join(", ")));
     }
-    if (!isChosenHere) lines.append(QString("  %1  chosen, not plugged in").arg(chosen));
+    if (!isChosenHere) lines.append(QString("  %1  %2").arg(chosen, message("chosen, not plugged in")));
     output.result({{"modems", modems}, {"chosen", chosen.isEmpty() ? QJsonValue() : chosen}}, lines);
 }
 
 void chooseModem(const Invocation& invocation, Output& output) {
     const bool clears = invocation.isSet("clear");
-    if (clears && !invocation.arguments().isEmpty()) throw CommandError::usage("--clear takes no modem");
+    if (clears && !invocation.arguments().isEmpty()) throw CommandError::usage(message("--clear takes no modem"));
     if (!clears && invocation.arguments().isEmpty()) return showModem(output);
     const QString key = clears ? QString("") : keyNamed(invocation.arguments().first());
     keep(key);

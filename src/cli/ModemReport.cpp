@@ -4,6 +4,7 @@
 #include <QJsonValue>
 
 #include "Message.h"
+#include "TerminalText.h"
 
 namespace {
 
@@ -116,6 +117,8 @@ QString ModemReport::title(const VRKS_ModemInfo& info) {
     return title == " " ? QString::fromUtf8(info.id) : title.trimmed();
 }
 
+QString ModemReport::status(const VRKS_ModemInfo& info) { return inLanguage(word(Statuses, info.status)).toString(); }
+
 QJsonObject ModemReport::object(const VRKS_ModemInfo& info) {
     QJsonObject object;
     for (const Row& row : Rows) object[row.key] = row.value(info);
@@ -134,5 +137,5 @@ QString ModemReport::line(const char* label, const QJsonValue& value) {
     if (value.isBool()) text = value.toBool() ? message("yes") : message("no");
     if (value.isDouble()) text = QString::number(value.toInt());
     if (value.isString()) text = value.toString();
-    return QString("%1 %2").arg(message(label), -25).arg(text);
+    return TerminalText::padded(message(label), 25) + ' ' + text;
 }

@@ -20,6 +20,9 @@ QList<VRKS_ModemInfo> all();
 // Maker and model, or the key where the modem tells neither.
 QString title(const VRKS_ModemInfo& info);
 
+// Its state in a word.
+QString status(const VRKS_ModemInfo& info);
+
 // All of the record; null for what is unknown or not there.
 QJsonObject object(const VRKS_ModemInfo& info);
 

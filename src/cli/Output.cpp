@@ -40,7 +40,8 @@ QJsonValue fieldOf(const QJsonObject& object, const QString& name) {
     const int dot = name.indexOf('.');
     const QJsonValue value = object.value(name.left(dot));
     if (value.isUndefined())
-        throw CommandError::usage("there is no field " + quoted(name) + "; there are: " + object.keys().join(' '));
+        throw CommandError::usage(
+            message("there is no field %1; there are: %2", {quoted(name), object.keys().join(' ')}));
     return dot < 0 || value.isNull() ? value : fieldOf(value.toObject(), name.mid(dot + 1));
 }
 

@@ -14,6 +14,7 @@
 #include "ChosenModem.h"
 #include "Command.h"
 #include "CommandError.h"
+#include "Message.h"
 #include "StandardOutput.h"
 #include "TerminalText.h"
 #include "vrks_simulated.h"
@@ -37,14 +38,14 @@ void dropTrace(QtMsgType type, const QMessageLogContext& context, const QString&
 }
 
 void setVariable(const char* name, const QString& value) {
-    if (value.isEmpty()) throw CommandError::usage("an option's value is empty");
+    if (value.isEmpty()) throw CommandError::usage(message("an option's value is empty"));
     qputenv(name, QFile::encodeName(value));
 }
 
 void checkDevice() {
     const char* problem = nullptr;
     if (!vrks_backend_name(&problem))
-        throw CommandError::failed(problem ? problem : "the modem's backend can't be had");
+        throw CommandError::failed(problem ? problem : message("the modem's backend can't be had"));
 }
 
 QString dataFolder() {
@@ -55,16 +56,19 @@ QString dataFolder() {
 
 }  // namespace
 
-void Platform::prepare(int argc, char** argv) {
+void Platform::prepare() {
     qInstallMessageHandler(dropTrace);
     qputenv("QT_NO_GLIB", "1");  // GLib crashes a program when memory runs out
     QLoggingCategory::setFilterRules("default.debug=false");
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)  // Qt 6 knows no other encoding of the system
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 #endif
+}
+
+void Platform::requireUtf8(int argc, char** argv) {
     for (int i = 1; i < argc; ++i)
         if (QString::fromUtf8(argv[i]).toUtf8() != argv[i])
-            throw CommandError::usage(QString("argument %1 is not UTF-8").arg(i));
+            throw CommandError::usage(message("argument %1 is not UTF-8", {QString::number(i)}));
 }
 
 void Platform::applyOptions(const Invocation& invocation) {
@@ -82,7 +86,8 @@ void Platform::useDataFolder(const QString& folder) { setVariable(DataFolderVari
 
 void Platform::useDevice(const QString& kind) {
     if (!deviceKinds().contains(kind))
-        throw CommandError::usage("unknown device " + quoted(kind) + "; use one of " + deviceKinds().join(", "));
+        throw CommandError::usage(
+            message("unknown device %1; use one of %2", {quoted(kind), deviceKinds().join(", ")}));
     setVariable(DeviceVariable, kind);
 }
 
@@ -94,8 +99,9 @@ QString Platform::dataFolderProblem() {
     const std::unique_ptr<unsigned short[]> owned(directory);
     if (status == 0 && directory) return QString();
     const QFileInfo folder(dataFolder());
-    const char* reason = folder.exists() && !folder.isDir() ? "is not a folder" : "can't be made or entered";
-    return QString("the data folder %1 %2").arg(folder.filePath(), reason);
+    return folder.exists() && !folder.isDir()
+               ? message("the data folder %1 is not a folder", {folder.filePath()})
+               : message("the data folder %1 can't be made or entered", {folder.filePath()});
 }
 
 bool Platform::isDataFolderMissing() {

@@ -10,8 +10,11 @@ class Invocation;
 namespace Platform {
 
 // Makes UTF-8 the encoding of arguments, file names and texts, whatever the locale says, and drops traces.
-// Comes before the application object. Throws a CommandError when an argument is not UTF-8.
-void prepare(int argc, char** argv);
+// Comes before the application object.
+void prepare();
+
+// Throws a CommandError when an argument is not UTF-8.
+void requireUtf8(int argc, char** argv);
 
 // Obeys the global options and makes sure that the modem's backend can be had; throws a CommandError when it can't.
 // Comes before the first call of the device SDK.

@@ -7,6 +7,7 @@
 #include "Commands.h"
 #include "ConnectionText.h"
 #include "HiddenInput.h"
+#include "Message.h"
 #include "NetConnectProfileRules.h"
 #include "Output.h"
 #include "ProfileFieldRules.h"
@@ -30,13 +31,13 @@ QString settableFields() { return settableFieldNames().join(' '); }
 QString kindText(Kind kind) {
     switch (kind) {
         case Kind::APN:
-            return "letters, digits, dots and hyphens";
+            return message("letters, digits, dots and hyphens");
         case Kind::Flag:
-            return "true or false";
+            return message("true or false");
         case Kind::Address:
-            return "an IPv4 address, or nothing";
+            return message("an IPv4 address, or nothing");
         default:
-            return "text";
+            return message("text");
     }
 }
 
@@ -47,7 +48,7 @@ void require(bool isFulfilled, const QString& text) {
 void requireNone(const QString& problem) { require(problem.isNull(), problem); }
 
 QString valueOf(const DialupProfileField& field, const QString& text) {
-    if (field.member == &DialupProfile::password && text == "-") return readHiddenLine("Password: ");
+    if (field.member == &DialupProfile::password && text == "-") return readPassword(message("Password: "));
     return FieldRules::of(field).kind == Kind::Address && text == "0.0.0.0" ? QString("") : text;
 }
 
@@ -66,12 +67,14 @@ bool isFlagField(const QString& name) {
 }
 
 QString settableFieldsHelp() {
-    QString text = "\nFields:\n";
+    QString text = '\n' + message("Fields:") + '\n';
     for (const DialupProfileField& field : DialupProfileFields) {
         const FieldRules::Rule& rule = FieldRules::of(field);
         if (rule.kind == Kind::Fixed) continue;
-        const QString most = rule.length ? QString(", at most %1 characters").arg(rule.length) : QString();
-        text += QString("  %1 %2%3\n").arg(field.attribute, -12).arg(kindText(rule.kind), most);
+        const QString kind = kindText(rule.kind);
+        const QString help =
+            rule.length ? message("%1, at most %2 characters", {kind, QString::number(rule.length)}) : kind;
+        text += QString("  %1 %2\n").arg(field.attribute, -12).arg(help);
     }
     return text;
 }
@@ -80,12 +83,15 @@ FieldAssignments::FieldAssignments(const QStringList& arguments) {
     for (const QString& argument : arguments) {
         const int sign = argument.indexOf('=');
         // The value may be a password in the wrong place: it is not repeated.
-        if (sign < 0) throw CommandError::usage("an argument is not FIELD=VALUE; fields: " + settableFields());
+        if (sign < 0)
+            throw CommandError::usage(message("an argument is not FIELD=VALUE; fields: %1", {settableFields()}));
         const QString name = argument.left(sign);
         const QString text = argument.mid(sign + 1);
         const DialupProfileField* field = findSettable(name);
-        if (!field) throw CommandError::usage(quoted(name) + " is no field to set; fields: " + settableFields());
-        if (contains(field->attribute)) throw CommandError::usage("the field " + quoted(name) + " is given twice");
+        if (!field)
+            throw CommandError::usage(message("%1 is no field to set; fields: %2", {quoted(name), settableFields()}));
+        if (contains(field->attribute))
+            throw CommandError::usage(message("the field %1 is given twice", {quoted(name)}));
         const QString value = valueOf(*field, text);
         requireNone(FieldRules::valueProblem(*field, value));
         m_Assignments.append({field, value});
@@ -95,7 +101,8 @@ FieldAssignments::FieldAssignments(const QStringList& arguments) {
 
 void FieldAssignments::warn() const {
     if (m_bShowsPassword)
-        printWarning("others can read a password on the command line in the list of processes; use password=-");
+        printWarning(
+            message("others can read a password on the command line in the list of processes; use password=-"));
     DialupProfile given;
     applyTo(&given);
     for (const QString& note : ConnectionText::notes(given)) printWarning(note);
@@ -120,15 +127,15 @@ void checkProfile(const ProfileSession& session, const DialupProfile& profile, c
     int nameLength = 0;
     session->GetFunctionConfigValue("ProfileNameLength", nameLength, Rules::DefaultNameLength);
 
-    require(Rules::isNamePresent(profile.name), "a profile needs a name");
+    require(Rules::isNamePresent(profile.name), message("a profile needs a name"));
     if (isNewName && session.names().contains(profile.name))
-        throw CommandError::refused("there is a profile " + quoted(profile.name) + " already");
+        throw CommandError::refused(message("there is a profile %1 already", {quoted(profile.name)}));
     requireNone(FieldRules::nameProblem(profile.name));
-    require(!isNewName || FieldRules::isStorable(profile.name), "a name must not contain control characters");
+    require(!isNewName || FieldRules::isStorable(profile.name), message("a name must not contain control characters"));
     if (isNewName) requireNone(FieldRules::nameLengthProblem(profile.name, nameLength));
     require(Rules::isAccessNumberPresent(profile.phonenumber),
-            "a profile needs an access number, for example phonenumber=*99#");
-    require(Rules::isAPNAcceptable(profile.apn), "apn: must begin and end with a letter or a digit");
+            message("a profile needs an access number, for example phonenumber=*99#"));
+    require(Rules::isAPNAcceptable(profile.apn), message("apn: must begin and end with a letter or a digit"));
     require(!session.isOn("ENCRYPT") || Rules::isPasswordKeepable(profile.password),
-            "password: only Latin-1 characters can be stored sealed");
+            message("password: only Latin-1 characters can be stored sealed"));
 }

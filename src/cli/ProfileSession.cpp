@@ -20,7 +20,7 @@ NetConnectStoreAction::Kind actionKind(ProfileSession::Kind kind) {
 
 // How to get a profile that may be changed from one that may not.
 QString copyAdvice(const QString& name) {
-    return message("; make one of your own from it: %1", {"orbisctl add \"new name\" --like " + name});
+    return QString("orbisctl add %1 --like %2").arg(quoted(message("new name")), name);
 }
 
 }  // namespace
@@ -96,20 +96,23 @@ void ProfileSession::requireUserFile() const {
 void ProfileSession::requireOwn(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
     if (!m_pLogic->HasUserProfile(profile.name))
-        throw CommandError::refused(message("%1 is a preset", {name}) + copyAdvice(name));
+        throw CommandError::refused(
+            message("%1 is a preset; make one of your own from it: %2", {name, copyAdvice(name)}));
 }
 
 void ProfileSession::requireChangeable(const DialupProfile& profile) const {
     const QString name = quoted(profile.name);
     requireOwn(profile);
-    if (profile.readonly == "true") throw CommandError::refused(message("%1 is read-only", {name}) + copyAdvice(name));
+    if (profile.readonly == "true")
+        throw CommandError::refused(
+            message("%1 is read-only; make one of your own from it: %2", {name, copyAdvice(name)}));
 }
 
 void ProfileSession::require(int status, const QString& what) const {
     if (status == NetConnectSettingUILogic::Success) return;
     const NetConnectStorageProblem problem = m_pLogic->LastStorageProblem();
-    throw CommandError::failed(what + ": " +
-                               (problem.isNull() ? message("status %1", {QString::number(status)}) : problem.text()));
+    throw CommandError::failed(
+        withReason(what, problem.isNull() ? message("status %1", {QString::number(status)}) : problem.text()));
 }
 
 void ProfileSession::finish() {

@@ -2,6 +2,7 @@
 // list, show, config.
 
 #include <QJsonArray>
+#include <algorithm>
 
 #include "Command.h"
 #include "CommandError.h"
@@ -10,8 +11,13 @@
 #include "Message.h"
 #include "Output.h"
 #include "ProfileSession.h"
+#include "TerminalText.h"
 
 namespace {
+
+// Where a profile comes from.
+const char User[] = QT_TRANSLATE_NOOP("orbisctl", "user");
+const char Preset[] = QT_TRANSLATE_NOOP("orbisctl", "preset");
 
 // A profile's fields, as an object and as lines.
 QJsonObject describe(const DialupProfile& profile, bool showsSecrets, QStringList* lines) {
@@ -30,14 +36,15 @@ QJsonObject describe(const DialupProfile& profile, bool showsSecrets, QStringLis
 void listProfiles(const Invocation&, Output& output) {
     ProfileSession session(ProfileSession::Reading);
     const QString defaultName = session.defaultName();
+    const int width = std::max(TerminalText::columns(message(User)), TerminalText::columns(message(Preset)));
     QJsonArray profiles;
     QStringList lines;
     for (const QString& name : session.names()) {
         const bool isDefault = name == defaultName;
-        const char* const source = session->HasUserProfile(name) ? QT_TRANSLATE_NOOP("orbisctl", "user")
-                                                                 : QT_TRANSLATE_NOOP("orbisctl", "preset");
+        const char* const source = session->HasUserProfile(name) ? User : Preset;
         profiles.append(QJsonObject{{"name", name}, {"default", isDefault}, {"source", source}});
-        lines.append(QString("%1 %2 %3").arg(isDefault ? "*" : " ", message(source).leftJustified(6), name));
+        lines.append(
+            QString("%1 %2 %3").arg(isDefault ? "*" : " ", TerminalText::padded(message(source), width), name));
     }
     output.result({{"profiles", profiles}}, lines);
     session.finish();
@@ -59,7 +66,8 @@ void showProfiles(const Invocation& invocation, Output& output) {
 
 void showConfiguration(const Invocation& invocation, Output& output) {
     if (invocation.isSet("check")) return checkShippedFiles(invocation, output);
-    if (invocation.arguments().size() > 1) throw CommandError::usage("config takes one key; see config --check");
+    if (invocation.arguments().size() > 1)
+        throw CommandError::usage(message("config takes one key; see config --check"));
     ProfileSession session(ProfileSession::Reading);
     const QStringList all = session->FunctionConfigKeys();
     const QStringList keys = invocation.arguments().isEmpty() ? all : invocation.arguments();

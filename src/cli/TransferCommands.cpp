@@ -130,7 +130,7 @@ void warnOfProblems(const ProfileSession& session, const QStringList& names) {
     for (const DialupProfile& profile : session->ImportCandidates()) {
         if (!imported.contains(profile.name)) continue;
         for (const QString& problem : FieldRules::storedProblems(profile, nameLength))
-            printWarning(quoted(profile.name) + ": " + problem);
+            printWarning(withReason(quoted(profile.name), problem));
         if (session.isOn("ENCRYPT") && !FieldRules::isPasswordReadable(profile))
             printWarning(message("the password of %1 is not base64, as its encrypttype says; set it again",
                                  {quoted(profile.name)}));

@@ -13,11 +13,13 @@
 #include "DataConnection.h"
 #include "EventWait.h"
 #include "HiddenInput.h"
+#include "Message.h"
 #include "ModemReport.h"
 #include "Output.h"
 #include "PresetOperator.h"
 #include "ProfileSession.h"
 #include "StandardOutput.h"
+#include "TerminalText.h"
 
 namespace {
 
@@ -39,19 +41,19 @@ CommandError::ExitStatus exitStatus(int failure) {
 VRKS_Ussd session() {
     VRKS_Ussd ussd{};
     ussd.size = sizeof ussd;
-    if (VRKS_NetSrv_GetUssd(&ussd) != 0) throw CommandError::failed("the modem does not answer");
+    if (VRKS_NetSrv_GetUssd(&ussd) != 0) throw CommandError::failed(message("the modem does not answer"));
     return ussd;
 }
 
 CommandError errorOf(const VRKS_Ussd& ussd) {
-    const QString text = ConnectionText::ussdFailure(ussd.failure), words = QString::fromUtf8(ussd.words);
-    return {exitStatus(ussd.failure), words.isEmpty() ? text : QString("%1 (%2)").arg(text, words)};
+    return {exitStatus(ussd.failure),
+            withDetails(ConnectionText::ussdFailure(ussd.failure), QString::fromUtf8(ussd.words))};
 }
 
 void requireModem() {
     VRKS_ModemInfo info;
-    if (!ModemReport::current(&info)) throw CommandError::failed("nothing can tell which modem is in use");
-    if (!*info.id) throw CommandError::notFound("there is no modem");
+    if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modem is in use"));
+    if (!*info.id) throw CommandError::notFound(message("there is no modem"));
 }
 
 // A conversation, which is ended however the command ends: networks let a session stay open, and cost for it.
@@ -73,12 +75,13 @@ public:
 
     void run(const QString& command) {
         if (VRKS_NetSrv_SendUssd(command.toUtf8().constData()) != 0)
-            throw CommandError::refused("the modem is not ready for a command, or another one is under way");
+            throw CommandError::refused(message("the modem is not ready for a command, or another one is under way"));
         m_bOpen = true;
         for (VRKS_Ussd ussd = answer(); !show(ussd); ussd = answer()) {
             const QByteArray reply = readReply();
             if (reply.isEmpty()) return;
-            if (VRKS_NetSrv_AnswerUssd(reply.constData()) != 0) throw CommandError::failed("the session has ended");
+            if (VRKS_NetSrv_AnswerUssd(reply.constData()) != 0)
+                throw CommandError::failed(message("the session has ended"));
         }
     }
 
@@ -91,7 +94,8 @@ private:
             if (ussd.state != VRKS_USSD_SENT) return ussd;
             const EventWait::Waking waking = m_Events.wait(deadline);
             if (waking == EventWait::SignalCame) cancelAndEnd();
-            if (waking == EventWait::TimeIsUp) throw CommandError::timedOut("the network did not answer in time");
+            if (waking == EventWait::TimeIsUp)
+                throw CommandError::timedOut(message("the network did not answer in time"));
         }
     }
 
@@ -109,12 +113,17 @@ private:
 
     // The next line; empty ends the session.
     QByteArray readReply() {
-        if (isTerminalInput()) StandardOutput::write(STDERR_FILENO, Prompt, sizeof Prompt - 1);
+        if (isTerminalInput()) askForReply();
         while (!m_Input.contains('\n') && readMore()) continue;
         const int end = m_Input.indexOf('\n');
         const QByteArray line = m_Input.left(end).trimmed();
         m_Input.remove(0, end < 0 ? m_Input.size() : end + 1);
         return line;
+    }
+
+    static void askForReply() {
+        const QByteArray prompt = TerminalText::printable(message("Answer (none ends the session): ")).toUtf8();
+        StandardOutput::write(STDERR_FILENO, prompt.constData(), std::size_t(prompt.size()));
     }
 
     // False at the end of the input. The network may end the session meanwhile.
@@ -136,8 +145,6 @@ private:
         EndingSignals::obey();
     }
 
-    static constexpr char Prompt[] = "Answer (none ends the session): ";
-
     About m_About;
     const qint64 m_Patience;
     Output& m_Output;
@@ -155,7 +162,8 @@ OperatorEntry operatorInUse() {
     if (!connection.isDown()) profiles.prepend(connection.name);
     const std::optional<OperatorEntry> found = presetOperator(profiles);
     if (!found)
-        throw CommandError::notFound("neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE");
+        throw CommandError::notFound(
+            message("neither the profile nor the SIM card tells the operator; see orbisctl ussd CODE"));
     return *found;
 }
 
@@ -170,13 +178,13 @@ QJsonObject about(const OperatorEntry& entry, const BalanceQuery& query) {
 [[noreturn]] void tellByHand(const OperatorEntry& entry, Output& output) {
     const QString& name = entry.names.first();
     if (entry.balanceQueries.isEmpty())
-        throw CommandError::notFound("how " + name + " tells a balance is not known; see orbisctl ussd CODE");
+        throw CommandError::notFound(message("how %1 tells a balance is not known; see orbisctl ussd CODE", {name}));
     for (const BalanceQuery& query : entry.balanceQueries) {
         QJsonObject object = about(entry, query);
         object["message"] = query.way == BalanceQuery::Message ? QJsonValue(query.text) : QJsonValue();
         output.result(object, {ConnectionText::balanceByHand(query)});
     }
-    throw CommandError::refused("nothing was sent: " + name + " tells a balance by message or phone alone");
+    throw CommandError::refused(message("nothing was sent: %1 tells a balance by message or phone alone", {name}));
 }
 
 }  // namespace
@@ -192,6 +200,6 @@ void askBalance(const Invocation& invocation, Output& output) {
     const OperatorEntry entry = operatorInUse();
     const BalanceQuery* const query = balanceCommand(entry);
     if (!query) tellByHand(entry, output);
-    const QString line = QString("%1, %2:").arg(entry.names.first(), query->number);
+    const QString line = message("%1, %2:", {entry.names.first(), query->number});
     Conversation({about(entry, *query), {line}}, patience, output).run(query->number);
 }

@@ -15,7 +15,7 @@
 static Output outputOf(const Invocation& invocation) {
     const bool wantsFields = invocation.isSet("terse") || invocation.isSet("fields");
     if (!wantsFields) return Output(invocation.isSet("json") ? Output::Json : Output::Text);
-    if (invocation.isSet("json")) throw CommandError::usage("--json goes with neither --terse nor --fields");
+    if (invocation.isSet("json")) throw CommandError::usage(message("--json goes with neither --terse nor --fields"));
     return Output(Output::Fields, invocation.value("fields").split(',', Qt::SkipEmptyParts));
 }
 
@@ -31,15 +31,15 @@ static void run(const Invocation& invocation) {
 int main(int argc, char** argv) {
     ProgramStart::prepare("orbisctl", CommandError::Failed);
     try {
-        Platform::prepare(argc, argv);
+        Platform::prepare();
         const QCoreApplication application(argc, argv);
+        useLanguageOfLocale();
+        Platform::requireUtf8(argc, argv);
         const QStringList commandLine = application.arguments();
-        if (Completion::isWanted(commandLine)) {
+        if (Completion::isWanted(commandLine))
             Completion::answer(commandLine.mid(2));
-        } else {
-            useLanguageOfLocale();
+        else
             run(Invocation(commandLine));
-        }
     } catch (const CommandError& error) {
         printDiagnostic(error.text);
         return error.status;

@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QStringList>
 #include <algorithm>
+#include <clocale>
+#include <cwchar>
 #include <numeric>
 
 namespace {
@@ -74,6 +76,21 @@ QString jsonWord(const QJsonValue& value) {
 
 QString TerminalText::printable(const QString& text) {
     return withHidden(text, [](const QChar*, int) { return QChar(QChar::ReplacementCharacter); });
+}
+
+// The C library's own word for it, whatever the locale. Where it has none every character takes one.
+int TerminalText::columns(const QString& text) {
+    static const locale_t utf8 = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    if (!utf8) return text.size();
+    const locale_t before = ::uselocale(utf8);
+    int taken = 0;
+    for (const uint character : text.toUcs4()) taken += std::max(0, ::wcwidth(wchar_t(character)));
+    ::uselocale(before);
+    return taken;
+}
+
+QString TerminalText::padded(const QString& text, int count) {
+    return text + QString(std::max(0, count - columns(text)), ' ');
 }
 
 // QJsonDocument's own text would hold them as they are, and a question mark for half a pair.

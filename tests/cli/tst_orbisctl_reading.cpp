@@ -39,14 +39,16 @@ private slots:
 
     // People are spoken to in the language of their locale, scripts never.
     void language_data() {
-        const Rows<QByteArray, QByteArray, QByteArray, QByteArray> row("LC_ALL", "LANG", "LANGUAGE", "not connected");
-        row("POSIX", "", "POSIX", "de", "not connected");
-        row("C with an encoding", "C.UTF-8", "de_DE.UTF-8", "de", "not connected");
-        row("none of ours", "", "ja_JP.UTF-8", "", "not connected");
-        row("LANG", "", "de_AT.UTF-8", "", "nicht verbunden");
-        row("LANGUAGE first", "", "ja_JP.UTF-8", "xx:es:de", "sin conexi\u00f3n");
-        row("English wanted first", "", "de_DE.UTF-8", "en_GB:de", "not connected");
-        row("from right to left", "ar_EG.UTF-8", "", "", "\u063a\u064a\u0631 \u0645\u062a\u0635\u0644");
+        const Rows<QByteArray, QByteArray, QByteArray, QByteArray, QByteArray> row("LC_ALL", "LANG", "LANGUAGE",
+                                                                                   "not connected", "Commands");
+        row("POSIX", "", "POSIX", "de", "not connected", "Commands:");
+        row("C with an encoding", "C.UTF-8", "de_DE.UTF-8", "de", "not connected", "Commands:");
+        row("none of ours", "", "ja_JP.UTF-8", "", "not connected", "Commands:");
+        row("LANG", "", "de_AT.UTF-8", "", "nicht verbunden", "Befehle:");
+        row("LANGUAGE first", "", "ja_JP.UTF-8", "xx:es:de", "sin conexi\u00f3n", "\u00d3rdenes:");
+        row("English wanted first", "", "de_DE.UTF-8", "en_GB:de", "not connected", "Commands:");
+        row("from right to left", "ar_EG.UTF-8", "", "", "\u063a\u064a\u0631 \u0645\u062a\u0635\u0644",
+            "\u0627\u0644\u0623\u0648\u0627\u0645\u0631:");
     }
     void language() {
         const OrbisctlFixture fixture;
@@ -62,11 +64,13 @@ private slots:
         const QByteArray locale = qgetenv("LC_ALL");
         for (const char* name : {"LC_ALL", "LANG", "LANGUAGE"}) qputenv(name, cell<QByteArray>(name));
         const Outcome status = fixture.run({"status"});
+        const Outcome help = fixture.run({"--help"});
         const Outcome unknown = fixture.run({"show", "Nope"});
         const QList<Outcome> now = inEnglish();
         qputenv("LC_ALL", locale);
         COMPARE_DONE(status);
         QVERIFY2(status.out.startsWith(cell<QByteArray>("not connected")), status.out);
+        QVERIFY2(help.out.contains('\n' + cell<QByteArray>("Commands") + '\n'), help.out);
         COMPARE_REFUSED(unknown, 3, "Nope");
         for (int i = 0; i < now.size(); ++i) {
             QCOMPARE(now.at(i).out, before.at(i).out);

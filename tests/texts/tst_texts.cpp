@@ -110,19 +110,23 @@ QMap<QString, QString> usedKeys() {
     return used;
 }
 
-// What orbisctl says stands in English in its code.
-QStringList usedMessages() {
-    static const QRegularExpression said(
-        "(?:message\\(|QT_TRANSLATE_NOOP\\(\"orbisctl\",\\s*)\\s*\"((?:[^\"\\\\]|\\\\.)*)\"");
-    QStringList messages;
-    QDirIterator files(ORBISDIAL_SOURCE_DIR "/src/cli", {"*.cpp"}, QDir::Files);
+// What a pattern's first group captures in the sources of a folder.
+QStringList captured(const QString& folder, const QString& pattern) {
+    const QRegularExpression expression(pattern);
+    QStringList texts;
+    QDirIterator files(ORBISDIAL_SOURCE_DIR "/" + folder, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
         if (!file.open(QIODevice::ReadOnly)) continue;
-        for (auto match = said.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();)
-            messages.append(match.next().captured(1));
+        for (auto match = expression.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();)
+            texts.append(match.next().captured(1));
     }
-    return messages;
+    return texts;
+}
+
+// What orbisctl says stands in English in its code.
+QStringList usedMessages() {
+    return captured("src/cli", "(?:message\\(|QT_TRANSLATE_NOOP\\(\"orbisctl\",\\s*)\\s*\"((?:[^\"\\\\]|\\\\.)*)\"");
 }
 
 QString placeholders(const QString& text) {
@@ -160,6 +164,13 @@ private slots:
         QSet<QString> unused = keysOf(m_Texts["en"]) - QSet<QString>(used.keyBegin(), used.keyEnd());
         for (const QString& message : usedMessages()) unused.remove(Messages + message);
         QCOMPARE(joined(unused), QString());
+    }
+
+    void nothingIsSaidPastTheTranslator() {
+        const QString words =
+            "\\b(?:failed|usage|notFound|refused|timedOut|printWarning|printDiagnostic)\\(\\s*(?:QString\\()?\"([^\"]*"
+            ")";
+        QCOMPARE(captured("src/cli", words).join('\n'), QString());
     }
 
     void languageIsComplete_data() { addLanguageRows(); }
