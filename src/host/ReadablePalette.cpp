@@ -2,6 +2,7 @@
 #include "ReadablePalette.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
@@ -56,7 +57,7 @@ QColor readable(const QColor& pale, const QColor& text, const QList<QColor>& gro
 }  // namespace
 
 ReadablePalette::ReadablePalette() {
-    connect(qApp, &QGuiApplication::paletteChanged, this, &ReadablePalette::apply);
+    qApp->installEventFilter(this);
     apply();
 }
 
@@ -75,6 +76,11 @@ QPalette ReadablePalette::of(QPalette palette) {
 double ReadablePalette::contrast(const QColor& one, const QColor& other) {
     const double first = luminance(one), second = luminance(other);
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+bool ReadablePalette::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) apply();
+    return QObject::eventFilter(watched, event);
 }
 
 // What an application sets hides the desktop's colours until it is taken back.

@@ -22,6 +22,8 @@ public:
     // WCAG 2.1's ratio, from 1 to 21.
     static double contrast(const QColor& one, const QColor& other);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void apply();
 
