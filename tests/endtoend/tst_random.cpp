@@ -85,7 +85,7 @@ private slots:
             if (QTest::currentTestFailed()) return qWarning("%s", qPrintable(m_Log + "; said: " + m_Said.join('|')));
             openSettings();
         }
-        qInfo("%d profiles are stored, %d were saved", m_Stored.size(), m_Saves);
+        qInfo("%d profiles are stored, %d were saved", int(m_Stored.size()), m_Saves);
         QVERIFY(m_Saves > 0);
     }
 

@@ -246,7 +246,7 @@ private slots:
                     (element.attributes["way"] + ' ' + element.attributes["number"] + ' ' + element.attributes["text"])
                         .trimmed());
         QTEST(kept.join('|'), "kept");
-        QTEST(tool.error.count('\n'), "warnings");
+        QTEST(int(tool.error.count('\n')), "warnings");
     }
 
     void indexesOperators_data() {

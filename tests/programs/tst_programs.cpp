@@ -33,16 +33,20 @@ QStringList loadableFiles(const QString& folder) {
     return found;
 }
 
+void giveUpRights() {
+    const uid_t nobody = 65534;
+    if (getuid() == 0 && setuid(nobody) != 0) _exit(127);
+}
+
 // A program that somebody without special rights has started, waiting for its input.
 class AnybodysProgram : public QProcess {
-public:
-    using QProcess::QProcess;
-
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 protected:
-    void setupChildProcess() override {
-        const uid_t nobody = 65534;
-        if (getuid() == 0 && setuid(nobody) != 0) _exit(127);
-    }
+    void setupChildProcess() override { giveUpRights(); }
+#else
+public:
+    AnybodysProgram() { setChildProcessModifier(giveUpRights); }
+#endif
 };
 
 }  // namespace
