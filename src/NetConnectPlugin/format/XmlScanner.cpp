@@ -44,13 +44,26 @@ quint64 markOf(const XmlPiece& name) {
     return quint64(1) << (sum & 63);
 }
 
+// Skips so many bytes at both places if they are the same.
+template <int Size>
+bool skipAlike(const char** one, const char** other, const char* end) {
+    if (end - *one < Size || memcmp(*one, *other, Size) != 0) return false;
+    *one += Size;
+    *other += Size;
+    return true;
+}
+
 // How many of the next bytes are the same at both places.
 int alikeSize(const char* one, const char* other, int most) {
-    const int stride = int(sizeof(quint64));
-    int size = 0;
-    while (most - size >= stride && memcmp(one + size, other + size, sizeof(quint64)) == 0) size += stride;
-    while (size < most && one[size] == other[size]) ++size;
-    return size;
+    const char* const begin = one;
+    const char* const end = one + most;
+    while (skipAlike<16>(&one, &other, end)) {
+    }
+    skipAlike<8>(&one, &other, end);
+    skipAlike<4>(&one, &other, end);
+    skipAlike<2>(&one, &other, end);
+    skipAlike<1>(&one, &other, end);
+    return int(one - begin);
 }
 
 bool isTail(char c) { return (c & 0xc0) == 0x80; }
@@ -81,24 +94,30 @@ QString squeezed(QString text) {
 
 }  // namespace
 
-QString XmlPiece::toString() const {
-    if (isPlain) return QString::fromLatin1(begin, size);
-    if (!memchr(begin, '&', size_t(size))) return squeezed(QString::fromUtf8(begin, size));
+QString XmlPiece::decoded() const {
+    const char* const end = begin + size;
+    const char* const reference = static_cast<const char*>(memchr(begin, '&', size_t(size)));
+    if (!reference) return squeezed(QString::fromUtf8(begin, size));
     QByteArray text;
     text.reserve(size);
-    for (const char* at = begin; at != begin + size;) {
-        const int reference = *at == '&' ? referenceAt(at) : -1;
-        text += reference < 0 ? *at : References[reference].character;
-        at += reference < 0 ? 1 : int(strlen(References[reference].text));
+    const char* from = begin;
+    for (const char* at = reference; at; at = static_cast<const char*>(memchr(from, '&', size_t(end - from)))) {
+        const int number = referenceAt(at);
+        text.append(from, int(at - from));
+        text += References[number].character;
+        from = at + strlen(References[number].text);
     }
+    text.append(from, int(end - from));
     return squeezed(QString::fromUtf8(text.constData(), text.size()));
 }
 
-// FNV-1a
+// Texts that end alike are few.
 uint qHash(const XmlPiece& piece) {
-    uint hash = 2166136261u;
-    for (int i = 0; i < piece.size; ++i) hash = (hash ^ static_cast<unsigned char>(piece.begin[i])) * 16777619u;
-    return hash ^ hash >> 16;
+    const int most = int(sizeof(quint64));
+    quint64 end = 0;
+    memcpy(&end, piece.begin + qMax(piece.size - most, 0), size_t(qMin(piece.size, most)));
+    end = (end ^ quint64(piece.size)) * Q_UINT64_C(0x9e3779b97f4a7c15);
+    return uint(end >> 32);
 }
 
 XmlScanner::XmlScanner(const QByteArray& document)
@@ -108,6 +127,7 @@ XmlScanner::XmlScanner(const QByteArray& document)
       m_Elements(0),
       m_IsEmptyElement(false),
       m_Tag(m_Tags),
+      m_NextTag(0),
       m_AttributeCount(0),
       m_Former(nullptr),
       m_FormerEnd(nullptr),
@@ -142,12 +162,13 @@ bool XmlScanner::isHere(const XmlPiece& piece) const {
     return piece.size > 0 && m_End - m_At >= piece.size && memcmp(m_At, piece.begin, size_t(piece.size)) == 0;
 }
 
-// A line break and the indentation after it, mostly.
-void XmlScanner::skipBlanks() {
-    if (is(*m_At, Blank)) ++m_At;
-    const char indentation[] = "        ";
-    const int size = int(sizeof(indentation)) - 1;
-    while (m_End - m_At >= size && memcmp(m_At, indentation, size) == 0) m_At += size;
+// Nothing, or a line break and the indentation after it, mostly.
+inline void XmlScanner::skipBlanks() {
+    if (!is(*m_At, Blank)) return;
+    ++m_At;
+    static const char indentation[] = "        ";
+    for (const char* blanks = indentation; skipAlike<8>(&m_At, &blanks, m_End); blanks = indentation) {
+    }
     while (is(*m_At, Blank)) ++m_At;
 }
 
@@ -164,11 +185,13 @@ bool XmlScanner::skipComment() {
 XmlScanner::Token XmlScanner::scanStartTag() {
     if (m_Depth == MostDepth || (m_Depth == 0 && m_Elements > 0) || ++m_Elements > XmlText::MostElements)
         return Unknown;
-    if (!scanName(&m_Name)) return Unknown;
-    m_Open[m_Depth++] = m_Name;
+    if (!scanElementName()) return Unknown;
+    m_Name = m_Open[m_Depth++] = m_Tag->name;
     beginAttributes();
-    while (*m_At == ' ')
-        if (!skipFormer() && !scanAttribute()) return Unknown;
+    while (*m_At == ' ') {
+        const int alike = skipFormer();
+        if (*m_At == ' ' && !scanAttribute(alike)) return Unknown;
+    }
     m_Tag->count = m_AttributeCount;
     m_Tag->end = m_At;
     m_IsEmptyElement = *m_At == '/';
@@ -202,41 +225,51 @@ bool XmlScanner::scanName(XmlPiece* name) {
     return name->size <= longest && strncmp(name->begin, "xml", 3) != 0;
 }
 
-void XmlScanner::beginAttributes() {
-    m_Tag = &m_Tags[m_Name.size % TagCount];
-    const bool isKnown = m_Tag->name == m_Name;
-    if (!isKnown) m_Tag->name = m_Name;
+// The name keeps the piece of the last element of that name, if there is one: then its attributes are known, too.
+inline bool XmlScanner::scanElementName() {
+    for (int i = 0; i < TagCount; ++i) {
+        m_Tag = &m_Tags[i];
+        if (*m_At != *m_Tag->name.begin || !isHere(m_Tag->name) || is(m_At[m_Tag->name.size], NamePart)) continue;
+        m_At += m_Tag->name.size;
+        m_FormerCount = m_Tag->count;
+        return true;
+    }
+    m_FormerCount = -1;
+    m_Tag = &m_Tags[m_NextTag++ % TagCount];
+    return scanName(&m_Tag->name);
+}
+
+inline void XmlScanner::beginAttributes() {
     m_Former = m_Tag->begin;
     m_FormerEnd = m_Tag->end;
-    m_FormerCount = isKnown ? m_Tag->count : -1;
     m_Tag->begin = m_At;
     m_AttributeCount = 0;
     m_AreNamesFormer = true;
     m_Changed = 0;
 }
 
-// Goes over the attributes that read alike in the last element of the name; false when there is none here.
-bool XmlScanner::skipFormer() {
-    if (!m_AreNamesFormer || m_AttributeCount >= m_FormerCount) return false;
-    const int alike = alikeSize(m_At, m_Former, int(qMin(m_FormerEnd - m_Former, m_End - m_At)));
+// Goes over the attributes that read alike in the last element of the name. Answers how many bytes of the next one do.
+inline int XmlScanner::skipFormer() {
+    if (!m_AreNamesFormer || m_AttributeCount >= m_FormerCount) return 0;
+    const int rest = int(m_FormerEnd - m_Former);
+    const int alike = alikeSize(m_At, m_Former, qMin(rest, int(m_End - m_At)));
     const int* const sizes = m_Tag->sizes;
-    int size = 0;
-    int place = m_AttributeCount;
+    int size = alike == rest ? rest : 0;
+    int place = alike == rest ? m_FormerCount : m_AttributeCount;
     while (place < m_FormerCount && size + sizes[place] <= alike) size += sizes[place++];
-    if (size == 0) return false;
     m_AttributeCount = place;
     m_Former += size;
     m_At += size;
-    return true;
+    return alike - size;
 }
 
-bool XmlScanner::scanAttribute() {
+inline bool XmlScanner::scanAttribute(int alike) {
     if (m_AttributeCount == MostAttributes) return false;
     if (m_AttributeCount >= m_FormerCount) leaveFormer();
-    const char* const begin = m_At++;
-    if (!scanAttributeName(&m_Tag->names[m_AttributeCount]) || m_At[0] != '=' || m_At[1] != '"') return false;
-    m_At += 2;
-    if (!scanValue(&m_Tag->values[m_AttributeCount])) return false;
+    const char* const begin = m_At;
+    XmlPiece* const value = &m_Tag->values[m_AttributeCount];
+    if (!scanAttributeStart(&m_Tag->names[m_AttributeCount], alike)) return false;
+    if (!scanValue(value, value->isPlain ? qMax(alike - int(m_At - begin), 0) : 0)) return false;
     int* const size = &m_Tag->sizes[m_AttributeCount];
     if (m_AreNamesFormer) m_Former += *size;
     *size = int(m_At - begin);
@@ -245,13 +278,22 @@ bool XmlScanner::scanAttribute() {
     return true;
 }
 
-bool XmlScanner::scanAttributeName(XmlPiece* name) {
+// The blank, the name, and what stands between it and the value.
+inline bool XmlScanner::scanAttributeStart(XmlPiece* name, int alike) {
+    const int around = 3;  // bytes
+    if (alike >= name->size + around) {
+        m_At += name->size + around;
+        return true;
+    }
+    ++m_At;
     if (isHere(*name) && m_At[name->size] == '=') {
         m_At += name->size;
     } else {
         leaveFormer();
         if (!scanName(name)) return false;
     }
+    if (m_At[0] != '=' || m_At[1] != '"') return false;
+    m_At += 2;
     return m_AreNamesFormer || isNewAttribute(*name);
 }
 
@@ -272,9 +314,11 @@ bool XmlScanner::isNewAttribute(const XmlPiece& name) {
     return true;
 }
 
-bool XmlScanner::scanValue(XmlPiece* value) {
+// So many bytes are known to be those that a plain value began with.
+inline bool XmlScanner::scanValue(XmlPiece* value, int known) {
     value->begin = m_At;
     value->isPlain = true;
+    m_At += known;
     for (;;) {
         while (is(*m_At, ValuePart)) ++m_At;
         if (*m_At == '"') break;

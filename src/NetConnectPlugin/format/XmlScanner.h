@@ -16,15 +16,16 @@ struct XmlPiece {
         return size == other.size && (begin == other.begin || memcmp(begin, other.begin, size_t(size)) == 0);
     }
     bool operator==(const char* name) const {
-        int i = 0;
-        while (i < size && begin[i] == name[i]) ++i;
-        return i == size && name[i] == 0;
+        return size_t(size) == strlen(name) && memcmp(begin, name, size_t(size)) == 0;
     }
-    QString toString() const;
+    QString toString() const { return isPlain ? QString::fromLatin1(begin, size) : decoded(); }
 
     const char* begin;
     int size;
     bool isPlain;  // ASCII without references
+
+private:
+    QString decoded() const;
 };
 uint qHash(const XmlPiece& piece);
 
@@ -102,11 +103,12 @@ private:
     Token scanStartTag();
     Token scanEndTag();
     bool scanName(XmlPiece* name);
+    bool scanElementName();
     void beginAttributes();
-    bool skipFormer();
-    bool scanAttribute();
-    bool scanAttributeName(XmlPiece* name);
-    bool scanValue(XmlPiece* value);
+    int skipFormer();
+    bool scanAttribute(int alike);
+    bool scanAttributeStart(XmlPiece* name, int alike);
+    bool scanValue(XmlPiece* value, int known);
     bool isNewAttribute(const XmlPiece& name);
     bool skipIf(const char* text);
     bool isHere(const XmlPiece& piece) const;
@@ -121,6 +123,7 @@ private:
     bool m_IsEmptyElement;
     Tag m_Tags[TagCount];
     Tag* m_Tag;  // of the element that started last; up to m_AttributeCount its attributes are this element's already
+    int m_NextTag;  // the one that a new name takes
     int m_AttributeCount;
     const char* m_Former;      // in the last element of that name the attribute at the place that is scanned next
     const char* m_FormerEnd;   // where its attributes end
