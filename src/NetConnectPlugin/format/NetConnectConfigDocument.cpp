@@ -6,37 +6,36 @@
 
 namespace {
 
-// The element; its attribute "name" was read already.
 template <class Element>
-NetConnectConfigElement configElement(const Element& source, const QString& name) {
-    const struct {
-        const char* element;
+NetConnectConfigElement::Kind kindOf(const Element& element) {
+    static const struct {
+        const char* name;
         NetConnectConfigElement::Kind kind;
-        bool isNamedByIMSI;
-    } kinds[] = {
-        {"item", NetConnectConfigElement::Item, false},
-        {"IMSIProfileList", NetConnectConfigElement::IMSISection, true},
-        {"ProfileList", NetConnectConfigElement::ProfileListSection, false},
-        {"Function", NetConnectConfigElement::FunctionSection, false},
-        {"ProfileTemplate", NetConnectConfigElement::TemplateSection, false},
-        {"MultiModeDefaultProfile", NetConnectConfigElement::ModeDefaultSection, false},
-    };
-    NetConnectConfigElement element;
-    for (size_t i = 0; i < sizeof(kinds) / sizeof(kinds[0]); ++i) {
-        if (!source.isNamed(kinds[i].element)) continue;
-        element.kind = kinds[i].kind;
-        element.name = kinds[i].isNamedByIMSI ? source.value("imsi") : name;
-        element.value = source.commonValue("value");
-        element.type = source.commonValue("type");
-        break;
-    }
-    return element;
+    } kinds[] = {{"item", NetConnectConfigElement::Item},
+                 {"IMSIProfileList", NetConnectConfigElement::IMSISection},
+                 {"ProfileList", NetConnectConfigElement::ProfileListSection},
+                 {"Function", NetConnectConfigElement::FunctionSection},
+                 {"ProfileTemplate", NetConnectConfigElement::TemplateSection},
+                 {"MultiModeDefaultProfile", NetConnectConfigElement::ModeDefaultSection}};
+    for (size_t i = 0; i < sizeof(kinds) / sizeof(kinds[0]); ++i)
+        if (element.isNamed(kinds[i].name)) return kinds[i].kind;
+    return NetConnectConfigElement::Other;
+}
+
+// Its attribute "name" was read already.
+template <class Element>
+void fill(NetConnectConfigElement* element, const Element& source, NetConnectConfigElement::Kind kind,
+          const QString& name) {
+    element->kind = kind;
+    element->name = kind == NetConnectConfigElement::IMSISection ? source.value("imsi") : name;
+    element->value = source.commonValue("value");
+    element->type = source.commonValue("type");
 }
 
 // The element that a scanner stands on. Of the few values that come again and again, neighbours share their memory.
 class ScannedElement {
 public:
-    explicit ScannedElement(const XmlScanner& scanner) : m_Scanner(scanner) {}
+    explicit ScannedElement(const XmlScanner& scanner) : m_Scanner(scanner), m_Empty(QLatin1String("")) {}
     bool isNamed(const char* name) const { return m_Scanner.isNamed(name); }
     template <int Size>
     QString value(const char (&attribute)[Size]) const {
@@ -46,7 +45,7 @@ public:
     QString commonValue(const char (&attribute)[Size]) const {
         const XmlPiece* const piece = m_Scanner.find(attribute);
         if (!piece) return QString();
-        if (piece->size == 0) return piece->toString();
+        if (piece->size == 0) return m_Empty;
         if (!(*piece == m_Common)) {
             m_Common = *piece;
             m_Text = piece->toString();
@@ -56,6 +55,7 @@ public:
 
 private:
     const XmlScanner& m_Scanner;
+    const QString m_Empty;
     mutable XmlPiece m_Common;
     mutable QString m_Text;
 };
@@ -63,12 +63,15 @@ private:
 }  // namespace
 
 NetConnectConfigElement NetConnectConfigElement::of(const QXmlStreamReader& reader) {
-    const XmlReaderElement element(reader);
-    return configElement(element, element.value("name"));
+    const XmlReaderElement source(reader);
+    NetConnectConfigElement element;
+    const Kind kind = kindOf(source);
+    if (kind != Other) fill(&element, source, kind, source.value("name"));
+    return element;
 }
 
 QString UserPrompt::*NetConnectConfigDocument::promptField(const TextPart& name) {
-    const struct {
+    static const struct {
         QLatin1String name;
         QString UserPrompt::*field;
     } fields[] = {
@@ -118,15 +121,17 @@ void NetConnectConfigDocument::start(const Element& element, Place* place) {
         promptItems.append(PromptItem(field, element.value("value")));
     if (element.isNamed("group")) place->enter(&place->group, name);
     if (element.isNamed("module")) place->enter(&place->module, name);
-    append(place, configElement(element, name));
+    const NetConnectConfigElement::Kind kind = kindOf(element);
+    if (kind != NetConnectConfigElement::Other) fill(append(place), element, kind, name);
 }
 
-void NetConnectConfigDocument::append(Place* place, const NetConnectConfigElement& element) {
-    if (element.kind == NetConnectConfigElement::Other) return;
+NetConnectConfigElement* NetConnectConfigDocument::append(Place* place) {
     if (!place->hasStretch) {
         const Stretch stretch = {place->group, place->module, QVector<NetConnectConfigElement>()};
         stretches.append(stretch);
         place->hasStretch = true;
     }
-    stretches.last().elements.append(element);
+    QVector<NetConnectConfigElement>& elements = stretches.last().elements;
+    elements.resize(elements.size() + 1);
+    return &elements.last();
 }

@@ -66,7 +66,7 @@ private:
 
     template <class Element>
     void start(const Element& element, Place* place);
-    void append(Place* place, const NetConnectConfigElement& element);
+    NetConnectConfigElement* append(Place* place);
 };
 
 #endif

@@ -13,17 +13,12 @@ const char DefaultValue[] = "default";
 const char* const IMSISection = "IMSIProfileList";
 
 NetConnectXML readItem(const NetConnectConfigElement& element) {
-    NetConnectXML item;
-    item.value = element.value;
-    item.type = element.type;
+    const NetConnectXML item = {element.value, element.type};
     return item;
 }
 
 IMSIINFO readIMSIRow(const NetConnectConfigElement& element) {
-    IMSIINFO row;
-    row.name = element.name;
-    row.value = element.value;
-    row.type = element.type;
+    const IMSIINFO row = {element.name, element.value, element.type};
     return row;
 }
 
