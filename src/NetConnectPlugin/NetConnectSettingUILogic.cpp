@@ -196,11 +196,6 @@ void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
         collectLangids(m_ProfileLibList);
     }
     for (int i = 0; i < m_ProfileLibList.size(); ++i) translateName(&m_ProfileLibList, i);
-    if (m_ProfileLibList.isSharedWith(before)) return;
-
-    m_LibraryIndex.clear();
-    m_LibraryIndex.reserve(m_ProfileLibList.size());
-    for (int i = m_ProfileLibList.size() - 1; i >= 0; --i) m_LibraryIndex.insert(m_ProfileLibList.at(i).name, i);
 }
 
 // Reads a file that is not the user's: the defaults that it names for the card's modes are not the user's.

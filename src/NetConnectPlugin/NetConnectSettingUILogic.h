@@ -29,6 +29,7 @@
 #include "IPresetLibrary.h"
 #include "NetConnectStorageProblem.h"
 #include "NetConnectXMLParse.h"
+#include "ProfileIndex.h"
 #include "QtCompat.h"
 
 class NetConnectOperation;
@@ -392,7 +393,7 @@ private:
 
     QList<QString> m_UnsortedNames;  // what sortProfileNames was last given, and what it made of it
     QList<QString> m_SortedNames;
-    QHash<QString, int> m_LibraryIndex;        // shown name to first place in m_ProfileLibList
+    ProfileIndex m_LibraryIndex;               // of m_ProfileLibList, by shown names
     int m_nLibraryRevision;                    // of m_LibraryLangids
     QHash<QString, QString> m_LibraryLangids;  // stored name to langid
     QHash<QString, QString> m_StoredNames;     // shown name to stored name, the inverse of m_ProfileMap

@@ -134,7 +134,7 @@ int NetConnectSettingUILogic::findLibraryProfile(const QString& name) {
         QString ignoredDefault;
         readLibrary(&ignoredDefault);
     }
-    return m_LibraryIndex.value(name, -1);
+    return m_LibraryIndex.find(m_ProfileLibList, name);
 }
 
 int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* profile) {
