@@ -119,7 +119,7 @@ QList<DialupProfile> PresetFiles::readProfiles(const QString& path) {
 QByteArray PresetFiles::profileFile(const QList<DialupProfile>& profiles) {
     ProfileDocumentWriter out;
     out.startGroup();
-    for (const DialupProfile& profile : profiles) out.writeProfile(profile);
+    out.writeProfiles(profiles);
     return out.finish();
 }
 

@@ -19,6 +19,11 @@ private slots:
         for (int round = 0; round < 300; ++round) {
             const ProfileDocument document = randomDocument(&random);
             QCOMPARE(document.write(), writtenByQt(document));
+            ProfileDocument cleaned = document;
+            cleaned.clean();
+            ProfileDocument own = document;
+            QCOMPARE(own.writeClean(), writtenByQt(cleaned));
+            QVERIFY(ScannerOracle::isSame(own, cleaned));
         }
     }
 
@@ -250,9 +255,11 @@ private:
     static ProfileDocument randomDocument(QRandomGenerator* random) {
         ProfileDocument document;
         for (int count = random->bounded(5); count > 0; --count) {
-            document.profiles.append(DialupProfile());
+            const bool isLikeFormer = !document.profiles.isEmpty() && random->bounded(2);
+            document.profiles.append(isLikeFormer ? DialupProfile(document.profiles.last()) : DialupProfile());
             for (const DialupProfileField& field : DialupProfileFields)
-                document.profiles.last().*field.member = randomText(random);
+                if (!isLikeFormer || random->bounded(4) == 0)
+                    document.profiles.last().*field.member = randomText(random);
         }
         const ProfileDefaultEntry::Kind kinds[] = {ProfileDefaultEntry::Plain, ProfileDefaultEntry::WCDMA,
                                                    ProfileDefaultEntry::CDMA};

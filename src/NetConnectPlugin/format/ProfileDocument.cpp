@@ -177,13 +177,28 @@ void ProfileDocument::read(QXmlStreamReader& reader) {
     }
 }
 
-QByteArray ProfileDocument::write() const {
+static QByteArray written(const ProfileDocument& document, bool* isClean) {
     ProfileDocumentWriter writer;
     writer.startGroup();
-    for (int i = 0; i < profiles.size(); ++i) writer.writeProfile(profiles.at(i));
+    writer.writeProfiles(document.profiles);
     writer.endElement();
-    writeDefaults(writer, defaults);
+    writeDefaults(writer, document.defaults);
+    *isClean = writer.isClean();
     return writer.finish();
+}
+
+QByteArray ProfileDocument::write() const {
+    bool isClean = true;
+    return written(*this, &isClean);
+}
+
+// Most documents are clean already; whoever writes them looks at each character anyway.
+QByteArray ProfileDocument::writeClean() {
+    bool isClean = true;
+    const QByteArray content = written(*this, &isClean);
+    if (isClean) return content;
+    clean();
+    return write();
 }
 
 // Only what changes is written, so that a list that is clean already goes on sharing its memory.

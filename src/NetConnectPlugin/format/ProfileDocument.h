@@ -41,6 +41,9 @@ struct ProfileDocument {
     // Takes what XML 1.0 forbids out of every text.
     void clean();
 
+    // The same as clean() and write().
+    QByteArray writeClean();
+
     QList<DialupProfile> profiles;
     QList<ProfileDefaultEntry> defaults;  // in file order
 };

@@ -7,6 +7,11 @@
 
 namespace {
 
+bool isShared(const DialupProfile& one, const DialupProfile& other, int field) {
+    QString DialupProfile::*const member = DialupProfileFields[field].member;
+    return (one.*member).isSharedWith(other.*member);
+}
+
 // What stands before the value of every field.
 QVector<QByteArray> makeFieldStarts() {
     QVector<QByteArray> starts;
@@ -60,17 +65,21 @@ const char* escaped(ushort c) {
 }
 
 // A character that does not stand for itself, or a pair of surrogates.
-char* writeSpecial(const QChar** from, const QChar* end, char* to, bool* hasError) {
+char* writeSpecial(const QChar** from, const QChar* end, char* to, bool* isClean, bool* hasError) {
     const QChar c = *(*from)++;
     if (c.isHighSurrogate() && *from != end && (*from)->isLowSurrogate())
         return writeUtf8(QChar::surrogateToUcs4(c, *(*from)++), to);
     if (c.isHighSurrogate() || c.isLowSurrogate()) {  // as Qt converts halves
+        *isClean = false;
         *to++ = '?';
         return to;
     }
     if (c.unicode() >= 0x7f && c.unicode() < 0xfffe) return writeUtf8(c.unicode(), to);
     const char* const text = escaped(c.unicode());
-    if (!text) *hasError = true;
+    if (!text) {
+        *isClean = false;
+        *hasError = true;
+    }
     for (const char* at = text; at && *at; ++at) *to++ = *at;
     return to;
 }
@@ -80,7 +89,8 @@ const int LongestCharacter = 6;  // bytes that a UTF-16 code unit becomes: &quot
 
 }  // namespace
 
-ProfileDocumentWriter::ProfileDocumentWriter() : m_Size(0), m_Tag(Closed), m_Elements(0), m_HasError(false) {
+ProfileDocumentWriter::ProfileDocumentWriter()
+    : m_Size(0), m_Tag(Closed), m_Elements(0), m_HasError(false), m_IsClean(true) {
     static const char Declaration[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
     append(Declaration, int(sizeof(Declaration)) - 1);
     startElement("vrksdoc");
@@ -120,13 +130,47 @@ void ProfileDocumentWriter::attribute(const char* name, const QString& value) {
     appendValue(value);
 }
 
-void ProfileDocumentWriter::writeProfile(const DialupProfile& profile) {
-    static const QVector<QByteArray> starts = makeFieldStarts();
-    beginTag("Profile", Empty);
-    for (int i = 0; i < DialupProfileFieldCount; ++i) {
-        append(starts.at(i).constData(), starts.at(i).size());
-        appendValue(profile.*DialupProfileFields[i].member);
+void ProfileDocumentWriter::writeProfiles(const QList<DialupProfile>& profiles) {
+    FieldPlaces places;
+    for (int i = 0; i < profiles.size(); ++i) {
+        beginTag("Profile", Empty);
+        if (i == 0)
+            appendFields(profiles.at(i), places);
+        else
+            appendFieldsAfter(profiles.at(i - 1), profiles.at(i), places);
     }
+}
+
+void ProfileDocumentWriter::appendFields(const DialupProfile& profile, FieldPlaces places) {
+    for (int field = 0; field < DialupProfileFieldCount; ++field) {
+        places[field] = m_Size;
+        appendField(profile, field);
+    }
+    places[DialupProfileFieldCount] = m_Size;
+}
+
+// Most fields of profiles share their texts with those of the profile before: their bytes are there already.
+void ProfileDocumentWriter::appendFieldsAfter(const DialupProfile& former, const DialupProfile& profile,
+                                              FieldPlaces places) {
+    int field = 0;
+    while (field < DialupProfileFieldCount) {
+        const int begin = places[field];
+        const int offset = m_Size - begin;
+        const int first = field;
+        while (field < DialupProfileFieldCount && isShared(former, profile, field)) places[field++] += offset;
+        const int end = places[field];
+        if (field > first) repeat(begin, end - begin);
+        if (field == DialupProfileFieldCount) break;
+        places[field] = m_Size;
+        appendField(profile, field++);
+    }
+    places[DialupProfileFieldCount] = m_Size;
+}
+
+void ProfileDocumentWriter::appendField(const DialupProfile& profile, int field) {
+    static const QVector<QByteArray> starts = makeFieldStarts();
+    append(starts.at(field).constData(), starts.at(field).size());
+    appendValue(profile.*DialupProfileFields[field].member);
 }
 
 QByteArray ProfileDocumentWriter::finish() {
@@ -163,6 +207,13 @@ void ProfileDocumentWriter::append(const char* text, int size) {
     m_Size += size;
 }
 
+// Appends what stands there already.
+void ProfileDocumentWriter::repeat(int begin, int size) {
+    makeRoom(size);
+    memcpy(m_Text.data() + m_Size, m_Text.constData() + begin, size_t(size));
+    m_Size += size;
+}
+
 // The value and the quotation mark after it.
 void ProfileDocumentWriter::appendValue(const QString& value) {
     makeRoom(value.size() * LongestCharacter + 1);
@@ -173,7 +224,7 @@ void ProfileDocumentWriter::appendValue(const QString& value) {
         if (isPlain(from->unicode()))
             *to++ = char((from++)->unicode());
         else
-            to = writeSpecial(&from, end, to, &m_HasError);
+            to = writeSpecial(&from, end, to, &m_IsClean, &m_HasError);
     }
     *to++ = '"';
     m_Size += int(to - start);

@@ -147,14 +147,10 @@ int NetConnectXMLParse::saveDocument(const QList<DialupProfile>& profiles, const
 
     ProfileDocument document;
     document.profiles = profiles;
-    if (!isUserFile) {
-        document.clean();
-        return writeOver(path, document.write(), purpose, placing, &damaged);
-    }
+    if (!isUserFile) return writeOver(path, document.writeClean(), purpose, placing, &damaged);
     const NetConnectRememberedDefaults remembered = withModeDefault(value);
     document.defaults = defaultEntries(value, remembered);
-    document.clean();
-    const QByteArray content = document.write();
+    const QByteArray content = document.writeClean();
     const int status = writeOver(path, content, purpose, placing, &damaged);
     if (status != 0) return status;
     m_Remembered = remembered;
