@@ -31,6 +31,30 @@ private slots:
         QCOMPARE(names, expected);
     }
 
+    // A list is sorted from the one that was sorted before it, where that is little work.
+    void sortingAfterChanges() {
+        QRandomGenerator random(5);
+        QList<QString> listed;
+        for (int round = 0; round < 2000; ++round) {
+            for (int changes = random.bounded(1, 4); changes > 0; --changes) {
+                const int place = random.bounded(listed.size() + 1);
+                if (place < listed.size() && random.bounded(2))
+                    listed.removeAt(place);
+                else
+                    listed.insert(
+                        random.bounded(2) ? place : listed.size(),
+                        QString(QChar("aAbBcCdDeE"[random.bounded(10)])) + QString::number(random.bounded(20)));
+            }
+            QList<QString> expected = listed;
+            std::stable_sort(expected.begin(), expected.end(), [](const QString& first, const QString& second) {
+                return QString::compare(first, second, Qt::CaseInsensitive) < 0;
+            });
+            QList<QString> names = listed;
+            QCOMPARE(logic()->sortProfileNames(&names), 0);
+            QCOMPARE(names, expected);
+        }
+    }
+
     // What was just written is kept, but only as long as the file holds it.
     void listingRightAfterWriting() {
         logic()->SaveDialUpProfile(named(QString("mi\x01ne") + QChar(0xd800)));

@@ -108,20 +108,73 @@ private:
     std::vector<size_t> m_Starts;  // of the names in m_Folded, and the end
 };
 
+bool isBefore(const QString& first, const QString& second) {
+    return QString::compare(first, second, Qt::CaseInsensitive) < 0;
+}
+
+// Finds out which names went from a list and which came into it while the others stayed in their order; false when
+// these are many.
+bool findChanges(const QList<QString>& before, const QList<QString>& now, QStringList* gone, QStringList* come) {
+    const int most = 8;
+    int i = 0;
+    int j = 0;
+    while (i < before.size() || j < now.size()) {
+        const bool isNone = i == before.size();
+        if (!isNone && j < now.size() && before.at(i) == now.at(j)) {
+            ++i;
+            ++j;
+            continue;
+        }
+        if (gone->size() + come->size() >= most) return false;
+        const bool isNew = isNone || (j + 1 < now.size() && before.at(i) == now.at(j + 1));
+        if (isNew)
+            come->append(now.at(j++));
+        else
+            gone->append(before.at(i++));
+    }
+    return true;
+}
+
+// Takes over into a sorted list what became of the list that it was made of: false when that is to be sorted anew. Of
+// names that differ in case alone the places in the list decide.
+bool takeOverChanges(const QList<QString>& before, const QList<QString>& now, QList<QString>* sorted) {
+    QStringList gone;
+    QStringList come;
+    if (!findChanges(before, now, &gone, &come)) return false;
+    typedef QList<QString>::iterator Iterator;
+    for (int i = 0; i < gone.size(); ++i) {
+        const std::pair<Iterator, Iterator> found =
+            std::equal_range(sorted->begin(), sorted->end(), gone.at(i), isBefore);
+        if (found.second - found.first != 1) return false;
+        sorted->erase(found.first);
+    }
+    for (int i = 0; i < come.size(); ++i) {
+        const std::pair<Iterator, Iterator> found =
+            std::equal_range(sorted->begin(), sorted->end(), come.at(i), isBefore);
+        if (found.first != found.second) return false;
+        sorted->insert(found.first, come.at(i));
+    }
+    return true;
+}
+
+QList<QString> sortedNames(const QList<QString>& names) {
+    std::vector<int> places(size_t(names.size()), 0);
+    for (int i = 0; i < names.size(); ++i) places[size_t(i)] = i;
+    const CaselessOrder order(names);
+    std::stable_sort(places.begin(), places.end(), std::cref(order));
+    QList<QString> sorted;
+    sorted.reserve(names.size());
+    for (size_t i = 0; i < places.size(); ++i) sorted.append(names.at(places[i]));
+    return sorted;
+}
+
 }  // namespace
 
 int NetConnectSettingUILogic::sortProfileNames(QList<QString>* names) {
     if (!names) return FileMissing;
     if (*names != m_UnsortedNames) {
-        std::vector<int> places(size_t(names->size()), 0);
-        for (int i = 0; i < names->size(); ++i) places[size_t(i)] = i;
-        const CaselessOrder order(*names);
-        std::stable_sort(places.begin(), places.end(), std::cref(order));
-
+        if (!takeOverChanges(m_UnsortedNames, *names, &m_SortedNames)) m_SortedNames = sortedNames(*names);
         m_UnsortedNames = *names;
-        m_SortedNames.clear();
-        m_SortedNames.reserve(names->size());
-        for (size_t i = 0; i < places.size(); ++i) m_SortedNames.append(names->at(places[i]));
     }
     *names = m_SortedNames;
     return Success;
