@@ -68,7 +68,7 @@ private slots:
         QCOMPARE(kept.size(), 1);
         QCOMPARE(read(path(kept[0])), damaged);
         QCOMPARE(mode(path(kept[0])), 0600);
-        QVERIFY(logic()->LastStorageProblem().reason.contains(kept[0]));
+        QVERIFY(logic()->LastStorageProblem().reason.contains(path(kept[0])));
         QVERIFY(read(file).contains("name=\"A\"") && read(file).contains("name=\"New\""));
     }
 
