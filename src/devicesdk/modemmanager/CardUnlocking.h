@@ -17,9 +17,6 @@ public:
     bool enterPin(const std::string& pin);
     bool enterPuk(const std::string& puk, const std::string& newPin);
 
-    // On the thread, which ends then.
-    void stop() { m_Cancellation.renew(); }
-
 private:
     struct Attempt;
     using Send = std::function<void(MMSim*, GCancellable*, Attempt*)>;

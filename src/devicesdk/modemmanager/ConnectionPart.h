@@ -44,7 +44,7 @@ public:
     // On the thread: another modem in use (or none), or its object at ModemManager is another one.
     virtual void modemChanged() = 0;
 
-    // On the thread, which ends then: gives up all it has there. Publishes nothing any more.
+    // On the thread, which ends then: leaves no secret behind.
     virtual void stop() = 0;
 
     // As in Backend: from any thread, without waiting. Refuses with a reason in the picture.

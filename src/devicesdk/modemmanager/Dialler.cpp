@@ -94,15 +94,7 @@ void Dialler::tellKnown() {
     m_IsKnown = true;
 }
 
-void Dialler::stop() {
-    m_Cancellation.renew();
-    m_Patience.stop();
-    m_Settling.stop();
-    m_Beginning.stop();
-    m_Modem.follow(nullptr);
-    forgetBus();
-    wipe(m_Dialled.request.password);
-}
+void Dialler::stop() { wipe(m_Dialled.request.password); }
 
 void Dialler::modemChanged() {
     MMObject* modem = m_Host.modemInUse();

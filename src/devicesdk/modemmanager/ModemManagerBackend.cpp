@@ -15,9 +15,10 @@ ModemManagerBackend::ModemManagerBackend(EventSink& events)
     m_Thread.invoke([this] { m_Bus.connect(); });
 }
 
+// ModemManager is asked first: NetworkManager takes longer to answer, and nothing of it waits for a modem.
 void ModemManagerBackend::busCame(GDBusConnection* bus) {
-    m_Connecting->busCame(bus);
     m_Watch.busCame(bus);
+    m_Connecting->busCame(bus);
 }
 
 void ModemManagerBackend::busWent() {
@@ -75,13 +76,9 @@ bool ModemManagerBackend::hangUp() { return m_Connecting->hangUp(); }
 
 Traffic ModemManagerBackend::traffic() { return m_Connecting->traffic(); }
 
+// What there is on the bus and in memory ends with the process; to take it apart would take a command as long as to ask
+// for it.
 void ModemManagerBackend::stop() {
     m_Watch.interrupt();
-    m_Thread.stop([this] {
-        m_Connecting->stop();
-        m_Unlocking.stop();
-        m_Ussd.stop();
-        m_Watch.stop();
-        m_Bus.stop();
-    });
+    m_Thread.stop([this] { m_Connecting->stop(); });
 }

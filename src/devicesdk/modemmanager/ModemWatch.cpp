@@ -40,12 +40,6 @@ struct ModemWatch::Request {
 ModemWatch::ModemWatch(WorkerThread& thread, std::function<void()> changed)
     : m_Thread(thread), m_Changed(std::move(changed)) {}
 
-void ModemWatch::stop() {
-    unwatchName();
-    dropManager();
-    giveUpChange();
-}
-
 void ModemWatch::unwatchName() {
     if (m_NameWatch) g_bus_unwatch_name(std::exchange(m_NameWatch, 0));
     m_Bus = nullptr;
@@ -78,9 +72,9 @@ void ModemWatch::onAppeared(GDBusConnection*, const gchar*, const gchar* owner, 
 // when the daemon has shown that it answers.
 void ModemWatch::appear(const char* owner) {
     dropManager();
-    g_dbus_connection_call(m_Bus, owner, MM_DBUS_PATH, "org.freedesktop.DBus.ObjectManager", "GetManagedObjects",
-                           nullptr, nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, WithoutEnd, m_Cancellation.get(),
-                           onProbed, this);
+    g_dbus_connection_call(m_Bus, owner, MM_DBUS_PATH, "org.freedesktop.DBus.Properties", "Get",
+                           g_variant_new("(ss)", MM_DBUS_INTERFACE, "Version"), nullptr,
+                           G_DBUS_CALL_FLAGS_NO_AUTO_START, WithoutEnd, m_Cancellation.get(), onProbed, this);
 }
 
 void ModemWatch::onVanished(GDBusConnection*, const gchar*, gpointer data) {

@@ -27,9 +27,6 @@ public:
     // From another thread: ends what the thread may be waiting for, so that it can be stopped.
     void interrupt() { m_Constructing.cancel(); }
 
-    // Gives up all it has, without a word; the thread ends.
-    void stop();
-
     // Looks now for what has changed, where that would come a moment later.
     void refresh();
 

@@ -1,23 +1,45 @@
 // SPDX-License-Identifier: MIT
 #include "SessionStart.h"
 
+namespace {
+
+// 0: it has none.
+std::int64_t startOf(GVariant* bearer) {
+    gboolean isConnected = FALSE;
+    g_variant_lookup(bearer, "Connected", "b", &isConnected);
+    const Variant counted(g_variant_lookup_value(bearer, "Stats", G_VARIANT_TYPE_VARDICT));
+    guint64 start = 0;
+    if (isConnected && counted) g_variant_lookup(counted.get(), "start-date", "t", &start);
+    return std::int64_t(start);
+}
+
+}  // namespace
+
+// Not through the bearers' own objects, which take three answers each to be made.
 void SessionStart::ask(MMModem* modem, Answer answer) {
     m_Cancellation.renew();
     m_Answer = std::move(answer);
-    mm_modem_list_bearers(modem, m_Cancellation.get(), onListed, this);
+    m_Due = 0;
+    m_Start = 0;
+    auto* proxy = G_DBUS_PROXY(modem);
+    const char* const* paths = mm_modem_get_bearer_paths(modem);
+    for (; paths && *paths; ++paths, ++m_Due)
+        g_dbus_connection_call(g_dbus_proxy_get_connection(proxy), g_dbus_proxy_get_name(proxy), *paths,
+                               "org.freedesktop.DBus.Properties", "GetAll",
+                               g_variant_new("(s)", MM_DBUS_INTERFACE_BEARER), G_VARIANT_TYPE("(a{sv})"),
+                               G_DBUS_CALL_FLAGS_NONE, -1, m_Cancellation.get(), onAnswered, this);
+    if (m_Due == 0) m_Answer(0);
 }
 
-void SessionStart::onListed(GObject* modem, GAsyncResult* result, gpointer self) {
+void SessionStart::onAnswered(GObject* bus, GAsyncResult* result, gpointer data) {
     GError* error = nullptr;
-    GList* const bearers = mm_modem_list_bearers_finish(MM_MODEM(modem), result, &error);
+    const Variant answer(g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, &error));
     const Error failure(error);
     if (isCancelled(failure)) return;
-    std::int64_t start = 0;
-    for (GList* item = bearers; item; item = item->next) {
-        auto* bearer = static_cast<MMBearer*>(item->data);
-        MMBearerStats* const counted = mm_bearer_get_connected(bearer) ? mm_bearer_peek_stats(bearer) : nullptr;
-        if (counted) start = std::int64_t(mm_bearer_stats_get_start_date(counted));
+    auto* self = static_cast<SessionStart*>(data);
+    if (answer) {
+        const Variant bearer(g_variant_get_child_value(answer.get(), 0));
+        if (const std::int64_t start = startOf(bearer.get())) self->m_Start = start;
     }
-    g_list_free_full(bearers, g_object_unref);
-    static_cast<SessionStart*>(self)->m_Answer(start);
+    if (--self->m_Due == 0) self->m_Answer(self->m_Start);
 }

@@ -20,9 +20,11 @@ public:
     void giveUp() { m_Cancellation.renew(); }
 
 private:
-    static void onListed(GObject* modem, GAsyncResult* result, gpointer self);
+    static void onAnswered(GObject* bus, GAsyncResult* result, gpointer self);
 
     Answer m_Answer;
+    unsigned m_Due = 0;        // answers
+    std::int64_t m_Start = 0;  // as those that came tell
     Cancellation m_Cancellation;
 };
 

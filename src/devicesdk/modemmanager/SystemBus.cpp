@@ -47,14 +47,6 @@ bool isOffered(const char* name, GCancellable* cancellable) {
 
 }  // namespace
 
-void SystemBus::stop() {
-    m_Cancellation.renew();
-    drop();
-    if (!m_Retry) return;
-    g_source_destroy(m_Retry);
-    g_source_unref(std::exchange(m_Retry, nullptr));
-}
-
 void SystemBus::drop() {
     if (m_Connection) g_signal_handlers_disconnect_by_data(m_Connection.get(), this);
     m_Connection.reset();
@@ -63,14 +55,11 @@ void SystemBus::drop() {
 void SystemBus::connect() {
     const Text where = address();
     if (!where) return lose();
-    g_dbus_connection_new_for_address(where.get(), ConnectionFlags, nullptr, m_Cancellation.get(), onConnected, this);
+    g_dbus_connection_new_for_address(where.get(), ConnectionFlags, nullptr, nullptr, onConnected, this);
 }
 
 void SystemBus::onConnected(GObject*, GAsyncResult* result, gpointer data) {
-    GError* raw = nullptr;
-    Ref<GDBusConnection> connection(g_dbus_connection_new_for_address_finish(result, &raw));
-    const Error error(raw);
-    if (isCancelled(error)) return;
+    Ref<GDBusConnection> connection(g_dbus_connection_new_for_address_finish(result, nullptr));
     auto* self = static_cast<SystemBus*>(data);
     if (!connection) return self->lose();
     self->m_Pause = 0;
@@ -89,10 +78,7 @@ void SystemBus::lose() {
 
 void SystemBus::retryLater() {
     m_Pause = std::clamp(2 * m_Pause, FirstPause, LongestPause);
-    m_Retry = m_Thread.invokeLater(m_Pause, [this] {
-        g_source_unref(std::exchange(m_Retry, nullptr));
-        connect();
-    });
+    g_source_unref(m_Thread.invokeLater(m_Pause, [this] { connect(); }));
 }
 
 // On a thread of its own, since a bus that hangs would hold the caller for ever.

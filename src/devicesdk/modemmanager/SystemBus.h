@@ -23,9 +23,6 @@ public:
 
     void connect();
 
-    // Gives the connection up, without a word; the thread ends.
-    void stop();
-
     // Whether somebody offers the name, or would be started for it. Waits for the bus, for so long at most.
     static bool hasService(const char* name, unsigned int milliseconds);
 
@@ -39,9 +36,7 @@ private:
     WorkerThread& m_Thread;
     Handlers m_Handlers;
     Ref<GDBusConnection> m_Connection;
-    GSource* m_Retry = nullptr;
     unsigned int m_Pause = 0;  // before the next attempt, milliseconds
-    Cancellation m_Cancellation;
 };
 
 #endif

@@ -18,9 +18,6 @@ public:
     bool answer(const std::string& answer);
     bool cancel();
 
-    // On the thread, which ends then.
-    void stop() { m_Cancellation.renew(); }
-
 private:
     struct Turn;
     using Condition = bool (*)(const Picture&);
