@@ -127,10 +127,12 @@ QString Change::tr(const QString& id, const QString& context) { return texts().f
 
 QString Change::GetLangName() { return texts().code(); }
 
+// Qt would make a regular expression of a pattern, which costs a start half a megabyte and its time.
 QStringList Change::GetLanguages() {
     QStringList codes(English);
-    const QStringList files = QDir(textsFolder()).entryList({FilePrefix + '*' + FileSuffix}, QDir::Files, QDir::Name);
+    const QStringList files = QDir(textsFolder()).entryList(QDir::Files, QDir::Name);
     for (const QString& file : files) {
+        if (!file.startsWith(FilePrefix) || !file.endsWith(FileSuffix)) continue;
         const QString code = file.mid(FilePrefix.size()).chopped(FileSuffix.size());
         if (code != English) codes.append(code);
     }
