@@ -33,7 +33,7 @@ int attemptsOf(const SimulatedModem& modem) {
     return modem.lock == VRKS_LOCK_PUK ? modem.pukAttempts.value_or(-1) : -1;
 }
 
-// What only a modem that is ready can tell.
+// What only a modem that is ready can tell, with a card.
 void addNetwork(ModemInfo* info, const SimulatedModem& modem) {
     info->registration = modem.registration.value_or(VRKS_REGISTRATION_UNKNOWN);
     info->ownNumber = textOf(modem.ownNumber);
@@ -149,7 +149,7 @@ ModemInfo SimulatedBackend::infoOf(std::size_t index) const {
     info.manufacturer = textOf(modem.manufacturer);
     info.model = textOf(modem.model);
     info.imei = textOf(modem.imei);
-    if (info.status == VRKS_DEV_STATUS_READY) addNetwork(&info, modem);
+    if (info.status == VRKS_DEV_STATUS_READY && info.card == VRKS_CARD_PRESENT) addNetwork(&info, modem);
     return info;
 }
 
