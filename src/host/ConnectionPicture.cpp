@@ -134,6 +134,7 @@ const char* titleOf(int failure) {
     switch (failure) {
         case VRKS_FAILURE_DROPPED:
         case VRKS_FAILURE_SUSPENDED:
+        case VRKS_FAILURE_MODEM_GONE:
             return "IDS_HOST_FAILED_UP";
         case VRKS_FAILURE_ENDED_OUTSIDE:
         case VRKS_FAILURE_TAKEN:

@@ -114,7 +114,7 @@ bool isCommonAtRemoval(int failure) {
 // An attempt with each version of IP may have been made, and the telling error need not be the last.
 Failure failureOf(const Ending& ending) {
     int failure = failureOfReason(ending.reason, ending.wasUp);
-    if (ending.isDeviceGone && isCommonAtRemoval(failure)) failure = VRKS_FAILURE_MODEM_GONE;
+    if (ending.isDeviceGone && isCommonAtRemoval(failure)) return {VRKS_FAILURE_MODEM_GONE, {}};
     if (!isVague(failure)) return {failure, wordsOf(ending.reason)};
     for (const NamedError& error : ending.bearerErrors)
         if (const int told = failureOfName(BearerErrors, error.name)) return {told, error.words};

@@ -16,6 +16,7 @@ constexpr unsigned RadioMs = 1000;      // until a switch of it is known
 constexpr unsigned StartMs = 300;       // until it is known since when a connection is up
 constexpr unsigned RevivingMs = 45000;  // of a modem that is looked for anew
 constexpr auto HangUpTime = std::chrono::seconds(10);  // that a connection ends in once somebody hung up
+constexpr unsigned RemovalMs = 3000;                   // from the hanging up of a modem that goes until it is gone
 constexpr unsigned SettlingMs = 100;                   // two daemons tell of one failure, in any order
 const char RadioIsOff[] = "Mobile broadband is switched off";
 constexpr auto RadioSettling = std::chrono::seconds(1);  // a radio that came on may be switched once more in this time
@@ -178,6 +179,7 @@ void Dialler::update() {
         case Phase::Up:
             return watch();
         case Phase::Ended:
+            if (m_Dialled.wasRemovalLikely && m_Watch && isDeviceGone()) conclude();
             return;
     }
 }
@@ -400,7 +402,7 @@ void Dialler::conclude() {
     if (isHangingUp()) return finish({});
     if (wasHungUpElsewhere()) return finish({VRKS_FAILURE_HUNG_UP, {}});
     if (canRevive()) return revive();
-    if (isRadioInDoubt()) return;
+    if (isRadioInDoubt() || isRemovalLikely()) return;
     if (!isWorthRepeating()) return finish(seenFailure());
     m_Phase = Phase::Looking;
     if (m_Watch) m_Watch->follow(static_cast<NMActiveConnection*>(nullptr));
@@ -472,6 +474,21 @@ bool Dialler::isRadioInDoubt() {
     return m_Dialled.wasInDoubt = true;
 }
 
+// ModemManager hangs a modem up and switches it off before it tells that it was unplugged, a second later. Meanwhile
+// it looks as if somebody had ended the connection.
+bool Dialler::isRemovalLikely() {
+    MMModem* modem = m_Modem.get();
+    const bool isLikely = m_Dialled.ending.reason == NM_DEVICE_STATE_REASON_USER_REQUESTED && m_Watch &&
+                          m_Watch->isRunning() && !m_Watch->isRadioOff() && !isDeviceGone() &&
+                          !m_Dialled.wasRemovalLikely &&
+                          (!modem || mm_modem_get_state(modem) <= MM_MODEM_STATE_DISABLING);
+    if (!isLikely) return false;
+    m_Settling.start(RemovalMs, [this] { conclude(); });
+    m_Dialled.wasRemovalLikely = true;
+    publish();
+    return true;
+}
+
 // A radio that comes on ends what it finds, in NetworkManager's hands; and a network may refuse PPP because of one
 // version of IP without a word, which looks like wrong credentials unless there are none.
 bool Dialler::isWorthRepeating() {
@@ -497,7 +514,7 @@ Failure Dialler::seenFailure() const {
     Ending ending = m_Dialled.ending;
     ending.wasUp = m_Dialled.wasUp;
     ending.bearerErrors = m_BearerErrors->get();
-    ending.isDeviceGone = !m_Watch->has(m_Watch->device());
+    ending.isDeviceGone = isDeviceGone();
     return failureOf(ending);
 }
 

@@ -54,7 +54,8 @@ private:
         bool isHangingUp = false;
         bool isDeactivating = false;  // NetworkManager was asked to end it
         bool wasUp = false;
-        bool wasInDoubt = false;  // whether the radio was switched off
+        bool wasInDoubt = false;        // whether the radio was switched off
+        bool wasRemovalLikely = false;  // and was waited for
         std::int64_t since = 0;
         std::optional<Clock::time_point> upSince;
         Clock::time_point endedAt;
@@ -94,6 +95,8 @@ private:
     void conclude();
     bool wasHungUpElsewhere() const;
     bool isRadioInDoubt();
+    bool isRemovalLikely();
+    bool isDeviceGone() const { return !m_Watch->has(m_Watch->device()); }
     bool canRevive() const;
     void revive();
     void inhibit(bool isInhibited, GAsyncReadyCallback answered);

@@ -71,7 +71,7 @@ Connection Dialler::described() const {
     connection.upSince = m_Dialled.upSince;
     NMActiveConnection* active = m_Watch ? m_Watch->connection() : nullptr;
     const bool isEnding = active && nm_active_connection_get_state(active) == NM_ACTIVE_CONNECTION_STATE_DEACTIVATING;
-    if (isHangingUp() || isEnding) {
+    if (isHangingUp() || isEnding || m_Phase == Phase::Ended) {
         connection.state = VRKS_CONNECTION_HANGING_UP;
     } else if (m_Phase == Phase::Up) {
         connection.state = VRKS_CONNECTION_UP;
