@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM</source>
-        <translation>لا يوجد مودم. قم بتوصيل مودم.</translation>
+        <translation>لا يوجد مودم. صِل مودمًا.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_IN_USE</source>
@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_LINK</source>
-        <translation>تعذر بدء الاتصال على هذا الحاسوب. حاول مجددًا؛ فقد تفيد التفاصيل بالمزيد.</translation>
+        <translation>تعذّر بدء الاتصال على هذا الحاسوب. حاول مجددًا؛ فقد تفيد التفاصيل بالمزيد.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BUSY</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_CANNOT_HANG_UP</source>
-        <translation>تعذر إنهاء الاتصال. حاول مجددًا.</translation>
+        <translation>تعذّر إنهاء الاتصال. حاول مجددًا.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_NOTE_OTHER_ADDRESS</source>
-        <translation>تعذر الحصول على عنوان IP الثابت؛ عيّنت الشبكة %1.</translation>
+        <translation>تعذّر الحصول على عنوان IP الثابت؛ عيّنت الشبكة %1.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USAGE_80</source>
@@ -548,11 +548,11 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
-        <translation>ملف التعريف هذا متصل. اقطع الاتصال أولاً.</translation>
+        <translation>ملف التعريف هذا متصل. اقطع الاتصال أولًا.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_DEFAULT_CONNECTED</source>
-        <translation>لا يمكن تغيير ملف التعريف الافتراضي أثناء الاتصال. اقطع الاتصال أولاً.</translation>
+        <translation>لا يمكن تغيير ملف التعريف الافتراضي أثناء الاتصال. اقطع الاتصال أولًا.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_NO_PROFILE</source>
@@ -560,11 +560,11 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_EDIT_OPEN</source>
-        <translation>يجري تحرير ملف تعريف. اضغط «حفظ» أو «تراجع» أولاً.</translation>
+        <translation>يجري تحرير ملف تعريف. اضغط «حفظ» أو «تراجع» أولًا.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_NO_EDIT</source>
-        <translation>لا يجري تحرير أي ملف تعريف. اضغط «جديد» أو «تحرير» أولاً.</translation>
+        <translation>لا يجري تحرير أي ملف تعريف. اضغط «جديد» أو «تحرير» أولًا.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_LOCKED_READONLY</source>
@@ -759,15 +759,15 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILES_PRESETS</source>
-        <translation>الإعدادات الجاهزة لبطاقة SIM هذه</translation>
+        <translation>ملفات التعريف المعدّة مسبقًا لبطاقة SIM هذه</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS</source>
-        <translation>الإعدادات الجاهزة…</translation>
+        <translation>ملفات التعريف المعدّة…</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_TITLE</source>
-        <translation>الإعدادات الجاهزة لمشغّلي العالم</translation>
+        <translation>ملفات التعريف المعدّة مسبقًا لمشغّلي العالم</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_SEARCH</source>
@@ -799,7 +799,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESETS_OTHER</source>
-        <translation>إعدادات جاهزة أخرى</translation>
+        <translation>ملفات تعريف أخرى معدّة مسبقًا</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_PREPAID</source>
@@ -811,7 +811,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESETS_HINT</source>
-        <translation>اختر باقة لعرض إعداداتها.</translation>
+        <translation>اختر باقة لعرض قيمها.</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_USE</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
-        <translation>لا يوجد إعداد جاهز معروف لبطاقة SIM هذه. اختر المشغّل أو أي ملف تعريف أدناه.</translation>
+        <translation>لا يوجد ملف تعريف معدّ مسبقًا معروف لبطاقة SIM هذه. اختر المشغّل أو أي ملف تعريف أدناه.</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS</source>
@@ -949,7 +949,7 @@
         <source>IDS_HOST_ABOUT_TEXT</source>
         <translation>مدير اتصال لأجهزة مودم النطاق العريض المحمول.
 
-رخصة MIT. يستخدم Qt %1 (LGPL) وlibsodium (ISC) وICU (Unicode) وICU (Unicode) وقاعدة البيانات العامة mobile-broadband-provider-info.</translation>
+رخصة MIT. يستخدم Qt %1 (LGPL) وlibsodium (ISC) وICU (Unicode) وقاعدة البيانات العامة mobile-broadband-provider-info.</translation>
     </message>
     <message>
         <source>IDS_HOST_CLOSE</source>
@@ -1137,15 +1137,15 @@
     </message>
     <message>
         <source>IDS_HOST_BALANCE_BY_COMMAND</source>
-        <translation>يخبر المشغل %1 برصيد البطاقة مسبقة الدفع جوابًا عن الأمر %2. لا يُرسل شيء قبل أن تضغط «استعلام».</translation>
+        <translation>يخبر المشغّل %1 برصيد البطاقة مسبقة الدفع جوابًا عن الأمر %2. لا يُرسل شيء قبل أن تضغط «استعلام».</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_BY_HAND</source>
-        <translation>يخبر المشغل %1 بالرصيد بهذه الطريقة التي عليك اتباعها بنفسك:</translation>
+        <translation>يخبر المشغّل %1 بالرصيد بهذه الطريقة التي عليك اتباعها بنفسك:</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_UNKNOWN</source>
-        <translation>لا يُعرف هنا كيف يخبر مشغلك بالرصيد. إن كنت تعرف أمره فاكتبه؛ لا يُرسل شيء قبل أن تضغط «استعلام».</translation>
+        <translation>لا يُعرف هنا كيف يخبر مشغّلك بالرصيد. إن كنت تعرف أمره فاكتبه؛ لا يُرسل شيء قبل أن تضغط «استعلام».</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_COMMAND</source>
@@ -1342,7 +1342,7 @@
     </message>
     <message>
         <source>IDS_HOST_IMPORT_BUSY</source>
-        <translation>أنهِ أولاً ما هو مفتوح، ثم افتح الملف مجددًا.</translation>
+        <translation>أنهِ أولًا ما هو مفتوح، ثم افتح الملف مجددًا.</translation>
     </message>
 </context>
 <context>

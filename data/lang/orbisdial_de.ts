@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_NOT_READY</source>
-        <translation>Das Modem ist noch nicht bereit. Warten Sie einen Augenblick und versuchen Sie es noch einmal; hilft das nicht, ziehen Sie es ab und stecken Sie es wieder ein.</translation>
+        <translation>Das Modem ist noch nicht bereit. Warten Sie einen Augenblick und versuchen Sie es noch einmal; hilft das nicht, ziehen Sie es ab und schließen Sie es wieder an.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARRIER</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
-        <translation>Die Karte hat keinen Datendienst für „%1“. Prüfen Sie den Zugangspunkt (APN) oder fragen Sie Ihren Netzbetreiber.</translation>
+        <translation>Die Karte hat keinen Datendienst für „%1“. Prüfen Sie den Zugangspunkt (APN) oder fragen Sie Ihren Anbieter.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_REFUSED</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_REGISTRATION_DENIED</source>
-        <translation>Das Netz lässt diese Karte nicht zu. Fragen Sie Ihren Netzbetreiber, ob die Karte freigeschaltet ist.</translation>
+        <translation>Das Netz lässt diese Karte nicht zu. Fragen Sie Ihren Anbieter, ob die Karte freigeschaltet ist.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_CARD</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_STUCK</source>
-        <translation>Das Modem hängt in einem früheren Anruf fest. Ziehen Sie es ab und stecken Sie es wieder an.</translation>
+        <translation>Das Modem hängt in einem früheren Anruf fest. Ziehen Sie es ab und schließen Sie es wieder an.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_ALLOWED</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NOT_ALLOWED</source>
-        <translation>Sie dürfen auf diesem Rechner keine Befehle senden. Bitten Sie Ihren Verwalter um die Erlaubnis.</translation>
+        <translation>Sie dürfen auf diesem Rechner keine Befehle senden. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_FAILED</source>
@@ -855,7 +855,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESET_AUTHENTICATION</source>
-        <translation>Authentifizierung:</translation>
+        <translation>Anmeldung:</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESET_DNS</source>

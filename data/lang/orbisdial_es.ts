@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_FAILED</source>
-        <translation>El código falló.</translation>
+        <translation>Falló el envío del código.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BALANCE_CALL</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_APN</source>
-        <translation>El nombre del punto de acceso (APN) de «%1» no es válido: como máximo 64 letras, cifras, puntos, guiones y guiones bajos. Corríjalo en la configuración.</translation>
+        <translation>El nombre del punto de acceso (APN) de «%1» no es válido: como máximo 64 letras, dígitos, puntos, guiones y guiones bajos. Corríjalo en la configuración.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_ADDRESS</source>
@@ -544,7 +544,7 @@
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_PRESET</source>
-        <translation>Este perfil está predefinido. Para cambiarlo, cierre los ajustes y pulse Ctrl+N en la ventana principal: se creará un perfil propio con los mismos valores.</translation>
+        <translation>Este perfil está predefinido. Para cambiarlo, cierre la configuración y pulse Ctrl+N en la ventana principal: se creará un perfil propio con los mismos valores.</translation>
     </message>
     <message>
         <source>IDS_NETCONNECT_TIP_PROFILE_CONNECTED</source>
@@ -759,15 +759,15 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILES_PRESETS</source>
-        <translation>Preajustes para esta tarjeta SIM</translation>
+        <translation>Perfiles predefinidos para esta tarjeta SIM</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS</source>
-        <translation>Preajustes…</translation>
+        <translation>Perfiles predefinidos…</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_TITLE</source>
-        <translation>Preajustes de los operadores de todo el mundo</translation>
+        <translation>Perfiles predefinidos de los operadores de todo el mundo</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_SEARCH</source>
@@ -799,7 +799,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESETS_OTHER</source>
-        <translation>Otros preajustes</translation>
+        <translation>Otros perfiles predefinidos</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_PREPAID</source>
@@ -875,7 +875,7 @@
     </message>
     <message>
         <source>IDS_HOST_NEW_PROFILE_INTRO</source>
-        <translation>Un perfil propio con los valores de «%1». Puede cambiarlos en los ajustes.</translation>
+        <translation>Un perfil propio con los valores de «%1». Puede cambiarlos en la configuración.</translation>
     </message>
     <message>
         <source>IDS_HOST_NEW_PROFILE_NAME</source>
@@ -887,7 +887,7 @@
     </message>
     <message>
         <source>IDS_HOST_NEW_PROFILE_CONNECTED</source>
-        <translation>El perfil predeterminado no se puede cambiar durante una conexión.</translation>
+        <translation>El perfil por defecto no se puede cambiar durante una conexión.</translation>
     </message>
     <message>
         <source>IDS_HOST_NEW_PROFILE_MAKE</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
-        <translation>No se conoce ningún preajuste para esta tarjeta SIM. Elija su operador o un perfil de los de abajo.</translation>
+        <translation>No se conoce ningún perfil predefinido para esta tarjeta SIM. Elija su operador o un perfil de los de abajo.</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS</source>

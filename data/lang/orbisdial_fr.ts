@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_FAILED</source>
-        <translation>Le code a échoué.</translation>
+        <translation>L’envoi du code a échoué.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BALANCE_CALL</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NAME</source>
-        <translation>Le nom du profil «&#xa0;%1&#xa0;» ne convient pas à une connexion. Raccourcissez-le.</translation>
+        <translation>Le nom du profil «&#xa0;%1&#xa0;» est trop long pour une connexion. Raccourcissez-le.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NUMBER</source>
@@ -213,19 +213,19 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_APN</source>
-        <translation>Le nom du point d’accès (APN) de «&#xa0;%1&#xa0;» n’est pas utilisable&#xa0;: 64 lettres, chiffres, points, traits d’union et soulignés au plus. Corrigez-le dans les paramètres.</translation>
+        <translation>Le nom du point d’accès (APN) de «&#xa0;%1&#xa0;» n’est pas utilisable&#xa0;: 64 lettres, chiffres, points, tirets et tirets bas au plus. Corrigez-le dans les paramètres.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_ADDRESS</source>
-        <translation>L’adresse IP de «&#xa0;%1&#xa0;» n’est pas valable. Corrigez-la dans les paramètres.</translation>
+        <translation>L’adresse IP de «&#xa0;%1&#xa0;» n’est pas valide. Corrigez-la dans les paramètres.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_DNS</source>
-        <translation>L’adresse du serveur DNS de «&#xa0;%1&#xa0;» n’est pas valable. Corrigez-la dans les paramètres.</translation>
+        <translation>L’adresse du serveur DNS de «&#xa0;%1&#xa0;» n’est pas valide. Corrigez-la dans les paramètres.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_DNS_ALTERNATIVE</source>
-        <translation>L’adresse du serveur DNS secondaire de «&#xa0;%1&#xa0;» n’est pas valable. Corrigez-la dans les paramètres.</translation>
+        <translation>L’adresse du serveur DNS secondaire de «&#xa0;%1&#xa0;» n’est pas valide. Corrigez-la dans les paramètres.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_USER</source>
@@ -759,15 +759,15 @@
     </message>
     <message>
         <source>IDS_HOST_PROFILES_PRESETS</source>
-        <translation>Préréglages pour cette carte SIM</translation>
+        <translation>Profils prédéfinis pour cette carte SIM</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS</source>
-        <translation>Préréglages…</translation>
+        <translation>Profils prédéfinis…</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_TITLE</source>
-        <translation>Préréglages des opérateurs du monde entier</translation>
+        <translation>Profils prédéfinis des opérateurs du monde entier</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_SEARCH</source>
@@ -799,7 +799,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESETS_OTHER</source>
-        <translation>Autres préréglages</translation>
+        <translation>Autres profils prédéfinis</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_PREPAID</source>
@@ -811,7 +811,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESETS_HINT</source>
-        <translation>Choisissez un forfait pour voir ses réglages.</translation>
+        <translation>Choisissez un forfait pour voir ses valeurs.</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_USE</source>
@@ -899,7 +899,7 @@
     </message>
     <message>
         <source>IDS_HOST_CHOOSE_OPERATOR_DETAIL</source>
-        <translation>Aucun préréglage n’est connu pour cette carte SIM. Choisissez votre opérateur ou un profil ci-dessous.</translation>
+        <translation>Aucun profil prédéfini n’est connu pour cette carte SIM. Choisissez votre opérateur ou un profil ci-dessous.</translation>
     </message>
     <message>
         <source>IDS_HOST_SETTINGS</source>

@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_IN_USE</source>
-        <translation>Модем занят: %1. Сначала завершите это соединение.</translation>
+        <translation>Модем занят: %1. Сначала завершите это подключение.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NOT_SUBSCRIBED</source>
@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_DROPPED</source>
-        <translation>Соединение потеряно. Подключитесь снова.</translation>
+        <translation>Подключение прервано. Подключитесь снова.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_LINK</source>
-        <translation>Не удалось начать соединение на этом компьютере. Повторите попытку; возможно, подробности скажут больше.</translation>
+        <translation>Не удалось начать подключение на этом компьютере. Повторите попытку; возможно, подробности скажут больше.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BUSY</source>
@@ -129,15 +129,15 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>Служба соединений (NetworkManager) не запущена. Запустите её или обратитесь к администратору.</translation>
+        <translation>Служба подключений (NetworkManager) не запущена. Запустите её или обратитесь к администратору.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
-        <translation>Соединение завершено, так как компьютер перешёл в спящий режим. Подключитесь снова.</translation>
+        <translation>Подключение завершено, так как компьютер перешёл в спящий режим. Подключитесь снова.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_TAKEN</source>
-        <translation>Другая программа заняла модем своим соединением. Завершите его и подключитесь снова.</translation>
+        <translation>Другая программа заняла модем для своего подключения. Завершите его и подключитесь снова.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_CREDENTIALS_MISSING</source>
@@ -145,11 +145,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_ENDED_OUTSIDE</source>
-        <translation>Соединение завершено вне этой программы. Подключитесь снова, если оно нужно.</translation>
+        <translation>Подключение завершено вне этой программы. Подключитесь снова, если оно нужно.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_HUNG_UP</source>
-        <translation>Соединение завершено в другой программе OrbisDial.</translation>
+        <translation>Подключение завершено в другой программе OrbisDial.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_STUCK</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_CANNOT_HANG_UP</source>
-        <translation>Не удалось завершить соединение. Повторите попытку.</translation>
+        <translation>Не удалось завершить подключение. Повторите попытку.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NOT_SUPPORTED</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NAME</source>
-        <translation>Имя профиля «%1» слишком длинное для соединения. Сократите его.</translation>
+        <translation>Имя профиля «%1» слишком длинное для подключения. Сократите его.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_BAD_NUMBER</source>

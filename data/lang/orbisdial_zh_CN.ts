@@ -855,7 +855,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESET_AUTHENTICATION</source>
-        <translation>身份验证：</translation>
+        <translation>认证：</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESET_DNS</source>
@@ -1137,7 +1137,7 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     </message>
     <message>
         <source>IDS_HOST_BALANCE_BY_COMMAND</source>
-        <translation>%1 会在收到代码 %2 后告知预付费卡的余额。在您按“查询”之前不会发送任何内容。</translation>
+        <translation>%1 会在收到代码 %2 后告知预付费卡的余额。在您点击“查询”之前不会发送任何内容。</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_BY_HAND</source>
@@ -1145,7 +1145,7 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     </message>
     <message>
         <source>IDS_HOST_BALANCE_UNKNOWN</source>
-        <translation>这里不知道您的运营商如何告知余额。如果您知道它的代码，请输入；在您按“查询”之前不会发送任何内容。</translation>
+        <translation>这里不知道您的运营商如何告知余额。如果您知道它的代码，请输入；在您点击“查询”之前不会发送任何内容。</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_COMMAND</source>
