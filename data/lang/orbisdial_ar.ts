@@ -1748,18 +1748,6 @@
         <translation>يتكون رمز PUK من 8 أرقام</translation>
     </message>
     <message>
-        <source>a name must not contain control characters</source>
-        <translation>يجب ألا يحتوي الاسم على محارف تحكم</translation>
-    </message>
-    <message>
-        <source>a profile needs a name</source>
-        <translation>يحتاج ملف التعريف إلى اسم</translation>
-    </message>
-    <message>
-        <source>a profile needs an access number, for example phonenumber=*99#</source>
-        <translation>يحتاج ملف التعريف إلى رقم اتصال، مثل phonenumber=*99#</translation>
-    </message>
-    <message>
         <source>an IPv4 address, or nothing</source>
         <translation>عنوان IPv4 أو لا شيء</translation>
     </message>
@@ -1770,10 +1758,6 @@
     <message>
         <source>an option's value is empty</source>
         <translation>قيمة أحد الخيارات فارغة</translation>
-    </message>
-    <message>
-        <source>apn: must begin and end with a letter or a digit</source>
-        <translation>apn: يجب أن يبدأ وينتهي بحرف أو رقم</translation>
     </message>
     <message>
         <source>argument %1 is not UTF-8</source>
@@ -2450,6 +2434,265 @@
     <message>
         <source>yes</source>
         <translation>نعم</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: %2 حرفًا على الأكثر</translation>
+    </message>
+    <message>
+        <source>%1: control characters can't be stored</source>
+        <translation>%1: لا يمكن حفظ محارف التحكم</translation>
+    </message>
+    <message>
+        <source>%1: may hold letters, digits, dots and hyphens</source>
+        <translation>%1: يمكن أن يحتوي على أحرف وأرقام ونقاط وواصلات</translation>
+    </message>
+    <message>
+        <source>%1: must be empty or an IPv4 address such as 192.0.2.1</source>
+        <translation>%1: يجب أن يكون فارغًا أو عنوان IPv4 مثل 192.0.2.1</translation>
+    </message>
+    <message>
+        <source>%1: must be true or false</source>
+        <translation>%1: يجب أن يكون true أو false</translation>
+    </message>
+    <message>
+        <source>Mobile broadband is switched off</source>
+        <translation>النطاق العريض المحمول متوقف</translation>
+    </message>
+    <message>
+        <source>NetworkManager can't use the modem now</source>
+        <translation>لا يمكن لـ NetworkManager استخدام المودم الآن</translation>
+    </message>
+    <message>
+        <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>
+        <translation>لا يحدّد ORBISDIAL_DEVICE واجهة خلفية؛ الممكن simulated أو modemmanager أو none أو auto</translation>
+    </message>
+    <message>
+        <source>a link in a folder where others may have put it is not followed: %1</source>
+        <translation>لا يُتبع رابط ربما وضعه آخرون في المجلد: %1</translation>
+    </message>
+    <message>
+        <source>a name has at most %1 characters</source>
+        <translation>لا يزيد الاسم على %1 حرفًا</translation>
+    </message>
+    <message>
+        <source>a name must not contain any of %1</source>
+        <translation>يجب ألا يحتوي الاسم على أي من هذه الأحرف: %1</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>يجب ألا يحتوي الاسم على محارف تحكم</translation>
+    </message>
+    <message>
+        <source>a password can't be sealed</source>
+        <translation>يتعذّر تشفير كلمة مرور</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>يحتاج ملف التعريف إلى اسم</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>يحتاج ملف التعريف إلى رقم اتصال، مثل phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>لأحد العناصر سمات يزيد عددها على %1</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked</source>
+        <translation>يُبقيه برنامج آخر مقفلًا</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: يجب أن يبدأ وينتهي بحرف أو رقم</translation>
+    </message>
+    <message>
+        <source>can't be locked</source>
+        <translation>يتعذّر قفله</translation>
+    </message>
+    <message>
+        <source>can't be locked: it is not a regular file</source>
+        <translation>يتعذّر قفله: ليس ملفًا عاديًا</translation>
+    </message>
+    <message>
+        <source>can't be looked at</source>
+        <translation>يتعذّر الاطلاع عليه</translation>
+    </message>
+    <message>
+        <source>can't be opened</source>
+        <translation>يتعذّر فتحه</translation>
+    </message>
+    <message>
+        <source>can't be read now; what was last read of it stays in force</source>
+        <translation>تتعذّر قراءته الآن؛ ويبقى ساريًا ما قُرئ منه آخر مرة</translation>
+    </message>
+    <message>
+        <source>can't be read: %1</source>
+        <translation>تتعذّر قراءته: %1</translation>
+    </message>
+    <message>
+        <source>can't be written as XML</source>
+        <translation>تتعذّر كتابته بصيغة XML</translation>
+    </message>
+    <message>
+        <source>can't close</source>
+        <translation>يتعذّر الإغلاق</translation>
+    </message>
+    <message>
+        <source>can't create a file in the folder</source>
+        <translation>يتعذّر إنشاء ملف في المجلد</translation>
+    </message>
+    <message>
+        <source>can't enter the folder</source>
+        <translation>يتعذّر دخول المجلد</translation>
+    </message>
+    <message>
+        <source>can't enter the root folder</source>
+        <translation>يتعذّر دخول المجلد الجذر</translation>
+    </message>
+    <message>
+        <source>can't flush to disk</source>
+        <translation>يتعذّر الإفراغ إلى القرص</translation>
+    </message>
+    <message>
+        <source>can't look at the folder</source>
+        <translation>يتعذّر الاطلاع على المجلد</translation>
+    </message>
+    <message>
+        <source>can't read a link</source>
+        <translation>تتعذّر قراءة رابط</translation>
+    </message>
+    <message>
+        <source>can't replace</source>
+        <translation>يتعذّر الاستبدال</translation>
+    </message>
+    <message>
+        <source>can't set the file's mode</source>
+        <translation>يتعذّر تعيين صلاحيات الملف</translation>
+    </message>
+    <message>
+        <source>can't set the file's owner</source>
+        <translation>يتعذّر تعيين مالك الملف</translation>
+    </message>
+    <message>
+        <source>can't write</source>
+        <translation>تتعذّر الكتابة</translation>
+    </message>
+    <message>
+        <source>elements stand more than %1 deep in one another</source>
+        <translation>العناصر متداخلة بعمق يزيد على %1</translation>
+    </message>
+    <message>
+        <source>every name for a copy of the damaged file is taken</source>
+        <translation>كل الأسماء لنسخة من الملف التالف مستعملة</translation>
+    </message>
+    <message>
+        <source>is damaged, and can't be kept: %1</source>
+        <translation>تالف ولا يمكن الاحتفاظ به: %1</translation>
+    </message>
+    <message>
+        <source>is no file's name</source>
+        <translation>ليس اسم ملف</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ليس ملفًا عاديًا</translation>
+    </message>
+    <message>
+        <source>it is too large: %1 of at most %2 MB</source>
+        <translation>كبير جدًا: %1 م.ب، والحد %2 م.ب</translation>
+    </message>
+    <message>
+        <source>leads to no file</source>
+        <translation>لا يؤدي إلى أي ملف</translation>
+    </message>
+    <message>
+        <source>not written: it would be too large to be read again, %1 of at most %2 MB</source>
+        <translation>لم يُكتب: سيكون أكبر من أن يُقرأ مجددًا، %1 م.ب، والحد %2 م.ب</translation>
+    </message>
+    <message>
+        <source>other programs make and remove it all the time</source>
+        <translation>تنشئه برامج أخرى وتزيله باستمرار</translation>
+    </message>
+    <message>
+        <source>profiles can't be exported to this file</source>
+        <translation>لا يمكن تصدير ملفات التعريف إلى هذا الملف</translation>
+    </message>
+    <message>
+        <source>reading failed</source>
+        <translation>فشلت القراءة</translation>
+    </message>
+    <message>
+        <source>the XML declaration is too long</source>
+        <translation>تصريح XML طويل جدًا</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: %2</source>
+        <translation>لا يمكن تحميل الواجهة الخلفية «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: it belongs to another version</source>
+        <translation>لا يمكن تحميل الواجهة الخلفية «%1»: تخص إصدارًا آخر</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: there is no %2</source>
+        <translation>لا يمكن تحميل الواجهة الخلفية «%1»: لا يوجد %2</translation>
+    </message>
+    <message>
+        <source>the device backend can't start</source>
+        <translation>يتعذّر بدء الواجهة الخلفية للمودم</translation>
+    </message>
+    <message>
+        <source>the document type declares entities or attributes</source>
+        <translation>يعرّف نوع المستند كيانات أو سمات</translation>
+    </message>
+    <message>
+        <source>the output can't be written: %1</source>
+        <translation>تتعذّر كتابة الخرج: %1</translation>
+    </message>
+    <message>
+        <source>the process was made by one that uses the modem</source>
+        <translation>أنشأت هذه العملية عملية أخرى تستخدم المودم</translation>
+    </message>
+    <message>
+        <source>the sealed password of "%1" was changed outside and can't be opened</source>
+        <translation>كلمة المرور المشفّرة في «%1» غُيّرت من الخارج ولا يمكن فكّها</translation>
+    </message>
+    <message>
+        <source>the user data directory can't be had</source>
+        <translation>مجلد بيانات المستخدم غير متاح</translation>
+    </message>
+    <message>
+        <source>there are more than %1 elements</source>
+        <translation>عدد العناصر يزيد على %1</translation>
+    </message>
+    <message>
+        <source>there are more than %1 namespaces</source>
+        <translation>عدد نطاقات الأسماء يزيد على %1</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>لا تكفي الذاكرة له</translation>
+    </message>
+    <message>
+        <source>was damaged (%1); the damaged file is kept as %2</source>
+        <translation>كان تالفًا (%1)؛ حُفظ الملف التالف باسم %2</translation>
+    </message>
+    <message>
+        <source>was removed while the profiles were being changed</source>
+        <translation>أُزيل أثناء تغيير ملفات التعريف</translation>
+    </message>
+    <message>
+        <source>written, but the folder can't be flushed to disk</source>
+        <translation>تمت الكتابة، لكن يتعذّر إفراغ المجلد إلى القرص</translation>
     </message>
 </context>
 </TS>

@@ -1748,18 +1748,6 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>eine PUK hat 8 Ziffern</translation>
     </message>
     <message>
-        <source>a name must not contain control characters</source>
-        <translation>ein Name darf keine Steuerzeichen enthalten</translation>
-    </message>
-    <message>
-        <source>a profile needs a name</source>
-        <translation>ein Profil braucht einen Namen</translation>
-    </message>
-    <message>
-        <source>a profile needs an access number, for example phonenumber=*99#</source>
-        <translation>ein Profil braucht eine Einwahlnummer, zum Beispiel phonenumber=*99#</translation>
-    </message>
-    <message>
         <source>an IPv4 address, or nothing</source>
         <translation>eine IPv4-Adresse oder nichts</translation>
     </message>
@@ -1770,10 +1758,6 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>an option's value is empty</source>
         <translation>der Wert einer Option ist leer</translation>
-    </message>
-    <message>
-        <source>apn: must begin and end with a letter or a digit</source>
-        <translation>apn: muss mit einem Buchstaben oder einer Ziffer beginnen und enden</translation>
     </message>
     <message>
         <source>argument %1 is not UTF-8</source>
@@ -2450,6 +2434,265 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>yes</source>
         <translation>ja</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: höchstens %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1: control characters can't be stored</source>
+        <translation>%1: Steuerzeichen können nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>%1: may hold letters, digits, dots and hyphens</source>
+        <translation>%1: darf Buchstaben, Ziffern, Punkte und Bindestriche enthalten</translation>
+    </message>
+    <message>
+        <source>%1: must be empty or an IPv4 address such as 192.0.2.1</source>
+        <translation>%1: muss leer oder eine IPv4-Adresse wie 192.0.2.1 sein</translation>
+    </message>
+    <message>
+        <source>%1: must be true or false</source>
+        <translation>%1: muss true oder false sein</translation>
+    </message>
+    <message>
+        <source>Mobile broadband is switched off</source>
+        <translation>Mobiles Breitband ist ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>NetworkManager can't use the modem now</source>
+        <translation>NetworkManager kann das Modem jetzt nicht benutzen</translation>
+    </message>
+    <message>
+        <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>
+        <translation>ORBISDIAL_DEVICE nennt kein Backend; möglich sind simulated, modemmanager, none und auto</translation>
+    </message>
+    <message>
+        <source>a link in a folder where others may have put it is not followed: %1</source>
+        <translation>einer Verknüpfung, die andere in den Ordner gelegt haben könnten, wird nicht gefolgt: %1</translation>
+    </message>
+    <message>
+        <source>a name has at most %1 characters</source>
+        <translation>ein Name hat höchstens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>a name must not contain any of %1</source>
+        <translation>ein Name darf keines dieser Zeichen enthalten: %1</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>ein Name darf keine Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>a password can't be sealed</source>
+        <translation>ein Kennwort kann nicht verschlüsselt werden</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>ein Profil braucht einen Namen</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>ein Profil braucht eine Einwahlnummer, zum Beispiel phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>ein Element hat mehr als %1 Attribute</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked</source>
+        <translation>ein anderes Programm hält die Datei gesperrt</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: muss mit einem Buchstaben oder einer Ziffer beginnen und enden</translation>
+    </message>
+    <message>
+        <source>can't be locked</source>
+        <translation>kann nicht gesperrt werden</translation>
+    </message>
+    <message>
+        <source>can't be locked: it is not a regular file</source>
+        <translation>kann nicht gesperrt werden: es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>can't be looked at</source>
+        <translation>Zugriff nicht möglich</translation>
+    </message>
+    <message>
+        <source>can't be opened</source>
+        <translation>kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>can't be read now; what was last read of it stays in force</source>
+        <translation>kann derzeit nicht gelesen werden; es gilt, was zuletzt gelesen wurde</translation>
+    </message>
+    <message>
+        <source>can't be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>can't be written as XML</source>
+        <translation>kann nicht als XML geschrieben werden</translation>
+    </message>
+    <message>
+        <source>can't close</source>
+        <translation>Schließen nicht möglich</translation>
+    </message>
+    <message>
+        <source>can't create a file in the folder</source>
+        <translation>im Ordner kann keine Datei angelegt werden</translation>
+    </message>
+    <message>
+        <source>can't enter the folder</source>
+        <translation>kein Zugang zum Ordner</translation>
+    </message>
+    <message>
+        <source>can't enter the root folder</source>
+        <translation>kein Zugang zum Wurzelordner</translation>
+    </message>
+    <message>
+        <source>can't flush to disk</source>
+        <translation>kann nicht auf den Datenträger geschrieben werden</translation>
+    </message>
+    <message>
+        <source>can't look at the folder</source>
+        <translation>kein Zugriff auf den Ordner</translation>
+    </message>
+    <message>
+        <source>can't read a link</source>
+        <translation>eine Verknüpfung kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>can't replace</source>
+        <translation>Ersetzen nicht möglich</translation>
+    </message>
+    <message>
+        <source>can't set the file's mode</source>
+        <translation>die Zugriffsrechte der Datei können nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>can't set the file's owner</source>
+        <translation>der Besitzer der Datei kann nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>can't write</source>
+        <translation>Schreiben nicht möglich</translation>
+    </message>
+    <message>
+        <source>elements stand more than %1 deep in one another</source>
+        <translation>Elemente sind mehr als %1-fach ineinander geschachtelt</translation>
+    </message>
+    <message>
+        <source>every name for a copy of the damaged file is taken</source>
+        <translation>alle Namen für eine Kopie der beschädigten Datei sind vergeben</translation>
+    </message>
+    <message>
+        <source>is damaged, and can't be kept: %1</source>
+        <translation>ist beschädigt und kann nicht aufbewahrt werden: %1</translation>
+    </message>
+    <message>
+        <source>is no file's name</source>
+        <translation>ist kein Dateiname</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is too large: %1 of at most %2 MB</source>
+        <translation>zu groß: %1 von höchstens %2 MB</translation>
+    </message>
+    <message>
+        <source>leads to no file</source>
+        <translation>führt zu keiner Datei</translation>
+    </message>
+    <message>
+        <source>not written: it would be too large to be read again, %1 of at most %2 MB</source>
+        <translation>nicht geschrieben: zu groß, um wieder gelesen zu werden, %1 von höchstens %2 MB</translation>
+    </message>
+    <message>
+        <source>other programs make and remove it all the time</source>
+        <translation>andere Programme legen sie ständig an und entfernen sie wieder</translation>
+    </message>
+    <message>
+        <source>profiles can't be exported to this file</source>
+        <translation>in diese Datei können keine Profile exportiert werden</translation>
+    </message>
+    <message>
+        <source>reading failed</source>
+        <translation>Lesen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>the XML declaration is too long</source>
+        <translation>die XML-Deklaration ist zu lang</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: %2</source>
+        <translation>das Backend „%1“ kann nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: it belongs to another version</source>
+        <translation>das Backend „%1“ kann nicht geladen werden: es gehört zu einer anderen Version</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: there is no %2</source>
+        <translation>das Backend „%1“ kann nicht geladen werden: %2 fehlt</translation>
+    </message>
+    <message>
+        <source>the device backend can't start</source>
+        <translation>das Backend des Modems kann nicht starten</translation>
+    </message>
+    <message>
+        <source>the document type declares entities or attributes</source>
+        <translation>der Dokumenttyp deklariert Entitäten oder Attribute</translation>
+    </message>
+    <message>
+        <source>the output can't be written: %1</source>
+        <translation>die Ausgabe kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>the process was made by one that uses the modem</source>
+        <translation>der Prozess stammt von einem, der das Modem benutzt</translation>
+    </message>
+    <message>
+        <source>the sealed password of "%1" was changed outside and can't be opened</source>
+        <translation>das verschlüsselte Kennwort von „%1“ wurde außerhalb geändert und kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>the user data directory can't be had</source>
+        <translation>der Datenordner des Benutzers ist nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>there are more than %1 elements</source>
+        <translation>es sind mehr als %1 Elemente</translation>
+    </message>
+    <message>
+        <source>there are more than %1 namespaces</source>
+        <translation>es sind mehr als %1 Namensräume</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>dafür reicht der Speicher nicht</translation>
+    </message>
+    <message>
+        <source>was damaged (%1); the damaged file is kept as %2</source>
+        <translation>war beschädigt (%1); die beschädigte Datei ist als %2 aufbewahrt</translation>
+    </message>
+    <message>
+        <source>was removed while the profiles were being changed</source>
+        <translation>wurde entfernt, während die Profile geändert wurden</translation>
+    </message>
+    <message>
+        <source>written, but the folder can't be flushed to disk</source>
+        <translation>geschrieben, aber der Ordner kann nicht auf den Datenträger geschrieben werden</translation>
     </message>
 </context>
 </TS>

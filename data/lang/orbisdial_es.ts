@@ -1748,18 +1748,6 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>un PUK tiene 8 dígitos</translation>
     </message>
     <message>
-        <source>a name must not contain control characters</source>
-        <translation>un nombre no puede contener caracteres de control</translation>
-    </message>
-    <message>
-        <source>a profile needs a name</source>
-        <translation>un perfil necesita un nombre</translation>
-    </message>
-    <message>
-        <source>a profile needs an access number, for example phonenumber=*99#</source>
-        <translation>un perfil necesita un número de acceso, por ejemplo phonenumber=*99#</translation>
-    </message>
-    <message>
         <source>an IPv4 address, or nothing</source>
         <translation>una dirección IPv4 o nada</translation>
     </message>
@@ -1770,10 +1758,6 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>an option's value is empty</source>
         <translation>el valor de una opción está vacío</translation>
-    </message>
-    <message>
-        <source>apn: must begin and end with a letter or a digit</source>
-        <translation>apn: debe empezar y terminar con una letra o un dígito</translation>
     </message>
     <message>
         <source>argument %1 is not UTF-8</source>
@@ -2450,6 +2434,265 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>yes</source>
         <translation>sí</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: como máximo %2 caracteres</translation>
+    </message>
+    <message>
+        <source>%1: control characters can't be stored</source>
+        <translation>%1: los caracteres de control no se pueden guardar</translation>
+    </message>
+    <message>
+        <source>%1: may hold letters, digits, dots and hyphens</source>
+        <translation>%1: puede contener letras, dígitos, puntos y guiones</translation>
+    </message>
+    <message>
+        <source>%1: must be empty or an IPv4 address such as 192.0.2.1</source>
+        <translation>%1: debe estar vacío o ser una dirección IPv4 como 192.0.2.1</translation>
+    </message>
+    <message>
+        <source>%1: must be true or false</source>
+        <translation>%1: debe ser true o false</translation>
+    </message>
+    <message>
+        <source>Mobile broadband is switched off</source>
+        <translation>La banda ancha móvil está desactivada</translation>
+    </message>
+    <message>
+        <source>NetworkManager can't use the modem now</source>
+        <translation>NetworkManager no puede usar ahora el módem</translation>
+    </message>
+    <message>
+        <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>
+        <translation>ORBISDIAL_DEVICE no indica ningún motor; los posibles son simulated, modemmanager, none y auto</translation>
+    </message>
+    <message>
+        <source>a link in a folder where others may have put it is not followed: %1</source>
+        <translation>no se sigue un enlace que otros pueden haber puesto en la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>a name has at most %1 characters</source>
+        <translation>un nombre tiene como máximo %1 caracteres</translation>
+    </message>
+    <message>
+        <source>a name must not contain any of %1</source>
+        <translation>un nombre no puede contener ninguno de estos caracteres: %1</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>un nombre no puede contener caracteres de control</translation>
+    </message>
+    <message>
+        <source>a password can't be sealed</source>
+        <translation>no se puede cifrar una contraseña</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>un perfil necesita un nombre</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>un perfil necesita un número de acceso, por ejemplo phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>un elemento tiene más de %1 atributos</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked</source>
+        <translation>otro programa lo mantiene bloqueado</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: debe empezar y terminar con una letra o un dígito</translation>
+    </message>
+    <message>
+        <source>can't be locked</source>
+        <translation>no se puede bloquear</translation>
+    </message>
+    <message>
+        <source>can't be locked: it is not a regular file</source>
+        <translation>no se puede bloquear: no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>can't be looked at</source>
+        <translation>no se puede consultar</translation>
+    </message>
+    <message>
+        <source>can't be opened</source>
+        <translation>no se puede abrir</translation>
+    </message>
+    <message>
+        <source>can't be read now; what was last read of it stays in force</source>
+        <translation>no se puede leer ahora; sigue vigente lo último que se leyó</translation>
+    </message>
+    <message>
+        <source>can't be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>can't be written as XML</source>
+        <translation>no se puede escribir como XML</translation>
+    </message>
+    <message>
+        <source>can't close</source>
+        <translation>no se puede cerrar</translation>
+    </message>
+    <message>
+        <source>can't create a file in the folder</source>
+        <translation>no se puede crear un archivo en la carpeta</translation>
+    </message>
+    <message>
+        <source>can't enter the folder</source>
+        <translation>no se puede entrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>can't enter the root folder</source>
+        <translation>no se puede entrar en la carpeta raíz</translation>
+    </message>
+    <message>
+        <source>can't flush to disk</source>
+        <translation>no se puede volcar al disco</translation>
+    </message>
+    <message>
+        <source>can't look at the folder</source>
+        <translation>no se puede consultar la carpeta</translation>
+    </message>
+    <message>
+        <source>can't read a link</source>
+        <translation>no se puede leer un enlace</translation>
+    </message>
+    <message>
+        <source>can't replace</source>
+        <translation>no se puede reemplazar</translation>
+    </message>
+    <message>
+        <source>can't set the file's mode</source>
+        <translation>no se pueden establecer los permisos del archivo</translation>
+    </message>
+    <message>
+        <source>can't set the file's owner</source>
+        <translation>no se puede establecer el propietario del archivo</translation>
+    </message>
+    <message>
+        <source>can't write</source>
+        <translation>no se puede escribir</translation>
+    </message>
+    <message>
+        <source>elements stand more than %1 deep in one another</source>
+        <translation>hay elementos anidados a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>every name for a copy of the damaged file is taken</source>
+        <translation>todos los nombres para una copia del archivo dañado están ocupados</translation>
+    </message>
+    <message>
+        <source>is damaged, and can't be kept: %1</source>
+        <translation>está dañado y no se puede conservar: %1</translation>
+    </message>
+    <message>
+        <source>is no file's name</source>
+        <translation>no es un nombre de archivo</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is too large: %1 of at most %2 MB</source>
+        <translation>es demasiado grande: %1 MB de un máximo de %2 MB</translation>
+    </message>
+    <message>
+        <source>leads to no file</source>
+        <translation>no lleva a ningún archivo</translation>
+    </message>
+    <message>
+        <source>not written: it would be too large to be read again, %1 of at most %2 MB</source>
+        <translation>no se ha escrito: sería demasiado grande para volver a leerlo, %1 MB de un máximo de %2 MB</translation>
+    </message>
+    <message>
+        <source>other programs make and remove it all the time</source>
+        <translation>otros programas lo crean y eliminan sin cesar</translation>
+    </message>
+    <message>
+        <source>profiles can't be exported to this file</source>
+        <translation>no se pueden exportar perfiles a este archivo</translation>
+    </message>
+    <message>
+        <source>reading failed</source>
+        <translation>falló la lectura</translation>
+    </message>
+    <message>
+        <source>the XML declaration is too long</source>
+        <translation>la declaración XML es demasiado larga</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: %2</source>
+        <translation>no se puede cargar el motor «%1»: %2</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: it belongs to another version</source>
+        <translation>no se puede cargar el motor «%1»: pertenece a otra versión</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: there is no %2</source>
+        <translation>no se puede cargar el motor «%1»: no existe %2</translation>
+    </message>
+    <message>
+        <source>the device backend can't start</source>
+        <translation>el motor del módem no puede iniciarse</translation>
+    </message>
+    <message>
+        <source>the document type declares entities or attributes</source>
+        <translation>el tipo de documento declara entidades o atributos</translation>
+    </message>
+    <message>
+        <source>the output can't be written: %1</source>
+        <translation>no se puede escribir la salida: %1</translation>
+    </message>
+    <message>
+        <source>the process was made by one that uses the modem</source>
+        <translation>el proceso fue creado por otro que usa el módem</translation>
+    </message>
+    <message>
+        <source>the sealed password of "%1" was changed outside and can't be opened</source>
+        <translation>la contraseña cifrada de «%1» se modificó desde fuera y no se puede descifrar</translation>
+    </message>
+    <message>
+        <source>the user data directory can't be had</source>
+        <translation>la carpeta de datos del usuario no está disponible</translation>
+    </message>
+    <message>
+        <source>there are more than %1 elements</source>
+        <translation>hay más de %1 elementos</translation>
+    </message>
+    <message>
+        <source>there are more than %1 namespaces</source>
+        <translation>hay más de %1 espacios de nombres</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>no hay memoria suficiente para ello</translation>
+    </message>
+    <message>
+        <source>was damaged (%1); the damaged file is kept as %2</source>
+        <translation>estaba dañado (%1); el archivo dañado se conserva como %2</translation>
+    </message>
+    <message>
+        <source>was removed while the profiles were being changed</source>
+        <translation>se eliminó mientras se modificaban los perfiles</translation>
+    </message>
+    <message>
+        <source>written, but the folder can't be flushed to disk</source>
+        <translation>escrito, pero la carpeta no se puede volcar al disco</translation>
     </message>
 </context>
 </TS>

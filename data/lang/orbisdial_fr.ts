@@ -1748,18 +1748,6 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>un code PUK a 8 chiffres</translation>
     </message>
     <message>
-        <source>a name must not contain control characters</source>
-        <translation>un nom ne doit pas contenir de caractères de contrôle</translation>
-    </message>
-    <message>
-        <source>a profile needs a name</source>
-        <translation>un profil doit avoir un nom</translation>
-    </message>
-    <message>
-        <source>a profile needs an access number, for example phonenumber=*99#</source>
-        <translation>un profil doit avoir un numéro d’accès, par exemple phonenumber=*99#</translation>
-    </message>
-    <message>
         <source>an IPv4 address, or nothing</source>
         <translation>une adresse IPv4, ou rien</translation>
     </message>
@@ -1770,10 +1758,6 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>an option's value is empty</source>
         <translation>la valeur d’une option est vide</translation>
-    </message>
-    <message>
-        <source>apn: must begin and end with a letter or a digit</source>
-        <translation>apn&#xa0;: doit commencer et se terminer par une lettre ou un chiffre</translation>
     </message>
     <message>
         <source>argument %1 is not UTF-8</source>
@@ -2450,6 +2434,265 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>yes</source>
         <translation>oui</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1&#xa0;: %2 caractères au plus</translation>
+    </message>
+    <message>
+        <source>%1: control characters can't be stored</source>
+        <translation>%1&#xa0;: les caractères de contrôle ne peuvent pas être enregistrés</translation>
+    </message>
+    <message>
+        <source>%1: may hold letters, digits, dots and hyphens</source>
+        <translation>%1&#xa0;: peut contenir des lettres, des chiffres, des points et des tirets</translation>
+    </message>
+    <message>
+        <source>%1: must be empty or an IPv4 address such as 192.0.2.1</source>
+        <translation>%1&#xa0;: doit être vide ou une adresse IPv4 comme 192.0.2.1</translation>
+    </message>
+    <message>
+        <source>%1: must be true or false</source>
+        <translation>%1&#xa0;: doit être true ou false</translation>
+    </message>
+    <message>
+        <source>Mobile broadband is switched off</source>
+        <translation>Le haut débit mobile est désactivé</translation>
+    </message>
+    <message>
+        <source>NetworkManager can't use the modem now</source>
+        <translation>NetworkManager ne peut pas utiliser le modem pour l’instant</translation>
+    </message>
+    <message>
+        <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>
+        <translation>ORBISDIAL_DEVICE ne désigne aucun moteur&#xa0;; possibles&#xa0;: simulated, modemmanager, none ou auto</translation>
+    </message>
+    <message>
+        <source>a link in a folder where others may have put it is not followed: %1</source>
+        <translation>un lien que d’autres ont pu mettre dans le dossier n’est pas suivi&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a name has at most %1 characters</source>
+        <translation>un nom a %1 caractères au plus</translation>
+    </message>
+    <message>
+        <source>a name must not contain any of %1</source>
+        <translation>un nom ne doit contenir aucun de ces caractères&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>un nom ne doit pas contenir de caractères de contrôle</translation>
+    </message>
+    <message>
+        <source>a password can't be sealed</source>
+        <translation>un mot de passe ne peut pas être chiffré</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>un profil doit avoir un nom</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>un profil doit avoir un numéro d’accès, par exemple phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>un élément a plus de %1 attributs</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked</source>
+        <translation>un autre programme le tient verrouillé</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn&#xa0;: doit commencer et se terminer par une lettre ou un chiffre</translation>
+    </message>
+    <message>
+        <source>can't be locked</source>
+        <translation>verrouillage impossible</translation>
+    </message>
+    <message>
+        <source>can't be locked: it is not a regular file</source>
+        <translation>verrouillage impossible&#xa0;: ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>can't be looked at</source>
+        <translation>consultation impossible</translation>
+    </message>
+    <message>
+        <source>can't be opened</source>
+        <translation>ouverture impossible</translation>
+    </message>
+    <message>
+        <source>can't be read now; what was last read of it stays in force</source>
+        <translation>lecture impossible pour l’instant&#xa0;; ce qui a été lu en dernier reste valable</translation>
+    </message>
+    <message>
+        <source>can't be read: %1</source>
+        <translation>lecture impossible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>can't be written as XML</source>
+        <translation>écriture en XML impossible</translation>
+    </message>
+    <message>
+        <source>can't close</source>
+        <translation>fermeture impossible</translation>
+    </message>
+    <message>
+        <source>can't create a file in the folder</source>
+        <translation>impossible de créer un fichier dans le dossier</translation>
+    </message>
+    <message>
+        <source>can't enter the folder</source>
+        <translation>accès au dossier impossible</translation>
+    </message>
+    <message>
+        <source>can't enter the root folder</source>
+        <translation>accès au dossier racine impossible</translation>
+    </message>
+    <message>
+        <source>can't flush to disk</source>
+        <translation>écriture sur le disque impossible</translation>
+    </message>
+    <message>
+        <source>can't look at the folder</source>
+        <translation>consultation du dossier impossible</translation>
+    </message>
+    <message>
+        <source>can't read a link</source>
+        <translation>lecture d’un lien impossible</translation>
+    </message>
+    <message>
+        <source>can't replace</source>
+        <translation>remplacement impossible</translation>
+    </message>
+    <message>
+        <source>can't set the file's mode</source>
+        <translation>impossible de définir les droits du fichier</translation>
+    </message>
+    <message>
+        <source>can't set the file's owner</source>
+        <translation>impossible de définir le propriétaire du fichier</translation>
+    </message>
+    <message>
+        <source>can't write</source>
+        <translation>écriture impossible</translation>
+    </message>
+    <message>
+        <source>elements stand more than %1 deep in one another</source>
+        <translation>des éléments sont imbriqués sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>every name for a copy of the damaged file is taken</source>
+        <translation>tous les noms pour une copie du fichier endommagé sont pris</translation>
+    </message>
+    <message>
+        <source>is damaged, and can't be kept: %1</source>
+        <translation>est endommagé et ne peut pas être conservé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is no file's name</source>
+        <translation>n’est pas un nom de fichier</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is too large: %1 of at most %2 MB</source>
+        <translation>trop volumineux&#xa0;: %1 Mo, pour %2 Mo au plus</translation>
+    </message>
+    <message>
+        <source>leads to no file</source>
+        <translation>ne mène à aucun fichier</translation>
+    </message>
+    <message>
+        <source>not written: it would be too large to be read again, %1 of at most %2 MB</source>
+        <translation>non écrit&#xa0;: trop volumineux pour être relu, %1 Mo, pour %2 Mo au plus</translation>
+    </message>
+    <message>
+        <source>other programs make and remove it all the time</source>
+        <translation>d’autres programmes le créent et le suppriment sans cesse</translation>
+    </message>
+    <message>
+        <source>profiles can't be exported to this file</source>
+        <translation>les profils ne peuvent pas être exportés vers ce fichier</translation>
+    </message>
+    <message>
+        <source>reading failed</source>
+        <translation>échec de la lecture</translation>
+    </message>
+    <message>
+        <source>the XML declaration is too long</source>
+        <translation>la déclaration XML est trop longue</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: %2</source>
+        <translation>le moteur «&#xa0;%1&#xa0;» ne peut pas être chargé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: it belongs to another version</source>
+        <translation>le moteur «&#xa0;%1&#xa0;» ne peut pas être chargé&#xa0;: il appartient à une autre version</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: there is no %2</source>
+        <translation>le moteur «&#xa0;%1&#xa0;» ne peut pas être chargé&#xa0;: %2 n’existe pas</translation>
+    </message>
+    <message>
+        <source>the device backend can't start</source>
+        <translation>le moteur du modem ne peut pas démarrer</translation>
+    </message>
+    <message>
+        <source>the document type declares entities or attributes</source>
+        <translation>le type de document déclare des entités ou des attributs</translation>
+    </message>
+    <message>
+        <source>the output can't be written: %1</source>
+        <translation>la sortie ne peut pas être écrite&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the process was made by one that uses the modem</source>
+        <translation>le processus a été créé par un autre qui utilise le modem</translation>
+    </message>
+    <message>
+        <source>the sealed password of "%1" was changed outside and can't be opened</source>
+        <translation>le mot de passe chiffré de «&#xa0;%1&#xa0;» a été modifié de l’extérieur et ne peut pas être déchiffré</translation>
+    </message>
+    <message>
+        <source>the user data directory can't be had</source>
+        <translation>le dossier de données de l’utilisateur n’est pas disponible</translation>
+    </message>
+    <message>
+        <source>there are more than %1 elements</source>
+        <translation>il y a plus de %1 éléments</translation>
+    </message>
+    <message>
+        <source>there are more than %1 namespaces</source>
+        <translation>il y a plus de %1 espaces de noms</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>il n’y a pas assez de mémoire pour cela</translation>
+    </message>
+    <message>
+        <source>was damaged (%1); the damaged file is kept as %2</source>
+        <translation>était endommagé (%1)&#xa0;; le fichier endommagé est conservé sous %2</translation>
+    </message>
+    <message>
+        <source>was removed while the profiles were being changed</source>
+        <translation>a été supprimé pendant la modification des profils</translation>
+    </message>
+    <message>
+        <source>written, but the folder can't be flushed to disk</source>
+        <translation>écrit, mais le dossier n’a pas pu être écrit sur le disque</translation>
     </message>
 </context>
 </TS>

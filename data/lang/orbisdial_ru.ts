@@ -1748,18 +1748,6 @@
         <translation>в PUK-коде 8 цифр</translation>
     </message>
     <message>
-        <source>a name must not contain control characters</source>
-        <translation>имя не должно содержать управляющих символов</translation>
-    </message>
-    <message>
-        <source>a profile needs a name</source>
-        <translation>профилю нужно имя</translation>
-    </message>
-    <message>
-        <source>a profile needs an access number, for example phonenumber=*99#</source>
-        <translation>профилю нужен номер дозвона, например phonenumber=*99#</translation>
-    </message>
-    <message>
         <source>an IPv4 address, or nothing</source>
         <translation>IPv4-адрес или ничего</translation>
     </message>
@@ -1770,10 +1758,6 @@
     <message>
         <source>an option's value is empty</source>
         <translation>значение параметра пустое</translation>
-    </message>
-    <message>
-        <source>apn: must begin and end with a letter or a digit</source>
-        <translation>apn: должен начинаться и заканчиваться буквой или цифрой</translation>
     </message>
     <message>
         <source>argument %1 is not UTF-8</source>
@@ -2450,6 +2434,265 @@
     <message>
         <source>yes</source>
         <translation>да</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1: не больше %2 символов</translation>
+    </message>
+    <message>
+        <source>%1: control characters can't be stored</source>
+        <translation>%1: управляющие символы сохранить нельзя</translation>
+    </message>
+    <message>
+        <source>%1: may hold letters, digits, dots and hyphens</source>
+        <translation>%1: допустимы буквы, цифры, точки и дефисы</translation>
+    </message>
+    <message>
+        <source>%1: must be empty or an IPv4 address such as 192.0.2.1</source>
+        <translation>%1: должно быть пустым или IPv4-адресом вида 192.0.2.1</translation>
+    </message>
+    <message>
+        <source>%1: must be true or false</source>
+        <translation>%1: должно быть true или false</translation>
+    </message>
+    <message>
+        <source>Mobile broadband is switched off</source>
+        <translation>Мобильная широкополосная связь выключена</translation>
+    </message>
+    <message>
+        <source>NetworkManager can't use the modem now</source>
+        <translation>NetworkManager сейчас не может использовать модем</translation>
+    </message>
+    <message>
+        <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>
+        <translation>ORBISDIAL_DEVICE не указывает серверную часть; возможны simulated, modemmanager, none и auto</translation>
+    </message>
+    <message>
+        <source>a link in a folder where others may have put it is not followed: %1</source>
+        <translation>ссылка, которую могли положить в папку другие, не открывается: %1</translation>
+    </message>
+    <message>
+        <source>a name has at most %1 characters</source>
+        <translation>в имени не больше %1 символов</translation>
+    </message>
+    <message>
+        <source>a name must not contain any of %1</source>
+        <translation>имя не должно содержать символов %1</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>имя не должно содержать управляющих символов</translation>
+    </message>
+    <message>
+        <source>a password can't be sealed</source>
+        <translation>пароль нельзя зашифровать</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>профилю нужно имя</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>профилю нужен номер дозвона, например phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>у элемента больше %1 атрибутов</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked</source>
+        <translation>файл заблокирован другой программой</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn: должен начинаться и заканчиваться буквой или цифрой</translation>
+    </message>
+    <message>
+        <source>can't be locked</source>
+        <translation>нельзя заблокировать</translation>
+    </message>
+    <message>
+        <source>can't be locked: it is not a regular file</source>
+        <translation>нельзя заблокировать: это не обычный файл</translation>
+    </message>
+    <message>
+        <source>can't be looked at</source>
+        <translation>нет доступа</translation>
+    </message>
+    <message>
+        <source>can't be opened</source>
+        <translation>не удаётся открыть</translation>
+    </message>
+    <message>
+        <source>can't be read now; what was last read of it stays in force</source>
+        <translation>сейчас не читается; действует прочитанное в последний раз</translation>
+    </message>
+    <message>
+        <source>can't be read: %1</source>
+        <translation>не удаётся прочитать: %1</translation>
+    </message>
+    <message>
+        <source>can't be written as XML</source>
+        <translation>нельзя записать в виде XML</translation>
+    </message>
+    <message>
+        <source>can't close</source>
+        <translation>не удаётся закрыть</translation>
+    </message>
+    <message>
+        <source>can't create a file in the folder</source>
+        <translation>в папке нельзя создать файл</translation>
+    </message>
+    <message>
+        <source>can't enter the folder</source>
+        <translation>нет доступа к папке</translation>
+    </message>
+    <message>
+        <source>can't enter the root folder</source>
+        <translation>нет доступа к корневой папке</translation>
+    </message>
+    <message>
+        <source>can't flush to disk</source>
+        <translation>не удаётся сбросить на диск</translation>
+    </message>
+    <message>
+        <source>can't look at the folder</source>
+        <translation>нет доступа к папке</translation>
+    </message>
+    <message>
+        <source>can't read a link</source>
+        <translation>не удаётся прочитать ссылку</translation>
+    </message>
+    <message>
+        <source>can't replace</source>
+        <translation>не удаётся заменить</translation>
+    </message>
+    <message>
+        <source>can't set the file's mode</source>
+        <translation>нельзя задать права доступа к файлу</translation>
+    </message>
+    <message>
+        <source>can't set the file's owner</source>
+        <translation>нельзя задать владельца файла</translation>
+    </message>
+    <message>
+        <source>can't write</source>
+        <translation>не удаётся записать</translation>
+    </message>
+    <message>
+        <source>elements stand more than %1 deep in one another</source>
+        <translation>глубина вложения элементов больше %1</translation>
+    </message>
+    <message>
+        <source>every name for a copy of the damaged file is taken</source>
+        <translation>все имена для копии повреждённого файла заняты</translation>
+    </message>
+    <message>
+        <source>is damaged, and can't be kept: %1</source>
+        <translation>повреждён, сохранить копию не удалось: %1</translation>
+    </message>
+    <message>
+        <source>is no file's name</source>
+        <translation>не имя файла</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>it is too large: %1 of at most %2 MB</source>
+        <translation>слишком велик: %1 МБ при пределе %2 МБ</translation>
+    </message>
+    <message>
+        <source>leads to no file</source>
+        <translation>не ведёт ни к какому файлу</translation>
+    </message>
+    <message>
+        <source>not written: it would be too large to be read again, %1 of at most %2 MB</source>
+        <translation>не записано: файл был бы слишком велик для чтения, %1 МБ при пределе %2 МБ</translation>
+    </message>
+    <message>
+        <source>other programs make and remove it all the time</source>
+        <translation>другие программы постоянно создают и удаляют его</translation>
+    </message>
+    <message>
+        <source>profiles can't be exported to this file</source>
+        <translation>в этот файл профили экспортировать нельзя</translation>
+    </message>
+    <message>
+        <source>reading failed</source>
+        <translation>ошибка чтения</translation>
+    </message>
+    <message>
+        <source>the XML declaration is too long</source>
+        <translation>XML-объявление слишком длинное</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: %2</source>
+        <translation>серверную часть «%1» нельзя загрузить: %2</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: it belongs to another version</source>
+        <translation>серверную часть «%1» нельзя загрузить: она от другой версии</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: there is no %2</source>
+        <translation>серверную часть «%1» нельзя загрузить: нет %2</translation>
+    </message>
+    <message>
+        <source>the device backend can't start</source>
+        <translation>серверная часть модема не запускается</translation>
+    </message>
+    <message>
+        <source>the document type declares entities or attributes</source>
+        <translation>тип документа объявляет сущности или атрибуты</translation>
+    </message>
+    <message>
+        <source>the output can't be written: %1</source>
+        <translation>вывод нельзя записать: %1</translation>
+    </message>
+    <message>
+        <source>the process was made by one that uses the modem</source>
+        <translation>процесс создан другим, который использует модем</translation>
+    </message>
+    <message>
+        <source>the sealed password of "%1" was changed outside and can't be opened</source>
+        <translation>зашифрованный пароль профиля «%1» изменён извне, расшифровать его нельзя</translation>
+    </message>
+    <message>
+        <source>the user data directory can't be had</source>
+        <translation>папка данных пользователя недоступна</translation>
+    </message>
+    <message>
+        <source>there are more than %1 elements</source>
+        <translation>элементов больше %1</translation>
+    </message>
+    <message>
+        <source>there are more than %1 namespaces</source>
+        <translation>пространств имён больше %1</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>для этого не хватает памяти</translation>
+    </message>
+    <message>
+        <source>was damaged (%1); the damaged file is kept as %2</source>
+        <translation>был повреждён (%1); повреждённый файл сохранён как %2</translation>
+    </message>
+    <message>
+        <source>was removed while the profiles were being changed</source>
+        <translation>удалён во время изменения профилей</translation>
+    </message>
+    <message>
+        <source>written, but the folder can't be flushed to disk</source>
+        <translation>записано, но папку не удаётся сбросить на диск</translation>
     </message>
 </context>
 </TS>

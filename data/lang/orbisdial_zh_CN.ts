@@ -1748,18 +1748,6 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>PUK 码为 8 位数字</translation>
     </message>
     <message>
-        <source>a name must not contain control characters</source>
-        <translation>名称不能包含控制字符</translation>
-    </message>
-    <message>
-        <source>a profile needs a name</source>
-        <translation>配置文件需要名称</translation>
-    </message>
-    <message>
-        <source>a profile needs an access number, for example phonenumber=*99#</source>
-        <translation>配置文件需要接入号码，例如 phonenumber=*99#</translation>
-    </message>
-    <message>
         <source>an IPv4 address, or nothing</source>
         <translation>IPv4 地址或留空</translation>
     </message>
@@ -1770,10 +1758,6 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>an option's value is empty</source>
         <translation>选项的值为空</translation>
-    </message>
-    <message>
-        <source>apn: must begin and end with a letter or a digit</source>
-        <translation>apn：必须以字母或数字开头和结尾</translation>
     </message>
     <message>
         <source>argument %1 is not UTF-8</source>
@@ -2450,6 +2434,265 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>yes</source>
         <translation>是</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: at most %2 characters</source>
+        <translation>%1：最多 %2 个字符</translation>
+    </message>
+    <message>
+        <source>%1: control characters can't be stored</source>
+        <translation>%1：无法保存控制字符</translation>
+    </message>
+    <message>
+        <source>%1: may hold letters, digits, dots and hyphens</source>
+        <translation>%1：可以包含字母、数字、点和连字符</translation>
+    </message>
+    <message>
+        <source>%1: must be empty or an IPv4 address such as 192.0.2.1</source>
+        <translation>%1：必须为空或形如 192.0.2.1 的 IPv4 地址</translation>
+    </message>
+    <message>
+        <source>%1: must be true or false</source>
+        <translation>%1：必须为 true 或 false</translation>
+    </message>
+    <message>
+        <source>Mobile broadband is switched off</source>
+        <translation>移动宽带已关闭</translation>
+    </message>
+    <message>
+        <source>NetworkManager can't use the modem now</source>
+        <translation>NetworkManager 目前无法使用调制解调器</translation>
+    </message>
+    <message>
+        <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>
+        <translation>ORBISDIAL_DEVICE 未指定有效的后端；可用 simulated、modemmanager、none 或 auto</translation>
+    </message>
+    <message>
+        <source>a link in a folder where others may have put it is not followed: %1</source>
+        <translation>不跟随可能由他人放入文件夹的链接：%1</translation>
+    </message>
+    <message>
+        <source>a name has at most %1 characters</source>
+        <translation>名称最多 %1 个字符</translation>
+    </message>
+    <message>
+        <source>a name must not contain any of %1</source>
+        <translation>名称不能包含下列字符：%1</translation>
+    </message>
+    <message>
+        <source>a name must not contain control characters</source>
+        <translation>名称不能包含控制字符</translation>
+    </message>
+    <message>
+        <source>a password can't be sealed</source>
+        <translation>无法加密密码</translation>
+    </message>
+    <message>
+        <source>a profile needs a name</source>
+        <translation>配置文件需要名称</translation>
+    </message>
+    <message>
+        <source>a profile needs an access number, for example phonenumber=*99#</source>
+        <translation>配置文件需要接入号码，例如 phonenumber=*99#</translation>
+    </message>
+    <message>
+        <source>an element has more than %1 attributes</source>
+        <translation>某个元素的属性超过 %1 个</translation>
+    </message>
+    <message>
+        <source>another program keeps it locked</source>
+        <translation>另一个程序将其锁定</translation>
+    </message>
+    <message>
+        <source>apn: must begin and end with a letter or a digit</source>
+        <translation>apn：必须以字母或数字开头和结尾</translation>
+    </message>
+    <message>
+        <source>can't be locked</source>
+        <translation>无法锁定</translation>
+    </message>
+    <message>
+        <source>can't be locked: it is not a regular file</source>
+        <translation>无法锁定：不是普通文件</translation>
+    </message>
+    <message>
+        <source>can't be looked at</source>
+        <translation>无法查看</translation>
+    </message>
+    <message>
+        <source>can't be opened</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>can't be read now; what was last read of it stays in force</source>
+        <translation>目前无法读取；以上次读取的内容为准</translation>
+    </message>
+    <message>
+        <source>can't be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>can't be written as XML</source>
+        <translation>无法以 XML 写入</translation>
+    </message>
+    <message>
+        <source>can't close</source>
+        <translation>无法关闭</translation>
+    </message>
+    <message>
+        <source>can't create a file in the folder</source>
+        <translation>无法在文件夹中创建文件</translation>
+    </message>
+    <message>
+        <source>can't enter the folder</source>
+        <translation>无法进入文件夹</translation>
+    </message>
+    <message>
+        <source>can't enter the root folder</source>
+        <translation>无法进入根文件夹</translation>
+    </message>
+    <message>
+        <source>can't flush to disk</source>
+        <translation>无法写入磁盘</translation>
+    </message>
+    <message>
+        <source>can't look at the folder</source>
+        <translation>无法查看文件夹</translation>
+    </message>
+    <message>
+        <source>can't read a link</source>
+        <translation>无法读取链接</translation>
+    </message>
+    <message>
+        <source>can't replace</source>
+        <translation>无法替换</translation>
+    </message>
+    <message>
+        <source>can't set the file's mode</source>
+        <translation>无法设置文件的权限</translation>
+    </message>
+    <message>
+        <source>can't set the file's owner</source>
+        <translation>无法设置文件的所有者</translation>
+    </message>
+    <message>
+        <source>can't write</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>elements stand more than %1 deep in one another</source>
+        <translation>元素嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>every name for a copy of the damaged file is taken</source>
+        <translation>损坏文件副本的名称均已被占用</translation>
+    </message>
+    <message>
+        <source>is damaged, and can't be kept: %1</source>
+        <translation>已损坏，且无法保留：%1</translation>
+    </message>
+    <message>
+        <source>is no file's name</source>
+        <translation>不是文件名</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>it is too large: %1 of at most %2 MB</source>
+        <translation>过大：%1 MB，最多 %2 MB</translation>
+    </message>
+    <message>
+        <source>leads to no file</source>
+        <translation>未指向任何文件</translation>
+    </message>
+    <message>
+        <source>not written: it would be too large to be read again, %1 of at most %2 MB</source>
+        <translation>未写入：过大而无法再读取，%1 MB，最多 %2 MB</translation>
+    </message>
+    <message>
+        <source>other programs make and remove it all the time</source>
+        <translation>其他程序不断创建又删除它</translation>
+    </message>
+    <message>
+        <source>profiles can't be exported to this file</source>
+        <translation>不能将配置文件导出到此文件</translation>
+    </message>
+    <message>
+        <source>reading failed</source>
+        <translation>读取失败</translation>
+    </message>
+    <message>
+        <source>the XML declaration is too long</source>
+        <translation>XML 声明过长</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: %2</source>
+        <translation>无法加载后端“%1”：%2</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: it belongs to another version</source>
+        <translation>无法加载后端“%1”：它属于另一个版本</translation>
+    </message>
+    <message>
+        <source>the device backend "%1" can't be loaded: there is no %2</source>
+        <translation>无法加载后端“%1”：没有 %2</translation>
+    </message>
+    <message>
+        <source>the device backend can't start</source>
+        <translation>调制解调器后端无法启动</translation>
+    </message>
+    <message>
+        <source>the document type declares entities or attributes</source>
+        <translation>文档类型声明了实体或属性</translation>
+    </message>
+    <message>
+        <source>the output can't be written: %1</source>
+        <translation>无法写出输出：%1</translation>
+    </message>
+    <message>
+        <source>the process was made by one that uses the modem</source>
+        <translation>本进程由正在使用调制解调器的进程创建</translation>
+    </message>
+    <message>
+        <source>the sealed password of "%1" was changed outside and can't be opened</source>
+        <translation>“%1”的加密密码被外部修改，无法解密</translation>
+    </message>
+    <message>
+        <source>the user data directory can't be had</source>
+        <translation>用户数据文件夹不可用</translation>
+    </message>
+    <message>
+        <source>there are more than %1 elements</source>
+        <translation>元素超过 %1 个</translation>
+    </message>
+    <message>
+        <source>there are more than %1 namespaces</source>
+        <translation>命名空间超过 %1 个</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>was damaged (%1); the damaged file is kept as %2</source>
+        <translation>已损坏（%1）；损坏的文件保留为 %2</translation>
+    </message>
+    <message>
+        <source>was removed while the profiles were being changed</source>
+        <translation>在更改配置文件期间被删除</translation>
+    </message>
+    <message>
+        <source>written, but the folder can't be flushed to disk</source>
+        <translation>已写入，但无法将文件夹写入磁盘</translation>
     </message>
 </context>
 </TS>

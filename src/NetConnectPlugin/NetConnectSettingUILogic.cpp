@@ -8,6 +8,7 @@
 #include "INetConnectSetting.h"
 #include "NetConnectDevice.h"
 #include "NetConnectLogicHold.h"
+#include "ReasonText.h"
 #include "Trace.h"
 #include "UserStore.h"
 #include "vrks.h"
@@ -159,7 +160,7 @@ void NetConnectSettingUILogic::keepConfiguration() {
 // A file that is just not there is no problem by itself, but it is where it was there before.
 void NetConnectSettingUILogic::reportKept(const QString& path) {
     if (LastStorageProblem().file != path)
-        m_pXMLParse->reportProblem(path, QLatin1String("can't be read now; what was last read of it stays in force"));
+        m_pXMLParse->reportProblem(path, reasonText("can't be read now; what was last read of it stays in force"));
 }
 
 int NetConnectSettingUILogic::readConfigPair(QString group, QString module, UserPrompt* prompt) {

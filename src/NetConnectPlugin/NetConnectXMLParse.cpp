@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "CommonUtilsBase.h"
+#include "ReasonText.h"
 
 #ifndef ORBISDIAL_BUILD_TIME
 #define ORBISDIAL_BUILD_TIME "unknown build time"
@@ -37,7 +38,7 @@ QString NetConnectXMLParse::getUserDataDirectory() {
 QString NetConnectXMLParse::userProfilePath() {
     const QString directory = getUserDataDirectory();
     if (!directory.isEmpty()) return directory + QLatin1String(NetConnectFileNames::User);
-    reportProblem(QLatin1String(NetConnectFileNames::User), QLatin1String("the user data directory can't be had"));
+    reportProblem(QLatin1String(NetConnectFileNames::User), reasonText("the user data directory can't be had"));
     return QString();
 }
 
@@ -68,7 +69,7 @@ void NetConnectXMLParse::reportProblem(const QString& file, const QString& reaso
 
 void NetConnectXMLParse::reportOutOfMemory(const QString& path) {
     qDebug("Error open file: ");
-    reportProblem(path, QLatin1String("there is not enough memory for it"));
+    reportProblem(path, reasonText("there is not enough memory for it"));
 }
 
 void NetConnectXMLParse::clearProblem(const QString& file) {
@@ -84,7 +85,7 @@ int NetConnectXMLParse::readFile(const QString& path, QByteArray* content) {
         return NetConnectStatus::FileMissing;
     }
     qDebug("Error open file: ");
-    reportProblem(path, QLatin1String("can't be read: ") + reason);
+    reportProblem(path, reasonText("can't be read: %1").arg(reason));
     return NetConnectStatus::FileNotOpened;
 }
 
@@ -97,7 +98,7 @@ int NetConnectXMLParse::reportReadError(const QXmlStreamReader& reader, const QS
 
 int NetConnectXMLParse::writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
                                   FileReplacement::Placing placing) {
-    QString reason = QLatin1String("can't be written as XML");
+    QString reason = reasonText("can't be written as XML");
     FileReplacement::Outcome outcome = FileReplacement::Failed;
     if (!content.isEmpty()) {
         reason.clear();

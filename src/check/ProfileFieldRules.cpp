@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "NetConnectProfileRules.h"
+#include "ReasonText.h"
 #include "XmlText.h"
 
 namespace Rules = NetConnectProfileRules;
@@ -80,39 +81,41 @@ bool ProfileFieldRules::isStorable(const QString& text) {
 QString ProfileFieldRules::valueProblem(const DialupProfileField& field, const QString& value) {
     const Rule& rule = of(field);
     const QString name = field.attribute;
-    if (!isStorable(value)) return name + ": control characters can't be stored";
+    if (!isStorable(value)) return reasonText("%1: control characters can't be stored").arg(name);
     if (rule.length > 0 && value.size() > rule.length)
-        return QString("%1: at most %2 characters").arg(name).arg(rule.length);
-    if (rule.kind == Kind::Flag && value != "true" && value != "false") return name + ": must be true or false";
+        return reasonText("%1: at most %2 characters").arg(name).arg(rule.length);
+    if (rule.kind == Kind::Flag && value != "true" && value != "false")
+        return reasonText("%1: must be true or false").arg(name);
     if (rule.kind == Kind::Address && !isAddress(value))
-        return name + ": must be empty or an IPv4 address such as 192.0.2.1";
+        return reasonText("%1: must be empty or an IPv4 address such as 192.0.2.1").arg(name);
     if (rule.kind == Kind::APN && !Rules::isAPNTypeable(value))
-        return name + ": may hold letters, digits, dots and hyphens";
+        return reasonText("%1: may hold letters, digits, dots and hyphens").arg(name);
     return QString();
 }
 
 QString ProfileFieldRules::nameProblem(const QString& name) {
-    if (!Rules::isNamePresent(name)) return "a profile needs a name";
+    if (!Rules::isNamePresent(name)) return reasonText("a profile needs a name");
     if (!Rules::isNameAcceptable(name))
-        return QString("a name must not contain any of ") + Rules::ForbiddenNameCharacters;
+        return reasonText("a name must not contain any of %1").arg(Rules::ForbiddenNameCharacters);
     return QString();
 }
 
 QString ProfileFieldRules::nameLengthProblem(const QString& name, int most) {
-    return most > 0 && name.size() > most ? QString("a name has at most %1 characters").arg(most) : QString();
+    return most > 0 && name.size() > most ? reasonText("a name has at most %1 characters").arg(most) : QString();
 }
 
 QStringList ProfileFieldRules::storedProblems(const DialupProfile& profile, int nameLength) {
     QStringList problems{nameProblem(profile.name), nameLengthProblem(profile.name, nameLength)};
-    if (!isStorable(profile.name)) problems.append("a name must not contain control characters");
+    if (!isStorable(profile.name)) problems.append(reasonText("a name must not contain control characters"));
     if (!Rules::isAccessNumberPresent(profile.phonenumber))
-        problems.append("a profile needs an access number, for example phonenumber=*99#");
+        problems.append(reasonText("a profile needs an access number, for example phonenumber=*99#"));
     for (const DialupProfileField& field : DialupProfileFields) {
         const QString& value = profile.*field.member;
         if (!needsNoLook(field, value)) problems.append(valueProblem(field, value));
     }
-    if (!isFlagOrNothing(profile.readonly)) problems.append("readonly: must be true or false");
-    if (!Rules::isAPNAcceptable(profile.apn)) problems.append("apn: must begin and end with a letter or a digit");
+    if (!isFlagOrNothing(profile.readonly)) problems.append(reasonText("%1: must be true or false").arg("readonly"));
+    if (!Rules::isAPNAcceptable(profile.apn))
+        problems.append(reasonText("apn: must begin and end with a letter or a digit"));
     problems.removeAll(QString());
     return problems;
 }

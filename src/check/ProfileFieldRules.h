@@ -21,7 +21,7 @@ struct Rule {
 
 const Rule& of(const DialupProfileField& field);
 
-// In English, and never with the value; null when there is nothing to say.
+// As reasonText(), and never with the value; null when there is nothing to say.
 QString valueProblem(const DialupProfileField& field, const QString& value);
 QString nameProblem(const QString& name);
 QString nameLengthProblem(const QString& name, int most);

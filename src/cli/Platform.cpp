@@ -14,6 +14,7 @@
 #include "ChosenModem.h"
 #include "Command.h"
 #include "CommandError.h"
+#include "DeviceText.h"
 #include "Message.h"
 #include "StandardOutput.h"
 #include "TerminalText.h"
@@ -45,7 +46,8 @@ void setVariable(const char* name, const QString& value) {
 void checkDevice() {
     const char* problem = nullptr;
     if (!vrks_backend_name(&problem))
-        throw CommandError::failed(problem ? problem : message("the modem's backend can't be had"));
+        throw CommandError::failed(problem ? DeviceText::inLanguage(QString::fromUtf8(problem))
+                                           : message("the modem's backend can't be had"));
 }
 
 QString dataFolder() {

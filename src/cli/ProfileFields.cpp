@@ -11,6 +11,7 @@
 #include "NetConnectProfileRules.h"
 #include "Output.h"
 #include "ProfileFieldRules.h"
+#include "ReasonText.h"
 
 namespace Rules = NetConnectProfileRules;
 namespace FieldRules = ProfileFieldRules;
@@ -127,15 +128,16 @@ void checkProfile(const ProfileSession& session, const DialupProfile& profile, c
     int nameLength = 0;
     session->GetFunctionConfigValue("ProfileNameLength", nameLength, Rules::DefaultNameLength);
 
-    require(Rules::isNamePresent(profile.name), message("a profile needs a name"));
+    require(Rules::isNamePresent(profile.name), reasonText("a profile needs a name"));
     if (isNewName && session.names().contains(profile.name))
         throw CommandError::refused(message("there is a profile %1 already", {quoted(profile.name)}));
     requireNone(FieldRules::nameProblem(profile.name));
-    require(!isNewName || FieldRules::isStorable(profile.name), message("a name must not contain control characters"));
+    require(!isNewName || FieldRules::isStorable(profile.name),
+            reasonText("a name must not contain control characters"));
     if (isNewName) requireNone(FieldRules::nameLengthProblem(profile.name, nameLength));
     require(Rules::isAccessNumberPresent(profile.phonenumber),
-            message("a profile needs an access number, for example phonenumber=*99#"));
-    require(Rules::isAPNAcceptable(profile.apn), message("apn: must begin and end with a letter or a digit"));
+            reasonText("a profile needs an access number, for example phonenumber=*99#"));
+    require(Rules::isAPNAcceptable(profile.apn), reasonText("apn: must begin and end with a letter or a digit"));
     require(!session.isOn("ENCRYPT") || Rules::isPasswordKeepable(profile.password),
             message("password: only Latin-1 characters can be stored sealed"));
 }

@@ -4,6 +4,7 @@
 #include "AutoConnectPolicy.h"
 #include "Change.h"
 #include "DataConnection.h"
+#include "DeviceText.h"
 #include "DialCall.h"
 #include "DialupNotes.h"
 #include "OperatorIndex.h"
@@ -113,7 +114,7 @@ QString ConnectionText::failure(int failure, const QString& profileName, const Q
 QString ConnectionText::details(const DataConnection& connection) {
     const bool isSaid = connection.failure == VRKS_FAILURE_NONE || connection.failure == VRKS_FAILURE_IN_USE ||
                         connection.failure == VRKS_FAILURE_BAD_REQUEST;
-    return isSaid ? QString() : connection.words;
+    return isSaid ? QString() : DeviceText::inLanguage(connection.words);
 }
 
 QString ConnectionText::usedBy(const DataConnection& connection) {

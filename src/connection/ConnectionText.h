@@ -21,7 +21,8 @@ QString text(const char* id, const QString& value = QString());
 // (VRKS_FAILURE_IN_USE) and the member that can't be dialled with (VRKS_FAILURE_BAD_REQUEST).
 QString failure(int failure, const QString& profileName, const QString& words = QString());
 
-// The network's own words for the connection's failure, to show as details; empty when there are none.
+// The network's or the device SDK's own words for the connection's failure, to show as details; empty when there are
+// none.
 QString details(const DataConnection& connection);
 
 // Which program's connection uses the modem; empty when none does but ours.

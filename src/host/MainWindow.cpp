@@ -20,6 +20,7 @@
 #include "BalanceDialog.h"
 #include "CommonUtils.h"
 #include "ConnectionView.h"
+#include "DeviceText.h"
 #include "HostSettings.h"
 #include "HostText.h"
 #include "INetConnectSetting.h"
@@ -43,7 +44,7 @@ constexpr int SettlingMs = 1500;
 QString modemProblem() {
     const char* problem = nullptr;
     vrks_backend_name(&problem);
-    return QString::fromUtf8(problem);
+    return DeviceText::inLanguage(QString::fromUtf8(problem));
 }
 
 // In the folder of an installation, or of a build, which has the same shape.

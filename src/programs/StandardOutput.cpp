@@ -4,6 +4,7 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <cerrno>
 #include <cstring>
 
@@ -38,7 +39,8 @@ bool StandardOutput::write(int stream, const char* data, std::size_t size) {
 QString StandardOutput::writeText(const QString& text) {
     const QByteArray bytes = text.toUtf8();
     if (write(STDOUT_FILENO, bytes.constData(), std::size_t(bytes.size()))) return QString();
-    return "the output can't be written: " + QString::fromLocal8Bit(std::strerror(errno));
+    const QString why = QString::fromLocal8Bit(std::strerror(errno));
+    return QCoreApplication::translate("Reasons", "the output can't be written: %1").arg(why);
 }
 
 void StandardOutput::writeDiagnostic(const char* program, const QString& text) {

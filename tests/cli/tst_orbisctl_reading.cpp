@@ -79,6 +79,26 @@ private slots:
         }
     }
 
+    // What the libraries below say comes in the language, too.
+    void reasons_data() {
+        const Rows<QStringList, QByteArray, int, QByteArray> row("arguments", "device", "status", "reason");
+        row("file", {"export", "/nope/x", "Alpha"}, "simulated", 1, "kein Zugang zum Ordner");
+        row("value", {"add", "X", "autoapn=maybe"}, "simulated", 1, "autoapn: muss true oder false sein");
+        row("value, for a script", {"--json", "add", "X", "autoapn=maybe"}, "simulated", 1, "must be true or false");
+        row("device", {"status"}, "nonsense", 1, "ORBISDIAL_DEVICE nennt kein Backend");
+        row("findings", {"config", "--check"}, "simulated", 1, "fault");
+    }
+    void reasons() {
+        const OrbisctlFixture fixture;
+        QFile::copy(ORBISDIAL_LIBRARY_DIR "/lang/orbisdial_de.qm", fixture.path("library/lang/orbisdial_de.qm"));
+        const QByteArray locale = qgetenv("LC_ALL");
+        qputenv("LC_ALL", "de_DE.UTF-8");
+        qputenv("ORBISDIAL_DEVICE", cell<QByteArray>("device"));
+        const Outcome outcome = fixture.run(cell<QStringList>("arguments"));
+        qputenv("LC_ALL", locale);
+        COMPARE_REFUSED(outcome, cell<int>("status"), cell<QByteArray>("reason"));
+    }
+
     void json_data() {
         const Rows<QStringList, QByteArray> row("arguments", "expected");
         row("list", {"list"},

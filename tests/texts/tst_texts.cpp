@@ -54,7 +54,6 @@ QChar mnemonicOf(const QString& text) {
 }
 
 const char Plugin[] = "NetConnectPlugin/";
-const char Messages[] = "orbisctl/";
 
 // What is shown together and may carry mnemonics. Every other text is shown as it stands, "&" included, or stands
 // beside pages whose mnemonics its window cannot know, as the host's own do. An ID stands here as often as the page
@@ -124,9 +123,19 @@ QStringList captured(const QString& folder, const QString& pattern) {
     return texts;
 }
 
-// What orbisctl says stands in English in its code.
+// Texts that stand in English in the code, as keys.
+QStringList keysOfTexts(const QString& context, const QString& folder, const QString& pattern) {
+    QStringList keys;
+    for (QString text : captured(folder, pattern)) keys.append(context + text.replace("\\\"", "\""));
+    return keys;
+}
+
+// What orbisctl says, and why libraries say that something is wrong.
 QStringList usedMessages() {
-    return captured("src/cli", "(?:message\\(|QT_TRANSLATE_NOOP\\(\"orbisctl\",\\s*)\\s*\"((?:[^\"\\\\]|\\\\.)*)\"");
+    const QString literal = "\\s*\"((?:[^\"\\\\]|\\\\.)*)\"";
+    return keysOfTexts("orbisctl/", "src/cli", "(?:message\\(|QT_TRANSLATE_NOOP\\(\"orbisctl\",)" + literal) +
+           keysOfTexts("Reasons/", "src", "(?:\\breasonText\\(|\"Reasons\",)" + literal) +
+           keysOfTexts("Reasons/", "src/NetConnectPlugin", "\\b(?:refuse|systemFailure|fail)\\(" + literal);
 }
 
 QString placeholders(const QString& text) {
@@ -153,8 +162,8 @@ private slots:
             m_Texts.insert(language, readTexts(language));
             QVERIFY2(!m_Texts[language].isEmpty(), qPrintable(language));
         }
-        for (const QString& message : usedMessages()) m_Texts["en"].insert(Messages + message, {message, true});
-        QVERIFY(m_Texts["en"].contains(Messages + QString("not connected")));
+        for (const QString& key : usedMessages()) m_Texts["en"].insert(key, {key.section('/', 1), true});
+        QVERIFY(m_Texts["en"].contains("orbisctl/not connected") && m_Texts["en"].contains("Reasons/can't write"));
     }
 
     void everyUsedIdHasAnEnglishTextAndNoOtherDoes() {
@@ -162,7 +171,7 @@ private slots:
         for (const QString& key : used.keys())
             QVERIFY2(m_Texts["en"].contains(key), qPrintable(used[key] + ": " + key));
         QSet<QString> unused = keysOf(m_Texts["en"]) - QSet<QString>(used.keyBegin(), used.keyEnd());
-        for (const QString& message : usedMessages()) unused.remove(Messages + message);
+        for (const QString& key : usedMessages()) unused.remove(key);
         QCOMPARE(joined(unused), QString());
     }
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "ReasonText.h"
 #include "XmlEncoding.h"
 #include "XmlText.h"
 
@@ -190,7 +191,7 @@ private:
 
     void refuse(const char* reason, int most = 0) {
         m_State = Stopped;
-        m_Refusal = QString::fromLatin1(reason);
+        m_Refusal = reasonText(reason);
         if (most > 0) m_Refusal = m_Refusal.arg(most);
     }
 
@@ -231,7 +232,7 @@ QString refusal(const QByteArray& document) {
     QXmlStreamReader declaration(document.left(longestDeclaration));
     declaration.readNext();
     if (declaration.error() == QXmlStreamReader::PrematureEndOfDocumentError && document.size() > longestDeclaration)
-        return QString::fromLatin1("the XML declaration is too long");
+        return reasonText("the XML declaration is too long");
     if (declaration.hasError()) return QString();  // the reader will tell
 
     const XmlEncoding first = XmlEncoding::ofBeginning(document);

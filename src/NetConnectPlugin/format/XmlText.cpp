@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "XmlText.h"
 
+#include "ReasonText.h"
+
 namespace XmlText {
 
 static bool isAllowed(ushort c) {
@@ -45,7 +47,7 @@ void refuseDeclarations(QXmlStreamReader& reader) {
     if (reader.tokenType() != QXmlStreamReader::DTD) return;
     const QString type = reader.text().toString();
     if (type.contains(QLatin1String("<!ENTITY")) || type.contains(QLatin1String("<!ATTLIST")))
-        reader.raiseError(QLatin1String("the document type declares entities or attributes"));
+        reader.raiseError(reasonText("the document type declares entities or attributes"));
 }
 
 }  // namespace XmlText

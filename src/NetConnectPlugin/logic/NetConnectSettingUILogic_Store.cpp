@@ -9,6 +9,7 @@
 #include "NetConnectOperation.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectStoreAction.h"
+#include "ReasonText.h"
 
 static const char KeyedMethod[] = "2";
 static const char Base64Method[] = "1";
@@ -230,7 +231,7 @@ bool NetConnectSettingUILogic::openPassword(DialupProfile* profile) {
 void NetConnectSettingUILogic::reportUnopened(const DialupProfile& profile) {
     m_pXMLParse->reportProblem(
         m_pXMLParse->userProfilePath(),
-        QString::fromLatin1("the sealed password of \"%1\" was changed outside and can't be opened").arg(profile.name));
+        reasonText("the sealed password of \"%1\" was changed outside and can't be opened").arg(profile.name));
 }
 
 // Seals a plain password when the configuration says so; false when it can't be sealed.
@@ -262,7 +263,7 @@ int NetConnectSettingUILogic::AddDialUpProfile(const DialupProfile& profile) {
     if (HasUserProfile(profile.name)) return operation.hasFailed() ? FileNotOpened : NameTaken;
     DialupProfile stored = profile;
     if (!sealPassword(&stored)) {
-        m_pXMLParse->reportProblem(m_pXMLParse->userProfilePath(), QLatin1String("a password can't be sealed"));
+        m_pXMLParse->reportProblem(m_pXMLParse->userProfilePath(), reasonText("a password can't be sealed"));
         return FileNotOpened;
     }
     m_UserProfileList.append(stored);

@@ -8,6 +8,7 @@
 #include "NetConnectOperation.h"
 #include "NetConnectProfileRules.h"
 #include "NetConnectSettingUILogic.h"
+#include "ReasonText.h"
 #include "UserFileLock.h"
 
 // Where the profiles of a name stand in a list, which may hold several of one name.
@@ -193,7 +194,7 @@ int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, con
     for (int i = 0; i < mostAttempts && status == NetConnectXMLParse::TargetAppeared; ++i)
         status = exportInto(path, names, users, shipped);
     if (status == NetConnectXMLParse::TargetAppeared) {
-        m_pXMLParse->reportProblem(path, QLatin1String("other programs make and remove it all the time"));
+        m_pXMLParse->reportProblem(path, reasonText("other programs make and remove it all the time"));
         status = FileNotOpened;
     }
     return status;
@@ -227,7 +228,7 @@ int NetConnectSettingUILogic::exportInto(const QString& path, const QStringList&
 // The user's own file would lose its default, and an empty path means that very file.
 int NetConnectSettingUILogic::refuseExportTo(const QString& path) {
     if (!path.isEmpty() && !FileReplacement::isSameFile(path, m_pXMLParse->userProfilePath())) return Success;
-    m_pXMLParse->reportProblem(path, QLatin1String("profiles can't be exported to this file"));
+    m_pXMLParse->reportProblem(path, reasonText("profiles can't be exported to this file"));
     return FileNotOpened;
 }
 

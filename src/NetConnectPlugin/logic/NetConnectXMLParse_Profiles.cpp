@@ -5,6 +5,7 @@
 
 #include "FileReplacement.h"
 #include "NetConnectXMLParse.h"
+#include "ReasonText.h"
 #include "Trace.h"
 #include "XmlText.h"
 
@@ -215,12 +216,11 @@ bool NetConnectXMLParse::prepareTarget(const QString& path, const KeptFile& kept
     QString reason;
     if (!copy->make(path, content, purpose, &reason)) {
         qDebug("Error open file: ");
-        reportProblem(path, QLatin1String("is damaged, and can't be kept: ") + reason);
+        reportProblem(path, reasonText("is damaged, and can't be kept: %1").arg(reason));
         return false;
     }
     reportProblem(
-        path,
-        QString::fromLatin1("was damaged (%1); the damaged file is kept as %2").arg(reader.errorString(), copy->path()),
+        path, reasonText("was damaged (%1); the damaged file is kept as %2").arg(reader.errorString(), copy->path()),
         reader.lineNumber(), reader.columnNumber());
     m_bKeepProblem = true;
     return true;

@@ -11,6 +11,8 @@
 
 #include <QString>
 
+#include "ReasonText.h"
+
 class Descriptor {
 public:
     explicit Descriptor(int fd = -1) : m_Fd(fd) {}
@@ -55,7 +57,7 @@ private:
 // Stores what failed and why, from errno; always false.
 inline bool systemFailure(const char* what, QString* reason) {
     const int error = errno;
-    *reason = QString::fromLatin1("%1: %2").arg(QString::fromLatin1(what), QString::fromLocal8Bit(strerror(error)));
+    *reason = reasonText("%1: %2").arg(reasonText(what), QString::fromLocal8Bit(strerror(error)));
     return false;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FilePlace.h"
 
+#include "ReasonText.h"
+
 #include <limits.h>
 
 #include <QFile>
@@ -43,8 +45,8 @@ QString FilePlace::path() const { return QFile::decodeName(m_FolderPath + m_Name
 
 bool FilePlace::followLink(const QByteArray& name, const struct stat& link, QByteArray* rest, QString* reason) {
     if (!mayFollow(folder(), link)) {
-        *reason = QString::fromLatin1("a link in a folder where others may have put it is not followed: ") +
-                  QFile::decodeName(name);
+        *reason = reasonText("a link in a folder where others may have put it is not followed: %1")
+                      .arg(QFile::decodeName(name));
         return false;
     }
     char target[PATH_MAX];
@@ -57,7 +59,7 @@ bool FilePlace::followLink(const QByteArray& name, const struct stat& link, QByt
 }
 
 bool FilePlace::open(const QString& path, QString* reason) {
-    const char* const entering = "can't enter the folder";
+    const char* const entering = QT_TRANSLATE_NOOP("Reasons", "can't enter the folder");
     int linksLeft = 40;  // as the kernel bounds a chain of them
     QByteArray rest = QFile::encodeName(path);
     m_bMissing = false;

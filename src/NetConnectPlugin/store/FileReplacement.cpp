@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FileReplacement.h"
 
+#include "ReasonText.h"
+
 #include <dirent.h>
 #include <stdio.h>
 #include <time.h>
@@ -203,7 +205,7 @@ bool applyRights(int fd, const FilePlace& place, FileReplacement::Purpose purpos
     return ::fchmod(fd, mode) == 0 || systemFailure("can't set the file's mode", reason);
 }
 
-QString megabytes(qint64 bytes) { return QString::number(bytes / (1024 * 1024)) + QLatin1String(" MB"); }
+QString megabytes(qint64 bytes) { return QString::number(bytes / (1024 * 1024)); }
 
 bool fill(TemporaryFile* file, const FilePlace& place, const QByteArray& content, FileReplacement::Purpose purpose,
           QString* reason) {
@@ -238,7 +240,7 @@ FileReplacement::Outcome writeAt(const FilePlace& place, const QByteArray& conte
 namespace FileReplacement {
 
 Outcome read(const QString& path, QByteArray* content, QString* reason) {
-    const char* const opening = "can't be opened";
+    const char* const opening = QT_TRANSLATE_NOOP("Reasons", "can't be opened");
     FilePlace place;
     if (path.isEmpty()) return Missing;
     if (!place.open(path, reason)) return place.isMissing() ? Missing : Failed;
@@ -250,12 +252,12 @@ Outcome read(const QString& path, QByteArray* content, QString* reason) {
     }
     // A pipe or a device could be opened, but would never end.
     if (!S_ISREG(info.st_mode)) {
-        *reason = QLatin1String("it is not a regular file");
+        *reason = reasonText("it is not a regular file");
         return Failed;
     }
     if (info.st_size > LargestFile) {
-        *reason = QString::fromLatin1("it is too large: %1 of at most %2")
-                      .arg(megabytes(info.st_size), megabytes(LargestFile));
+        *reason =
+            reasonText("it is too large: %1 of at most %2 MB").arg(megabytes(info.st_size), megabytes(LargestFile));
         return Failed;
     }
     const Descriptor file(Descriptor::openAt(place.folder(), place.name().constData(), O_RDONLY));
@@ -271,7 +273,7 @@ Outcome read(const QString& path, QByteArray* content, QString* reason) {
 
 Outcome write(const QString& path, const QByteArray& content, Purpose purpose, Placing placing, QString* reason) {
     if (content.size() > LargestFile) {
-        *reason = QString::fromLatin1("not written: it would be too large to be read again, %1 of at most %2")
+        *reason = reasonText("not written: it would be too large to be read again, %1 of at most %2 MB")
                       .arg(megabytes(content.size()), megabytes(LargestFile));
         return Failed;
     }
@@ -295,7 +297,7 @@ bool DamagedCopy::make(const QString& path, const QByteArray& content, Purpose p
         m_bExists = outcome == Done;
         if (outcome != Taken) return m_bExists;
     }
-    *reason = QLatin1String("every name for a copy of the damaged file is taken");
+    *reason = reasonText("every name for a copy of the damaged file is taken");
     return false;
 }
 

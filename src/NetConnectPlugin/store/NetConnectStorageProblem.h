@@ -21,7 +21,7 @@ struct NetConnectStorageProblem {
     QString file;    // full path, or a bare name when even the folder can't be had
     qint64 line;     // from 1; 0 when the problem has no place in the file
     qint64 column;   // from 0, as QXmlStreamReader counts
-    QString reason;  // in English; empty when there is no problem
+    QString reason;  // in the language of the moment; empty when there is no problem
 };
 
 #endif

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 
 #include "FileReplacement.h"
+#include "ReasonText.h"
 
 static int longestWait = 2000;  // milliseconds
 
@@ -33,7 +34,7 @@ UserFileLock::Attempt UserFileLock::attempt(QString* reason) {
         return Failed;
     }
     if (!S_ISREG(named.st_mode)) {
-        *reason = QLatin1String("can't be locked: it is not a regular file");
+        *reason = reasonText("can't be locked: it is not a regular file");
         return Failed;
     }
     // Locks of some network file systems need a file that can be written.
@@ -80,6 +81,6 @@ bool UserFileLock::wait(const QString& path, bool makesFile, QString* reason) {
             if (made == FileReplacement::Failed) return false;
         }
     }
-    *reason = QLatin1String("another program keeps it locked");
+    *reason = reasonText("another program keeps it locked");
     return false;
 }

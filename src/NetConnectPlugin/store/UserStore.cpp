@@ -4,6 +4,7 @@
 #include "NetConnectOperation.h"
 #include "NetConnectStatus.h"
 #include "NetConnectXMLParse.h"
+#include "ReasonText.h"
 
 UserStore& UserStore::instance() {
     static UserStore store;
@@ -175,7 +176,7 @@ int UserStore::store() {
 // Whoever removes the lock file lets others lock a new one: what the user's file holds is then no longer known here.
 bool UserStore::isStillLocked() {
     if (m_Lock.isInPlace()) return true;
-    m_pFiles->reportProblem(m_strLockPath, QLatin1String("was removed while the profiles were being changed"));
+    m_pFiles->reportProblem(m_strLockPath, reasonText("was removed while the profiles were being changed"));
     return false;
 }
 

@@ -60,19 +60,25 @@ public:
         reloadIfMoved();
         Translator texts = code == English ? nullptr : loadTexts(code);
         if (code != English && !texts) return false;
-        m_Current = std::move(texts);
         m_Code = code;
+        use(std::move(texts));
         return true;
     }
 
 private:
+    // The application asks it too, for what libraries say that know Qt Core alone.
+    void use(Translator texts) {
+        m_Current = std::move(texts);
+        if (m_Current && QCoreApplication::instance()) QCoreApplication::installTranslator(m_Current.get());
+    }
+
     // The library path is the environment's, which may change while the process runs.
     void reloadIfMoved() {
         const QString folder = textsFolder();
         if (folder == m_Folder) return;
         m_Folder = folder;
         m_English = loadTexts(English);
-        m_Current = m_Code == English ? nullptr : loadTexts(m_Code);
+        use(m_Code == English ? nullptr : loadTexts(m_Code));
     }
 
     QString m_Folder;

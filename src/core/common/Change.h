@@ -20,8 +20,8 @@ public:
     // The codes of the languages that are shipped, English always and first.
     static QStringList GetLanguages();
 
-    // Makes a language current, for Qt's own dialogs and the layout direction too; false (and nothing changes)
-    // when the language is not shipped. The host then sends event 320 to every plug-in.
+    // Makes a language current, for QCoreApplication::translate(), Qt's own dialogs and the layout direction too; false
+    // (and nothing changes) when the language is not shipped. The host then sends event 320 to every plug-in.
     static bool SetLanguage(const QString& code);
 };
 
