@@ -185,15 +185,20 @@ bool NetConnectSettingUILogic::translateName(QList<DialupProfile>* profiles, int
     return true;
 }
 
+// A library of which no name follows the language stays unread until somebody asks for it.
 void NetConnectSettingUILogic::readLibrary(QString* defaultName) {
-    const QList<DialupProfile> before = m_ProfileLibList;
-    m_ProfileLibList.clear();
-    const int status = readForeignFile(&m_ProfileLibList, defaultName, QLatin1String(NetConnectFileNames::Library));
-    if (status != Success && m_bLibraryWhole && !before.isEmpty()) {
-        m_ProfileLibList = before;
+    const bool wasEmpty = m_ProfileLibList.isEmpty() && (!m_UnreadLibrary || m_UnreadLibrary->isEmpty());
+    ProfileDocument document;
+    const NetConnectRememberedDefaults remembered = m_pXMLParse->rememberedDefaults();
+    const int status = m_pXMLParse->LookIntoLibrary(&document, defaultName);
+    m_pXMLParse->setRememberedDefaults(remembered);
+    if (status != Success && m_bLibraryWhole && !wasEmpty) {
         reportKept(NetConnectXMLParse::shippedPath(NetConnectFileNames::Library));
     } else {
+        if (document.unread && document.unread->hasLangids()) document.readRest();
         m_bLibraryWhole = status == Success;
+        m_UnreadLibrary = document.unread;
+        m_ProfileLibList = document.profiles;
         collectLangids(m_ProfileLibList);
     }
     for (int i = 0; i < m_ProfileLibList.size(); ++i) translateName(&m_ProfileLibList, i);

@@ -23,6 +23,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QSet>
+#include <QSharedPointer>
 #include <QStringList>
 #include <atomic>
 
@@ -285,7 +286,9 @@ private:
     static bool translateName(QList<DialupProfile>* profiles, int index);
 
     // the user's file
+    const QList<DialupProfile>& library();
     int findLibraryProfile(const QString& name);
+    bool fetchLibraryProfile(const QString& name, DialupProfile* profile);
     bool sealPassword(DialupProfile* profile);
     bool translateUserProfiles();
     void gatherNames(QList<QString>* names, QSet<QString>* otherNames);
@@ -366,7 +369,7 @@ private:
     QList<DialupProfile> m_UserProfileList;
     QString m_strDefaultProfile;
     bool m_bIsUserSet;
-    QList<DialupProfile> m_ProfileLibList;
+    QList<DialupProfile> m_ProfileLibList;  // see library()
     QStringList m_ProfileNameList;
     QList<DialupProfile> m_ImportList;
     QList<DialupProfile> m_ExportList;
@@ -377,8 +380,9 @@ private:
     // The device's event makes the IMSI's proposal void on its own thread, where the text must not be touched.
     std::atomic<bool> m_bIMSIDefaultForgotten;
 
-    bool m_bLoading;       // Init has just read the library
-    bool m_bLibraryWhole;  // m_ProfileLibList is all that the library held
+    bool m_bLoading;                                 // Init has just read the library
+    QSharedPointer<UnreadProfiles> m_UnreadLibrary;  // those that m_ProfileLibList is still to hold; null otherwise
+    bool m_bLibraryWhole;                            // m_ProfileLibList is all that the library held
     int m_nConfigStatus;
     NetConnectStorageProblem m_ConfigProblem;
     QString m_strMatchedPrefix;

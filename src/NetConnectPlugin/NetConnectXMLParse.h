@@ -51,6 +51,9 @@ public:
     int GetAllProfileFromUserDataXML(QList<DialupProfile>* profiles, QString* defaultName, QString fileName,
                                      bool* isUserSet);
 
+    // The same of the shipped library, but leaves its profiles unread where they are in our own tools' form.
+    int LookIntoLibrary(ProfileDocument* library, QString* defaultName);
+
     // The same from a reader: 0, or 6 at the first error; what was read before stays.
     int readXML(QXmlStreamReader& reader, QList<DialupProfile>* profiles, QString* defaultName, bool* isUserSet);
 
@@ -174,6 +177,7 @@ private:
 
     QString profilePath(const QString& fileName);
     KeptFile* keptFile(const QString& fileName);
+    int openDocument(const QString& fileName, bool leavesProfiles, ProfileDocument* document);
     int loadDocument(const QString& path, KeptFile* kept, ProfileDocument* document);
     void applyDocument(const ProfileDocument& document, bool isComplete, QList<DialupProfile>* profiles,
                        QString* defaultName, bool* isUserSet);

@@ -61,6 +61,15 @@ private slots:
             document.clean();
             const QByteArray content = document.write();
             QCOMPARE(ScannerOracle::answer<ProfileDocument>(content), ScannerOracle::Agrees);
+            ProfileDocument looked;
+            QVERIFY(looked.look(content) && looked.profiles.isEmpty());
+            for (const DialupProfile& profile : document.profiles) {
+                DialupProfile found;
+                QVERIFY(looked.unread->find(profile.name, &found));
+                QVERIFY(ScannerOracle::isSame(found, firstOf(document.profiles, profile.name)));
+            }
+            looked.readRest();
+            QVERIFY(ScannerOracle::isSame(looked, document));
         }
         for (const char* name : {"ProfileLib.prof", "NetConnectConfig.xml", "SysProfile.prof"}) {
             const QByteArray content = shipped(name);
@@ -251,6 +260,11 @@ private:
         QString text;
         for (int parts = random->bounded(4); parts > 0; --parts) text += kinds[random->bounded(int(std::size(kinds)))];
         return text;
+    }
+
+    static DialupProfile firstOf(const QList<DialupProfile>& profiles, const QString& name) {
+        const auto isNamed = [&name](const DialupProfile& profile) { return profile.name == name; };
+        return *std::find_if(profiles.begin(), profiles.end(), isNamed);
     }
 
     static ProfileDocument randomDocument(QRandomGenerator* random) {

@@ -16,6 +16,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     require(ScannerOracle::answer<ProfileDocument>(content) != ScannerOracle::Differs);
     require(ScannerOracle::answer<NetConnectConfigDocument>(content) != ScannerOracle::Differs);
 
+    ProfileDocument scanned;
+    ProfileDocument looked;
+    require(scanned.scan(content) == looked.look(content));
+    for (int i = 0; i < scanned.profiles.size(); ++i) {
+        DialupProfile found;
+        require(looked.unread->find(scanned.profiles.at(i).name, &found));
+        require(found.name == scanned.profiles.at(i).name);
+    }
+    looked.readRest();
+    require(ScannerOracle::isSame(scanned, looked));
+
     ProfileDocument document;
     QXmlStreamReader reader(content);
     if (!XmlText::refusal(content).isEmpty()) return 0;

@@ -35,8 +35,9 @@ public:
              "<?xml version=\"1.0\" encoding=\"UTF-8\"?><NetConnect><group name=\"common\"><module name=\"common\">\n" +
                  sections + "</module></group>" + elsewhere + "</NetConnect>");
     }
+    // In the form that our own tools write, unlike the user's.
     void shipLibrary(const QByteArray& profiles, const QByteArray& after = QByteArray()) {
-        ship("ProfileLib.prof", document(profiles, after));
+        ship("ProfileLib.prof", document(profiles, after).replace("' />", "'/>").replace('\'', '"'));
     }
     void shipTexts() {
         const QString from = ORBISDIAL_LIBRARY_DIR "/lang/orbisdial_en.qm";

@@ -208,6 +208,28 @@ private slots:
         QCOMPARE(names(), QStringList({"Kept"}));
     }
 
+    void presetsAreReadWhenTheyAreAskedFor() {
+        shipTexts();
+        shipLibrary(profile("A&amp;B", "user='a'") + profile("Two", "user='2'") + profile("Two", "user='3'"));
+        restart();
+        const auto users = [this] { return fetch("A&B").user + fetch("Two").user + fetch("None").user; };
+        QCOMPARE(users(), QString("a2"));
+        const QString file = pluginDir() + "/ProfileLib.prof";
+        const QByteArray content = read(file);
+        write(file, "<vrksdoc><broken");
+        logic()->Init();
+        QCOMPARE(logic()->LastStorageProblem().file, file);
+        QCOMPARE(users(), QString("a2"));
+        QCOMPARE(logic()->Operators().first().presets.size(), 3);  // needs them all
+        QCOMPARE(users(), QString("a2"));
+        write(file, QByteArray(content).replace("\"2\"", "\"4\""));
+        logic()->Init();
+        QCOMPARE(users(), QString("a4"));
+        write(file, QByteArray(content).replace("user=\"2\"", "user=\"2\" langid=\"IDS_OK\""));
+        logic()->Init();
+        QCOMPARE(users() + fetch("OK").user, QString("a32"));
+    }
+
     void whatWasReadStaysInForce_data() {
         const Rows<QString> row("fate");
         for (const char* fate : {"gone", "unreadable", "damaged"}) row(fate, fate);

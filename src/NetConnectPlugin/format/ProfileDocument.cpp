@@ -9,6 +9,7 @@
 
 namespace {
 
+const char ProfileElement[] = "Profile";
 const char ModeDefaults[] = "MultiModeDefaultProfile";
 
 // The text by which a pool knows a value again. A reader's value is gone with its element; a scanner's stays.
@@ -91,7 +92,7 @@ public:
 
     void start(const Element& element) {
         QList<DialupProfile>& profiles = m_Document->profiles;
-        if (element.isNamed("Profile")) {
+        if (element.isNamed(ProfileElement)) {
             if (element.hasFormerNames())
                 profiles.append(profiles.at(profiles.size() - 1));
             else
@@ -149,19 +150,78 @@ void writeDefaults(ProfileDocumentWriter& writer, const QList<ProfileDefaultEntr
 
 }  // namespace
 
+typedef ProfileElements<XmlScanner, ValuePool<XmlPiece, XmlPiece> > ScannedElements;
+
 bool ProfileDocument::scan(const QByteArray& content) {
     ProfileDocument scanned;
-    XmlScanner scanner(content);
-    ProfileElements<XmlScanner, ValuePool<XmlPiece, XmlPiece> > elements(&scanned);
-    for (XmlScanner::Token token = scanner.next(); token != XmlScanner::End; token = scanner.next()) {
-        if (token == XmlScanner::Unknown) return false;
-        if (token == XmlScanner::StartElement)
-            elements.start(scanner);
-        else if (scanner.isNamed(ModeDefaults))
-            elements.endModeDefaults();
-    }
+    if (!scanned.scanAll(content)) return false;
     *this = scanned;
     return true;
+}
+
+bool ProfileDocument::look(const QByteArray& content) {
+    ProfileDocument looked;
+    looked.unread = QSharedPointer<UnreadProfiles>(new UnreadProfiles(content));
+    if (!looked.scanAll(content)) return false;
+    *this = looked;
+    return true;
+}
+
+bool ProfileDocument::scanAll(const QByteArray& content) {
+    XmlScanner scanner(content);
+    ScannedElements elements(this);
+    for (XmlScanner::Token token = scanner.next(); token != XmlScanner::End; token = scanner.next()) {
+        if (token == XmlScanner::Unknown) return false;
+        if (token == XmlScanner::EndElement) {
+            if (scanner.isNamed(ModeDefaults)) elements.endModeDefaults();
+        } else if (unread && scanner.isNamed(ProfileElement)) {
+            unread->add(scanner);
+        } else {
+            elements.start(scanner);
+        }
+    }
+    return true;
+}
+
+void ProfileDocument::readRest() {
+    if (!unread) return;
+    profiles = unread->all();
+    unread.clear();
+}
+
+void UnreadProfiles::add(const XmlScanner& scanner) {
+    if (!scanner.hasFormerNames()) {
+        m_pName = scanner.find("name");
+        m_pLangid = scanner.find("langid");
+    }
+    Place place;
+    place.begin = scanner.elementBegin();
+    if (m_pName) place.name = *m_pName;
+    if (m_pLangid && m_pLangid->size > 0) m_bHasLangids = true;
+    m_Places.append(place);
+}
+
+bool UnreadProfiles::find(const QString& name, DialupProfile* profile) {
+    if (m_Last.isEmpty() || m_Last.first().name != name) {
+        int place = 0;
+        while (place < m_Places.size() && !m_Places.at(place).name.isText(name)) ++place;
+        if (place == m_Places.size()) return false;
+        const char* const begin = m_Places.at(place).begin;
+        const int rest = int(m_Content.constData() + m_Content.size() - begin);
+        XmlScanner scanner(QByteArray::fromRawData(begin, rest));
+        scanner.next();
+        ProfileDocument found;
+        ScannedElements(&found).start(scanner);
+        m_Last = found.profiles;
+    }
+    *profile = m_Last.first();
+    return true;
+}
+
+const QList<DialupProfile>& UnreadProfiles::all() {
+    ProfileDocument document;
+    if (m_All.isEmpty() && document.scan(m_Content)) m_All = document.profiles;
+    return m_All;
 }
 
 void ProfileDocument::read(QXmlStreamReader& reader) {

@@ -5,9 +5,11 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QSharedPointer>
 #include <QXmlStreamReader>
 
 #include "NetConnectRecords.h"
+#include "UnreadProfiles.h"
 
 // A default profile's name, and whether the user chose it.
 struct NetConnectDefault {
@@ -32,6 +34,10 @@ struct ProfileDocument {
     // Becomes what a document in our own writers' form says; false, and nothing, for any other, which read() reads.
     bool scan(const QByteArray& content);
 
+    // The same as scan(), but leaves the profiles to readRest() or to whoever wants some of them.
+    bool look(const QByteArray& content);
+    void readRest();
+
     // Reads on to the end, or to the first error, which the reader then has; what was read before it stays.
     void read(QXmlStreamReader& reader);
 
@@ -45,7 +51,11 @@ struct ProfileDocument {
     QByteArray writeClean();
 
     QList<DialupProfile> profiles;
-    QList<ProfileDefaultEntry> defaults;  // in file order
+    QList<ProfileDefaultEntry> defaults;    // in file order
+    QSharedPointer<UnreadProfiles> unread;  // the profiles, as long as they are not read; null otherwise
+
+private:
+    bool scanAll(const QByteArray& content);
 };
 
 #endif

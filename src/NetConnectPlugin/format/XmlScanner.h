@@ -18,6 +18,7 @@ struct XmlPiece {
     bool operator==(const char* name) const {
         return size_t(size) == strlen(name) && memcmp(begin, name, size_t(size)) == 0;
     }
+    bool isText(const QString& text) const { return isPlain ? isPlainText(text) : decoded() == text; }
     QString toString() const { return isPlain ? QString::fromLatin1(begin, size) : decoded(); }
 
     const char* begin;
@@ -25,6 +26,12 @@ struct XmlPiece {
     bool isPlain;  // ASCII without references
 
 private:
+    bool isPlainText(const QString& text) const {
+        if (text.size() != size) return false;
+        int i = 0;
+        while (i < size && text.at(i).unicode() == static_cast<unsigned char>(begin[i])) ++i;
+        return i == size;
+    }
     QString decoded() const;
 };
 uint qHash(const XmlPiece& piece);
@@ -49,7 +56,8 @@ public:
     // Of the element that starts or ends here.
     bool isNamed(const char* name) const { return m_Name == name; }
 
-    // Of the element that starts here.
+    // Of the element that starts here, from its angle bracket on.
+    const char* elementBegin() const { return m_Tag->begin - m_Name.size - 1; }
     int attributeCount() const { return m_AttributeCount; }
     const XmlPiece& attributeName(int index) const { return m_Tag->names[index]; }
     const XmlPiece& attributeValue(int index) const { return m_Tag->values[index]; }

@@ -26,9 +26,7 @@ QStringList sortedOnce(QStringList texts) {
 
 bool NetConnectSettingUILogic::GetLibraryProfile(const QString& name, DialupProfile* profile) {
     const Hold hold(this);
-    const int index = findLibraryProfile(name);
-    if (index >= 0) *profile = m_ProfileLibList.at(index);
-    return index >= 0;
+    return fetchLibraryProfile(name, profile);
 }
 
 bool NetConnectSettingUILogic::HasUserProfiles() const { return !m_UserProfileList.isEmpty(); }
@@ -52,10 +50,10 @@ QList<PresetOperator> NetConnectSettingUILogic::Operators() {
         one.networkCodes = sortedOnce(one.networkCodes);
         if (!one.presets.isEmpty()) operators.append(one);
     }
-    findLibraryProfile(QString());  // has the library read
+    const QList<DialupProfile> all = library();
     PresetOperator nobody;
-    for (int i = 0; i < m_ProfileLibList.size(); ++i)
-        if (!known.contains(m_ProfileLibList.at(i).name)) addPreset(m_ProfileLibList.at(i).name, PresetPlan(), &nobody);
+    for (int i = 0; i < all.size(); ++i)
+        if (!known.contains(all.at(i).name)) addPreset(all.at(i).name, PresetPlan(), &nobody);
     if (!nobody.presets.isEmpty()) operators.append(nobody);
     return operators;
 }

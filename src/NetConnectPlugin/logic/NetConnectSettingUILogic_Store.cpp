@@ -183,12 +183,23 @@ int NetConnectSettingUILogic::sortProfileNames(QList<QString>* names) {
 
 bool NetConnectSettingUILogic::HasUserProfile(const QString& name) { return m_Store.find(name) >= 0; }
 
-int NetConnectSettingUILogic::findLibraryProfile(const QString& name) {
-    if (m_ProfileLibList.isEmpty() && m_pXMLParse) {
-        QString ignoredDefault;
-        readLibrary(&ignoredDefault);
-    }
-    return m_LibraryIndex.find(m_ProfileLibList, name);
+// An empty one is looked for again.
+const QList<DialupProfile>& NetConnectSettingUILogic::library() {
+    QString ignoredDefault;
+    if (!m_UnreadLibrary && m_ProfileLibList.isEmpty() && m_pXMLParse) readLibrary(&ignoredDefault);
+    if (m_UnreadLibrary) m_ProfileLibList = m_UnreadLibrary->all();
+    m_UnreadLibrary.clear();
+    return m_ProfileLibList;
+}
+
+int NetConnectSettingUILogic::findLibraryProfile(const QString& name) { return m_LibraryIndex.find(library(), name); }
+
+// Makes no more of a library that is unread than what is asked for.
+bool NetConnectSettingUILogic::fetchLibraryProfile(const QString& name, DialupProfile* profile) {
+    if (m_UnreadLibrary && !m_UnreadLibrary->isEmpty()) return m_UnreadLibrary->find(name, profile);
+    const int index = findLibraryProfile(name);
+    if (index >= 0) *profile = m_ProfileLibList.at(index);
+    return index >= 0;
 }
 
 int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* profile) {
@@ -208,9 +219,7 @@ int NetConnectSettingUILogic::GetDialUpProfile(QString name, DialupProfile* prof
         return Success;
     }
     for (int i = 0; i < candidates.size(); ++i) {
-        const int index = findLibraryProfile(candidates.at(i));
-        if (index < 0) continue;
-        *profile = m_ProfileLibList.at(index);
+        if (!fetchLibraryProfile(candidates.at(i), profile)) continue;
         if (profile->user.isEmpty() && profile->password.isEmpty()) fillFromDevice(profile, "GetDialUpProfile");
         break;
     }

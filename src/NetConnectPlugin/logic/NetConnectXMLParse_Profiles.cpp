@@ -25,17 +25,32 @@ int NetConnectXMLParse::GetAllProfileFromUserDataXML(QList<DialupProfile>* profi
     const TraceScope trace(__FILE__, "GetAllProfileFromUserDataXML");
     if (!profiles || !defaultName) return NetConnectStatus::FileMissing;
     ProfileDocument document;
-    const QString path = profilePath(fileName);
-    int status = NetConnectStatus::FileNotOpened;
-    try {
-        status = loadDocument(path, keptFile(fileName), &document);
-    } catch (const std::bad_alloc&) {
-        reportOutOfMemory(path);
-    }
+    const int status = openDocument(fileName, false, &document);
     if (status == NetConnectStatus::FileMissing || status == NetConnectStatus::FileNotOpened) return status;
     applyDocument(document, status == 0, profiles, defaultName, isUserSet);
     if (fileName.isEmpty()) m_bUserFileRead = true;
     return status;
+}
+
+int NetConnectXMLParse::LookIntoLibrary(ProfileDocument* library, QString* defaultName) {
+    const TraceScope trace(__FILE__, "GetAllProfileFromUserDataXML");
+    const int status = openDocument(QLatin1String(NetConnectFileNames::Library), true, library);
+    if (status == NetConnectStatus::FileMissing || status == NetConnectStatus::FileNotOpened) return status;
+    QList<DialupProfile> ignoredProfiles;
+    applyDocument(*library, status == 0, &ignoredProfiles, defaultName, nullptr);
+    return status;
+}
+
+int NetConnectXMLParse::openDocument(const QString& fileName, bool leavesProfiles, ProfileDocument* document) {
+    const QString path = profilePath(fileName);
+    try {
+        const int status = loadDocument(path, keptFile(fileName), document);
+        if (!leavesProfiles) document->readRest();
+        return status;
+    } catch (const std::bad_alloc&) {
+        reportOutOfMemory(path);
+        return NetConnectStatus::FileNotOpened;
+    }
 }
 
 // Parses a file, or takes what is kept of it when it has not changed.
@@ -58,7 +73,7 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
         *document = kept->document;
         return 0;
     }
-    if (status == 0 && !document->scan(content)) {
+    if (status == 0 && !(kept == &m_Library ? document->look(content) : document->scan(content))) {
         const QString refusal = XmlText::refusal(content);
         QXmlStreamReader reader(content);
         if (!refusal.isEmpty()) reader.raiseError(refusal);
