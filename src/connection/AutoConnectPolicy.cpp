@@ -73,6 +73,8 @@ bool AutoConnectPolicy::observe(const DataConnection& connection, qint64 now) {
     const bool isRefused = wasThere && connection.isDown() && consequenceOf(connection.failure) == Consequence::Refused;
     if (connection.isUp() && !m_UpSince) m_UpSince = now;
     if (wasThere && connection.isDown()) ended(connection, now);
+    // In another program, which found none that was up.
+    if (!wasThere && connection.failure == VRKS_FAILURE_HUNG_UP && m_Last.failure != connection.failure) userHangsUp();
     m_Last = connection;
     return isRefused;
 }

@@ -278,7 +278,7 @@ typedef struct VRKS_DialRequest {
 VRKS_API long VRKS_NetConnectSrv_Dial(const VRKS_DialRequest* request);
 
 /* Ends the connection, or gives the dialling up, which then ends as VRKS_FAILURE_CANCELLED; also one that another
- * process of ours began. Returns at once. Fails when there is none of ours, and when it can't be ended. */
+ * process of ours began. Returns at once. Fails when there is none of ours: a process that was to dial stops then. */
 VRKS_API long VRKS_NetConnectSrv_HangUp(void);
 
 typedef struct VRKS_Connection {

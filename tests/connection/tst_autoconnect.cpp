@@ -124,6 +124,14 @@ private slots:
         QCOMPARE(decide().hold, int(AutoConnectHungUp));
     }
 
+    void isHeldByHangingUpInAPause() {
+        fail();
+        QVERIFY(!decide().hold || decide().hold == int(AutoConnectPause));
+        end(VRKS_FAILURE_HUNG_UP);
+        m_Now += 60000;
+        QCOMPARE(decide().hold, int(AutoConnectHungUp));
+    }
+
     void leavesOthersAlone() {
         DataConnection connection;
         connection.usedBy = "nmcli";

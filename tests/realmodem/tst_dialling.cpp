@@ -329,6 +329,13 @@ private slots:
         QVERIFY(other.waitForFinished());
     }
 
+    // As it reaches this process, so it reaches one that pauses before it dials by itself.
+    void hangingUpNothingIsTold() {
+        TRY_CONNECTION(connection().state == VRKS_CONNECTION_DOWN);
+        QVERIFY(!hangUp());
+        TRY_CONNECTION(connection().failure == VRKS_FAILURE_HUNG_UP);
+    }
+
     void anotherProcessOfOurs_data() {
         const Rows<QString> row("kind");
         row("it ends the connection with itself", "bound");

@@ -59,10 +59,8 @@ Dialler::Dialler(ConnectionHost& host)
 void Dialler::busCame(GDBusConnection* bus) {
     m_Bus.reset(static_cast<GDBusConnection*>(g_object_ref(bus)));
     m_BearerErrors = std::make_unique<BearerErrors>(bus);
-    m_HangUpSignal = std::make_unique<HangUpSignal>(bus, [this](const std::string& connection) {
-        NMActiveConnection* active = m_Watch ? m_Watch->connection() : nullptr;
-        if (active && connection == nm_object_get_path(NM_OBJECT(active))) m_Dialled.hungUpAt = Clock::now();
-    });
+    m_HangUpSignal =
+        std::make_unique<HangUpSignal>(bus, [this](const std::string& connection) { hungUpElsewhere(connection); });
     const auto begun = [this] {
         update();
         const bool isStartAwaited = m_Phase == Phase::Up && m_Dialled.stamp && !m_Dialled.upSince;
@@ -139,8 +137,30 @@ bool Dialler::hangUp() {
         ++m_WaitingHangUps;
         return true;
     });
-    if (isOurs) m_Host.thread().invoke([this] { end(); });
+    m_Host.thread().invoke([this, isOurs] { isOurs ? end() : tellToStayDown(); });
     return isOurs;
+}
+
+// There may be a process of ours that is about to dial by itself.
+void Dialler::tellToStayDown() {
+    if (m_Phase == Phase::Idle && m_HangUpSignal) m_HangUpSignal->send(HangUpSignal::Nothing);
+}
+
+void Dialler::hungUpElsewhere(const std::string& connection) {
+    if (connection == HangUpSignal::Nothing) return stayDown();
+    NMActiveConnection* active = m_Watch ? m_Watch->connection() : nullptr;
+    if (active && connection == nm_object_get_path(NM_OBJECT(active))) m_Dialled.hungUpAt = Clock::now();
+}
+
+// Who was to dial next takes it as the end of a connection.
+void Dialler::stayDown() {
+    m_Host.change([](Picture& picture) {
+        Connection& connection = picture.connection;
+        if (connection.state != VRKS_CONNECTION_DOWN || connection.failure == VRKS_FAILURE_HUNG_UP) return false;
+        connection.failure = VRKS_FAILURE_HUNG_UP;
+        connection.words.clear();
+        return true;
+    });
 }
 
 Traffic Dialler::traffic() { return m_Counters.get(); }

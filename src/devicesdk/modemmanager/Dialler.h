@@ -85,6 +85,9 @@ private:
     void tellKnown();
     void forgetBus();
     void end();
+    void hungUpElsewhere(const std::string& connection);
+    void tellToStayDown();
+    void stayDown();
     void giveBack();
     bool isAnswerDue() const;
     void deactivate();

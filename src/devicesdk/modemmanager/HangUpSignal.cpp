@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "HangUpSignal.h"
 
+#include <unistd.h>
+
+#include <cstring>
+
 namespace {
 
 constexpr char Path[] = "/com/kestra/orbisdial";
@@ -22,10 +26,25 @@ void HangUpSignal::send(const char* connection) {
                                   nullptr);
 }
 
-void HangUpSignal::onCame(GDBusConnection*, const char*, const char*, const char*, const char*, GVariant* parameters,
-                          gpointer self) {
+void HangUpSignal::onCame(GDBusConnection* bus, const char* sender, const char*, const char*, const char*,
+                          GVariant* parameters, gpointer data) {
+    auto* self = static_cast<HangUpSignal*>(data);
     const char* connection = nullptr;
     if (!g_variant_is_of_type(parameters, G_VARIANT_TYPE("(s)"))) return;
     g_variant_get(parameters, "(&s)", &connection);
-    static_cast<HangUpSignal*>(self)->m_Came(connection);
+    if (std::strcmp(connection, Nothing) != 0) return self->m_Came(connection);
+    g_dbus_connection_call(bus, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                           "GetConnectionUnixUser", g_variant_new("(s)", sender), G_VARIANT_TYPE("(u)"),
+                           G_DBUS_CALL_FLAGS_NONE, -1, self->m_Cancellation.get(), onSender, self);
+}
+
+// One that has left the bus already can't be told any more.
+void HangUpSignal::onSender(GObject* bus, GAsyncResult* result, gpointer self) {
+    GError* error = nullptr;
+    const Variant answer(g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, &error));
+    const Error failure(error);
+    if (!answer) return;
+    guint32 user = 0;
+    g_variant_get(answer.get(), "(u)", &user);
+    if (user == 0 || user == ::geteuid()) static_cast<HangUpSignal*>(self)->m_Came(Nothing);
 }

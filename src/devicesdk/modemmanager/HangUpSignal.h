@@ -13,6 +13,10 @@
 // ends one. Everything happens on the thread.
 class HangUpSignal {
 public:
+    // In a connection's place: nothing is up, and who waits to connect by himself is to stop. Only what the same user
+    // or root sends reaches the handler.
+    static constexpr char Nothing[] = "/";
+
     // Told of the connection's D-Bus path at NetworkManager; of this process's own signals, too.
     using Handler = std::function<void(const std::string& connection)>;
 
@@ -24,12 +28,14 @@ public:
     void send(const char* connection);
 
 private:
+    static void onSender(GObject* bus, GAsyncResult* result, gpointer self);
     static void onCame(GDBusConnection*, const char*, const char*, const char*, const char*, GVariant* parameters,
                        gpointer self);
 
     Ref<GDBusConnection> m_Bus;
     Handler m_Came;
     guint m_Subscription;
+    Cancellation m_Cancellation;
 };
 
 #endif
