@@ -52,8 +52,16 @@ class Modem:
             self.commands.append(command)
             answer = self.answer(command)
             if answer != answers.SILENCE:
-                connection.sendall(as_sent(answer))
+                self.write(connection, answer)
         return True
+
+    # The daemon may have been killed since it asked; that it has closed is told next.
+    @staticmethod
+    def write(connection, answer):
+        try:
+            connection.sendall(as_sent(answer))
+        except (BrokenPipeError, ConnectionResetError):
+            pass
 
     def answer(self, command):
         text = self.lookup(command + " " + self.format if command == "AT+COPS?" else command)
