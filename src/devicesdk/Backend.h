@@ -6,7 +6,6 @@
 #include <chrono>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "DialRequest.h"
 #include "Picture.h"
