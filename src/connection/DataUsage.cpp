@@ -86,17 +86,19 @@ DataUsage::DataUsage() : DataUsage(userDataFile()) {}
 DataUsage::DataUsage(const QString& file, const QString& interfacesFolder)
     : m_File(file), m_Interfaces(interfacesFolder) {}
 
+DataUsage::Followed DataUsage::met(const DataConnection& connection, const QString& imsi) const {
+    const QString folder = m_Interfaces + '/' + connection.interfaceName;
+    const UsageTotals own{connection.received, connection.sent};
+    return {instanceOf(connection, folder), imsi, connection.since, countersOf(folder).value_or(own) - own};
+}
+
 // Whether there is anything to count. Another program's connection is not when it is met: its own program says first
 // from where.
 bool DataUsage::follow(const DataConnection& connection, const QString& imsi) {
     if (!connection.isUp() || connection.interfaceName.isEmpty()) return m_Followed.has_value();
-    const QString folder = m_Interfaces + '/' + connection.interfaceName;
-    const QString instance = instanceOf(connection, folder);
-    const bool isKnown = m_Followed && m_Followed->instance == instance && m_Followed->since == connection.since;
-    if (!isKnown) {
-        const UsageTotals own{connection.received, connection.sent};
-        m_Followed = Followed{instance, imsi, connection.since, countersOf(folder).value_or(own) - own};
-    }
+    const Followed now = met(connection, imsi);
+    const bool isKnown = m_Followed && m_Followed->instance == now.instance && m_Followed->since == now.since;
+    if (!isKnown) m_Followed = now;
     if (m_Followed->imsi.isEmpty()) m_Followed->imsi = imsi;
     return isKnown || connection.isOwn;
 }
@@ -124,6 +126,16 @@ UsageTotals DataUsage::month(const QString& imsi, const QDate& day) const {
     UsageRecords records;
     UsageFile::read(m_File, &records);
     return records.cards.value(records.cardOf(imsi)).months.value(monthOf(day));
+}
+
+UsageTotals DataUsage::monthWith(const DataConnection& connection, const QString& imsi, const QDate& day) const {
+    UsageRecords records;
+    UsageFile::read(m_File, &records);
+    const UsageTotals counted = records.cards.value(records.cardOf(imsi)).months.value(monthOf(day));
+    if (!connection.isUp() || connection.interfaceName.isEmpty()) return counted;
+    const Followed now = met(connection, imsi);
+    const UsageTotals moved = now.base + UsageTotals{connection.received, connection.sent};
+    return counted + (moved - larger(records.countedOf(now.instance), now.base));
 }
 
 quint64 DataUsage::limit(const QString& imsi) const {

@@ -35,6 +35,10 @@ public:
     // The total of a month, as counted last.
     UsageTotals month(const QString& imsi, const QDate& day = QDate::currentDate()) const;
 
+    // The same with what the connection moved since; it is up on this card.
+    UsageTotals monthWith(const DataConnection& connection, const QString& imsi,
+                          const QDate& day = QDate::currentDate()) const;
+
     // The card's limit for a month, both ways together, in bytes; 0: none. A changed limit may warn anew.
     quint64 limit(const QString& imsi) const;
     bool setLimit(const QString& imsi, quint64 bytes);
@@ -52,6 +56,7 @@ private:
         UsageTotals base;  // what the interface's counters stood at when the connection's were 0
     };
 
+    Followed met(const DataConnection& connection, const QString& imsi) const;
     bool follow(const DataConnection& connection, const QString& imsi);
 
     QString m_File;

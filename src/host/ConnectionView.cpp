@@ -19,7 +19,6 @@
 namespace {
 
 constexpr int SecondMs = 1000;
-constexpr int SecondsPerLook = 15;  // at the month's volume, which is counted each minute
 
 QLabel* makeLabel(const char* name, bool wraps = true) {
     auto* label = new QLabel;
@@ -225,13 +224,12 @@ void ConnectionView::followTransfer() {
     if (!isSeen) return m_EachSecond.stop();
     m_Clock.start();
     m_EachSecond.start();
-    m_Seconds = 0;
     count();
 }
 
 void ConnectionView::count() {
-    if (m_Seconds++ % SecondsPerLook == 0) showMonth();
     const DataConnection connection = DataConnection::current();
+    showMonth(connection);
     m_Received.add(connection.received, m_Clock.elapsed());
     m_Sent.add(connection.sent, m_Clock.elapsed());
     m_Curve->add(m_Received.bytesPerSecond(), m_Sent.bytesPerSecond());
@@ -242,10 +240,10 @@ void ConnectionView::count() {
         hostText("IDS_HOST_DOWN_UP", {Amounts::volume(connection.received), Amounts::volume(connection.sent)}));
 }
 
-void ConnectionView::showMonth() {
+void ConnectionView::showMonth(const DataConnection& connection) {
     const QString imsi = ModemState::current().imsi;
     const DataUsage usage;
-    const quint64 all = usage.month(imsi).all();
+    const quint64 all = usage.monthWith(connection, imsi).all();
     const quint64 limit = usage.limit(imsi);
     const QString used = Amounts::volume(all);
     m_Month->setVisible(all > 0 || limit > 0);

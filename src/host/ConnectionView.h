@@ -12,6 +12,7 @@
 #include "TransferRate.h"
 
 class FailurePanel;
+struct DataConnection;
 class ProfileChooser;
 class QLabel;
 class QPushButton;
@@ -60,7 +61,7 @@ private:
     void refreshSaying(QLabel* label, const QString& text);
     void followTransfer();
     void count();
-    void showMonth();
+    void showMonth(const DataConnection& connection);
 
     ConnectionPicture m_Picture;
     StateSign* m_Sign;
@@ -85,7 +86,6 @@ private:
     QLabel* m_StorageProblem;
 
     QTimer m_EachSecond;  // while a connection is up and the window can be seen
-    int m_Seconds = 0;
     QElapsedTimer m_Clock;
     TransferRate m_Received, m_Sent;
 };

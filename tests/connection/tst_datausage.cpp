@@ -49,6 +49,8 @@ private slots:
         QVERIFY(usage.count(up(100, 10), Card, Day));
         QVERIFY(usage.count(up(100, 10), Card, Day));
         QVERIFY(usage.count(up(250, 20), QString(), Day));  // the card was pulled
+        QCOMPARE(usage.monthWith(up(260, 21), Card, Day).all(), quint64(281));
+        compareMonth(250, 20);
         QVERIFY(usage.count(down(300, 30), QString(), Day));
         QVERIFY(usage.count(down(300, 30), Card, Day));
         compareMonth(300, 30);
@@ -79,6 +81,7 @@ private slots:
         QVERIFY(window.count(up(5100, 510, false), Card, Day));
         QVERIFY(dialling.count(up(100, 10), Card, Day));
         setInterface(7, 5400, 540);
+        QCOMPARE(make().monthWith(up(400, 40), Card, Day).all(), quint64(440));
         QVERIFY(dialling.count(up(400, 40), Card, Day));
         QVERIFY(window.count(up(5400, 540, false), Card, Day));
         QVERIFY(window.count(down(5450, 545), Card, Day));
