@@ -269,7 +269,7 @@ private:
     friend class Hold;
 
     explicit NetConnectSettingUILogic(LoadMoment moment);
-    virtual ~NetConnectSettingUILogic();
+    ~NetConnectSettingUILogic() override;
 
     // loading
     void attachStore();

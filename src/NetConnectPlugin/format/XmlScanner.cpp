@@ -17,7 +17,7 @@ struct CharacterKinds {
         for (int c = '0'; c <= '9'; ++c) kinds[c] |= NamePart;
         for (int c = 'A'; c <= 'Z'; ++c) kinds[c] |= NameStart | NamePart;
         for (int c = 'a'; c <= 'z'; ++c) kinds[c] |= NameStart | NamePart;
-        for (const char* c = " \t\n\r"; *c; ++c) kinds[int(*c)] |= Blank | CommentPart;
+        for (const char* c = " \t\n\r"; *c; ++c) kinds[uchar(*c)] |= Blank | CommentPart;
     }
     unsigned char kinds[256];
 };
