@@ -51,7 +51,7 @@ QJsonObject asObject(const Finding& finding) {
 }  // namespace
 
 void checkShippedFiles(const Invocation& invocation, Output& output) {
-    const QStringList named = invocation.arguments();
+    const QStringList& named = invocation.arguments();
     if (named.contains(QString())) throw CommandError::usage(message("the file's name is empty"));
     useEnglish();  // what integrators read, and find in their files
     const FilesToCheck what = named.isEmpty() ? shippedFiles() : namedFiles(named);
