@@ -111,13 +111,11 @@ QString XmlPiece::decoded() const {
     return squeezed(QString::fromUtf8(text.constData(), text.size()));
 }
 
-// Texts that end alike are few.
+// FNV-1a, which keeps texts apart that differ in a number.
 uint qHash(const XmlPiece& piece) {
-    const int most = int(sizeof(quint64));
-    quint64 end = 0;
-    memcpy(&end, piece.begin + qMax(piece.size - most, 0), size_t(qMin(piece.size, most)));
-    end = (end ^ quint64(piece.size)) * Q_UINT64_C(0x9e3779b97f4a7c15);
-    return uint(end >> 32);
+    uint hash = 2166136261u;
+    for (int i = 0; i < piece.size; ++i) hash = (hash ^ static_cast<unsigned char>(piece.begin[i])) * 16777619u;
+    return hash ^ hash >> 16;
 }
 
 XmlScanner::XmlScanner(const QByteArray& document)
