@@ -32,9 +32,9 @@ extern "C" int fsync(int fd) {
         folderFlushTime = double(timer.nsecsElapsed()) / 1e6;
     return status;
 }
-extern "C" int rename(const char* from, const char* to) noexcept {
+extern "C" int renameat(int fromFolder, const char* from, int toFolder, const char* to) noexcept {
     ++renames;
-    return int(::syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
+    return int(::syscall(SYS_renameat2, fromFolder, from, toFolder, to, 0));
 }
 
 namespace {
