@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double FirstWarning = 0.8;
+constexpr quint64 FirstWarningLeaves = 5;  // a fifth of the limit
 
 // Empty when there is no such directory: then nothing is counted.
 QString userDataFile() {
@@ -69,8 +69,9 @@ UsageTotals operator-(const UsageTotals& a, const UsageTotals& b) {
 
 int percentUsed(const UsageCard& card, const QString& month) {
     if (card.limit == 0) return 0;
-    const double part = double(card.months.value(month).all()) / double(card.limit);
-    return part >= 1 ? 100 : part >= FirstWarning ? 80 : 0;
+    const quint64 used = card.months.value(month).all();
+    if (used >= card.limit) return 100;
+    return card.limit - used <= card.limit / FirstWarningLeaves ? 80 : 0;
 }
 
 // What nobody was told of yet.
