@@ -12,7 +12,7 @@
 
 namespace {
 
-// The names that the Desktop Notifications Specification fixes.
+// The names that the desktop's service for notifications has.
 const QString Service = QStringLiteral("org.freedesktop.Notifications");
 const QString Path = QStringLiteral("/org/freedesktop/Notifications");
 const QString Clicked = QStringLiteral("default");
