@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Shows a window and ends the program as soon as it, or a widget in it, has been painted: what comes after that is not
-// measured.
+// Shows a window and, as soon as it or a widget in it has been painted, says so on the standard output and ends the
+// program: what comes after that is not measured.
 #ifndef ORBISDIAL_FIRSTPAINT_H
 #define ORBISDIAL_FIRSTPAINT_H
+
+#include <unistd.h>
 
 #include <QApplication>
 #include <QEvent>
@@ -26,11 +28,12 @@ public:
         return QApplication::exec();
     }
 
+    static void end() { std::_Exit(::write(STDOUT_FILENO, "\n", 1) == 1 ? EXIT_SUCCESS : EXIT_FAILURE); }
+
     // The window's own children paint in the same pass, right after it.
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::Paint && m_IsReady())
-            QMetaObject::invokeMethod(
-                qApp, [] { std::_Exit(EXIT_SUCCESS); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(qApp, &FirstPaint::end, Qt::QueuedConnection);
         return false;
     }
 

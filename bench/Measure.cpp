@@ -12,6 +12,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -24,14 +25,18 @@ double seconds(const std::function<void()>& action) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// Without QProcess, whose own work would count as much as so short a run. Zero when it can't be started.
-pid_t startProgram(const std::vector<QByteArray>& command) {
+// Without QProcess, whose own work would count as much as so short a run. Its standard output goes to a descriptor, or
+// nowhere. Zero when it can't be started.
+pid_t startProgram(const std::vector<QByteArray>& command, int standardOutput = -1) {
     std::vector<char*> arguments;
     for (const QByteArray& argument : command) arguments.push_back(const_cast<char*>(argument.constData()));
     arguments.push_back(nullptr);
     posix_spawn_file_actions_t output;
     ::posix_spawn_file_actions_init(&output);
-    ::posix_spawn_file_actions_addopen(&output, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    if (standardOutput >= 0)
+        ::posix_spawn_file_actions_adddup2(&output, standardOutput, STDOUT_FILENO);
+    else
+        ::posix_spawn_file_actions_addopen(&output, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     ::posix_spawn_file_actions_addopen(&output, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t child = 0;
     if (::posix_spawnp(&child, arguments.front(), &output, nullptr, arguments.data(), environ) != 0) child = 0;
@@ -39,11 +44,24 @@ pid_t startProgram(const std::vector<QByteArray>& command) {
     return child;
 }
 
-int runProgram(const std::vector<QByteArray>& command) {
-    const pid_t child = startProgram(command);
+int statusOf(pid_t child) {
     int status = -1;
     if (child > 0) ::waitpid(child, &status, 0);
     return status;
+}
+
+int runProgram(const std::vector<QByteArray>& command) { return statusOf(startProgram(command)); }
+
+// Started, and waited for until it has said something. Zero when it ends without a word.
+pid_t runUntilFirstWord(const std::vector<QByteArray>& command) {
+    int ends[2];
+    Measure::require(::pipe2(ends, O_CLOEXEC) == 0, "opening a pipe");
+    const pid_t child = startProgram(command, ends[1]);
+    ::close(ends[1]);
+    char word = 0;
+    const bool isSaid = ::read(ends[0], &word, 1) == 1;
+    ::close(ends[0]);
+    return isSaid ? child : 0;
 }
 
 std::vector<QByteArray> encoded(const QStringList& command) {
@@ -68,12 +86,14 @@ void compare(benchmark::State& state, const Side& ours, const Side& reference) {
     for (const Side* side : sides) {  // warms caches and the allocator
         side->prepare();
         side->run();
+        side->finish();
     }
     size_t first = 0;
     for (auto _ : state) {
         for (const size_t i : {first, 1 - first}) {
             sides[i]->prepare();
             times[i].push_back(seconds(sides[i]->run));
+            sides[i]->finish();
         }
         first = 1 - first;
         state.SetIterationTime(times[0].back());
@@ -81,6 +101,14 @@ void compare(benchmark::State& state, const Side& ours, const Side& reference) {
     state.counters["ratio"] = median(times[0]) / median(times[1]);
     state.counters["ours_ms"] = median(times[0]) * Milliseconds;
     state.counters["reference_ms"] = median(times[1]) * Milliseconds;
+}
+
+static Side paint(const QStringList& command) {
+    const std::vector<QByteArray> arguments = encoded(command);
+    const auto child = std::make_shared<pid_t>(0);
+    Side side{[arguments, child] { *child = runUntilFirstWord(arguments); }};
+    side.finish = [arguments, child] { require(statusOf(*child) == 0, arguments.front().constData()); };
+    return side;
 }
 
 Side program(const QStringList& command) {
@@ -98,9 +126,11 @@ void time(benchmark::State& state, const Side& ours) {
     std::vector<double> times;
     ours.prepare();
     ours.run();
+    ours.finish();
     for (auto _ : state) {
         ours.prepare();
         times.push_back(seconds(ours.run));
+        ours.finish();
         state.SetIterationTime(times.back());
     }
     state.counters["ours_ms"] = median(times) * Milliseconds;
@@ -108,6 +138,10 @@ void time(benchmark::State& state, const Side& ours) {
 
 void comparePrograms(benchmark::State& state, const QStringList& ours, const QStringList& reference) {
     compare(state, program(ours), program(reference));
+}
+
+void comparePaints(benchmark::State& state, const QStringList& ours, const QStringList& reference) {
+    compare(state, paint(ours), paint(reference));
 }
 
 void settle() { QThread::msleep(110); }

@@ -13,11 +13,12 @@
 
 namespace Measure {
 
-// What is timed, and what must be done before it, untimed. Where one side must wait for a file to settle the other
-// waits as well, since a processor's caches cool down meanwhile.
+// What is timed, and what must be done before and after it, untimed. Where one side must wait for a file to settle the
+// other waits as well, since a processor's caches cool down meanwhile.
 struct Side {
     std::function<void()> run;
     std::function<void()> prepare = [] {};
+    std::function<void()> finish = [] {};
 };
 
 // Runs both sides once in each iteration, in changing order, so that a busy machine slows them alike. Counters:
@@ -35,6 +36,10 @@ Side program(const QStringList& command);
 
 // The same as compare(), each side being a program that runs to its end.
 void comparePrograms(benchmark::State& state, const QStringList& ours, const QStringList& reference);
+
+// The same, each side being a program that says on its standard output that it has painted, and then ends: how long the
+// system takes to clear up after it, up to 20 ms where it watched a folder, delays nobody's picture.
+void comparePaints(benchmark::State& state, const QStringList& ours, const QStringList& reference);
 
 double median(std::vector<double> values);
 

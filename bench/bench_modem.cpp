@@ -84,7 +84,7 @@ void windowPaint(benchmark::State& state, bool isFrozen) {
     folder.shipPresets();
     qunsetenv("ORBISDIAL_LIBRARY_PATH");  // with all its plug-ins
     if (isFrozen) Measure::require(stack().freeze("ModemManager"), "freezing the daemon");
-    Measure::comparePrograms(state, withEnvironment(Real, {HOST_WINDOW}), withEnvironment(NoModem, {HOST_WINDOW}));
+    Measure::comparePaints(state, withEnvironment(Real, {HOST_WINDOW}), withEnvironment(NoModem, {HOST_WINDOW}));
     if (isFrozen) Measure::require(stack().thaw("ModemManager"), "thawing the daemon");
 }
 BENCHMARK_CAPTURE(windowPaint, up, false)->UseManualTime()->Iterations(15);

@@ -14,7 +14,7 @@ void paint(benchmark::State& state, const QStringList& arguments) {
     QFile::link(LANGUAGE_DIR, folder.path("library/lang"));
     folder.writeUser(BenchFolder::profiles(int(state.range(0))));
     Measure::settle();
-    Measure::comparePrograms(state, QStringList{PLUGIN_PAGE, PLUGIN_FILE} + arguments, {BARE_PAGE});
+    Measure::comparePaints(state, QStringList{PLUGIN_PAGE, PLUGIN_FILE} + arguments, {BARE_PAGE});
 }
 
 void firstPaint(benchmark::State& state) { paint(state, {}); }

@@ -19,8 +19,8 @@ void start(benchmark::State& state, const QStringList& arguments) {
     folder.writeUser(BenchFolder::profiles(int(state.range(0))));
     Measure::settle();
     const QStringList withoutModem = {"/usr/bin/env", "ORBISDIAL_DEVICE=none"};
-    Measure::comparePrograms(state, withoutModem + QStringList{HOST_WINDOW} + arguments,
-                             withoutModem + QStringList{BARE_WINDOW});
+    Measure::comparePaints(state, withoutModem + QStringList{HOST_WINDOW} + arguments,
+                           withoutModem + QStringList{BARE_WINDOW});
 }
 
 void hostWindow(benchmark::State& state) { start(state, {}); }

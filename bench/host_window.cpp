@@ -14,7 +14,7 @@
 
 static int untilTray() {
     Tray tray;
-    QTimer::singleShot(0, [] { std::_Exit(EXIT_SUCCESS); });
+    QTimer::singleShot(0, &FirstPaint::end);
     return QApplication::exec();
 }
 
