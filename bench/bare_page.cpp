@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLoggingCategory>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -50,6 +51,7 @@ static QWidget* fields() {
 }
 
 int main(int argc, char** argv) {
+    QLoggingCategory::setFilterRules("default.debug=false\ndefault.warning=false");  // as the program that it is beside
     QApplication application(argc, argv);
     QWidget window;
     auto* const layout = new QHBoxLayout(&window);

@@ -6,6 +6,7 @@
 #include <QCompleter>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
@@ -50,6 +51,7 @@ static void addMenu(QMainWindow* window, const char* title, std::initializer_lis
 }
 
 int main(int argc, char** argv) {
+    QLoggingCategory::setFilterRules("default.debug=false\ndefault.warning=false");  // as the program that it is beside
     QApplication application(argc, argv);
     QMainWindow window;
     auto* const middle = new QWidget;
