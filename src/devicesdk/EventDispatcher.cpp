@@ -2,6 +2,7 @@
 #include "EventDispatcher.h"
 
 #include <algorithm>
+#include <system_error>
 
 namespace {
 
@@ -21,17 +22,26 @@ bool EventDispatcher::hasListener(const Event& event) const {
                        [&](const Listener& listener) { return event.isDevice == (listener.device != nullptr); });
 }
 
+bool EventDispatcher::hasDeliverable() const {
+    return !m_Queue.empty() ||
+           std::any_of(m_Pending.begin(), m_Pending.end(), [this](const Event& event) { return hasListener(event); });
+}
+
+// Where no thread can be had the events are kept, and the next one asks for it again.
 void EventDispatcher::startThread() {
-    if (m_IsStopped || m_Thread.joinable()) return;
-    m_Thread = std::thread(&EventDispatcher::run, this);
+    if (m_IsStopped || m_Thread.joinable() || !hasDeliverable()) return;
+    try {
+        m_Thread = std::thread(&EventDispatcher::run, this);
+    } catch (const std::system_error&) {
+    }
 }
 
 bool EventDispatcher::add(const Listener& listener) {
     const Lock lock(m_Mutex);
     if (listener.isNull() || isRegistered(listener)) return false;
-    startThread();
     m_Listeners.push_back(listener);
-    m_Changed.notify_all();  // an event may have been kept
+    startThread();  // an event may have been kept
+    m_Changed.notify_all();
     return true;
 }
 
@@ -50,8 +60,8 @@ bool EventDispatcher::remove(const Listener& listener) {
 void EventDispatcher::queueDevice(int event) {
     const Lock lock(m_Mutex);
     if (m_IsStopped) return;
-    startThread();
     m_Queue.push_back({event, true, ++m_LastSerial, {}});
+    startThread();
     m_Changed.notify_all();
 }
 
@@ -64,6 +74,7 @@ void EventDispatcher::raiseOnce(int event, bool isDevice) {
     const auto isSame = [&](const Event& other) { return other.number == event && other.isDevice == isDevice; };
     if (m_IsStopped || std::any_of(m_Pending.begin(), m_Pending.end(), isSame)) return;
     m_Pending.push_back({event, isDevice, ++m_LastSerial, isDevice ? m_NextDue[event] : Clock::time_point()});
+    startThread();
     m_Changed.notify_all();
 }
 

@@ -27,8 +27,9 @@ struct Listener {
     }
 };
 
-// Every operation is safe from any thread, the event thread included. The thread starts with the first
-// callback or queued event. An object must outlive every caller, so it is never destroyed, only stopped.
+// Every operation is safe from any thread, the event thread included. The thread starts with the first event that
+// somebody listens to: until then a program that has no other stays without threads, where memory is had at less cost.
+// An object must outlive every caller, so it is never destroyed, only stopped.
 class EventDispatcher : public EventSink {
 public:
     // False when the listener is null or registered already.
@@ -66,6 +67,7 @@ private:
     bool isRegistered(const Listener& listener) const;
     bool hasListener(const Event& event) const;
     bool isOutstanding(std::uint64_t last) const;
+    bool hasDeliverable() const;
     void startThread();
     void raiseOnce(int event, bool isDevice);
     void run();
