@@ -1346,7 +1346,7 @@
     </message>
 </context>
 <context>
-    <name>orbisctl</name>
+    <name>Programs</name>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
@@ -1500,6 +1500,10 @@
         <translation>يأخذ --timeout عدد ثوانٍ من 1 إلى 86400</translation>
     </message>
     <message>
+        <source>A profile file to import; the window asks first.</source>
+        <translation>ملف التعريفات المراد استيراده؛ تسأل النافذة أولًا.</translation>
+    </message>
+    <message>
         <source>Add a profile. password=- reads the password from standard input.</source>
         <translation>إضافة ملف تعريف. يقرأ password=- كلمة المرور من الدخل القياسي.</translation>
     </message>
@@ -1530,6 +1534,10 @@
     <message>
         <source>Connect with a profile, or with the default.</source>
         <translation>الاتصال باستخدام ملف تعريف، أو باستخدام الافتراضي.</translation>
+    </message>
+    <message>
+        <source>Connection manager for mobile-broadband modems.</source>
+        <translation>مدير الاتصال لمودمات النطاق العريض المحمول.</translation>
     </message>
     <message>
         <source>Delete profiles: all of them, or none.</source>
@@ -1582,6 +1590,10 @@
     <message>
         <source>New PIN: </source>
         <translation>رمز PIN الجديد: </translation>
+    </message>
+    <message>
+        <source>Open the settings at this page: its title or its plug-in's name.</source>
+        <translation>فتح الإعدادات عند هذه الصفحة: عنوانها أو اسم ملحقها.</translation>
     </message>
     <message>
         <source>PIN (%1): </source>
@@ -1656,12 +1668,20 @@
         <translation>عرض ما يفيد به المودم وبطاقة SIM، والاتصال.</translation>
     </message>
     <message>
+        <source>Speak this language, e.g. "de" or "zh_CN".</source>
+        <translation>استخدام هذه اللغة، مثل «de» أو «zh_CN».</translation>
+    </message>
+    <message>
         <source>Spend the last attempt, too.</source>
         <translation>استخدام المحاولة الأخيرة أيضًا.</translation>
     </message>
     <message>
         <source>Start from this profile instead of the template for new ones.</source>
         <translation>البدء من ملف التعريف هذا بدلًا من قالب الملفات الجديدة.</translation>
+    </message>
+    <message>
+        <source>Start in the desktop's tray, without a window, where there is one.</source>
+        <translation>البدء في منطقة الإعلام بلا نافذة، إن وُجدت.</translation>
     </message>
     <message>
         <source>Stay, and hang up on Ctrl-C.</source>
@@ -1724,6 +1744,10 @@
         <translation>أثناء التجوال أيضًا.</translation>
     </message>
     <message>
+        <source>Write a picture of the window as a PNG file, and end.</source>
+        <translation>حفظ صورة النافذة في ملف PNG ثم الإنهاء.</translation>
+    </message>
+    <message>
         <source>Write results as JSON, one object a line.</source>
         <translation>كتابة النتائج بصيغة JSON، كائن في كل سطر.</translation>
     </message>
@@ -1746,6 +1770,10 @@
     <message>
         <source>a PUK has 8 digits</source>
         <translation>يتكون رمز PUK من 8 أرقام</translation>
+    </message>
+    <message>
+        <source>a picture is taken without a file to import</source>
+        <translation>تُلتقط الصورة من دون ملف للاستيراد</translation>
     </message>
     <message>
         <source>an IPv4 address, or nothing</source>
@@ -1786,6 +1814,10 @@
     <message>
         <source>can't be dialled with</source>
         <translation>لا يصلح للاتصال</translation>
+    </message>
+    <message>
+        <source>can't write the picture %1</source>
+        <translation>تتعذر كتابة الصورة %1</translation>
     </message>
     <message>
         <source>card</source>
@@ -1954,6 +1986,14 @@
     <message>
         <source>no event counter can be had: %1</source>
         <translation>لا يتوفر عدّاد أحداث: %1</translation>
+    </message>
+    <message>
+        <source>no language "%1"; there are: %2</source>
+        <translation>لا توجد لغة «%1»؛ المتاح: %2</translation>
+    </message>
+    <message>
+        <source>no page "%1"; there are: %2</source>
+        <translation>لا توجد صفحة «%1»؛ المتاح: %2</translation>
     </message>
     <message>
         <source>no temporary folder: %1</source>
@@ -2386,6 +2426,10 @@
     <message>
         <source>true or false</source>
         <translation>true أو false</translation>
+    </message>
+    <message>
+        <source>unexpected argument: %1</source>
+        <translation>وسيط غير متوقع: %1</translation>
     </message>
     <message>
         <source>unknown</source>

@@ -1346,7 +1346,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
 </context>
 <context>
-    <name>orbisctl</name>
+    <name>Programs</name>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
@@ -1500,6 +1500,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>--timeout erwartet eine Zahl von Sekunden von 1 bis 86400</translation>
     </message>
     <message>
+        <source>A profile file to import; the window asks first.</source>
+        <translation>Eine Profildatei, die importiert werden soll; das Fenster fragt vorher.</translation>
+    </message>
+    <message>
         <source>Add a profile. password=- reads the password from standard input.</source>
         <translation>Ein Profil anlegen. password=- liest das Kennwort von der Standardeingabe.</translation>
     </message>
@@ -1530,6 +1534,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>Connect with a profile, or with the default.</source>
         <translation>Mit einem Profil verbinden oder mit dem Standardprofil.</translation>
+    </message>
+    <message>
+        <source>Connection manager for mobile-broadband modems.</source>
+        <translation>Verbindungsmanager für Mobilfunkmodems.</translation>
     </message>
     <message>
         <source>Delete profiles: all of them, or none.</source>
@@ -1582,6 +1590,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>New PIN: </source>
         <translation>Neue PIN: </translation>
+    </message>
+    <message>
+        <source>Open the settings at this page: its title or its plug-in's name.</source>
+        <translation>Die Einstellungen auf dieser Seite öffnen: ihr Titel oder der Name ihres Plug-ins.</translation>
     </message>
     <message>
         <source>PIN (%1): </source>
@@ -1656,12 +1668,20 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Anzeigen, was Modem und SIM-Karte melden, und die Verbindung.</translation>
     </message>
     <message>
+        <source>Speak this language, e.g. "de" or "zh_CN".</source>
+        <translation>Diese Sprache sprechen, z. B. „de“ oder „zh_CN“.</translation>
+    </message>
+    <message>
         <source>Spend the last attempt, too.</source>
         <translation>Auch den letzten Versuch nutzen.</translation>
     </message>
     <message>
         <source>Start from this profile instead of the template for new ones.</source>
         <translation>Von diesem Profil ausgehen statt von der Vorlage für neue.</translation>
+    </message>
+    <message>
+        <source>Start in the desktop's tray, without a window, where there is one.</source>
+        <translation>Ohne Fenster im Infobereich starten, wenn es einen gibt.</translation>
     </message>
     <message>
         <source>Stay, and hang up on Ctrl-C.</source>
@@ -1724,6 +1744,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Auch im Roaming.</translation>
     </message>
     <message>
+        <source>Write a picture of the window as a PNG file, and end.</source>
+        <translation>Ein Bild des Fensters als PNG-Datei schreiben und enden.</translation>
+    </message>
+    <message>
         <source>Write results as JSON, one object a line.</source>
         <translation>Ergebnisse als JSON ausgeben, ein Objekt je Zeile.</translation>
     </message>
@@ -1746,6 +1770,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>a PUK has 8 digits</source>
         <translation>eine PUK hat 8 Ziffern</translation>
+    </message>
+    <message>
+        <source>a picture is taken without a file to import</source>
+        <translation>ein Bild wird ohne zu importierende Datei gemacht</translation>
     </message>
     <message>
         <source>an IPv4 address, or nothing</source>
@@ -1786,6 +1814,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>can't be dialled with</source>
         <translation>damit kann nicht gewählt werden</translation>
+    </message>
+    <message>
+        <source>can't write the picture %1</source>
+        <translation>das Bild %1 kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>card</source>
@@ -1954,6 +1986,14 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>no event counter can be had: %1</source>
         <translation>kein Ereigniszähler verfügbar: %1</translation>
+    </message>
+    <message>
+        <source>no language "%1"; there are: %2</source>
+        <translation>keine Sprache „%1“; es gibt: %2</translation>
+    </message>
+    <message>
+        <source>no page "%1"; there are: %2</source>
+        <translation>keine Seite „%1“; es gibt: %2</translation>
     </message>
     <message>
         <source>no temporary folder: %1</source>
@@ -2386,6 +2426,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>true or false</source>
         <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>unexpected argument: %1</source>
+        <translation>unerwartetes Argument: %1</translation>
     </message>
     <message>
         <source>unknown</source>

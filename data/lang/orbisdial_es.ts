@@ -1346,7 +1346,7 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
 </context>
 <context>
-    <name>orbisctl</name>
+    <name>Programs</name>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
@@ -1500,6 +1500,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>--timeout admite un número de segundos de 1 a 86400</translation>
     </message>
     <message>
+        <source>A profile file to import; the window asks first.</source>
+        <translation>Un archivo de perfiles que importar; la ventana pregunta antes.</translation>
+    </message>
+    <message>
         <source>Add a profile. password=- reads the password from standard input.</source>
         <translation>Añadir un perfil. password=- lee la contraseña de la entrada estándar.</translation>
     </message>
@@ -1530,6 +1534,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>Connect with a profile, or with the default.</source>
         <translation>Conectar con un perfil o con el perfil por defecto.</translation>
+    </message>
+    <message>
+        <source>Connection manager for mobile-broadband modems.</source>
+        <translation>Gestor de conexiones para módems de banda ancha móvil.</translation>
     </message>
     <message>
         <source>Delete profiles: all of them, or none.</source>
@@ -1582,6 +1590,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>New PIN: </source>
         <translation>PIN nuevo: </translation>
+    </message>
+    <message>
+        <source>Open the settings at this page: its title or its plug-in's name.</source>
+        <translation>Abrir la configuración en esta página: su título o el nombre de su complemento.</translation>
     </message>
     <message>
         <source>PIN (%1): </source>
@@ -1656,12 +1668,20 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>Mostrar lo que indican el módem y su tarjeta SIM, y la conexión.</translation>
     </message>
     <message>
+        <source>Speak this language, e.g. "de" or "zh_CN".</source>
+        <translation>Usar este idioma, p. ej. «de» o «zh_CN».</translation>
+    </message>
+    <message>
         <source>Spend the last attempt, too.</source>
         <translation>Usar también el último intento.</translation>
     </message>
     <message>
         <source>Start from this profile instead of the template for new ones.</source>
         <translation>Partir de este perfil y no de la plantilla para perfiles nuevos.</translation>
+    </message>
+    <message>
+        <source>Start in the desktop's tray, without a window, where there is one.</source>
+        <translation>Iniciar en la bandeja del sistema, sin ventana, si la hay.</translation>
     </message>
     <message>
         <source>Stay, and hang up on Ctrl-C.</source>
@@ -1724,6 +1744,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>También en itinerancia.</translation>
     </message>
     <message>
+        <source>Write a picture of the window as a PNG file, and end.</source>
+        <translation>Guardar una imagen de la ventana en un archivo PNG y terminar.</translation>
+    </message>
+    <message>
         <source>Write results as JSON, one object a line.</source>
         <translation>Escribir los resultados en JSON, un objeto por línea.</translation>
     </message>
@@ -1746,6 +1770,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>a PUK has 8 digits</source>
         <translation>un PUK tiene 8 dígitos</translation>
+    </message>
+    <message>
+        <source>a picture is taken without a file to import</source>
+        <translation>la imagen se hace sin archivo que importar</translation>
     </message>
     <message>
         <source>an IPv4 address, or nothing</source>
@@ -1786,6 +1814,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>can't be dialled with</source>
         <translation>no permite marcar</translation>
+    </message>
+    <message>
+        <source>can't write the picture %1</source>
+        <translation>no se puede escribir la imagen %1</translation>
     </message>
     <message>
         <source>card</source>
@@ -1954,6 +1986,14 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>no event counter can be had: %1</source>
         <translation>no hay ningún contador de eventos disponible: %1</translation>
+    </message>
+    <message>
+        <source>no language "%1"; there are: %2</source>
+        <translation>no existe el idioma «%1»; hay: %2</translation>
+    </message>
+    <message>
+        <source>no page "%1"; there are: %2</source>
+        <translation>no existe la página «%1»; hay: %2</translation>
     </message>
     <message>
         <source>no temporary folder: %1</source>
@@ -2386,6 +2426,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>true or false</source>
         <translation>true o false</translation>
+    </message>
+    <message>
+        <source>unexpected argument: %1</source>
+        <translation>argumento inesperado: %1</translation>
     </message>
     <message>
         <source>unknown</source>

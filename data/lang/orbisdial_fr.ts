@@ -1009,7 +1009,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
-        <translation>Le code PIN a été saisi trop de fois de manière erronée. La carte demande le code PUK fourni par votre opérateur.</translation>
+        <translation>Trop de codes PIN erronés. La carte demande le code PUK fourni par votre opérateur.</translation>
     </message>
     <message>
         <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
@@ -1177,7 +1177,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
-        <translation>Le code PIN a été saisi trop de fois de manière erronée. Saisissez le code PUK fourni par votre opérateur et choisissez un nouveau code PIN.</translation>
+        <translation>Trop de codes PIN erronés. Saisissez le code PUK fourni par votre opérateur et choisissez un nouveau code PIN.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN</source>
@@ -1346,7 +1346,7 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
 </context>
 <context>
-    <name>orbisctl</name>
+    <name>Programs</name>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
@@ -1500,6 +1500,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>--timeout attend un nombre de secondes de 1 à 86400</translation>
     </message>
     <message>
+        <source>A profile file to import; the window asks first.</source>
+        <translation>Un fichier de profils à importer&#xa0;; la fenêtre demande d’abord confirmation.</translation>
+    </message>
+    <message>
         <source>Add a profile. password=- reads the password from standard input.</source>
         <translation>Ajouter un profil. password=- lit le mot de passe sur l’entrée standard.</translation>
     </message>
@@ -1530,6 +1534,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>Connect with a profile, or with the default.</source>
         <translation>Se connecter avec un profil, ou avec celui par défaut.</translation>
+    </message>
+    <message>
+        <source>Connection manager for mobile-broadband modems.</source>
+        <translation>Gestionnaire de connexions pour modems mobiles.</translation>
     </message>
     <message>
         <source>Delete profiles: all of them, or none.</source>
@@ -1582,6 +1590,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>New PIN: </source>
         <translation>Nouveau code PIN&#xa0;: </translation>
+    </message>
+    <message>
+        <source>Open the settings at this page: its title or its plug-in's name.</source>
+        <translation>Ouvrir les paramètres à cette page&#xa0;: son titre ou le nom de son module.</translation>
     </message>
     <message>
         <source>PIN (%1): </source>
@@ -1656,12 +1668,20 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>Afficher ce que signalent le modem et sa carte SIM, et la connexion.</translation>
     </message>
     <message>
+        <source>Speak this language, e.g. "de" or "zh_CN".</source>
+        <translation>Parler cette langue, p. ex. «&#xa0;de&#xa0;» ou «&#xa0;zh_CN&#xa0;».</translation>
+    </message>
+    <message>
         <source>Spend the last attempt, too.</source>
         <translation>Utiliser même la dernière tentative.</translation>
     </message>
     <message>
         <source>Start from this profile instead of the template for new ones.</source>
         <translation>Partir de ce profil au lieu du modèle des nouveaux profils.</translation>
+    </message>
+    <message>
+        <source>Start in the desktop's tray, without a window, where there is one.</source>
+        <translation>Démarrer dans la zone de notification, sans fenêtre, s’il y en a une.</translation>
     </message>
     <message>
         <source>Stay, and hang up on Ctrl-C.</source>
@@ -1724,6 +1744,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>Y compris en itinérance.</translation>
     </message>
     <message>
+        <source>Write a picture of the window as a PNG file, and end.</source>
+        <translation>Enregistrer une image de la fenêtre dans un fichier PNG et quitter.</translation>
+    </message>
+    <message>
         <source>Write results as JSON, one object a line.</source>
         <translation>Écrire les résultats en JSON, un objet par ligne.</translation>
     </message>
@@ -1746,6 +1770,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>a PUK has 8 digits</source>
         <translation>un code PUK a 8 chiffres</translation>
+    </message>
+    <message>
+        <source>a picture is taken without a file to import</source>
+        <translation>une image se prend sans fichier à importer</translation>
     </message>
     <message>
         <source>an IPv4 address, or nothing</source>
@@ -1786,6 +1814,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>can't be dialled with</source>
         <translation>ne permet pas de composer</translation>
+    </message>
+    <message>
+        <source>can't write the picture %1</source>
+        <translation>impossible d’écrire l’image %1</translation>
     </message>
     <message>
         <source>card</source>
@@ -1954,6 +1986,14 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>no event counter can be had: %1</source>
         <translation>aucun compteur d’événements disponible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no language "%1"; there are: %2</source>
+        <translation>pas de langue «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no page "%1"; there are: %2</source>
+        <translation>pas de page «&#xa0;%1&#xa0;»&#xa0;; il y a&#xa0;: %2</translation>
     </message>
     <message>
         <source>no temporary folder: %1</source>
@@ -2386,6 +2426,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>true or false</source>
         <translation>true ou false</translation>
+    </message>
+    <message>
+        <source>unexpected argument: %1</source>
+        <translation>argument inattendu&#xa0;: %1</translation>
     </message>
     <message>
         <source>unknown</source>

@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>IDS_HOST_LOCKED_PUK_DETAIL</source>
-        <translation>PIN-код слишком часто вводился неверно. Требуется PUK-код, полученный от оператора.</translation>
+        <translation>PIN-код слишком много раз введён неверно. Требуется PUK-код, полученный от оператора.</translation>
     </message>
     <message>
         <source>IDS_HOST_LOCKED_OTHER_DETAIL</source>
@@ -1177,7 +1177,7 @@
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PUK_INTRO</source>
-        <translation>PIN-код слишком часто вводился неверно. Введите PUK-код, полученный от оператора, и задайте новый PIN-код.</translation>
+        <translation>PIN-код слишком много раз введён неверно. Введите PUK-код, полученный от оператора, и задайте новый PIN-код.</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_PIN</source>
@@ -1346,7 +1346,7 @@
     </message>
 </context>
 <context>
-    <name>orbisctl</name>
+    <name>Programs</name>
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
@@ -1500,6 +1500,10 @@
         <translation>--timeout принимает число секунд от 1 до 86400</translation>
     </message>
     <message>
+        <source>A profile file to import; the window asks first.</source>
+        <translation>Файл профилей для импорта; окно сначала спросит.</translation>
+    </message>
+    <message>
         <source>Add a profile. password=- reads the password from standard input.</source>
         <translation>Добавить профиль. password=- читает пароль со стандартного ввода.</translation>
     </message>
@@ -1530,6 +1534,10 @@
     <message>
         <source>Connect with a profile, or with the default.</source>
         <translation>Подключиться с указанным профилем или с основным.</translation>
+    </message>
+    <message>
+        <source>Connection manager for mobile-broadband modems.</source>
+        <translation>Управление подключениями через мобильные модемы.</translation>
     </message>
     <message>
         <source>Delete profiles: all of them, or none.</source>
@@ -1582,6 +1590,10 @@
     <message>
         <source>New PIN: </source>
         <translation>Новый PIN-код: </translation>
+    </message>
+    <message>
+        <source>Open the settings at this page: its title or its plug-in's name.</source>
+        <translation>Открыть настройки на этой странице: её заголовок или имя её модуля.</translation>
     </message>
     <message>
         <source>PIN (%1): </source>
@@ -1656,12 +1668,20 @@
         <translation>Показать, что сообщают модем и его SIM-карта, и подключение.</translation>
     </message>
     <message>
+        <source>Speak this language, e.g. "de" or "zh_CN".</source>
+        <translation>Язык программы, например «de» или «zh_CN».</translation>
+    </message>
+    <message>
         <source>Spend the last attempt, too.</source>
         <translation>Использовать даже последнюю попытку.</translation>
     </message>
     <message>
         <source>Start from this profile instead of the template for new ones.</source>
         <translation>Взять за основу этот профиль, а не шаблон для новых.</translation>
+    </message>
+    <message>
+        <source>Start in the desktop's tray, without a window, where there is one.</source>
+        <translation>Запустить без окна в области уведомлений, если она есть.</translation>
     </message>
     <message>
         <source>Stay, and hang up on Ctrl-C.</source>
@@ -1724,6 +1744,10 @@
         <translation>В том числе в роуминге.</translation>
     </message>
     <message>
+        <source>Write a picture of the window as a PNG file, and end.</source>
+        <translation>Записать изображение окна в файл PNG и завершить работу.</translation>
+    </message>
+    <message>
         <source>Write results as JSON, one object a line.</source>
         <translation>Выводить результаты в JSON, по объекту в строке.</translation>
     </message>
@@ -1746,6 +1770,10 @@
     <message>
         <source>a PUK has 8 digits</source>
         <translation>в PUK-коде 8 цифр</translation>
+    </message>
+    <message>
+        <source>a picture is taken without a file to import</source>
+        <translation>изображение снимается без файла для импорта</translation>
     </message>
     <message>
         <source>an IPv4 address, or nothing</source>
@@ -1786,6 +1814,10 @@
     <message>
         <source>can't be dialled with</source>
         <translation>с ним нельзя подключиться</translation>
+    </message>
+    <message>
+        <source>can't write the picture %1</source>
+        <translation>не удаётся записать изображение %1</translation>
     </message>
     <message>
         <source>card</source>
@@ -1954,6 +1986,14 @@
     <message>
         <source>no event counter can be had: %1</source>
         <translation>не удаётся получить счётчик событий: %1</translation>
+    </message>
+    <message>
+        <source>no language "%1"; there are: %2</source>
+        <translation>нет языка «%1»; есть: %2</translation>
+    </message>
+    <message>
+        <source>no page "%1"; there are: %2</source>
+        <translation>нет страницы «%1»; есть: %2</translation>
     </message>
     <message>
         <source>no temporary folder: %1</source>
@@ -2386,6 +2426,10 @@
     <message>
         <source>true or false</source>
         <translation>true или false</translation>
+    </message>
+    <message>
+        <source>unexpected argument: %1</source>
+        <translation>лишний аргумент: %1</translation>
     </message>
     <message>
         <source>unknown</source>

@@ -1346,7 +1346,7 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     </message>
 </context>
 <context>
-    <name>orbisctl</name>
+    <name>Programs</name>
     <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
@@ -1500,6 +1500,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>--timeout 需要 1 到 86400 之间的秒数</translation>
     </message>
     <message>
+        <source>A profile file to import; the window asks first.</source>
+        <translation>要导入的配置文件；窗口会先询问。</translation>
+    </message>
+    <message>
         <source>Add a profile. password=- reads the password from standard input.</source>
         <translation>添加配置文件。password=- 从标准输入读取密码。</translation>
     </message>
@@ -1530,6 +1534,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>Connect with a profile, or with the default.</source>
         <translation>使用某个配置文件或默认配置文件连接。</translation>
+    </message>
+    <message>
+        <source>Connection manager for mobile-broadband modems.</source>
+        <translation>移动宽带调制解调器的连接管理器。</translation>
     </message>
     <message>
         <source>Delete profiles: all of them, or none.</source>
@@ -1582,6 +1590,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>New PIN: </source>
         <translation>新 PIN 码：</translation>
+    </message>
+    <message>
+        <source>Open the settings at this page: its title or its plug-in's name.</source>
+        <translation>打开设置中的此页面：页面标题或其插件的名称。</translation>
     </message>
     <message>
         <source>PIN (%1): </source>
@@ -1656,12 +1668,20 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>显示调制解调器和 SIM 卡报告的信息以及连接。</translation>
     </message>
     <message>
+        <source>Speak this language, e.g. "de" or "zh_CN".</source>
+        <translation>使用此语言，例如“de”或“zh_CN”。</translation>
+    </message>
+    <message>
         <source>Spend the last attempt, too.</source>
         <translation>最后一次尝试也可使用。</translation>
     </message>
     <message>
         <source>Start from this profile instead of the template for new ones.</source>
         <translation>以此配置文件为基础，而不用新配置文件的模板。</translation>
+    </message>
+    <message>
+        <source>Start in the desktop's tray, without a window, where there is one.</source>
+        <translation>如果有系统托盘，则在其中启动，不显示窗口。</translation>
     </message>
     <message>
         <source>Stay, and hang up on Ctrl-C.</source>
@@ -1724,6 +1744,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>漫游时也连接。</translation>
     </message>
     <message>
+        <source>Write a picture of the window as a PNG file, and end.</source>
+        <translation>将窗口图片写入 PNG 文件，然后退出。</translation>
+    </message>
+    <message>
         <source>Write results as JSON, one object a line.</source>
         <translation>以 JSON 输出结果，每行一个对象。</translation>
     </message>
@@ -1746,6 +1770,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>a PUK has 8 digits</source>
         <translation>PUK 码为 8 位数字</translation>
+    </message>
+    <message>
+        <source>a picture is taken without a file to import</source>
+        <translation>截取窗口图片时不能指定要导入的文件</translation>
     </message>
     <message>
         <source>an IPv4 address, or nothing</source>
@@ -1786,6 +1814,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>can't be dialled with</source>
         <translation>不能用于拨号</translation>
+    </message>
+    <message>
+        <source>can't write the picture %1</source>
+        <translation>无法写入图片 %1</translation>
     </message>
     <message>
         <source>card</source>
@@ -1954,6 +1986,14 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>no event counter can be had: %1</source>
         <translation>无法获得事件计数器：%1</translation>
+    </message>
+    <message>
+        <source>no language "%1"; there are: %2</source>
+        <translation>没有语言“%1”；可用的有：%2</translation>
+    </message>
+    <message>
+        <source>no page "%1"; there are: %2</source>
+        <translation>没有页面“%1”；可用的有：%2</translation>
     </message>
     <message>
         <source>no temporary folder: %1</source>
@@ -2386,6 +2426,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>true or false</source>
         <translation>true 或 false</translation>
+    </message>
+    <message>
+        <source>unexpected argument: %1</source>
+        <translation>多余的参数：%1</translation>
     </message>
     <message>
         <source>unknown</source>

@@ -52,8 +52,8 @@ void showDefault(Output& output) {
     const bool isUserSet = session->IsDefaultUserSet();
     QStringList lines;
     if (!name.isEmpty())
-        lines.append(message(isUserSet ? QT_TRANSLATE_NOOP("orbisctl", "%1 (chosen by the user)")
-                                       : QT_TRANSLATE_NOOP("orbisctl", "%1 (proposed by the configuration)"),
+        lines.append(message(isUserSet ? QT_TRANSLATE_NOOP("Programs", "%1 (chosen by the user)")
+                                       : QT_TRANSLATE_NOOP("Programs", "%1 (proposed by the configuration)"),
                              {name}));
     output.result({{"name", name}, {"userSet", isUserSet}}, lines);
     session.finish();

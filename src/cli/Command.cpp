@@ -11,25 +11,25 @@
 
 namespace {
 
-constexpr CommandOption Secrets{"secrets", QT_TRANSLATE_NOOP("orbisctl", "Show the password too."), nullptr};
+constexpr CommandOption Secrets{"secrets", QT_TRANSLATE_NOOP("Programs", "Show the password too."), nullptr};
 constexpr CommandOption Like{
-    "like", QT_TRANSLATE_NOOP("orbisctl", "Start from this profile instead of the template for new ones."), "PROFILE"};
-constexpr CommandOption Clear{"clear", QT_TRANSLATE_NOOP("orbisctl", "Take the choice back."), nullptr};
+    "like", QT_TRANSLATE_NOOP("Programs", "Start from this profile instead of the template for new ones."), "PROFILE"};
+constexpr CommandOption Clear{"clear", QT_TRANSLATE_NOOP("Programs", "Take the choice back."), nullptr};
 constexpr CommandOption Replace{
-    "replace", QT_TRANSLATE_NOOP("orbisctl", "Replace profiles whose names exist; without it they are skipped."),
+    "replace", QT_TRANSLATE_NOOP("Programs", "Replace profiles whose names exist; without it they are skipped."),
     nullptr};
-constexpr CommandOption All{"all", QT_TRANSLATE_NOOP("orbisctl", "All profiles of one's own."), nullptr};
+constexpr CommandOption All{"all", QT_TRANSLATE_NOOP("Programs", "All profiles of one's own."), nullptr};
 constexpr CommandOption Force{
-    "force", QT_TRANSLATE_NOOP("orbisctl", "Replace a file even if it holds something else than profiles."), nullptr};
-constexpr CommandOption Last{"last", QT_TRANSLATE_NOOP("orbisctl", "Spend the last attempt, too."), nullptr};
-constexpr CommandOption Timeout{"timeout", QT_TRANSLATE_NOOP("orbisctl", "Wait no longer than so many seconds."),
+    "force", QT_TRANSLATE_NOOP("Programs", "Replace a file even if it holds something else than profiles."), nullptr};
+constexpr CommandOption Last{"last", QT_TRANSLATE_NOOP("Programs", "Spend the last attempt, too."), nullptr};
+constexpr CommandOption Timeout{"timeout", QT_TRANSLATE_NOOP("Programs", "Wait no longer than so many seconds."),
                                 "SECONDS"};
-constexpr CommandOption Hold{"hold", QT_TRANSLATE_NOOP("orbisctl", "Stay, and hang up on Ctrl-C."), nullptr};
-constexpr CommandOption Watch{"watch", QT_TRANSLATE_NOOP("orbisctl", "Stay, and show each change."), nullptr};
-constexpr CommandOption Roaming{"roaming", QT_TRANSLATE_NOOP("orbisctl", "While roaming, too."), nullptr};
+constexpr CommandOption Hold{"hold", QT_TRANSLATE_NOOP("Programs", "Stay, and hang up on Ctrl-C."), nullptr};
+constexpr CommandOption Watch{"watch", QT_TRANSLATE_NOOP("Programs", "Stay, and show each change."), nullptr};
+constexpr CommandOption Roaming{"roaming", QT_TRANSLATE_NOOP("Programs", "While roaming, too."), nullptr};
 constexpr CommandOption Check{
-    "check", QT_TRANSLATE_NOOP("orbisctl", "Tell what is wrong with the shipped files, or with these."), nullptr};
-constexpr CommandOption Operator{"operator", QT_TRANSLATE_NOOP("orbisctl", "What the SIM cards call their operator."),
+    "check", QT_TRANSLATE_NOOP("Programs", "Tell what is wrong with the shipped files, or with these."), nullptr};
+constexpr CommandOption Operator{"operator", QT_TRANSLATE_NOOP("Programs", "What the SIM cards call their operator."),
                                  "NAME"};
 
 constexpr int Any = Command::AnyNumber;
@@ -42,53 +42,53 @@ constexpr CommandOptions with(const Options&... options) {
 constexpr CommandOptions NoOptions{};
 
 const std::vector<Command> Commands = {
-    {"list", "", 0, 0, NoOptions, QT_TRANSLATE_NOOP("orbisctl", "List all profiles; * marks the default."),
+    {"list", "", 0, 0, NoOptions, QT_TRANSLATE_NOOP("Programs", "List all profiles; * marks the default."),
      listProfiles},
-    {"show", "NAME...", 1, Any, with(Secrets), QT_TRANSLATE_NOOP("orbisctl", "Show the fields of profiles."),
+    {"show", "NAME...", 1, Any, with(Secrets), QT_TRANSLATE_NOOP("Programs", "Show the fields of profiles."),
      showProfiles},
     {"add", "NAME [FIELD=VALUE...]", 1, Any, with(Like),
-     QT_TRANSLATE_NOOP("orbisctl", "Add a profile. password=- reads the password from standard input."), addProfile,
+     QT_TRANSLATE_NOOP("Programs", "Add a profile. password=- reads the password from standard input."), addProfile,
      settableFieldsHelp},
     {"set", "NAME FIELD=VALUE...", 2, Any, NoOptions,
-     QT_TRANSLATE_NOOP("orbisctl", "Change fields of a profile; name=NEW renames it."), setFields, settableFieldsHelp},
-    {"delete", "NAME...", 1, Any, NoOptions, QT_TRANSLATE_NOOP("orbisctl", "Delete profiles: all of them, or none."),
+     QT_TRANSLATE_NOOP("Programs", "Change fields of a profile; name=NEW renames it."), setFields, settableFieldsHelp},
+    {"delete", "NAME...", 1, Any, NoOptions, QT_TRANSLATE_NOOP("Programs", "Delete profiles: all of them, or none."),
      deleteProfiles},
-    {"default", "[NAME]", 0, 1, with(Clear), QT_TRANSLATE_NOOP("orbisctl", "Show the default profile, or choose it."),
+    {"default", "[NAME]", 0, 1, with(Clear), QT_TRANSLATE_NOOP("Programs", "Show the default profile, or choose it."),
      defaultProfile},
     {"import", "FILE [NAME...]", 1, Any, with(Replace),
-     QT_TRANSLATE_NOOP("orbisctl", "Import all profiles of a file, or the named ones."), importProfiles},
+     QT_TRANSLATE_NOOP("Programs", "Import all profiles of a file, or the named ones."), importProfiles},
     {"export", "FILE [NAME...]", 1, Any, with(All, Force),
-     QT_TRANSLATE_NOOP("orbisctl", "Export profiles into a file; others that it holds stay."), exportProfiles},
+     QT_TRANSLATE_NOOP("Programs", "Export profiles into a file; others that it holds stay."), exportProfiles},
     {"backup", "FILE", 1, 1, with(Force),
-     QT_TRANSLATE_NOOP("orbisctl", "Save all profiles of one's own, and the chosen default, in a file."), backUp},
+     QT_TRANSLATE_NOOP("Programs", "Save all profiles of one's own, and the chosen default, in a file."), backUp},
     {"restore", "FILE", 1, 1, NoOptions,
-     QT_TRANSLATE_NOOP("orbisctl", "Take profiles and default from a backup; those of other names stay."), restore},
+     QT_TRANSLATE_NOOP("Programs", "Take profiles and default from a backup; those of other names stay."), restore},
     {"explain", "IMSI...", 1, Any, with(Operator),
-     QT_TRANSLATE_NOOP("orbisctl", "Tell which presets SIM cards select; - reads IMSIs from standard input."),
+     QT_TRANSLATE_NOOP("Programs", "Tell which presets SIM cards select; - reads IMSIs from standard input."),
      explainIMSIs},
     {"config", "[KEY] | --check [FILE...]", 0, Any, with(Check),
-     QT_TRANSLATE_NOOP("orbisctl", "Show a value of the function configuration, or all."), showConfiguration},
+     QT_TRANSLATE_NOOP("Programs", "Show a value of the function configuration, or all."), showConfiguration},
     {"device", "", 0, 0, NoOptions,
-     QT_TRANSLATE_NOOP("orbisctl", "Show what the modem and its SIM card report, and the connection."), showDevice},
-    {"modems", "", 0, 0, NoOptions, QT_TRANSLATE_NOOP("orbisctl", "List the modems; * marks the one in use."),
+     QT_TRANSLATE_NOOP("Programs", "Show what the modem and its SIM card report, and the connection."), showDevice},
+    {"modems", "", 0, 0, NoOptions, QT_TRANSLATE_NOOP("Programs", "List the modems; * marks the one in use."),
      listModems},
     {"modem", "[ID]", 0, 1, with(Clear),
-     QT_TRANSLATE_NOOP("orbisctl", "Show the modem in use, or choose one by its key, IMEI or port."), chooseModem},
+     QT_TRANSLATE_NOOP("Programs", "Show the modem in use, or choose one by its key, IMEI or port."), chooseModem},
     {"pin", "", 0, 0, with(Last, Timeout),
-     QT_TRANSLATE_NOOP("orbisctl", "Unlock the SIM card; the PIN is asked for, or read from standard input."),
+     QT_TRANSLATE_NOOP("Programs", "Unlock the SIM card; the PIN is asked for, or read from standard input."),
      enterPin},
     {"puk", "", 0, 0, with(Last, Timeout),
-     QT_TRANSLATE_NOOP("orbisctl", "Unlock the SIM card with its PUK and set a new PIN, a line each."), enterPuk},
+     QT_TRANSLATE_NOOP("Programs", "Unlock the SIM card with its PUK and set a new PIN, a line each."), enterPuk},
     {"connect", "[NAME]", 0, 1, with(Hold, Timeout),
-     QT_TRANSLATE_NOOP("orbisctl", "Connect with a profile, or with the default."), connectProfile},
-    {"disconnect", "", 0, 0, with(Timeout), QT_TRANSLATE_NOOP("orbisctl", "End the connection, or give it up."),
+     QT_TRANSLATE_NOOP("Programs", "Connect with a profile, or with the default."), connectProfile},
+    {"disconnect", "", 0, 0, with(Timeout), QT_TRANSLATE_NOOP("Programs", "End the connection, or give it up."),
      disconnect},
-    {"status", "", 0, 0, with(Watch), QT_TRANSLATE_NOOP("orbisctl", "Show the connection."), showStatus},
+    {"status", "", 0, 0, with(Watch), QT_TRANSLATE_NOOP("Programs", "Show the connection."), showStatus},
     {"autoconnect", "NAME [on|off]", 1, 2, with(Roaming),
-     QT_TRANSLATE_NOOP("orbisctl", "Whether the window connects with a profile by itself."), setAutoConnect},
+     QT_TRANSLATE_NOOP("Programs", "Whether the window connects with a profile by itself."), setAutoConnect},
     {"ussd", "CODE", 1, 1, with(Timeout),
-     QT_TRANSLATE_NOOP("orbisctl", "Send a command such as *100# to the network and show its answer."), sendUssd},
-    {"balance", "", 0, 0, with(Timeout), QT_TRANSLATE_NOOP("orbisctl", "Ask the network for a prepaid card's balance."),
+     QT_TRANSLATE_NOOP("Programs", "Send a command such as *100# to the network and show its answer."), sendUssd},
+    {"balance", "", 0, 0, with(Timeout), QT_TRANSLATE_NOOP("Programs", "Ask the network for a prepaid card's balance."),
      askBalance},
 };
 

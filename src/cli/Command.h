@@ -20,7 +20,7 @@ struct CommandOption {
 
 using CommandOptions = std::array<const CommandOption*, 3>;  // null where there are fewer
 
-constexpr char HelpOfHelp[] = QT_TRANSLATE_NOOP("orbisctl", "Show this help, or that of a command.");
+constexpr char HelpOfHelp[] = QT_TRANSLATE_NOOP("Programs", "Show this help, or that of a command.");
 
 struct Command {
     static constexpr int AnyNumber = -1;

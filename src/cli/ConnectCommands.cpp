@@ -65,7 +65,7 @@ void askCredentials(Wanted* wanted) {
     if (!wanted->mustAsk || !isTerminalInput()) return;
     DialupProfile& profile = wanted->profile;
     const QString user =
-        readShownLine(message("User name [%1]: ", {profile.user}), QT_TRANSLATE_NOOP("orbisctl", "user name"));
+        readShownLine(message("User name [%1]: ", {profile.user}), QT_TRANSLATE_NOOP("Programs", "user name"));
     if (!user.isEmpty()) profile.user = user;
     const QString password =
         readPassword(profile.password.isEmpty() ? message("Password: ") : message("Password [as stored]: "));
@@ -124,7 +124,7 @@ private:
             if (connection.isUp()) return withAddress(connection);
             if (connection.isDown()) throw ConnectionReport::error(connection);
             showStep(connection);
-            waitForMore(QT_TRANSLATE_NOOP("orbisctl", "no connection in time"));
+            waitForMore(QT_TRANSLATE_NOOP("Programs", "no connection in time"));
         }
     }
 

@@ -66,17 +66,17 @@ struct DeviceRow {
 };
 
 const DeviceRow DeviceRows[] = {
-    {"backend", QT_TRANSLATE_NOOP("orbisctl", "backend"), backend},
-    {"status", QT_TRANSLATE_NOOP("orbisctl", "status (3 is ready)"), number<VRKS_DevSrv_GetDevStatus>},
-    {"customizeName", QT_TRANSLATE_NOOP("orbisctl", "customise name"),
+    {"backend", QT_TRANSLATE_NOOP("Programs", "backend"), backend},
+    {"status", QT_TRANSLATE_NOOP("Programs", "status (3 is ready)"), number<VRKS_DevSrv_GetDevStatus>},
+    {"customizeName", QT_TRANSLATE_NOOP("Programs", "customise name"),
      text<VRKS_DevSrv_GetCustomizeName, VRKS_CUSTOMIZE_NAME_SIZE>},
-    {"productType", QT_TRANSLATE_NOOP("orbisctl", "product type (1 is CDMA)"), number<VRKS_DevSrv_GetProductType>},
-    {"imsi", QT_TRANSLATE_NOOP("orbisctl", "IMSI"), text<VRKS_DevSrv_GetImsiInfo, VRKS_IMSI_SIZE>},
-    {"multiMode", QT_TRANSLATE_NOOP("orbisctl", "multi-mode card"), isMultiMode},
-    {"cardMode", QT_TRANSLATE_NOOP("orbisctl", "card mode (2 is CDMA)"), cardMode},
-    {"systemMode", QT_TRANSLATE_NOOP("orbisctl", "system mode"), systemInformation<VRKS_SYSINFO_MODE_OFFSET>},
-    {"systemSubMode", QT_TRANSLATE_NOOP("orbisctl", "system sub-mode"), systemInformation<VRKS_SYSINFO_SUBMODE_OFFSET>},
-    {"user", QT_TRANSLATE_NOOP("orbisctl", "data-service user"), dataServiceUser},
+    {"productType", QT_TRANSLATE_NOOP("Programs", "product type (1 is CDMA)"), number<VRKS_DevSrv_GetProductType>},
+    {"imsi", QT_TRANSLATE_NOOP("Programs", "IMSI"), text<VRKS_DevSrv_GetImsiInfo, VRKS_IMSI_SIZE>},
+    {"multiMode", QT_TRANSLATE_NOOP("Programs", "multi-mode card"), isMultiMode},
+    {"cardMode", QT_TRANSLATE_NOOP("Programs", "card mode (2 is CDMA)"), cardMode},
+    {"systemMode", QT_TRANSLATE_NOOP("Programs", "system mode"), systemInformation<VRKS_SYSINFO_MODE_OFFSET>},
+    {"systemSubMode", QT_TRANSLATE_NOOP("Programs", "system sub-mode"), systemInformation<VRKS_SYSINFO_SUBMODE_OFFSET>},
+    {"user", QT_TRANSLATE_NOOP("Programs", "data-service user"), dataServiceUser},
 };
 
 QJsonValue nullIfEmpty(const QString& text) { return text.isEmpty() ? QJsonValue() : text; }
@@ -92,7 +92,7 @@ QJsonValue addModem(QStringList* lines) {
 QJsonValue addConnection(QStringList* lines) {
     if (!ConnectionReport::isKnown()) return QJsonValue();
     const DataConnection connection = DataConnection::current();
-    lines->append(ModemReport::line(QT_TRANSLATE_NOOP("orbisctl", "connection"), ConnectionReport::line(connection)));
+    lines->append(ModemReport::line(QT_TRANSLATE_NOOP("Programs", "connection"), ConnectionReport::line(connection)));
     return ConnectionReport::object(connection);
 }
 
@@ -111,10 +111,10 @@ void showDevice(const Invocation&, Output& output) {
     for (const DeviceRow& row : DeviceRows) add(row.key, row.label, row.value());
     object["modem"] = addModem(&lines);
     object["connection"] = addConnection(&lines);
-    add("prefix", QT_TRANSLATE_NOOP("orbisctl", "matched IMSI prefix"), nullIfEmpty(session->MatchedIMSIPrefix()));
-    add("proposedDefault", QT_TRANSLATE_NOOP("orbisctl", "proposed default"), nullIfEmpty(session->ProposedDefault()));
-    add("proposedFor", QT_TRANSLATE_NOOP("orbisctl", "proposed for"), nullIfEmpty(session->ProposedOperator()));
-    add("note", QT_TRANSLATE_NOOP("orbisctl", "note"), nullIfEmpty(session.presetsNote()));
+    add("prefix", QT_TRANSLATE_NOOP("Programs", "matched IMSI prefix"), nullIfEmpty(session->MatchedIMSIPrefix()));
+    add("proposedDefault", QT_TRANSLATE_NOOP("Programs", "proposed default"), nullIfEmpty(session->ProposedDefault()));
+    add("proposedFor", QT_TRANSLATE_NOOP("Programs", "proposed for"), nullIfEmpty(session->ProposedOperator()));
+    add("note", QT_TRANSLATE_NOOP("Programs", "note"), nullIfEmpty(session.presetsNote()));
     output.result(object, lines);
     session.finish();
 }

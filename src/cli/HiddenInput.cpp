@@ -152,7 +152,7 @@ QString readText(const QString& prompt, const char* name, bool isShown) {
 QString readHiddenLine(const QString& prompt, const char* name) { return readText(prompt, name, false); }
 
 QString readPassword(const QString& prompt) {
-    return readHiddenLine(prompt, QT_TRANSLATE_NOOP("orbisctl", "password"));
+    return readHiddenLine(prompt, QT_TRANSLATE_NOOP("Programs", "password"));
 }
 
 QString readShownLine(const QString& prompt, const char* name) { return readText(prompt, name, true); }

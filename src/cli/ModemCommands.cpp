@@ -49,7 +49,7 @@ void showModem(Output& output) {
     VRKS_ModemInfo info;
     const QString chosen = ChosenModem::id();
     if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modem is in use"));
-    QStringList lines{ModemReport::line(QT_TRANSLATE_NOOP("orbisctl", "chosen"),
+    QStringList lines{ModemReport::line(QT_TRANSLATE_NOOP("Programs", "chosen"),
                                         chosen.isEmpty() ? message("automatically") : chosen)};
     QJsonObject object = ModemReport::object(info);
     object["chosen"] = chosen.isEmpty() ? QJsonValue() : chosen;

@@ -8,17 +8,17 @@
 
 namespace {
 
-const char* const Statuses[] = {QT_TRANSLATE_NOOP("orbisctl", "no-modem"), QT_TRANSLATE_NOOP("orbisctl", "starting"),
-                                QT_TRANSLATE_NOOP("orbisctl", "locked"), QT_TRANSLATE_NOOP("orbisctl", "ready"),
-                                QT_TRANSLATE_NOOP("orbisctl", "failed")};
-const char* const Cards[] = {QT_TRANSLATE_NOOP("orbisctl", "unknown"), QT_TRANSLATE_NOOP("orbisctl", "none"),
-                             QT_TRANSLATE_NOOP("orbisctl", "present")};
-const char* const Locks[] = {QT_TRANSLATE_NOOP("orbisctl", "none"), QT_TRANSLATE_NOOP("orbisctl", "pin"),
-                             QT_TRANSLATE_NOOP("orbisctl", "puk"), QT_TRANSLATE_NOOP("orbisctl", "other")};
+const char* const Statuses[] = {QT_TRANSLATE_NOOP("Programs", "no-modem"), QT_TRANSLATE_NOOP("Programs", "starting"),
+                                QT_TRANSLATE_NOOP("Programs", "locked"), QT_TRANSLATE_NOOP("Programs", "ready"),
+                                QT_TRANSLATE_NOOP("Programs", "failed")};
+const char* const Cards[] = {QT_TRANSLATE_NOOP("Programs", "unknown"), QT_TRANSLATE_NOOP("Programs", "none"),
+                             QT_TRANSLATE_NOOP("Programs", "present")};
+const char* const Locks[] = {QT_TRANSLATE_NOOP("Programs", "none"), QT_TRANSLATE_NOOP("Programs", "pin"),
+                             QT_TRANSLATE_NOOP("Programs", "puk"), QT_TRANSLATE_NOOP("Programs", "other")};
 const char* const Registrations[] = {
-    QT_TRANSLATE_NOOP("orbisctl", "unknown"),   QT_TRANSLATE_NOOP("orbisctl", "idle"),
-    QT_TRANSLATE_NOOP("orbisctl", "searching"), QT_TRANSLATE_NOOP("orbisctl", "home"),
-    QT_TRANSLATE_NOOP("orbisctl", "roaming"),   QT_TRANSLATE_NOOP("orbisctl", "denied")};
+    QT_TRANSLATE_NOOP("Programs", "unknown"),   QT_TRANSLATE_NOOP("Programs", "idle"),
+    QT_TRANSLATE_NOOP("Programs", "searching"), QT_TRANSLATE_NOOP("Programs", "home"),
+    QT_TRANSLATE_NOOP("Programs", "roaming"),   QT_TRANSLATE_NOOP("Programs", "denied")};
 
 template <std::size_t Count>
 QJsonValue word(const char* const (&words)[Count], int value) {
@@ -56,27 +56,27 @@ struct Row {
 };
 
 const Row Rows[] = {
-    {"id", QT_TRANSLATE_NOOP("orbisctl", "modem"), text<VRKS_MODEM_ID_SIZE, &Info::id>},
-    {"status", QT_TRANSLATE_NOOP("orbisctl", "state"), [](const Info& info) { return word(Statuses, info.status); }},
-    {"manufacturer", QT_TRANSLATE_NOOP("orbisctl", "manufacturer"), shortText<&Info::manufacturer>},
-    {"model", QT_TRANSLATE_NOOP("orbisctl", "model"), shortText<&Info::model>},
-    {"imei", QT_TRANSLATE_NOOP("orbisctl", "IMEI"), shortText<&Info::imei>},
-    {"port", QT_TRANSLATE_NOOP("orbisctl", "port"), shortText<&Info::port>},
-    {"dialsAsCdma", QT_TRANSLATE_NOOP("orbisctl", "dials as CDMA"), flag<&Info::dialsAsCdma>},
-    {"hasUssd", QT_TRANSLATE_NOOP("orbisctl", "takes USSD commands"), flag<&Info::hasUssd>},
-    {"card", QT_TRANSLATE_NOOP("orbisctl", "card"), [](const Info& info) { return word(Cards, info.card); }},
-    {"lock", QT_TRANSLATE_NOOP("orbisctl", "lock"), [](const Info& info) { return word(Locks, info.lock); }},
-    {"attempts", QT_TRANSLATE_NOOP("orbisctl", "attempts to unlock"), number<&Info::attempts, 0>},
-    {"ownNumber", QT_TRANSLATE_NOOP("orbisctl", "own number"), shortText<&Info::ownNumber>},
-    {"cardOperator", QT_TRANSLATE_NOOP("orbisctl", "card's operator"), shortText<&Info::cardOperator>},
-    {"gid1", QT_TRANSLATE_NOOP("orbisctl", "GID1"), shortText<&Info::gid1>},
-    {"registration", QT_TRANSLATE_NOOP("orbisctl", "registration"),
+    {"id", QT_TRANSLATE_NOOP("Programs", "modem"), text<VRKS_MODEM_ID_SIZE, &Info::id>},
+    {"status", QT_TRANSLATE_NOOP("Programs", "state"), [](const Info& info) { return word(Statuses, info.status); }},
+    {"manufacturer", QT_TRANSLATE_NOOP("Programs", "manufacturer"), shortText<&Info::manufacturer>},
+    {"model", QT_TRANSLATE_NOOP("Programs", "model"), shortText<&Info::model>},
+    {"imei", QT_TRANSLATE_NOOP("Programs", "IMEI"), shortText<&Info::imei>},
+    {"port", QT_TRANSLATE_NOOP("Programs", "port"), shortText<&Info::port>},
+    {"dialsAsCdma", QT_TRANSLATE_NOOP("Programs", "dials as CDMA"), flag<&Info::dialsAsCdma>},
+    {"hasUssd", QT_TRANSLATE_NOOP("Programs", "takes USSD commands"), flag<&Info::hasUssd>},
+    {"card", QT_TRANSLATE_NOOP("Programs", "card"), [](const Info& info) { return word(Cards, info.card); }},
+    {"lock", QT_TRANSLATE_NOOP("Programs", "lock"), [](const Info& info) { return word(Locks, info.lock); }},
+    {"attempts", QT_TRANSLATE_NOOP("Programs", "attempts to unlock"), number<&Info::attempts, 0>},
+    {"ownNumber", QT_TRANSLATE_NOOP("Programs", "own number"), shortText<&Info::ownNumber>},
+    {"cardOperator", QT_TRANSLATE_NOOP("Programs", "card's operator"), shortText<&Info::cardOperator>},
+    {"gid1", QT_TRANSLATE_NOOP("Programs", "GID1"), shortText<&Info::gid1>},
+    {"registration", QT_TRANSLATE_NOOP("Programs", "registration"),
      [](const Info& info) { return word(Registrations, info.registration); }},
-    {"operatorName", QT_TRANSLATE_NOOP("orbisctl", "network"), shortText<&Info::operatorName>},
-    {"operatorCode", QT_TRANSLATE_NOOP("orbisctl", "network's code"), shortText<&Info::operatorCode>},
-    {"technology", QT_TRANSLATE_NOOP("orbisctl", "technology"), shortText<&Info::technology>},
-    {"generation", QT_TRANSLATE_NOOP("orbisctl", "generation"), number<&Info::generation, 1>},
-    {"signal", QT_TRANSLATE_NOOP("orbisctl", "signal in percent"), number<&Info::signal, 0>},
+    {"operatorName", QT_TRANSLATE_NOOP("Programs", "network"), shortText<&Info::operatorName>},
+    {"operatorCode", QT_TRANSLATE_NOOP("Programs", "network's code"), shortText<&Info::operatorCode>},
+    {"technology", QT_TRANSLATE_NOOP("Programs", "technology"), shortText<&Info::technology>},
+    {"generation", QT_TRANSLATE_NOOP("Programs", "generation"), number<&Info::generation, 1>},
+    {"signal", QT_TRANSLATE_NOOP("Programs", "signal in percent"), number<&Info::signal, 0>},
 };
 
 // Those that hold a word of this program's.

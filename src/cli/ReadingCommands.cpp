@@ -16,8 +16,8 @@
 namespace {
 
 // Where a profile comes from.
-const char User[] = QT_TRANSLATE_NOOP("orbisctl", "user");
-const char Preset[] = QT_TRANSLATE_NOOP("orbisctl", "preset");
+const char User[] = QT_TRANSLATE_NOOP("Programs", "user");
+const char Preset[] = QT_TRANSLATE_NOOP("Programs", "preset");
 
 // A profile's fields, as an object and as lines.
 QJsonObject describe(const DialupProfile& profile, bool showsSecrets, QStringList* lines) {

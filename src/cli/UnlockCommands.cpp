@@ -24,9 +24,9 @@ struct LockKind {
 };
 
 constexpr LockKind Pin{VRKS_LOCK_PIN, "PIN", "pin",
-                       QT_TRANSLATE_NOOP("orbisctl", "%1; then the card asks for its PUK; --last takes it")};
+                       QT_TRANSLATE_NOOP("Programs", "%1; then the card asks for its PUK; --last takes it")};
 constexpr LockKind Puk{VRKS_LOCK_PUK, "PUK", "puk",
-                       QT_TRANSLATE_NOOP("orbisctl", "%1; then the card is lost; --last takes it")};
+                       QT_TRANSLATE_NOOP("Programs", "%1; then the card is lost; --last takes it")};
 
 VRKS_ModemInfo modemInUse() {
     VRKS_ModemInfo info;
@@ -71,13 +71,13 @@ void requireDigits(const QString& text, int fewest, const char* rule) {
 
 QString readPin(const QString& prompt) {
     const QString pin = readHiddenLine(prompt, "PIN");
-    requireDigits(pin, 4, QT_TRANSLATE_NOOP("orbisctl", "a PIN has 4 to 8 digits"));
+    requireDigits(pin, 4, QT_TRANSLATE_NOOP("Programs", "a PIN has 4 to 8 digits"));
     return pin;
 }
 
 QString readPuk(const QString& prompt) {
     const QString puk = readHiddenLine(prompt, "PUK");
-    requireDigits(puk, 8, QT_TRANSLATE_NOOP("orbisctl", "a PUK has 8 digits"));
+    requireDigits(puk, 8, QT_TRANSLATE_NOOP("Programs", "a PUK has 8 digits"));
     return puk;
 }
 

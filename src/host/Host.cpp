@@ -5,14 +5,15 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <cstdio>
 #include <utility>
 
 #include "Change.h"
 #include "ChosenModem.h"
 #include "CommonUtils.h"
 #include "ConnectionView.h"
+#include "DeviceText.h"
 #include "Plugins.h"
+#include "StandardOutput.h"
 #include "Startup.h"
 
 namespace {
@@ -28,7 +29,7 @@ QThread* makeDeviceLoading() {
 void reportModemProblem() {
     const char* problem = nullptr;
     vrks_backend_name(&problem);
-    if (problem) std::fprintf(stderr, "orbisdial: %s\n", problem);
+    if (problem) StandardOutput::writeDiagnostic("orbisdial", DeviceText::inLanguage(QString::fromUtf8(problem)));
 }
 
 }  // namespace

@@ -4,51 +4,85 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <cstdio>
 #include <cstdlib>
 
+#include "Change.h"
+#include "Languages.h"
+#include "Message.h"
 #include "StandardOutput.h"
 
 namespace {
 
+enum ExitStatus { Done = 0, Failed = 1, WrongUsage = 2 };
+
+const QStringList Kinds{"auto", "modemmanager", "simulated", "none"};
+
+// The parser keeps the words of the moment's language.
+void describe(QCommandLineParser* parser) {
+    parser->setApplicationDescription(message("Connection manager for mobile-broadband modems."));
+    parser->addHelpOption();
+    parser->addVersionOption();
+    parser->addPositionalArgument("file", message("A profile file to import; the window asks first."), "[FILE]");
+    parser->addOptions({
+        {"lang", message("Speak this language, e.g. \"de\" or \"zh_CN\"."), "CODE"},
+        {"device", message("Use this modem: %1.", {Kinds.join(", ")}), "KIND"},
+        {"screenshot", message("Write a picture of the window as a PNG file, and end."), "FILE"},
+        {"page", message("Open the settings at this page: its title or its plug-in's name."), "NAME"},
+        {"tray", message("Start in the desktop's tray, without a window, where there is one.")},
+        {"trace", message("Write traces to standard error.")},
+    });
+}
+
 [[noreturn]] void refuse(const QString& problem) {
-    std::fprintf(stderr, "orbisdial: %s\n", qPrintable(problem));
-    std::exit(2);
+    StandardOutput::writeDiagnostic("orbisdial", problem);
+    std::exit(WrongUsage);
 }
 
 // Whoever asked for a text that can't be written has not been answered.
 [[noreturn]] void answer(const QString& text) {
     const QString problem = StandardOutput::writeText(text);
     if (!problem.isNull()) StandardOutput::writeDiagnostic("orbisdial", problem);
-    std::exit(problem.isNull() ? 0 : 1);
+    std::exit(problem.isNull() ? Done : Failed);
+}
+
+void useLanguage(const QString& code) {
+    if (!code.isEmpty() && Change::SetLanguage(code)) return;
+    Languages::useStored();
+    if (!code.isEmpty())
+        refuse(message("no language \"%1\"; there are: %2", {code, Change::GetLanguages().join(", ")}));
+}
+
+QString helpText() {
+    QCommandLineParser parser;
+    describe(&parser);
+    return parser.helpText();
+}
+
+QString importedFile(const QCommandLineParser& parser) {
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1) refuse(message("unexpected argument: %1", {files[1]}));
+    if (files.isEmpty()) return QString();
+    if (parser.isSet("screenshot")) refuse(message("a picture is taken without a file to import"));
+    return QFileInfo(files.first()).absoluteFilePath();
+}
+
+QString deviceKind(const QCommandLineParser& parser) {
+    const QString kind = parser.value("device");
+    if (parser.isSet("device") && !Kinds.contains(kind))
+        refuse(message("unknown device %1; use one of %2", {'"' + kind + '"', Kinds.join(", ")}));
+    return kind;
 }
 
 }  // namespace
 
 Options Options::fromArguments(const QCoreApplication& application) {
-    const QCommandLineOption language("lang", "Speak this language, e.g. \"de\" or \"zh_CN\".", "code");
-    const QCommandLineOption device("device", "Use this modem: auto, modemmanager, simulated or none.", "kind");
-    const QCommandLineOption screenshot("screenshot", "Write a picture of the window as a PNG file, and end.", "file");
-    const QCommandLineOption page("page", "Open the settings at this page: its title or its plug-in's name.", "name");
-    const QCommandLineOption tray("tray", "Start in the desktop's tray, without a window, where there is one.");
-    const QCommandLineOption trace("trace", "Write traces to the standard error output.");
-
     QCommandLineParser parser;
-    parser.setApplicationDescription("Connection manager for mobile-broadband modems.");
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addPositionalArgument("file", "A profile file to import; the window asks first.", "[FILE]");
-    parser.addOptions({language, device, screenshot, page, tray, trace});
-    if (!parser.parse(application.arguments())) refuse(parser.errorText());
-    if (parser.isSet("help")) answer(parser.helpText());
+    describe(&parser);
+    const bool isClear = parser.parse(application.arguments());
+    useLanguage(parser.value("lang"));
+    if (!isClear) refuse(parser.errorText());
+    if (parser.isSet("help")) answer(helpText());
     if (parser.isSet("version")) answer(QString("orbisdial %1\n").arg(QCoreApplication::applicationVersion()));
-    static const QStringList kinds{"auto", "modemmanager", "simulated", "none"};
-    if (parser.isSet(device) && !kinds.contains(parser.value(device)))
-        refuse(QString("unknown modem \"%1\"; use one of %2").arg(parser.value(device), kinds.join(", ")));
-    const QStringList others = parser.positionalArguments();
-    if (others.size() > 1) refuse("unexpected argument: " + others[1]);
-    if (!others.isEmpty() && parser.isSet(screenshot)) refuse("a picture is taken without a file to import");
-    const QString file = others.isEmpty() ? QString() : QFileInfo(others.first()).absoluteFilePath();
-    return {parser.value(language), parser.value(device), parser.value(screenshot), parser.value(page), file,
-            parser.isSet(tray),     parser.isSet(trace)};
+    return {deviceKind(parser),   parser.value("screenshot"), parser.value("page"),
+            importedFile(parser), parser.isSet("tray"),       parser.isSet("trace")};
 }

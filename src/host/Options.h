@@ -8,7 +8,6 @@
 class QCoreApplication;
 
 struct Options {
-    QString language;    // empty: the stored one, or the system's
     QString device;      // empty: what the environment says
     QString screenshot;  // the file to write; empty: none
     QString page;        // of the settings, which it opens; empty: none
@@ -16,7 +15,8 @@ struct Options {
     bool tray = false;   // start without a window where there is a tray
     bool trace = false;
 
-    // Reads the application's arguments. Ends the process for --help, --version and a wrong usage.
+    // Reads the application's arguments and makes the language current: the one that they name, or the stored one, or
+    // the system's. Ends the process for --help, --version and a wrong usage.
     static Options fromArguments(const QCoreApplication& application);
 };
 

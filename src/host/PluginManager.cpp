@@ -5,11 +5,12 @@
 #include <QJsonObject>
 #include <QLibrary>
 #include <QPluginLoader>
-#include <cstdio>
 
 #include "HostText.h"
 #include "INetConnectSetting.h"
 #include "IUIPlugin.h"
+#include "Message.h"
+#include "StandardOutput.h"
 #include "Startup.h"
 
 namespace {
@@ -131,7 +132,6 @@ void PluginManager::discard(const Plugin& plugin) {
 
 bool PluginManager::report(const QString& file, const char* reason, const QString& detail) {
     m_Problems.append({file, reason, detail});
-    std::fprintf(stderr, "orbisdial: %s: %s\n", qPrintable(QDir::toNativeSeparators(file)),
-                 qPrintable(m_Problems.last().text()));
+    StandardOutput::writeDiagnostic("orbisdial", withReason(QDir::toNativeSeparators(file), m_Problems.last().text()));
     return false;
 }

@@ -6,20 +6,19 @@
 #include <QPixmap>
 #include <QTimer>
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <memory>
 
-#include "Change.h"
 #include "EndSignals.h"
 #include "Host.h"
 #include "HostStyle.h"
-#include "Languages.h"
+#include "Message.h"
 #include "Options.h"
 #include "ProgramStart.h"
 #include "ReadablePalette.h"
 #include "SettingsPages.h"
 #include "SingleInstance.h"
+#include "StandardOutput.h"
 
 namespace {
 
@@ -28,29 +27,19 @@ enum ExitStatus { Done = 0, Failed = 1, WrongUsage = 2 };
 // Longer than what a start leaves to the event loop: the layout, and the lists that a modem's first event brings.
 constexpr int SettleMs = 400;
 
-bool useLanguage(const QString& code) {
-    if (code.isEmpty()) {
-        Languages::useStored();
-        return true;
-    }
-    if (Change::SetLanguage(code)) return true;
-    std::fprintf(stderr, "orbisdial: no language \"%s\"; there are: %s\n", qPrintable(code),
-                 qPrintable(Change::GetLanguages().join(", ")));
-    return false;
-}
+void say(const QString& problem) { StandardOutput::writeDiagnostic("orbisdial", problem); }
 
 bool usePage(Host* host, const QString& name) {
     if (name.isEmpty()) return true;
     SettingsPages* const pages = host->window()->pages();
     if (pages->showPage(name)) return true;
-    std::fprintf(stderr, "orbisdial: no page \"%s\"; there are: %s\n", qPrintable(name),
-                 qPrintable(pages->pageNames().join(", ")));
+    say(message("no page \"%1\"; there are: %2", {name, pages->pageNames().join(", ")}));
     return false;
 }
 
 void takeScreenshot(QWidget* window, const QString& file) {
     const bool written = window->grab().save(file, "PNG");
-    if (!written) std::fprintf(stderr, "orbisdial: can't write the picture %s\n", qPrintable(file));
+    if (!written) say(message("can't write the picture %1", {file}));
     QCoreApplication::exit(written ? Done : Failed);
 }
 
@@ -128,5 +117,5 @@ int main(int argc, char* argv[]) {
     // The window is filled by the modem's events; it never waits for one.
     if (!qEnvironmentVariableIsSet("ORBISDIAL_DEVICE_WAIT_MS")) qputenv("ORBISDIAL_DEVICE_WAIT_MS", "0");
     if (!options.device.isEmpty()) qputenv("ORBISDIAL_DEVICE", options.device.toUtf8());
-    return useLanguage(options.language) ? run(options) : WrongUsage;
+    return run(options);
 }

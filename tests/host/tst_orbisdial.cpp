@@ -44,6 +44,22 @@ private slots:
         QCOMPARE(QImage(m_Picture, "PNG").width() > 300, status == 0);
     }
 
+    void speaksTheUsersLanguage_data() {
+        const Rows<QStringList, QByteArray, QString> row("arguments", "LANGUAGE", "said");
+        row("English", {"--help"}, "ja", "Connection manager for");
+        row("the system's", {"--help"}, "de", QString::fromUtf8("Verbindungsmanager f\u00fcr"));
+        row("the one wanted", {"--help", "--lang", "es"}, "de", "Gestor de conexiones");
+        row("a fault", {"--lang", "es", "--page", "None"}, "de", QString::fromUtf8("no existe la p\u00e1gina"));
+    }
+    void speaksTheUsersLanguage() {
+        qputenv("LC_ALL", "ja_JP.UTF-8");
+        qputenv("LANGUAGE", cell<QByteArray>("LANGUAGE"));
+        const Outcome outcome = runProgram(ORBISDIAL_PROGRAM, cell<QStringList>("arguments"));
+        qputenv("LC_ALL", "C.UTF-8");
+        qunsetenv("LANGUAGE");
+        QVERIFY2((outcome.out + outcome.err).contains(cell<QString>("said").toUtf8()), outcome.out + outcome.err);
+    }
+
     // As when its window is closed: a default that only the SIM card proposed does not stay behind.
     void endsInOrderWhenASignalAsksForIt_data() {
         const Rows<int> row("number");

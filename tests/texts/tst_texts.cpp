@@ -130,10 +130,10 @@ QStringList keysOfTexts(const QString& context, const QString& folder, const QSt
     return keys;
 }
 
-// What orbisctl says, and why libraries say that something is wrong.
+// What the programs say on a terminal, and why libraries say that something is wrong.
 QStringList usedMessages() {
     const QString literal = "\\s*\"((?:[^\"\\\\]|\\\\.)*)\"";
-    return keysOfTexts("orbisctl/", "src/cli", "(?:message\\(|QT_TRANSLATE_NOOP\\(\"orbisctl\",)" + literal) +
+    return keysOfTexts("Programs/", "src", "(?:\\bmessage\\(|QT_TRANSLATE_NOOP\\(\"Programs\",)" + literal) +
            keysOfTexts("Reasons/", "src", "(?:\\breasonText\\(|\"Reasons\",)" + literal) +
            keysOfTexts("Reasons/", "src/NetConnectPlugin", "\\b(?:refuse|systemFailure|fail)\\(" + literal);
 }
@@ -163,7 +163,7 @@ private slots:
             QVERIFY2(!m_Texts[language].isEmpty(), qPrintable(language));
         }
         for (const QString& key : usedMessages()) m_Texts["en"].insert(key, {key.section('/', 1), true});
-        QVERIFY(m_Texts["en"].contains("orbisctl/not connected") && m_Texts["en"].contains("Reasons/can't write"));
+        QVERIFY(m_Texts["en"].contains("Programs/not connected") && m_Texts["en"].contains("Reasons/can't write"));
     }
 
     void everyUsedIdHasAnEnglishTextAndNoOtherDoes() {

@@ -9,7 +9,7 @@
 namespace {
 
 const char English[] = "en";
-const char Context[] = "orbisctl";
+const char Context[] = "Programs";
 
 QString variable(const char* name) { return QString::fromLatin1(qgetenv(name)); }
 

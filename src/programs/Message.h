@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What orbisctl says to a person, in the language of the user's locale: the seven languages of the window. What scripts
-// read is English for ever.
-#ifndef ORBISDIAL_CLI_MESSAGE_H
-#define ORBISDIAL_CLI_MESSAGE_H
+// What the programs say to a person on a terminal, in the seven languages of the window. What scripts read is English
+// for ever.
+#ifndef ORBISDIAL_PROGRAMS_MESSAGE_H
+#define ORBISDIAL_PROGRAMS_MESSAGE_H
 
 #include <QStringList>
 
@@ -13,7 +13,7 @@ void useLanguageOfLocale();
 void useEnglish();
 
 // The English text in the current language, with "%1", "%2" and so on replaced by the values. A text that does not
-// stand in such a call, but in a table, is marked with QT_TRANSLATE_NOOP("orbisctl", ...).
+// stand in such a call, but in a table, is marked with QT_TRANSLATE_NOOP("Programs", ...).
 QString message(const char* english, const QStringList& values = {});
 
 // "FILE: reason", and the like.
