@@ -89,6 +89,7 @@ void HostSettingsPage::build() {
     m_LanguageLabel = new QLabel;
     m_Language = new QComboBox;
     m_Language->setObjectName(QStringLiteral("Host_LanguageBox"));
+    m_Language->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // also with a larger font
     m_LanguageLabel->setBuddy(m_Language);
     for (const QString& code : Change::GetLanguages()) m_Language->addItem(Languages::title(code), code);
     auto* form = new QFormLayout(m_Widget);

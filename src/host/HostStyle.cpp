@@ -11,21 +11,25 @@ bool isProfileList(const QWidget* widget) {
     return widget && widget->objectName() == QLatin1String("NetConnectSettingUIPlugin_ProfileCombobox");
 }
 
+bool isRadio(QStyle::PrimitiveElement element) { return element == QStyle::PE_IndicatorRadioButton; }
+
 // Qt's own style draws rims darker than the window, which nobody sees on a dark one.
 bool lacksRim(const QStyle* style, QStyle::PrimitiveElement element, const QStyleOption& option) {
-    const bool hasRim = element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_FrameLineEdit;
+    const bool hasRim =
+        isRadio(element) || element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_FrameLineEdit;
     const QColor ground = option.palette.color(QPalette::Window), text = option.palette.color(QPalette::WindowText);
     return hasRim && ground.lightness() < text.lightness() && style->inherits("QFusionStyle");
 }
 
-void drawRim(QPainter* painter, const QStyleOption& option) {
+void drawRim(QPainter* painter, const QStyleOption& option, bool isRound) {
     QColor colour = option.palette.color(QPalette::WindowText);
     colour.setAlphaF(0.55);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(colour);
     painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+    const QRectF rim = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    isRound ? painter->drawEllipse(rim) : painter->drawRoundedRect(rim, 2, 2);
     painter->restore();
 }
 
@@ -44,5 +48,5 @@ void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
                               const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (option && !(option->state & State_HasFocus) && lacksRim(baseStyle(), element, *option))
-        drawRim(painter, *option);
+        drawRim(painter, *option, isRadio(element));
 }

@@ -61,6 +61,7 @@ QComboBox* makeSettingBox() {
 QComboBox* makeBox(const char* name, const QVector<Choice>& choices) {
     auto* box = new QComboBox;
     box->setObjectName(QLatin1String(name));
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // also in another language
     for (const Choice& choice : choices) box->addItem(QLatin1String(choice.text), choice.value);
     return box;
 }

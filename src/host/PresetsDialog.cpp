@@ -139,6 +139,7 @@ QWidget* PresetsDialog::buildDetails() {
         const Detail detail{id, new QLabel, makeText(id)};
         detail.value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         detail.title->setBuddy(detail.value);
+        detail.title->setAlignment(Qt::AlignTop | Qt::AlignLeading);
         for (QLabel* label : {detail.title, detail.value}) label->setContentsMargins(0, 0, 0, fontMetrics().descent());
         m_Form->addRow(detail.title, detail.value);
         m_Details.append(detail);
