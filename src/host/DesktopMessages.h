@@ -18,6 +18,9 @@ public:
     // Tells what of the change is worth it. What was so before the first call is no news.
     void refresh(const ConnectionPicture& picture);
 
+    // What comes next is no news: it says the same in another language.
+    void forget() { m_IsFirst = true; }
+
 signals:
     // A message was clicked.
     void clicked();

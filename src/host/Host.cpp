@@ -105,6 +105,7 @@ bool Host::changeLanguage(const QString& code) {
     if (!Change::SetLanguage(code)) return false;
     m_Plugins.notifyAll(NotifyLanguageChanged);
     m_SettingsPage.retranslate();
+    m_Messages.forget();
     m_Window.retranslate();
     if (m_Tray) m_Tray->retranslate();
     return true;

@@ -86,6 +86,7 @@ void NewProfileDialog::retranslate() {
     setWindowTitle(hostText("IDS_HOST_NEW_PROFILE_TITLE"));
     m_Intro->setText(hostText("IDS_HOST_NEW_PROFILE_INTRO", {m_Values.name}));
     m_NameLabel->setText(hostText("IDS_HOST_NEW_PROFILE_NAME"));
+    m_Problem->hide();  // it was said in the language of before
     m_MakeDefault->setText(hostText("IDS_HOST_NEW_PROFILE_DEFAULT"));
     m_MakeDefault->setToolTip(mayBecomeDefault() ? QString() : hostText("IDS_HOST_NEW_PROFILE_CONNECTED"));
     m_MakeDefault->setAccessibleDescription(m_MakeDefault->toolTip());
