@@ -101,6 +101,7 @@ private slots:
                              "<a b=\"\xff\"/>",
                              "<a b=\"\xc0\xbc\"/>",
                              "<a b=\"\xed\xa0\x80\"/>",
+                             "<a b=\"\xef\xbf\xbe\"/>",
                              "<a b=\"\xef\xbf\xbf\"/>",
                              "<a b=\"\xf4\x90\x80\x80\"/>",
                              "<a xmlns=\"n\"/>",
@@ -254,9 +255,10 @@ private:
     }
 
     static QString randomText(QRandomGenerator* random) {
-        static const QString kinds[] = {
-            "",   "plain", "<",  ">", "&",  "\"",  "'",
-            "\t", "\n",    "\r", "=", "/>", "-->", QString::fromUtf8("\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80")};
+        static const QString edges = QString::fromUtf8(
+            "\xc2\x80\xdf\xbf\xe0\xa0\x80\xed\x9f\xbf\xee\x80\x80\xef\xbf\xbd\xf0\x90\x80\x80\xf4\x8f\xbf\xbd");
+        static const QString kinds[] = {"",   "plain", "<",  ">", "&",  "\"",  "'",
+                                        "\t", "\n",    "\r", "=", "/>", "-->", edges};
         QString text;
         for (int parts = random->bounded(4); parts > 0; --parts) text += kinds[random->bounded(int(std::size(kinds)))];
         return text;

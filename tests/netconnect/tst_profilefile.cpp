@@ -108,10 +108,11 @@ private slots:
         }
     }
 
-    // Every encoding that a file can be in, as its byte order mark or its declaration tells.
+    // Every encoding that a file can be in, as its byte order mark, its declaration or its first bytes tell.
     void encodings_data() {
         nameRows("encoding", {"UTF-8", "UTF-16", "UTF-16LE", "UTF-16BE", "UTF-32", "UTF-32LE", "UTF-32BE", "ISO-8859-1",
-                              "windows-1252"});
+                              "windows-1252", "UTF-16LE undeclared", "UTF-16BE undeclared", "UTF-32LE undeclared",
+                              "UTF-32BE undeclared"});
     }
     void encodings() {
         const auto load = [this](const QByteArray& text) {
@@ -365,11 +366,12 @@ private:
         for (int i = 0; i < count; ++i) content += " a" + QByteArray::number(i) + "='='";
         return content + "/></v>";
     }
-    // The text with a declaration of its encoding, or a byte order mark where that is what tells.
-    static QByteArray inEncoding(const QString& encoding, const QByteArray& text) {
-        const bool isMarked = encoding == "UTF-16" || encoding == "UTF-32";
+    // The text with a declaration of its encoding, unless a byte order mark or "undeclared" stands in its place.
+    static QByteArray inEncoding(const QString& row, const QByteArray& text) {
+        const QString encoding = row.section(' ', 0, 0);
+        const bool isDeclared = row == encoding && encoding != "UTF-16" && encoding != "UTF-32";
         const QString declaration = "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>";
-        return encoded((isMarked ? QString() : declaration) + QString::fromUtf8(text), encoding.toLatin1());
+        return encoded((isDeclared ? declaration : QString()) + QString::fromUtf8(text), encoding.toLatin1());
     }
     QList<DialupProfile> m_Profiles;
     QString m_Default;
