@@ -222,7 +222,8 @@ void DialupPlugin::showCall() {
     if (!m_Connection.isDown()) closePrompt();
     if (m_Prompt) return;
     if (!m_Connection.name.isEmpty()) m_ProfileName = m_Connection.name;
-    m_Problem = {m_Connection.failure, m_Connection.words};
+    const bool isRefused = m_Connection.isUp() && m_Connection.failure != VRKS_FAILURE_NONE;
+    m_Problem = {m_Connection.failure, m_Connection.words, isRefused ? "IDS_DIALUP_CANNOT_HANG_UP" : nullptr};
 }
 
 void DialupPlugin::showProblem(const Problem& problem) {

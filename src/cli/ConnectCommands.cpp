@@ -84,11 +84,14 @@ void warn(const QStringList& notes) {
         if (!note.isEmpty()) printWarning(note);
 }
 
-// False when it did not end in time.
+// False when it did not end in time, or was not allowed to.
 bool waitUntilDown(const EventWait& events, const QDeadlineTimer& deadline) {
-    while (!DataConnection::current().isDown())
+    for (;;) {
+        const DataConnection connection = DataConnection::current();
+        if (connection.isDown()) return true;
+        if (connection.isUp() && connection.failure != VRKS_FAILURE_NONE) return false;
         if (events.wait(deadline) == EventWait::TimeIsUp) return false;
-    return true;
+    }
 }
 
 class Dialling {
@@ -214,6 +217,14 @@ void watch(Output& output) {
     } while (events.wait(QDeadlineTimer(QDeadlineTimer::Forever), EventWait::StandardOutput) != EventWait::ReaderGone);
 }
 
+CommandError stillUp() {
+    const DataConnection connection = DataConnection::current();
+    if (!connection.isUp() || connection.failure == VRKS_FAILURE_NONE)
+        return CommandError::timedOut(message("the connection has not ended yet"));
+    const QString text = message("the connection can't be ended");
+    return CommandError::refused(withDetails(text, ConnectionText::details(connection)));
+}
+
 }  // namespace
 
 void connectProfile(const Invocation& invocation, Output& output) {
@@ -238,7 +249,7 @@ void disconnect(const Invocation& invocation, Output& output) {
     }
     if (VRKS_NetConnectSrv_HangUp() != 0 && !DataConnection::current().isDown())
         throw CommandError::refused(message("the connection can't be ended"));
-    if (!waitUntilDown(events, deadline)) throw CommandError::timedOut(message("the connection has not ended yet"));
+    if (!waitUntilDown(events, deadline)) throw stillUp();
     output.result({{"disconnected", before.name}}, {message("disconnected: %1", {before.name})});
 }
 

@@ -278,15 +278,17 @@ typedef struct VRKS_DialRequest {
 VRKS_API long VRKS_NetConnectSrv_Dial(const VRKS_DialRequest* request);
 
 /* Ends the connection, or gives the dialling up, which then ends as VRKS_FAILURE_CANCELLED; also one that another
- * process of ours began. Returns at once. Fails when there is none of ours: a process that was to dial stops then. */
+ * process of ours began. Returns at once. Fails when there is none of ours: a process that was to dial stops then.
+ * Where it is refused later, as to a user who may not, the connection is up again and its record tells why. */
 VRKS_API long VRKS_NetConnectSrv_HangUp(void);
 
 typedef struct VRKS_Connection {
     unsigned int size;
-    int state;           /* VRKS_CONNECTION_..., of ours */
-    int step;            /* VRKS_STEP_... */
-    int failure;         /* VRKS_FAILURE_...; none while up, and after this process hung up */
-    int isOwn;           /* 1 when this process began it */
+    int state;   /* VRKS_CONNECTION_..., of ours */
+    int step;    /* VRKS_STEP_... */
+    int failure; /* VRKS_FAILURE_...; while up: why hanging up was refused, else none; none after this process */
+                 /* hung up */
+    int isOwn;   /* 1 when this process began it */
     int endsWithProcess; /* 1 when it ends with the process that began it */
     long long since;     /* when it came up, seconds of Unix time; 0: unknown or not up. Of another process's: */
     long long seconds;   /* when its data session began, a moment before. How long, by a clock that nobody */

@@ -26,7 +26,7 @@
  *   DIAL_WORDS               the network's own words for a failure
  *   DIAL_MS, HANG_UP_MS      how long they take
  *   DIAL_DROP_MS             the connection drops after so long; 0: never
- *   REFUSE_HANG_UP           1: hanging up fails
+ *   REFUSE_HANG_UP           1: hanging up fails; 2: it is refused as not allowed, after HANG_UP_MS
  *   RATE                     bytes that a connection receives in a second; an eighth is sent
  *   USED_BY                  the other program whose connection uses the modem
  *   USSD                     answers, asks, not-supported, network, timeout, not-allowed, other

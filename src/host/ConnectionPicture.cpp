@@ -180,8 +180,9 @@ QString cardText(const ConnectionFacts& facts) {
 // Sentences that matter only at times.
 QString notesText(const ConnectionFacts& facts) {
     const bool wasElsewhere = facts.isDown() && facts.connection.failure == VRKS_FAILURE_HUNG_UP;
-    QStringList notes = {wasElsewhere ? facts.failure : QString(), facts.isDown() ? facts.automaticHold : facts.notes,
-                         facts.usageWarning};
+    const bool isStillUp = facts.state == IDialupUIService::Connected;  // though it was to end
+    QStringList notes = {wasElsewhere || isStillUp ? facts.failure : QString(),
+                         facts.isDown() ? facts.automaticHold : facts.notes, facts.usageWarning};
     notes.removeAll(QString());
     return notes.join(QLatin1Char('\n'));
 }

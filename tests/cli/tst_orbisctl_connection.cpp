@@ -116,9 +116,10 @@ private slots:
         QVERIFY2(outcome.out.startsWith("connected: Alpha"), outcome.out);
     }
 
+    void hangingUpIsRefused_data() { nameRows("setting", {"REFUSE_HANG_UP=1", "REFUSE_HANG_UP=2"}); }
     void hangingUpIsRefused() {
         const OrbisctlFixture fixture;
-        const SimulatedSettings settings({"REFUSE_HANG_UP=1"});
+        const SimulatedSettings settings({cell("setting").toLatin1()});
         Running command({"connect", "--hold"});
         QTRY_VERIFY(command.out().contains("connected: Alpha"));
         command.send(SIGINT);

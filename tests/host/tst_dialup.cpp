@@ -196,10 +196,14 @@ private slots:
     void saysThatItCannotEnd() {
         m_Service->Connect("Home");
         QTRY_VERIFY(m_Service->IsConnected());
-        vrks_simulated_set("REFUSE_HANG_UP", "1");
-        QCOMPARE(m_Service->Disconnect(), 2);
-        QVERIFY(m_Service->IsConnected());
-        QVERIFY2(m_Service->GetLastFailure().contains("could not be ended"), qPrintable(m_Service->GetLastFailure()));
+        for (const bool isLate : {false, true}) {
+            vrks_simulated_set("REFUSE_HANG_UP", isLate ? "2" : "1");
+            QCOMPARE(m_Service->Disconnect(), isLate ? 0 : 2);
+            QCOMPARE(m_Service->IsConnected(), !isLate);
+            QTRY_VERIFY(m_Service->IsConnected());
+            QVERIFY2(m_Service->GetLastFailure().contains("could not be ended"),
+                     qPrintable(m_Service->GetLastFailure()));
+        }
         vrks_simulated_set("REFUSE_HANG_UP", "0");
         QCOMPARE(m_Service->Disconnect(), 0);
         QTRY_COMPARE(m_Service->GetConnectionState(), State::Disconnected);

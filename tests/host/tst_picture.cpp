@@ -165,6 +165,8 @@ private slots:
         facts = failedFacts();
         facts.state = IDialupUIService::Connecting;
         QVERIFY(!Picture::of(facts).hasFailed);
+        facts.state = IDialupUIService::Connected;  // it could not be ended
+        QVERIFY(!Picture::of(facts).hasFailed && Picture::of(facts).notes.contains(facts.failure));
         facts = lockedFacts();
         facts.failure = "locked";
         picture = Picture::of(facts);

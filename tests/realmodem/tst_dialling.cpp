@@ -234,8 +234,10 @@ private slots:
         if (command.contains("radio")) QVERIFY(nmcli("radio wwan on"));
     }
 
-    void radioThatHasJustComeOn() {
+    void radioThatIsOffOrHasJustComeOn() {
         QVERIFY(nmcli("radio wwan off"));
+        QVERIFY(dial());
+        TRY_DOWN(VRKS_FAILURE_NOT_READY);
         QVERIFY(nmcli("radio wwan on"));
         QVERIFY(dial());
         TRY_UP();
@@ -327,6 +329,20 @@ private slots:
         QTRY_VERIFY2_WITH_TIMEOUT((last += other.readAllStandardOutput()).endsWith(expected), last, 15000);
         other.closeWriteChannel();
         QVERIFY(other.waitForFinished());
+    }
+
+    void theCommandLineHangsUp() {
+        QVERIFY(dial());
+        TRY_UP();
+        if (isRealRoot()) {
+            QVERIFY(m_Stack.permit(false));
+            const Outcome refused = runProgram("setpriv", {"--reuid=65534", "--clear-groups", ORBISCTL, "disconnect"});
+            QVERIFY(m_Stack.permit(true));
+            QVERIFY2(refused.status == 4 && refused.err.contains("can't be ended (Not authorized"), refused.err);
+        }
+        QVERIFY2(connection().state == VRKS_CONNECTION_UP, shown());
+        QCOMPARE(runProgram(ORBISCTL, {"disconnect"}).out, QByteArray("disconnected: Home\n"));
+        TRY_DOWN(VRKS_FAILURE_HUNG_UP);
     }
 
     // As it reaches this process, so it reaches one that pauses before it dials by itself.

@@ -373,6 +373,7 @@ bool Dialler::isAnswerDue() const {
 
 void Dialler::deactivate() {
     m_Dialled.isDeactivating = true;
+    m_Dialled.refusal = {};
     m_Patience.start(EndingMs, [this] { stopWaiting(); });
     m_Counters.get();
     m_HangUpSignal->send(nm_object_get_path(NM_OBJECT(m_Watch->connection())));
@@ -393,12 +394,13 @@ void Dialler::onDeactivated(GObject* source, GAsyncResult* result, gpointer self
     nm_client_deactivate_connection_finish(NM_CLIENT(source), result, &error);
     const Error failure(error);
     if (!failure || isCancelled(failure)) return;
-    auto* connection = static_cast<Dialler*>(self);
-    if (connection->m_Phase != Phase::Activating && connection->m_Phase != Phase::Up) return;
-    connection->m_Patience.stop();
-    connection->m_Dialled.isHangingUp = false;
-    connection->m_Dialled.isDeactivating = false;
-    connection->updateSoon();
+    auto* dialler = static_cast<Dialler*>(self);
+    if (dialler->m_Phase != Phase::Activating && dialler->m_Phase != Phase::Up) return;
+    dialler->m_Patience.stop();
+    dialler->m_Dialled.isHangingUp = false;
+    dialler->m_Dialled.isDeactivating = false;
+    dialler->m_Dialled.refusal = failureOf(failure.get());
+    dialler->updateSoon();
 }
 
 // The first reason tells; the states after it only clean up.

@@ -53,6 +53,7 @@ private:
         std::string stuckModem;   // its object's path when it hung in a call of before; it is looked for anew
         bool isHangingUp = false;
         bool isDeactivating = false;  // NetworkManager was asked to end it
+        Failure refusal{};            // why it did not
         bool wasUp = false;
         bool wasInDoubt = false;        // whether the radio was switched off
         bool wasRemovalLikely = false;  // and was waited for

@@ -75,6 +75,8 @@ Connection Dialler::described() const {
         connection.state = VRKS_CONNECTION_HANGING_UP;
     } else if (m_Phase == Phase::Up) {
         connection.state = VRKS_CONNECTION_UP;
+        connection.failure = m_Dialled.refusal.kind;
+        connection.words = m_Dialled.refusal.words;
         describeLink(connection);
     } else {
         connection.state = VRKS_CONNECTION_DIALLING;

@@ -313,16 +313,25 @@ void SimulatedBackend::connect() {
 
 bool SimulatedBackend::hangUp() {
     const Lock lock(m_Mutex);
-    if (m_Connection.state == VRKS_CONNECTION_DOWN || m_Settings.network.refusesHangUp.value_or(0) != 0) return false;
+    const int refusal = m_Settings.network.refusesHangUp.value_or(0);
+    if (m_Connection.state == VRKS_CONNECTION_DOWN || refusal == 1) return false;
     if (m_Connection.state == VRKS_CONNECTION_HANGING_UP) return true;
+    const bool isRefused = isUp() && refusal != 0;
     const int failure = isUp() ? VRKS_FAILURE_NONE : VRKS_FAILURE_CANCELLED;
     m_LastTraffic = trafficNow();
     m_Connection.state = VRKS_CONNECTION_HANGING_UP;
     m_Connection.step = VRKS_STEP_NONE;
     ++m_DialRun;
     publish();
-    later(m_Settings.network.hangUpMs.value_or(0), &m_DialRun, [this, failure] { end(failure); });
+    later(m_Settings.network.hangUpMs.value_or(0), &m_DialRun,
+          [this, failure, isRefused] { isRefused ? refuseHangUp() : end(failure); });
     return true;
+}
+
+void SimulatedBackend::refuseHangUp() {
+    m_Connection.state = VRKS_CONNECTION_UP;
+    m_Connection.failure = VRKS_FAILURE_NOT_ALLOWED;
+    publish();
 }
 
 void SimulatedBackend::end(int failure) {

@@ -63,6 +63,7 @@ private:
     int outcome() const;
     void finishDialling();
     void connect();
+    void refuseHangUp();
     void end(int failure);
     void endWithoutModem();
     Traffic trafficNow() const;

@@ -151,7 +151,7 @@ const NumberSetting<Network> NetworkNumbers[] = {
     {"DIAL_MS", &Network::dialMs, "1500", number<0, LongestMs>, decimal},
     {"DIAL_DROP_MS", &Network::dropMs, "0", number<0, LongestMs>, decimal},
     {"HANG_UP_MS", &Network::hangUpMs, "300", number<0, LongestMs>, decimal},
-    {"REFUSE_HANG_UP", &Network::refusesHangUp, "0", number<0, 1>, decimal},
+    {"REFUSE_HANG_UP", &Network::refusesHangUp, "0", number<0, 2>, decimal},
     {"RATE", &Network::rate, "100000", number<0, Most>, decimal},
     {"USSD", &Network::ussd, "answers", word<Ussds>, wordFor<Ussds>},
     {"USSD_MS", &Network::ussdMs, "300", number<0, LongestMs>, decimal},
