@@ -8,13 +8,13 @@
 
 #include "NetConnectUIService.h"
 
-// How long others wait for the profiles when the host shows another page first, in milliseconds.
+// How long others wait for the profiles where nobody sees the page that is on show, in milliseconds.
 static const int LongestWait = 250;
 
 NetConnectPageWatch::NetConnectPageWatch(QWidget* page, CNetConnectUIService* service)
     : QObject(page), m_pService(service), m_pPage(page), m_FileWatch(this) {
     page->installEventFilter(this);
-    QTimer::singleShot(LongestWait, this, SLOT(fillAwaitedList()));
+    QTimer::singleShot(0, this, SLOT(fillUnlessOnShow()));
     connect(qApp, SIGNAL(focusChanged(QWidget*, QWidget*)), this, SLOT(onFocusChanged(QWidget*, QWidget*)));
     connect(&m_FileWatch, SIGNAL(changed()), this, SLOT(onFileChanged()));
 }
@@ -65,6 +65,12 @@ bool NetConnectPageWatch::isLostClick(QObject* watched, QEvent* event) {
 void NetConnectPageWatch::onFocusChanged(QWidget*, QWidget* now) {
     if (QApplication::mouseButtons() != Qt::NoButton) return;
     if (now && m_pPage->isAncestorOf(now)) m_pService->applyProfileLocks();
+}
+
+// A page that the host has shown by now is painted first; that of a minimised window is not.
+void NetConnectPageWatch::fillUnlessOnShow() {
+    if (!m_pPage->isVisible()) return fillAwaitedList();
+    QTimer::singleShot(LongestWait, this, SLOT(fillAwaitedList()));
 }
 
 void NetConnectPageWatch::fillAwaitedList() {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Watches the settings page and its surroundings for the service: that the page is being destroyed, whoever destroys
-// it; that it has been painted, or has not been for a while, when a list that takes long to read is filled; that a
-// person turns to it or the dialler tells the host of its state, when a connection may have come up or gone down; that
-// another program changed the user's file; and that the import/export dialog was closed.
+// it; that it has been painted, or is not on show, when a list that takes long to read is filled; that a person turns
+// to it or the dialler tells the host of its state, when a connection may have come up or gone down; that another
+// program changed the user's file; and that the import/export dialog was closed.
 #ifndef ORBISDIAL_NETCONNECTPAGEWATCH_H
 #define ORBISDIAL_NETCONNECTPAGEWATCH_H
 
@@ -34,6 +34,7 @@ public:
 
 private slots:
     void onFocusChanged(QWidget* before, QWidget* now);
+    void fillUnlessOnShow();
     void fillAwaitedList();
     void onTransferClosed();
     void onFileChanged();
