@@ -126,15 +126,6 @@ private slots:
         QVERIFY(FaultsFixture::read(fixture.userFile()).contains("New"));
     }
 
-    void aWriteThatTakesOnlyAPartGoesOn() {
-        FaultsFixture fixture;
-        const DialupProfile large = LogicFixture::named(QString(10000, 'x'));
-        const Failing failing({"write in full", 0});
-        QCOMPARE(fixture.logic()->SaveDialUpProfile(large), 0);
-        QVERIFY(FaultsFixture::read(fixture.userFile()).contains(large.name.toUtf8() + "\""));
-        QVERIFY(FaultsFixture::read(fixture.userFile()).endsWith("</vrksdoc>\n"));
-    }
-
     void aDeviceThatTakesNothingEndsTheOutput() {
         const FaultsFixture fixture;
         qputenv("ORBISDIAL_TEST_FAULT", "output of nothing=0");

@@ -44,8 +44,9 @@ const QMap<QString, Errors>& errorsByCall() {
     return errors;
 }
 
-// Interrupted calls are made again.
-const QStringList Interruptible{"open", "open to read", "read", "write", "fsync", "fsync folder", "close", "flock"};
+// Interrupted calls are made again, and those that did a part go on.
+const QStringList Interruptible{"open",          "open to read", "read",         "read in full", "write",
+                                "write in full", "fsync",        "fsync folder", "close",        "flock"};
 
 void dropTrace(QtMsgType, const QMessageLogContext&, const QString&) {}
 

@@ -35,6 +35,9 @@ private slots:
         QCOMPARE(only.name + only.apn + only.chap + only.pap + only.Remember + only.encrypttype, QString("aijkrt"));
         QCOMPARE(save(m_Profiles, m_Default, QString(), m_IsUserSet), 0);
         QCOMPARE(user(), QByteArray(Golden));
+        QCOMPARE(save(m_Profiles, "new", QString(), false), 0);  // the card's mode has a default of its own
+        const QByteArray items = "<item name=\"w\" value=\"WCDMA\"/>\n        <item name=\"new\" value=\"CDMA\"/>\n";
+        QVERIFY2(user().contains(items), user());
     }
 
     void defaults_data() {
@@ -366,12 +369,15 @@ private:
         for (int i = 0; i < count; ++i) content += " a" + QByteArray::number(i) + "='='";
         return content + "/></v>";
     }
-    // The text with a declaration of its encoding, unless a byte order mark or "undeclared" stands in its place.
+    // The text with a declaration of its encoding, or a byte order mark where that is what tells; neither,
+    // "undeclared".
     static QByteArray inEncoding(const QString& row, const QByteArray& text) {
         const QString encoding = row.section(' ', 0, 0);
-        const bool isDeclared = row == encoding && encoding != "UTF-16" && encoding != "UTF-32";
+        const bool isBare = row != encoding;
+        const bool isMarked = encoding == "UTF-16" || encoding == "UTF-32";
         const QString declaration = "<?xml version=\"1.0\" encoding=\"" + encoding + "\"?>";
-        return encoded((isDeclared ? declaration : QString()) + QString::fromUtf8(text), encoding.toLatin1());
+        return encoded((isMarked || isBare ? QString() : declaration) + QString::fromUtf8(text), encoding.toLatin1(),
+                       isBare ? ByteOrderMark::None : ByteOrderMark::AsUsual);
     }
     QList<DialupProfile> m_Profiles;
     QString m_Default;
