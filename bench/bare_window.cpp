@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
     QMainWindow window;
     auto* const middle = new QWidget;
     auto* const grid = new QGridLayout(middle);
-    auto* const state = wrapped("Modem service not running");
+    auto* const state = wrapped("Modem service not available");
     QFont large = state->font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
     large.setBold(true);

@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>خدمة أجهزة المودم (ModemManager) لا تعمل. شغّلها أو اسأل المسؤول.</translation>
+        <translation>خدمة أجهزة المودم (ModemManager) لا تعمل أو لا تستجيب. أعد تشغيلها أو اسأل المسؤول.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>خدمة الاتصالات (NetworkManager) لا تعمل. شغّلها أو اسأل المسؤول.</translation>
+        <translation>خدمة الاتصالات (NetworkManager) لا تعمل أو لا تستجيب. أعد تشغيلها أو اسأل المسؤول.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -977,11 +977,11 @@
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>خدمة المودم لا تعمل</translation>
+        <translation>خدمة المودم غير متاحة</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
-        <translation>يعثر OrbisDial على أجهزة المودم عبر ModemManager. ثبّته وشغّله.</translation>
+        <translation>يعثر OrbisDial على أجهزة المودم عبر ModemManager، وهو لا يعمل أو لا يستجيب. ثبّته أو أعد تشغيله.</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_MODEM</source>
@@ -2028,12 +2028,12 @@
         <translation>لا مصدر لمعلومات الاتصالات</translation>
     </message>
     <message>
-        <source>nothing can tell which modem is in use</source>
-        <translation>لا مصدر يخبر بالمودم المستخدم</translation>
+        <source>nothing can tell of modems</source>
+        <translation>لا مصدر لمعلومات أجهزة المودم</translation>
     </message>
     <message>
-        <source>nothing can tell which modems there are</source>
-        <translation>لا مصدر يخبر بأجهزة المودم الموجودة</translation>
+        <source>%1 does not answer</source>
+        <translation>%1 لا يستجيب</translation>
     </message>
     <message>
         <source>nothing was imported from %1</source>
@@ -2513,6 +2513,10 @@
     <message>
         <source>NetworkManager can't use the modem now</source>
         <translation>لا يمكن لـ NetworkManager استخدام المودم الآن</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not answer</source>
+        <translation>NetworkManager لا يستجيب</translation>
     </message>
     <message>
         <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>

@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>Der Dienst für Modems (ModemManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Administrator.</translation>
+        <translation>Der Dienst für Modems (ModemManager) läuft nicht oder antwortet nicht. Starten Sie ihn neu oder fragen Sie Ihren Administrator.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>Der Dienst für Verbindungen (NetworkManager) läuft nicht. Starten Sie ihn oder fragen Sie Ihren Administrator.</translation>
+        <translation>Der Dienst für Verbindungen (NetworkManager) läuft nicht oder antwortet nicht. Starten Sie ihn neu oder fragen Sie Ihren Administrator.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -977,11 +977,11 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>Modemdienst läuft nicht</translation>
+        <translation>Modemdienst nicht verfügbar</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
-        <translation>OrbisDial findet Modems über ModemManager. Installieren und starten Sie diesen Dienst.</translation>
+        <translation>OrbisDial findet Modems über den Dienst ModemManager, der nicht läuft oder nicht antwortet. Installieren Sie ihn oder starten Sie ihn neu.</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_MODEM</source>
@@ -2028,12 +2028,12 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>über Verbindungen gibt nichts Auskunft</translation>
     </message>
     <message>
-        <source>nothing can tell which modem is in use</source>
-        <translation>welches Modem benutzt wird, ist nicht zu erfahren</translation>
+        <source>nothing can tell of modems</source>
+        <translation>über Modems gibt nichts Auskunft</translation>
     </message>
     <message>
-        <source>nothing can tell which modems there are</source>
-        <translation>welche Modems es gibt, ist nicht zu erfahren</translation>
+        <source>%1 does not answer</source>
+        <translation>%1 antwortet nicht</translation>
     </message>
     <message>
         <source>nothing was imported from %1</source>
@@ -2513,6 +2513,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>NetworkManager can't use the modem now</source>
         <translation>NetworkManager kann das Modem jetzt nicht benutzen</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not answer</source>
+        <translation>NetworkManager antwortet nicht</translation>
     </message>
     <message>
         <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>

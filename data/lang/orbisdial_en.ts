@@ -156,12 +156,12 @@
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
         <extracomment>Why connecting failed, and what to do.</extracomment>
-        <translation>The service for modems (ModemManager) is not running. Start it, or ask your administrator.</translation>
+        <translation>The service for modems (ModemManager) is not running or does not answer. Start it again, or ask your administrator.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
         <extracomment>Why connecting failed, and what to do.</extracomment>
-        <translation>The service for connections (NetworkManager) is not running. Start it, or ask your administrator.</translation>
+        <translation>The service for connections (NetworkManager) is not running or does not answer. Start it again, or ask your administrator.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -1166,11 +1166,11 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>Modem service not running</translation>
+        <translation>Modem service not available</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
-        <translation>OrbisDial finds modems through ModemManager. Install and start it.</translation>
+        <translation>OrbisDial finds modems through ModemManager, which is not running or does not answer. Install it, or start it again.</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_MODEM</source>

@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>El servicio de módems (ModemManager) no está en marcha. Inícielo o pregunte a su administrador.</translation>
+        <translation>El servicio de módems (ModemManager) no está en marcha o no responde. Reinícielo o pregunte a su administrador.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>El servicio de conexiones (NetworkManager) no está en marcha. Inícielo o pregunte a su administrador.</translation>
+        <translation>El servicio de conexiones (NetworkManager) no está en marcha o no responde. Reinícielo o pregunte a su administrador.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -977,11 +977,11 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>El servicio de módems no está en marcha</translation>
+        <translation>El servicio de módems no está disponible</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
-        <translation>OrbisDial encuentra los módems mediante ModemManager. Instálelo e inícielo.</translation>
+        <translation>OrbisDial encuentra los módems mediante ModemManager, que no está en marcha o no responde. Instálelo o reinícielo.</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_MODEM</source>
@@ -2028,12 +2028,12 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>nada informa de las conexiones</translation>
     </message>
     <message>
-        <source>nothing can tell which modem is in use</source>
-        <translation>no hay forma de saber qué módem está en uso</translation>
+        <source>nothing can tell of modems</source>
+        <translation>nada informa de los módems</translation>
     </message>
     <message>
-        <source>nothing can tell which modems there are</source>
-        <translation>no hay forma de saber qué módems hay</translation>
+        <source>%1 does not answer</source>
+        <translation>%1 no responde</translation>
     </message>
     <message>
         <source>nothing was imported from %1</source>
@@ -2513,6 +2513,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>NetworkManager can't use the modem now</source>
         <translation>NetworkManager no puede usar ahora el módem</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not answer</source>
+        <translation>NetworkManager no responde</translation>
     </message>
     <message>
         <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>

@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>Le service des modems (ModemManager) n’est pas lancé. Lancez-le ou demandez à votre administrateur.</translation>
+        <translation>Le service des modems (ModemManager) n’est pas lancé ou ne répond pas. Relancez-le ou demandez à votre administrateur.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>Le service des connexions (NetworkManager) n’est pas lancé. Lancez-le ou demandez à votre administrateur.</translation>
+        <translation>Le service des connexions (NetworkManager) n’est pas lancé ou ne répond pas. Relancez-le ou demandez à votre administrateur.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -977,11 +977,11 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>Le service des modems n’est pas lancé</translation>
+        <translation>Le service des modems n’est pas disponible</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
-        <translation>OrbisDial trouve les modems grâce à ModemManager. Installez-le et démarrez-le.</translation>
+        <translation>OrbisDial trouve les modems grâce à ModemManager, qui n’est pas lancé ou ne répond pas. Installez-le ou relancez-le.</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_MODEM</source>
@@ -2028,12 +2028,12 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>rien ne renseigne sur les connexions</translation>
     </message>
     <message>
-        <source>nothing can tell which modem is in use</source>
-        <translation>impossible de savoir quel modem est utilisé</translation>
+        <source>nothing can tell of modems</source>
+        <translation>rien ne renseigne sur les modems</translation>
     </message>
     <message>
-        <source>nothing can tell which modems there are</source>
-        <translation>impossible de savoir quels modems sont présents</translation>
+        <source>%1 does not answer</source>
+        <translation>%1 ne répond pas</translation>
     </message>
     <message>
         <source>nothing was imported from %1</source>
@@ -2513,6 +2513,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>NetworkManager can't use the modem now</source>
         <translation>NetworkManager ne peut pas utiliser le modem pour l’instant</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not answer</source>
+        <translation>NetworkManager ne répond pas</translation>
     </message>
     <message>
         <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>

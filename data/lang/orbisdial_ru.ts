@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>Служба модемов (ModemManager) не запущена. Запустите её или обратитесь к администратору.</translation>
+        <translation>Служба модемов (ModemManager) не запущена или не отвечает. Перезапустите её или обратитесь к администратору.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>Служба подключений (NetworkManager) не запущена. Запустите её или обратитесь к администратору.</translation>
+        <translation>Служба подключений (NetworkManager) не запущена или не отвечает. Перезапустите её или обратитесь к администратору.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -977,11 +977,11 @@
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>Служба модемов не запущена</translation>
+        <translation>Служба модемов недоступна</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
-        <translation>OrbisDial находит модемы через ModemManager. Установите и запустите его.</translation>
+        <translation>OrbisDial находит модемы через ModemManager, который не запущен или не отвечает. Установите или перезапустите его.</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_MODEM</source>
@@ -2028,12 +2028,12 @@
         <translation>сведений о подключениях получить неоткуда</translation>
     </message>
     <message>
-        <source>nothing can tell which modem is in use</source>
-        <translation>неоткуда узнать, какой модем используется</translation>
+        <source>nothing can tell of modems</source>
+        <translation>сведений о модемах получить неоткуда</translation>
     </message>
     <message>
-        <source>nothing can tell which modems there are</source>
-        <translation>неоткуда узнать, какие есть модемы</translation>
+        <source>%1 does not answer</source>
+        <translation>%1 не отвечает</translation>
     </message>
     <message>
         <source>nothing was imported from %1</source>
@@ -2513,6 +2513,10 @@
     <message>
         <source>NetworkManager can't use the modem now</source>
         <translation>NetworkManager сейчас не может использовать модем</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not answer</source>
+        <translation>NetworkManager не отвечает</translation>
     </message>
     <message>
         <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>

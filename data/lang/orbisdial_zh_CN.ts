@@ -125,11 +125,11 @@
     </message>
     <message>
         <source>IDS_DIALUP_NO_MODEM_SERVICE</source>
-        <translation>调制解调器服务 (ModemManager) 未运行。请启动它，或联系管理员。</translation>
+        <translation>调制解调器服务 (ModemManager) 未运行或没有响应。请重新启动它，或联系管理员。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_NO_NETWORK_SERVICE</source>
-        <translation>连接服务 (NetworkManager) 未运行。请启动它，或联系管理员。</translation>
+        <translation>连接服务 (NetworkManager) 未运行或没有响应。请重新启动它，或联系管理员。</translation>
     </message>
     <message>
         <source>IDS_DIALUP_SUSPENDED</source>
@@ -977,11 +977,11 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE</source>
-        <translation>调制解调器服务未运行</translation>
+        <translation>调制解调器服务不可用</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_SERVICE_DETAIL</source>
-        <translation>OrbisDial 通过 ModemManager 查找调制解调器。请安装并启动它。</translation>
+        <translation>OrbisDial 通过 ModemManager 查找调制解调器，但它未运行或没有响应。请安装或重新启动它。</translation>
     </message>
     <message>
         <source>IDS_HOST_NO_MODEM</source>
@@ -2028,12 +2028,12 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>无法获得连接信息</translation>
     </message>
     <message>
-        <source>nothing can tell which modem is in use</source>
-        <translation>无法得知正在使用哪个调制解调器</translation>
+        <source>nothing can tell of modems</source>
+        <translation>无法获得调制解调器信息</translation>
     </message>
     <message>
-        <source>nothing can tell which modems there are</source>
-        <translation>无法得知有哪些调制解调器</translation>
+        <source>%1 does not answer</source>
+        <translation>%1 没有响应</translation>
     </message>
     <message>
         <source>nothing was imported from %1</source>
@@ -2513,6 +2513,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>NetworkManager can't use the modem now</source>
         <translation>NetworkManager 目前无法使用调制解调器</translation>
+    </message>
+    <message>
+        <source>NetworkManager does not answer</source>
+        <translation>NetworkManager 没有响应</translation>
     </message>
     <message>
         <source>ORBISDIAL_DEVICE names no device backend; use simulated, modemmanager, none or auto</source>

@@ -201,10 +201,6 @@ void stopWaitingOnes(const EventWait& events) {
     }
 }
 
-void requireKnown() {
-    if (!ConnectionReport::isKnown()) throw CommandError::failed(message("nothing can tell of connections"));
-}
-
 // Shows each state once. What a reader does not take ends it.
 void watch(Output& output) {
     const EventWait events;
@@ -230,14 +226,14 @@ CommandError stillUp() {
 void connectProfile(const Invocation& invocation, Output& output) {
     invocation.patience();  // a wrong one is told before anything is asked
     Wanted wanted = wantedProfile(invocation);
-    requireKnown();
+    ConnectionReport::requireKnown();
     askCredentials(&wanted);
     refuseUndiallable(wanted);
     Dialling(invocation, output).run(wanted);
 }
 
 void disconnect(const Invocation& invocation, Output& output) {
-    requireKnown();
+    ConnectionReport::requireKnown();
     const QDeadlineTimer deadline(invocation.patience(HangUpSeconds));
     const EventWait events;
     const DataConnection before = DataConnection::current();
@@ -254,7 +250,7 @@ void disconnect(const Invocation& invocation, Output& output) {
 }
 
 void showStatus(const Invocation& invocation, Output& output) {
-    requireKnown();
+    ConnectionReport::requireKnown();
     if (invocation.isSet("watch")) return watch(output);
     const DataConnection connection = DataConnection::current();
     output.result(ConnectionReport::object(connection), {ConnectionReport::line(connection)});

@@ -8,6 +8,7 @@
 
 #include "ConnectionText.h"
 #include "Message.h"
+#include "Platform.h"
 
 namespace {
 
@@ -105,6 +106,10 @@ bool ConnectionReport::isKnown() {
     VRKS_Connection record{};
     record.size = sizeof record;
     return VRKS_NetConnectSrv_GetConnection(&record) == 0;
+}
+
+void ConnectionReport::requireKnown() {
+    if (!isKnown()) throw Platform::silence("NetworkManager", message("nothing can tell of connections"));
 }
 
 QJsonObject ConnectionReport::lasting(const DataConnection& connection) {

@@ -14,6 +14,9 @@ namespace ConnectionReport {
 // False when nothing can tell.
 bool isKnown();
 
+// Throws a CommandError when it is not.
+void requireKnown();
+
 // Its state and all that belongs to it; null for what is unknown or not there.
 QJsonObject object(const DataConnection& connection);
 

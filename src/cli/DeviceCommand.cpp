@@ -9,6 +9,7 @@
 #include "Message.h"
 #include "ModemReport.h"
 #include "Output.h"
+#include "Platform.h"
 #include "ProfileSession.h"
 #include "vrks_simulated.h"
 
@@ -81,6 +82,13 @@ const DeviceRow DeviceRows[] = {
 
 QJsonValue nullIfEmpty(const QString& text) { return text.isEmpty() ? QJsonValue() : text; }
 
+// What a daemon that hangs keeps to itself was shown as unknown.
+void requireAnswers() {
+    if (!Platform::asksDaemons()) return;
+    ModemReport::required();
+    ConnectionReport::requireKnown();
+}
+
 // The modem in use, null where nothing can tell.
 QJsonValue addModem(QStringList* lines) {
     VRKS_ModemInfo info;
@@ -117,4 +125,5 @@ void showDevice(const Invocation&, Output& output) {
     add("note", QT_TRANSLATE_NOOP("Programs", "note"), nullIfEmpty(session.presetsNote()));
     output.result(object, lines);
     session.finish();
+    requireAnswers();
 }

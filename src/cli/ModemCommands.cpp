@@ -22,8 +22,7 @@ bool isNamed(const VRKS_ModemInfo& info, const QString& name) {
 }
 
 QList<VRKS_ModemInfo> modemsHere() {
-    VRKS_ModemInfo info;
-    if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modems there are"));
+    ModemReport::required();
     return ModemReport::all();
 }
 
@@ -46,9 +45,8 @@ void keep(const QString& key) {
 }
 
 void showModem(Output& output) {
-    VRKS_ModemInfo info;
+    const VRKS_ModemInfo info = ModemReport::required();
     const QString chosen = ChosenModem::id();
-    if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modem is in use"));
     QStringList lines{ModemReport::line(QT_TRANSLATE_NOOP("Programs", "chosen"),
                                         chosen.isEmpty() ? message("automatically") : chosen)};
     QJsonObject object = ModemReport::object(info);

@@ -3,7 +3,9 @@
 
 #include <QJsonValue>
 
+#include "CommandError.h"
 #include "Message.h"
+#include "Platform.h"
 #include "TerminalText.h"
 
 namespace {
@@ -100,6 +102,12 @@ Info emptyInfo() {
 bool ModemReport::current(VRKS_ModemInfo* info) {
     *info = emptyInfo();
     return VRKS_DevSrv_GetModemInfo(info) == 0;
+}
+
+VRKS_ModemInfo ModemReport::required() {
+    VRKS_ModemInfo info;
+    if (!current(&info)) throw Platform::silence("ModemManager", message("nothing can tell of modems"));
+    return info;
 }
 
 QList<VRKS_ModemInfo> ModemReport::all() {

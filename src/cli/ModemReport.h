@@ -14,6 +14,9 @@ namespace ModemReport {
 // The one in use; false when nothing can tell of modems.
 bool current(VRKS_ModemInfo* info);
 
+// The same. Throws a CommandError when nothing can tell.
+VRKS_ModemInfo required();
+
 // All that are there.
 QList<VRKS_ModemInfo> all();
 

@@ -95,6 +95,12 @@ void Platform::useDevice(const QString& kind) {
 
 QStringList Platform::deviceKinds() { return {"simulated", "modemmanager", "none", "auto"}; }
 
+bool Platform::asksDaemons() { return qstrcmp(vrks_backend_name(nullptr), "modemmanager") == 0; }
+
+CommandError Platform::silence(const QString& daemon, const QString& without) {
+    return CommandError::failed(asksDaemons() ? message("%1 does not answer", {daemon}) : without);
+}
+
 QString Platform::dataFolderProblem() {
     unsigned short* directory = nullptr;
     const long status = VRKS_GetUserDataDirectory(&directory);

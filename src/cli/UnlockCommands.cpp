@@ -29,8 +29,7 @@ constexpr LockKind Puk{VRKS_LOCK_PUK, "PUK", "puk",
                        QT_TRANSLATE_NOOP("Programs", "%1; then the card is lost; --last takes it")};
 
 VRKS_ModemInfo modemInUse() {
-    VRKS_ModemInfo info;
-    if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modem is in use"));
+    const VRKS_ModemInfo info = ModemReport::required();
     if (!*info.id) throw CommandError::notFound(message("there is no modem"));
     if (info.card == VRKS_CARD_NONE) throw CommandError::notFound(message("there is no SIM card"));
     return info;

@@ -51,9 +51,7 @@ CommandError errorOf(const VRKS_Ussd& ussd) {
 }
 
 void requireModem() {
-    VRKS_ModemInfo info;
-    if (!ModemReport::current(&info)) throw CommandError::failed(message("nothing can tell which modem is in use"));
-    if (!*info.id) throw CommandError::notFound(message("there is no modem"));
+    if (!*ModemReport::required().id) throw CommandError::notFound(message("there is no modem"));
 }
 
 // A conversation, which is ended however the command ends: networks let a session stay open, and cost for it.

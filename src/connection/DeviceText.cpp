@@ -18,6 +18,7 @@ const char* const Texts[] = {
     QT_TRANSLATE_NOOP("Reasons", "the device backend \"%1\" can't be loaded: %2"),
     QT_TRANSLATE_NOOP("Reasons", "Mobile broadband is switched off"),
     QT_TRANSLATE_NOOP("Reasons", "NetworkManager can't use the modem now"),
+    QT_TRANSLATE_NOOP("Reasons", "NetworkManager does not answer"),
 };
 
 QRegularExpression patternOf(const char* text) {

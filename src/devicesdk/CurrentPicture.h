@@ -25,11 +25,7 @@ public:
     // The same without an event.
     void replace(Picture picture);
 
-    // Nothing can tell any more, as when the daemon is gone: every query fails. Raises the same events as a picture
-    // without modems.
-    void withdraw();
-
-    // Waits for the first one, until then at most.
+    // Waits for the first one in which everything is known, until then at most.
     void await(std::chrono::steady_clock::time_point deadline) const;
 
 private:
@@ -39,7 +35,6 @@ private:
     mutable std::mutex m_Mutex;  // guards what follows
     mutable std::condition_variable m_Came;
     std::shared_ptr<const Picture> m_Picture;
-    bool m_IsComplete = false;  // something was stored or withdrawn
 };
 
 #endif

@@ -41,6 +41,7 @@ const char* badMember(const DialRequest& request) {
 }
 
 int modemFailure(const Picture& picture) {
+    if (!picture.devStatus) return VRKS_FAILURE_NO_MODEM_SERVICE;
     if (picture.devStatus == VRKS_DEV_STATUS_NO_MODEM) return VRKS_FAILURE_NO_MODEM;
     const ModemInfo& modem = picture.modem();
     if (modem.card == VRKS_CARD_NONE) return VRKS_FAILURE_NO_CARD;

@@ -24,6 +24,11 @@ bool isModemChanged(const Picture& before, const Picture& after) {
            before.devStatus != after.devStatus;
 }
 
+// As it is answered.
+Connection connectionIn(const Picture& picture) {
+    return picture.isConnectionKnown ? picture.connection : Connection();
+}
+
 bool isUnlockResult(const Picture& before, const Picture& after) {
     const int result = after.modem().unlockResult;
     return result > VRKS_UNLOCK_PENDING && before.modem().unlockResult == VRKS_UNLOCK_PENDING;
@@ -57,7 +62,7 @@ Events eventsBetween(const Picture& before, const Picture& after) {
     if (isModemChanged(before, after)) events.others.push_back(VRKS_EVENT_MODEM_CHANGED);
     if (before.systemMode != after.systemMode) events.others.push_back(VRKS_EVENT_SYSTEM_MODE_CHANGED);
     if (isUnlockResult(before, after)) events.others.push_back(VRKS_EVENT_UNLOCK_RESULT);
-    if (before.connection != after.connection) events.others.push_back(VRKS_EVENT_CONNECTION_CHANGED);
+    if (connectionIn(before) != connectionIn(after)) events.others.push_back(VRKS_EVENT_CONNECTION_CHANGED);
     if (isUssdResult(before, after)) events.others.push_back(VRKS_EVENT_USSD_RESULT);
     return events;
 }

@@ -115,6 +115,10 @@ auto operator!=(const Record& one, const Record& other) -> decltype(one.tied() !
 
 // Of the values that may be missing, a missing one makes its query fail.
 struct Picture {
+    // False while a daemon has not answered: then what asks for modems or the connection fails, too.
+    bool areModemsKnown = true;
+    bool isConnectionKnown = true;
+
     std::vector<ModemInfo> modems;  // in the order of their keys
     std::string modemInUse;         // its key; empty: none
 

@@ -39,6 +39,13 @@ long withPicture(Reader read) noexcept {
     });
 }
 
+// The same where the modems must be known.
+template <class Reader>
+long withModems(Reader read) noexcept {
+    return withPicture(
+        [=](const Picture& picture, Backend& backend) { return picture.areModemsKnown && read(picture, backend); });
+}
+
 // The same for one of its values that may be missing; the writer answers whether it fits.
 template <class Answer, class Writer>
 long ask(std::optional<Answer> Picture::*value, Writer write) noexcept {
@@ -313,7 +320,7 @@ long VRKS_DevSrv_SelectModem(const char* id) {
 
 long VRKS_DevSrv_GetModemInfo(VRKS_ModemInfo* info) {
     if (!info || !isSizeKnown(info->size)) return Failure;
-    return withPicture(
+    return withModems(
         [=](const Picture& picture, Backend&) { return writeRecord(info, recordOf(picture.modem(), picture)); });
 }
 
@@ -352,7 +359,7 @@ long VRKS_NetConnectSrv_HangUp(void) {
 long VRKS_NetConnectSrv_GetConnection(VRKS_Connection* connection) {
     if (!connection || !isSizeKnown(connection->size)) return Failure;
     return withPicture([=](const Picture& picture, Backend& backend) {
-        return writeRecord(connection, recordOf(picture.connection, backend.traffic()));
+        return picture.isConnectionKnown && writeRecord(connection, recordOf(picture.connection, backend.traffic()));
     });
 }
 

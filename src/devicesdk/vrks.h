@@ -188,7 +188,7 @@ typedef struct VRKS_ModemInfo {
     char unlockWords[VRKS_WORDS_SIZE]; /* why the last unlocking failed, in the modem service's words */
 } VRKS_ModemInfo;
 
-/* The modem in use. Without one it succeeds with VRKS_DEV_STATUS_NO_MODEM and all else empty or unknown. */
+/* The modem in use; without one VRKS_DEV_STATUS_NO_MODEM, all else empty. Fails while the service does not answer. */
 VRKS_API long VRKS_DevSrv_GetModemInfo(VRKS_ModemInfo* info);
 
 /* The modem with this key; a failure when it is not there. */
@@ -245,7 +245,7 @@ enum {
     VRKS_FAILURE_WRONG_PIN,
     VRKS_FAILURE_MODEM_GONE,          /* removed or failed */
     VRKS_FAILURE_NO_MODEM_SERVICE,    /* the service that knows the modems is not running */
-    VRKS_FAILURE_NO_NETWORK_SERVICE,  /* the service that connects is not running */
+    VRKS_FAILURE_NO_NETWORK_SERVICE,  /* the service that connects is not there, or hangs */
     VRKS_FAILURE_SUSPENDED,           /* the computer went to sleep */
     VRKS_FAILURE_TAKEN,               /* another program took the modem */
     VRKS_FAILURE_CREDENTIALS_MISSING, /* the network wants user name and password */
@@ -305,7 +305,7 @@ typedef struct VRKS_Connection {
     char dns[VRKS_DNS_COUNT][VRKS_ADDRESS_SIZE]; /* the servers in force, the first ones */
 } VRKS_Connection;
 
-VRKS_API long VRKS_NetConnectSrv_GetConnection(VRKS_Connection* connection);
+VRKS_API long VRKS_NetConnectSrv_GetConnection(VRKS_Connection* connection); /* fails while nothing can tell */
 
 /* A failure's name for scripts and settings, such as "no-carrier"; a static text. Works on every backend. */
 VRKS_API long VRKS_NetConnectSrv_GetFailureName(int failure, const char** name);

@@ -84,7 +84,7 @@ private slots:
             Picture::Busy, "Looking for a modem", "moment", Picture::Connect, false);
         add(
             "no service", [](ConnectionFacts& facts) { facts.isModemKnown = false; }, Picture::Missing,
-            "Modem service not running", "ModemManager", Picture::Connect, false);
+            "Modem service not available", "ModemManager", Picture::Connect, false);
         add(
             "no modem", [](ConnectionFacts& facts) { facts.modem.status = VRKS_DEV_STATUS_NO_MODEM; }, Picture::Missing,
             "No modem", "Plug in", Picture::Connect, false);

@@ -257,26 +257,27 @@ private slots:
     }
 
     void daemonDies_data() {
-        const Rows<QString, bool, int> row("daemon", "isUp", "expected");
-        row("NetworkManager while dialling", "NetworkManager", false, VRKS_FAILURE_NO_NETWORK_SERVICE);
-        row("NetworkManager while up", "NetworkManager", true, VRKS_FAILURE_NO_NETWORK_SERVICE);
-        row("ModemManager while dialling", "ModemManager", false, VRKS_FAILURE_NO_MODEM_SERVICE);
-        row("ModemManager while up", "ModemManager", true, VRKS_FAILURE_NO_MODEM_SERVICE);
+        const Rows<QString, bool, bool, int> row("daemon", "isUp", "hangs", "expected");
+        row("NetworkManager while dialling", "NetworkManager", false, false, VRKS_FAILURE_NO_NETWORK_SERVICE);
+        row("NetworkManager while dialling, it hangs", "NetworkManager", false, true, VRKS_FAILURE_NO_NETWORK_SERVICE);
+        row("NetworkManager while up", "NetworkManager", true, false, VRKS_FAILURE_NO_NETWORK_SERVICE);
+        row("ModemManager while dialling", "ModemManager", false, false, VRKS_FAILURE_NO_MODEM_SERVICE);
+        row("ModemManager while up", "ModemManager", true, false, VRKS_FAILURE_NO_MODEM_SERVICE);
     }
 
     void daemonDies() {
-        const bool isUp = cell<bool>("isUp");
+        const bool isUp = cell<bool>("isUp"), hangs = cell<bool>("hangs");
         if (!isUp) QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
         QVERIFY(dial());
         TRY_CONNECTION(isUp ? connection().state == VRKS_CONNECTION_UP : connection().step == VRKS_STEP_CONNECTING);
-        QVERIFY(m_Stack.kill(cell("daemon")));
+        QVERIFY(hangs ? m_Stack.freeze(cell("daemon")) : m_Stack.kill(cell("daemon")));
         TRY_DOWN(cell<int>("expected"));
         if (cell("daemon") == "NetworkManager") {
             QVERIFY(dial());
             TRY_DOWN(VRKS_FAILURE_NO_NETWORK_SERVICE);
         }
         if (!isUp) QVERIFY(m_Stack.send("gsm", NoCarrier));  // what the other daemon waits for
-        QVERIFY(m_Stack.start(cell("daemon")));
+        QVERIFY(hangs ? m_Stack.thaw(cell("daemon")) : m_Stack.start(cell("daemon")));
         QVERIFY(use("gsm"));
         QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
         QTRY_VERIFY2_WITH_TIMEOUT(isUpAgain(), shown(), Patience);

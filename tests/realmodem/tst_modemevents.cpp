@@ -14,6 +14,7 @@
 #include "INetConnectSetting.h"
 #include "INotifyService.h"
 #include "Program.h"
+#include "Rows.h"
 #include "Stack.h"
 #include "Startup.h"
 #include "TestFolder.h"
@@ -41,7 +42,7 @@ public:
 
     QVector<int> events() {
         const std::lock_guard lock(m_Mutex);
-        return m_Events;
+        return QVector<int>(m_Events.begin(), m_Events.end());  // one that shares would be read without the lock
     }
     void clear() {
         const std::lock_guard lock(m_Mutex);
@@ -204,6 +205,20 @@ private slots:
         QVERIFY(m_Stack.thaw("ModemManager"));
         QVERIFY2(outcome.status == 0, outcome.err);
         QVERIFY(!QImage(picture).isNull());
+    }
+
+    void whoIsFrozenIsNamed_data() {
+        const Rows<QString, QString> row("daemon", "command");
+        row("modems", "ModemManager", "modems");
+        row("connection", "NetworkManager", "status");
+    }
+
+    void whoIsFrozenIsNamed() {
+        QVERIFY(m_Stack.freeze(cell("daemon")));
+        const Outcome outcome = runProgram(ORBISCTL, {cell("command")});
+        QVERIFY(m_Stack.thaw(cell("daemon")));
+        QCOMPARE(outcome.err, "orbisctl: " + cell("daemon").toUtf8() + " does not answer\n");
+        QCOMPARE(outcome.status, 1);
     }
 
 private:

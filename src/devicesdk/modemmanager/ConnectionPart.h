@@ -20,13 +20,10 @@ public:
 
     // Edits the picture that is answered, from any thread; no other edit comes between. When the edit answers true the
     // picture is published with the events of what differs, else it is dropped. The edit must not wait nor call back.
-    // Answers what the edit answered. The connecting part touches nothing but Picture::connection.
+    // Answers what the edit answered. The connecting part touches nothing but Picture::connection, and says whether
+    // that is known.
     using Edit = std::function<bool(Picture& picture)>;
     virtual bool change(const Edit& edit) = 0;
-
-    // On the thread: Picture::connection is right for the first time, "nothing is known" included. The first query
-    // waits for it.
-    virtual void setConnectionKnown() = 0;
 
     // On the thread: the modem in use at ModemManager; null: none. Its D-Bus path is mm_object_get_path()'s.
     virtual MMObject* modemInUse() = 0;

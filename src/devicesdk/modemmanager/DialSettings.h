@@ -18,6 +18,8 @@ struct DialStamp {
     std::int64_t bootTime = 0;  // by a clock that runs while the computer does or sleeps, and that nobody sets
 
     static DialStamp now();
+
+    bool operator==(const DialStamp& other) const { return unixTime == other.unixTime && bootTime == other.bootTime; }
 };
 
 // What decides about a connection besides the request.

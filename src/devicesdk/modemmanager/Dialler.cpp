@@ -6,6 +6,9 @@
 
 #include <algorithm>
 #include <ctime>
+#include <utility>
+
+#include "Probe.h"
 
 namespace {
 
@@ -16,9 +19,13 @@ constexpr unsigned RadioMs = 1000;      // until a switch of it is known
 constexpr unsigned StartMs = 300;       // until it is known since when a connection is up
 constexpr unsigned RevivingMs = 45000;  // of a modem that is looked for anew
 constexpr auto HangUpTime = std::chrono::seconds(10);  // that a connection ends in once somebody hung up
+constexpr unsigned PulseMs = 3000;                     // between two looks whether the daemons still answer
+constexpr int PulseAnswerMs = 10000;                   // in which it must
 constexpr unsigned RemovalMs = 3000;                   // from the hanging up of a modem that goes until it is gone
 constexpr unsigned SettlingMs = 100;                   // two daemons tell of one failure, in any order
 const char RadioIsOff[] = "Mobile broadband is switched off";
+const char NetworkHangs[] = "NetworkManager does not answer";
+const char ModemHangs[] = "ModemManager does not answer";
 constexpr auto RadioSettling = std::chrono::seconds(1);  // a radio that came on may be switched once more in this time
 
 // Whose connection it is to be. Root needs no permission, and may have no session, without which a connection with an
@@ -54,21 +61,27 @@ Dialler::Dialler(ConnectionHost& host)
       m_Modem([this] { updateSoon(); }),
       m_Patience(host.thread()),
       m_Settling(host.thread()),
-      m_Beginning(host.thread()) {}
+      m_Beginning(host.thread()),
+      m_Pulse(host.thread()) {}
 
 void Dialler::busCame(GDBusConnection* bus) {
     m_Bus.reset(static_cast<GDBusConnection*>(g_object_ref(bus)));
     m_BearerErrors = std::make_unique<BearerErrors>(bus);
     m_HangUpSignal =
         std::make_unique<HangUpSignal>(bus, [this](const std::string& connection) { hungUpElsewhere(connection); });
+    watchNetwork();
+}
+
+void Dialler::watchNetwork() {
     const auto begun = [this] {
         update();
         const bool isStartAwaited = m_Phase == Phase::Up && m_Dialled.stamp && !m_Dialled.upSince;
         isStartAwaited ? m_Beginning.start(StartMs, [this] { tellKnown(); }) : tellKnown();
     };
     m_Watch = std::make_unique<NetworkWatch>(
-        bus, NetworkWatch::Handlers{begun, [this] { updateSoon(); },
-                                    [this](NMDeviceState now, unsigned reason) { deviceStateChanged(now, reason); }});
+        m_Bus.get(),
+        NetworkWatch::Handlers{begun, [this] { updateSoon(); },
+                               [this](NMDeviceState now, unsigned reason) { deviceStateChanged(now, reason); }});
 }
 
 void Dialler::busWent() {
@@ -89,8 +102,7 @@ void Dialler::forgetBus() {
 
 void Dialler::tellKnown() {
     m_Beginning.stop();
-    if (!m_IsKnown) m_Host.setConnectionKnown();
-    m_IsKnown = true;
+    m_Host.change([](Picture& picture) { return !std::exchange(picture.isConnectionKnown, true); });
 }
 
 void Dialler::stop() { wipe(m_Dialled.request.password); }
@@ -121,6 +133,7 @@ bool Dialler::dial(const DialRequest& request) {
             ++m_WaitingDials;
         }
         picture.connection = connection;
+        picture.isConnectionKnown = true;  // what becomes of the call is
         return true;
     });
     if (isBusy || refusal.failure != VRKS_FAILURE_NONE) return false;
@@ -173,7 +186,9 @@ void Dialler::begin(const DialRequest& request) {
     m_Phase = Phase::Looking;
     --m_WaitingDials;
     m_Patience.start(LookingMs, [this] {
-        if (m_Phase == Phase::Looking) fail({VRKS_FAILURE_NOT_READY, "NetworkManager can't use the modem now"});
+        if (m_Phase != Phase::Looking) return;
+        if (m_Watch && !m_Watch->hasBegun()) return fail({VRKS_FAILURE_NO_NETWORK_SERVICE, NetworkHangs});
+        fail({VRKS_FAILURE_NOT_READY, "NetworkManager can't use the modem now"});
     });
     update();
 }
@@ -213,6 +228,7 @@ void Dialler::followDevice() {
 void Dialler::observe() {
     if (m_WaitingDials > 0) return;
     NMActiveConnection* marked = m_Watch ? m_Watch->markedConnection() : nullptr;
+    if (marked && isGivenUp(marked)) return takeBack(marked);
     if (marked) return adopt(marked);
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
     NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
@@ -233,6 +249,7 @@ void Dialler::adopt(NMActiveConnection* connection) {
     if (devices && devices->len > 0) m_Watch->follow(static_cast<NMDevice*>(devices->pdata[0]));
     m_Counters.stop();
     m_Phase = Phase::Activating;
+    takePulse();
     watch();
 }
 
@@ -278,11 +295,12 @@ void Dialler::ask() {
     const DialTarget target{
         (nm_device_modem_get_current_capabilities(NM_DEVICE_MODEM(device)) &
          (NM_DEVICE_MODEM_CAPABILITY_GSM_UMTS | NM_DEVICE_MODEM_CAPABILITY_LTE | NM_DEVICE_MODEM_CAPABILITY_5GNR)) == 0,
-        m_Dialled.isIpv4Only, ownerName(), DialStamp::now()};
+        m_Dialled.isIpv4Only, ownerName(), m_Dialled.askedAt = DialStamp::now()};
     const Ref<NMConnection> settings = dialSettings(m_Dialled.request, target);
     const Variant options = activationOptions(m_Dialled.request);
     nm_client_add_and_activate_connection2(m_Watch->client(), settings.get(), device, nullptr, options.get(),
                                            m_Cancellation.get(), onAsked, this);
+    takePulse();
     publish();
 }
 
@@ -311,6 +329,8 @@ void Dialler::watch() {
     NMActiveConnection* connection = m_Watch ? m_Watch->connection() : nullptr;
     if (!connection || !m_Watch->has(connection)) return waitForReason();
     if (m_Dialled.isHangingUp && !m_Dialled.isDeactivating && !isAnswerDue()) deactivate();
+    if (m_Dialled.hungUpAt && isEnding(connection) && !m_Patience.isRunning())
+        m_Patience.start(EndingMs, [this] { stopWaiting(); });
     if (m_Phase == Phase::Activating &&
         nm_active_connection_get_state(connection) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED)
         comeUp();
@@ -385,7 +405,9 @@ void Dialler::deactivate() {
 // without a link nothing is left of it.
 void Dialler::stopWaiting() {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
-    if (!device || textOf(nm_device_get_ip_iface(device)).empty()) return finish({});
+    const bool isElsewhere = m_Dialled.hungUpAt && !m_Dialled.isHangingUp;
+    if (!device || textOf(nm_device_get_ip_iface(device)).empty())
+        return finish({isElsewhere ? VRKS_FAILURE_HUNG_UP : VRKS_FAILURE_NONE, {}});
     m_Patience.start(EndingMs, [this] { stopWaiting(); });
 }
 
@@ -401,6 +423,65 @@ void Dialler::onDeactivated(GObject* source, GAsyncResult* result, gpointer self
     dialler->m_Dialled.isDeactivating = false;
     dialler->m_Dialled.refusal = failureOf(failure.get());
     dialler->updateSoon();
+}
+
+// A daemon that hangs tells nothing, not even that it hangs; and NetworkManager waits minutes for ModemManager.
+void Dialler::takePulse() {
+    const auto lookAtModem = [this] {
+        require(
+            ModemManagerDaemon, [this] { takePulse(); }, [this] { giveUpModem(); });
+    };
+    m_Pulse.start(PulseMs, [=] { require(NetworkManagerDaemon, lookAtModem, [this] { giveUpNetwork(); }); });
+}
+
+// While a connection is on its way.
+void Dialler::require(const Daemon& daemon, WorkerThread::Work answers, WorkerThread::Work hangs) {
+    if (!isUnderWay() || !m_Bus) return;
+    probe(m_Bus.get(), daemon, PulseAnswerMs, m_Cancellation.get(), [=](const GError* error) {
+        if (!isUnderWay() || m_Pulse.isRunning()) return;
+        g_error_matches(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT) ? hangs() : answers();
+    });
+}
+
+// Another process's connection is that one's to give up.
+void Dialler::giveUpModem() {
+    if (!m_Dialled.isOwn) return takePulse();
+    giveUpConnection();
+    fail({VRKS_FAILURE_NO_MODEM_SERVICE, ModemHangs});
+}
+
+// What there is then is asked anew.
+void Dialler::giveUpNetwork() {
+    m_Cancellation.renew();
+    if (m_Dialled.isOwn) giveUpConnection();
+    watchNetwork();
+    fail({VRKS_FAILURE_NO_NETWORK_SERVICE, NetworkHangs});
+}
+
+// NetworkManager goes on with it when it can, unless it is taken back; what it has not answered yet only then.
+void Dialler::giveUpConnection() {
+    m_GivenUp = m_Dialled.askedAt;
+    m_IsTakenBack = false;
+    if (NMActiveConnection* connection = m_Watch->connection()) takeBack(connection);
+}
+
+bool Dialler::isGivenUp(NMActiveConnection* connection) const {
+    return m_GivenUp && markOf(connection).dialled == m_GivenUp;
+}
+
+void Dialler::takeBack(NMActiveConnection* connection) {
+    if (!std::exchange(m_IsTakenBack, true))
+        nm_client_deactivate_connection_async(m_Watch->client(), connection, m_Cancellation.get(), onTakenBack, this);
+}
+
+// What can't be taken back is shown.
+void Dialler::onTakenBack(GObject* source, GAsyncResult* result, gpointer self) {
+    GError* error = nullptr;
+    nm_client_deactivate_connection_finish(NM_CLIENT(source), result, &error);
+    const Error failure(error);
+    if (!failure || isCancelled(failure)) return;
+    static_cast<Dialler*>(self)->m_GivenUp.reset();
+    static_cast<Dialler*>(self)->updateSoon();
 }
 
 // The first reason tells; the states after it only clean up.
@@ -546,6 +627,7 @@ void Dialler::fail(const Failure& failure) { finish(isHangingUp() ? Failure{} : 
 void Dialler::finish(Failure failure) {
     m_Patience.stop();
     m_Settling.stop();
+    m_Pulse.stop();
     m_Phase = Phase::Idle;
     if (isHangingUp() || failure.kind == VRKS_FAILURE_NONE)
         failure = {m_Dialled.wasUp ? VRKS_FAILURE_NONE : VRKS_FAILURE_CANCELLED, {}};

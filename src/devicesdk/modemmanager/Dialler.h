@@ -18,6 +18,8 @@
 #include "SessionStart.h"
 #include "Timer.h"
 
+struct Daemon;
+
 class Dialler : public ConnectionPart {
 public:
     explicit Dialler(ConnectionHost& host);
@@ -62,12 +64,14 @@ private:
         Clock::time_point endedAt;
         std::optional<Clock::time_point> hungUpAt;  // by another process of ours
         std::optional<DialStamp> stamp;             // of another process that dialled
+        DialStamp askedAt;                          // by this one
         bool isStartAsked = false;                  // since when that one is up
         Ending ending;
     };
 
     // Steps of the machine, all on the thread.
     void begin(const DialRequest& request);
+    void watchNetwork();
     void update();
     void updateSoon();
     void followDevice();
@@ -93,6 +97,15 @@ private:
     bool isAnswerDue() const;
     void deactivate();
     void stopWaiting();
+    bool isUnderWay() const { return m_Phase == Phase::Asking || m_Phase == Phase::Activating; }
+    void takePulse();
+    void require(const Daemon& daemon, WorkerThread::Work answers, WorkerThread::Work hangs);
+    void giveUpModem();
+    void giveUpNetwork();
+    void giveUpConnection();
+    bool isGivenUp(NMActiveConnection* connection) const;
+    void takeBack(NMActiveConnection* connection);
+    static void onTakenBack(GObject* source, GAsyncResult* result, gpointer self);
     static void onDeactivated(GObject* source, GAsyncResult* result, gpointer self);
     void deviceStateChanged(NMDeviceState now, unsigned reason);
     void waitForReason();
@@ -137,7 +150,9 @@ private:
     Timer m_Patience;
     Timer m_Settling;
     Timer m_Beginning;
-    bool m_IsKnown = false;  // what there is was told once
+    Timer m_Pulse;
+    std::optional<DialStamp> m_GivenUp;  // of the connection of ours in which a daemon hung
+    bool m_IsTakenBack = false;          // that one
     bool m_IsUpdateDue = false;
     Cancellation m_Cancellation;
     std::atomic<int> m_WaitingDials{0};    // accepted, and not yet seen by the machine

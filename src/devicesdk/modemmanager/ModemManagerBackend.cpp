@@ -5,7 +5,7 @@
 #include "ModemPicture.h"
 
 ModemManagerBackend::ModemManagerBackend(EventSink& events)
-    : m_Board(events, PictureBoard::Modems | PictureBoard::Connecting),
+    : m_Board(events),
       m_Watch(m_Thread, [this] { describe(); }),
       m_Unlocking(m_Thread, m_Watch, m_Board),
       m_Ussd(m_Thread, m_Watch, m_Board),
@@ -41,7 +41,6 @@ void ModemManagerBackend::describe() {
         return true;
     });
     tellModemInUse();
-    m_Board.setKnown(PictureBoard::Modems);
 }
 
 MMObject* ModemManagerBackend::modemInUse() {

@@ -37,7 +37,6 @@ public:
 private:
     WorkerThread& thread() override { return m_Thread; }
     bool change(const Edit& edit) override { return m_Board.change(edit); }
-    void setConnectionKnown() override { m_Board.setKnown(PictureBoard::Connecting); }
     MMObject* modemInUse() override;
 
     void busCame(GDBusConnection* bus);

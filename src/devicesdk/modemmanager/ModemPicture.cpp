@@ -260,6 +260,7 @@ Picture pictureOf(const Known& known, const std::string& wanted, const Picture& 
     if (known.hasDaemon) picture.devStatus = VRKS_DEV_STATUS_NO_MODEM;
     for (const KnownModem& modem : known.modems)
         if (modem.device == picture.modemInUse) describeModemInUse(&picture, modem, before);
+    picture.isConnectionKnown = before.isConnectionKnown;
     picture.connection = before.connection;
     picture.ussd = ussdOf(picture, before);
     return picture;

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ModemWatch.h"
 
-#include <climits>
 #include <utility>
 
 #include "ModemReading.h"
+#include "Probe.h"
 
 namespace {
 
 // Long enough for all that the daemon tells in one go, too short to be felt.
 constexpr unsigned int ChangesTogether = 10;  // milliseconds
-
-constexpr int WithoutEnd = INT_MAX;  // of a D-Bus call; one that is cancelled ends before
 
 std::string deviceOf(MMObject* object) { return textOf(mm_modem_get_device(mm_object_peek_modem(object))); }
 
@@ -64,32 +62,23 @@ void ModemWatch::busWent() {
     finish();
 }
 
-void ModemWatch::onAppeared(GDBusConnection*, const gchar*, const gchar* owner, gpointer self) {
-    static_cast<ModemWatch*>(self)->appear(owner);
+void ModemWatch::onAppeared(GDBusConnection*, const gchar*, const gchar*, gpointer self) {
+    static_cast<ModemWatch*>(self)->appear();
 }
 
 // One that has the name and hangs must not take the thread with it: the constructor below waits, so it is called only
 // when the daemon has shown that it answers.
-void ModemWatch::appear(const char* owner) {
+void ModemWatch::appear() {
     dropManager();
-    g_dbus_connection_call(m_Bus, owner, MM_DBUS_PATH, "org.freedesktop.DBus.Properties", "Get",
-                           g_variant_new("(ss)", MM_DBUS_INTERFACE, "Version"), nullptr,
-                           G_DBUS_CALL_FLAGS_NO_AUTO_START, WithoutEnd, m_Cancellation.get(), onProbed, this);
+    probe(m_Bus, ModemManagerDaemon, ProbeWithoutEnd, m_Cancellation.get(), [this](const GError* error) {
+        if (!error) makeManager();
+        finish();
+    });
 }
 
 void ModemWatch::onVanished(GDBusConnection*, const gchar*, gpointer data) {
     auto* self = static_cast<ModemWatch*>(data);
     self->dropManager();
-    self->finish();
-}
-
-void ModemWatch::onProbed(GObject* source, GAsyncResult* result, gpointer data) {
-    GError* raw = nullptr;
-    const Variant answer(g_dbus_connection_call_finish(G_DBUS_CONNECTION(source), result, &raw));
-    const Error error(raw);
-    if (isCancelled(error)) return;
-    auto* self = static_cast<ModemWatch*>(data);
-    if (answer) self->makeManager();
     self->finish();
 }
 

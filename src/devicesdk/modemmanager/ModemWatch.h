@@ -54,13 +54,12 @@ private:
 
     static void onAppeared(GDBusConnection* bus, const gchar* name, const gchar* owner, gpointer self);
     static void onVanished(GDBusConnection* bus, const gchar* name, gpointer self);
-    static void onProbed(GObject* source, GAsyncResult* result, gpointer self);
     static void onCard(GObject* source, GAsyncResult* result, gpointer request);
     static void onProfiles(GObject* source, GAsyncResult* result, gpointer request);
     static void onProfilesUpdated(ModemWatch* self);
     static void onChanged(ModemWatch* self);
 
-    void appear(const char* owner);
+    void appear();
     void makeManager();
     void dropManager();
     void dropCard(Card* card);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "NetworkWatch.h"
 
+#include "Probe.h"
+
 namespace {
 
 template <class Item, class Condition>
@@ -26,7 +28,12 @@ NetworkWatch::NetworkWatch(GDBusConnection* bus, Handlers handlers)
       m_Connection([this] { changed(); }),
       m_Ipv4([this] { changed(); }),
       m_Ipv6([this] { changed(); }) {
-    // What it may do is seen when it does it.
+    // A client that is made while NetworkManager hangs takes it for absent, for good.
+    probe(bus, NetworkManagerDaemon, ProbeWithoutEnd, m_Cancellation.get(), [this, bus](const GError*) { make(bus); });
+}
+
+// What it may do is seen when it does it.
+void NetworkWatch::make(GDBusConnection* bus) {
     g_async_initable_new_async(NM_TYPE_CLIENT, G_PRIORITY_DEFAULT, m_Cancellation.get(), onMade, this,
                                NM_CLIENT_DBUS_CONNECTION, bus, NM_CLIENT_INSTANCE_FLAGS,
                                guint(NM_CLIENT_INSTANCE_FLAGS_NO_AUTO_FETCH_PERMISSIONS), nullptr);

@@ -49,6 +49,7 @@ public:
     NMActiveConnection* connection() const { return m_Connection.get(); }
 
 private:
+    void make(GDBusConnection* bus);
     static void onMade(GObject* source, GAsyncResult* result, gpointer self);
     static void onDeviceState(NMDevice*, guint now, guint, guint reason, NetworkWatch* self);
     void changed();
