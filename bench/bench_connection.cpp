@@ -52,7 +52,7 @@ QByteArray deviceState() {
 // A modem that can dial, and the profile that NetworkManager's own command dials with: the same as ours.
 void prepareOnce() {
     static const bool isPrepared = [] {
-        qputenv("ORBISDIAL_DEVICE", "modemmanager");
+        qunsetenv("ORBISDIAL_DEVICE");  // as everybody has it
         qputenv("ORBISDIAL_DEVICE_WAIT_MS", QByteArray::number(PatienceMs));
         if (!Stack().plug("gsm", {"GSM"})) return false;
         nmcli({"connection", "add", "type", "gsm", "con-name", "Theirs", "ifname", "*", "apn", Request().apn,

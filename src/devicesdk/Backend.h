@@ -54,13 +54,14 @@ public:
 #define ORBISDIAL_BACKEND_MODULE_NAME "orbisdial_backend_module"
 
 struct BackendModule {
-    static constexpr unsigned CurrentVersion = 1;  // grows with each change of what a module and the SDK share
+    static constexpr unsigned CurrentVersion = 2;  // grows with each change of what a module and the SDK share
 
     unsigned version;
-    // Whether "auto" should choose it. May wait for a moment, as for an answer of the bus, never for a modem.
-    bool (*isAvailable)();
     // Lives until the process ends, as the sink does; null when it can't be made.
     Backend* (*make)(EventSink& events);
+    // For "auto": null, too, where there is nothing that it could talk to. May wait for a moment, as for an answer of
+    // the bus, never for a modem.
+    Backend* (*makeWhenAvailable)(EventSink& events);
 };
 
 #endif

@@ -32,19 +32,27 @@ BackendSelection chooseSimulated() {
     return {new SimulatedBackend(*events), events, "simulated", nullptr};
 }
 
-BackendSelection use(const LoadedModule& loaded, const char* name) {
-    if (!loaded.module) return unavailable(loaded.problem);
+using MakeBackend = Backend* (*)(EventSink& events);
+
+// Without a backend when it can't be made.
+BackendSelection use(MakeBackend make, const char* name) {
     auto events = std::make_unique<EventDispatcher>();
-    Backend* backend = loaded.module->make(*events);
-    if (!backend) return unavailable("the device backend can't start");
-    return {backend, events.release(), name, nullptr};
+    Backend* backend = make(*events);
+    return {backend, backend ? events.release() : nullptr, name, nullptr};
 }
 
-BackendSelection chooseModemManager() { return use(loadBackendModule("modemmanager"), "modemmanager"); }
+BackendSelection chooseModemManager() {
+    const LoadedModule loaded = loadBackendModule("modemmanager");
+    if (!loaded.module) return unavailable(loaded.problem);
+    const BackendSelection selection = use(loaded.module->make, "modemmanager");
+    return selection.backend ? selection : unavailable("the device backend can't start");
+}
 
 BackendSelection chooseAutomatically() {
     const LoadedModule loaded = loadBackendModule("modemmanager");
-    return loaded.module && loaded.module->isAvailable() ? use(loaded, "modemmanager") : chooseNone();
+    if (!loaded.module) return chooseNone();
+    const BackendSelection selection = use(loaded.module->makeWhenAvailable, "modemmanager");
+    return selection.backend ? selection : chooseNone();
 }
 
 struct BackendKind {

@@ -35,11 +35,11 @@ private:
     std::thread m_Thread;
 };
 
-bool isAvailable() { return std::strcmp(standIn(), "absent") != 0; }
-
 Backend* make(EventSink& events) { return std::strcmp(standIn(), "null") == 0 ? nullptr : new StandIn(events); }
+
+Backend* makeWhenAvailable(EventSink& events) { return std::strcmp(standIn(), "absent") == 0 ? nullptr : make(events); }
 
 }  // namespace
 
 extern "C" __attribute__((visibility("default"))) const BackendModule ORBISDIAL_BACKEND_MODULE;
-const BackendModule ORBISDIAL_BACKEND_MODULE = {STANDIN_VERSION, isAvailable, make};
+const BackendModule ORBISDIAL_BACKEND_MODULE = {STANDIN_VERSION, make, makeWhenAvailable};

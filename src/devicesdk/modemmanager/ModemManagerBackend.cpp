@@ -4,15 +4,30 @@
 #include "Dialler.h"
 #include "ModemPicture.h"
 
-ModemManagerBackend::ModemManagerBackend(EventSink& events)
+ModemManagerBackend::ModemManagerBackend(EventSink& events, Condition condition)
     : m_Board(events),
       m_Watch(m_Thread, [this] { describe(); }),
       m_Unlocking(m_Thread, m_Watch, m_Board),
       m_Ussd(m_Thread, m_Watch, m_Board),
-      m_Bus(m_Thread, {[this](GDBusConnection* bus) { busCame(bus); }, [this] { busWent(); }}),
+      m_Bus(m_Thread, {[this](GDBusConnection* bus) { connected(bus); }, [this] { disconnected(); }}),
+      m_Offer(condition == WhenOffered ? new ServiceOffer(MM_DBUS_SERVICE) : nullptr),
       m_Connecting(new Dialler(*this)) {
     m_Thread.start();
     m_Thread.invoke([this] { m_Bus.connect(); });
+}
+
+// Until somebody offers ModemManager nothing is asked of it.
+void ModemManagerBackend::connected(GDBusConnection* bus) {
+    if (!m_Offer || m_IsOffered) return busCame(bus);
+    m_Offer->ask(bus, [this, bus] {
+        m_IsOffered = true;
+        busCame(bus);
+    });
+}
+
+void ModemManagerBackend::disconnected() {
+    if (m_Offer) m_Offer->deny();
+    busWent();
 }
 
 // ModemManager is asked first: NetworkManager takes longer to answer, and nothing of it waits for a modem.
@@ -79,5 +94,8 @@ Traffic ModemManagerBackend::traffic() { return m_Connecting->traffic(); }
 // for it.
 void ModemManagerBackend::stop() {
     m_Watch.interrupt();
-    m_Thread.stop([this] { m_Connecting->stop(); });
+    m_Thread.stop([this] {
+        m_Connecting->stop();
+        if (m_Offer && !m_IsOffered) m_Bus.drop();
+    });
 }

@@ -3,6 +3,7 @@
 #ifndef ORBISDIAL_MODEMMANAGERBACKEND_H
 #define ORBISDIAL_MODEMMANAGERBACKEND_H
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -12,6 +13,7 @@
 #include "ConnectionPart.h"
 #include "ModemWatch.h"
 #include "PictureBoard.h"
+#include "ServiceOffer.h"
 #include "SystemBus.h"
 #include "UssdSession.h"
 #include "WorkerThread.h"
@@ -19,7 +21,16 @@
 // Lives as long as the process.
 class ModemManagerBackend : public Backend, private ConnectionHost {
 public:
-    explicit ModemManagerBackend(EventSink& events);
+    enum Condition { Always, WhenOffered };
+
+    explicit ModemManagerBackend(EventSink& events, Condition condition = Always);
+
+    // Of one that was made for the case that ModemManager is offered: waits for the bus to say so, for so long at most.
+    // When it does not the backend is of no use and must be stopped.
+    bool awaitOffer(std::chrono::milliseconds longest) { return m_Offer->await(longest); }
+
+    // After stop(): whether it has come all the same.
+    bool isOffered() const { return m_IsOffered; }
 
     std::shared_ptr<const Picture> picture() override { return m_Board.get(); }
     void awaitPicture(std::chrono::steady_clock::time_point deadline) override { m_Board.await(deadline); }
@@ -39,6 +50,8 @@ private:
     bool change(const Edit& edit) override { return m_Board.change(edit); }
     MMObject* modemInUse() override;
 
+    void connected(GDBusConnection* bus);
+    void disconnected();
     void busCame(GDBusConnection* bus);
     void busWent();
     void describe();
@@ -52,12 +65,14 @@ private:
     CardUnlocking m_Unlocking;
     UssdSession m_Ussd;
     SystemBus m_Bus;
+    std::unique_ptr<ServiceOffer> m_Offer;  // null: nobody asks for it
     std::unique_ptr<ConnectionPart> m_Connecting;
 
     std::mutex m_Mutex;  // guards what follows
     std::string m_Wanted;
 
     // Of the thread.
+    bool m_IsOffered = false;    // the bus said so
     bool m_IsDescribed = false;  // there was a first complete picture
     std::string m_PathInUse;     // of the modem's object, as the connecting part was told
 };

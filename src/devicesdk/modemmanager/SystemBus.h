@@ -23,15 +23,14 @@ public:
 
     void connect();
 
-    // Whether somebody offers the name, or would be started for it. Waits for the bus, for so long at most.
-    static bool hasService(const char* name, unsigned int milliseconds);
+    // On the thread: gives the connection up for good.
+    void drop();
 
 private:
     static void onConnected(GObject* source, GAsyncResult* result, gpointer self);
     static void onClosed(SystemBus* self);
     void retryLater();
     void lose();
-    void drop();
 
     WorkerThread& m_Thread;
     Handlers m_Handlers;
