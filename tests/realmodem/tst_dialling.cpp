@@ -234,6 +234,17 @@ private slots:
         if (command.contains("radio")) QVERIFY(nmcli("radio wwan on"));
     }
 
+    // NetworkManager keeps the connection until the modem has answered.
+    void endedByOthersWhileTheModemIsSilent() {
+        QVERIFY(m_Stack.reply("gsm", Dialling, "(silence)"));
+        const int dialled = dialCommands();
+        QVERIFY(dial());
+        QTRY_VERIFY_WITH_TIMEOUT(dialCommands() > dialled, 15000);
+        QVERIFY(nmcli("--wait 0 connection down id Home"));
+        TRY_DOWN(VRKS_FAILURE_ENDED_OUTSIDE);
+        QVERIFY(m_Stack.send("gsm", NoCarrier));
+    }
+
     void radioThatIsOffOrHasJustComeOn() {
         QVERIFY(nmcli("radio wwan off"));
         QVERIFY(dial());

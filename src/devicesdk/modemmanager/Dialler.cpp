@@ -329,8 +329,7 @@ void Dialler::watch() {
     NMActiveConnection* connection = m_Watch ? m_Watch->connection() : nullptr;
     if (!connection || !m_Watch->has(connection)) return waitForReason();
     if (m_Dialled.isHangingUp && !m_Dialled.isDeactivating && !isAnswerDue()) deactivate();
-    if (m_Dialled.hungUpAt && isEnding(connection) && !m_Patience.isRunning())
-        m_Patience.start(EndingMs, [this] { stopWaiting(); });
+    if (isEnding(connection) && !m_Patience.isRunning()) m_Patience.start(EndingMs, [this] { stopWaiting(); });
     if (m_Phase == Phase::Activating &&
         nm_active_connection_get_state(connection) == NM_ACTIVE_CONNECTION_STATE_ACTIVATED)
         comeUp();
@@ -405,9 +404,7 @@ void Dialler::deactivate() {
 // without a link nothing is left of it.
 void Dialler::stopWaiting() {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
-    const bool isElsewhere = m_Dialled.hungUpAt && !m_Dialled.isHangingUp;
-    if (!device || textOf(nm_device_get_ip_iface(device)).empty())
-        return finish({isElsewhere ? VRKS_FAILURE_HUNG_UP : VRKS_FAILURE_NONE, {}});
+    if (!device || textOf(nm_device_get_ip_iface(device)).empty()) return waitForReason();
     m_Patience.start(EndingMs, [this] { stopWaiting(); });
 }
 
