@@ -20,7 +20,7 @@ QString fieldText(const QJsonValue& value) {
     if (value.isNull()) return QString();
     if (!value.isArray()) return TerminalText::json(value);
     QStringList elements;
-    for (const QJsonValue& element : value.toArray()) elements.append(fieldText(element));
+    for (const auto& element : value.toArray()) elements.append(fieldText(element));
     return elements.join(',');
 }
 
@@ -29,7 +29,7 @@ QList<QJsonObject> rowsOf(const QJsonObject& object) {
     for (const char* list : {"profiles", "modems", "findings"}) {
         if (!object.contains(QLatin1String(list))) continue;
         QList<QJsonObject> rows;
-        for (const QJsonValue& element : object[QLatin1String(list)].toArray()) rows.append(element.toObject());
+        for (const auto& element : object[QLatin1String(list)].toArray()) rows.append(element.toObject());
         return rows;
     }
     return {object};
