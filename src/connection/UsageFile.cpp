@@ -81,7 +81,7 @@ bool parse(const QByteArray& text, UsageRecords* records) {
     const QJsonObject cards = all.value(QLatin1String("cards")).toObject();
     for (auto card = cards.begin(); card != cards.end(); ++card)
         records->cards.insert(card.key(), cardIn(card->toObject()));
-    for (const QJsonValue& mark : all.value(QLatin1String("marks")).toArray()) {
+    for (const auto& mark : all.value(QLatin1String("marks")).toArray()) {
         const QJsonObject object = mark.toObject();
         records->marks.append({object.value(QLatin1String("instance")).toString(), totalsIn(object)});
     }

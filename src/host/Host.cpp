@@ -15,6 +15,7 @@
 #include "Plugins.h"
 #include "StandardOutput.h"
 #include "Startup.h"
+#include "StateSign.h"
 
 namespace {
 
@@ -76,11 +77,18 @@ void Host::start() {
     ChosenModem::use();
     followDevice();
     connect(&m_Window, &MainWindow::refreshed, &m_Messages, [this] { m_Messages.refresh(m_Window.picture()); });
+    connect(&m_Window, &MainWindow::refreshed, this, &Host::showSign);
     m_Plugins.start(CommonUtils::GetPluginLibraryPath() + QStringLiteral("/plugins"));
     m_Window.begin(m_Plugins.pages() + QVector<SettingsPage>{{&m_SettingsPage, &m_SettingsPage, "Host", true}},
                    m_Plugins.problems());
     watchPlugins();
     emit started();
+}
+
+// In title bars, and wherever a desktop knows no icon of the program's.
+void Host::showSign() {
+    const ConnectionPicture::Sign sign = m_Window.picture().sign;
+    if (std::exchange(m_ShownSign, sign) != sign) QGuiApplication::setWindowIcon(StateSign::icon(sign));
 }
 
 void Host::followDevice() {

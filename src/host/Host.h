@@ -60,6 +60,7 @@ private:
     void startBehindPaint();
     void startWhenReady();
     void followDevice();
+    void showSign();
     void watchPlugins();
 
     const std::unique_ptr<QThread> m_DeviceLoading;
@@ -75,6 +76,7 @@ private:
     QTimer m_LatestStart;
     bool m_IsSeen = false;
     bool m_HasStarted = false;
+    std::optional<ConnectionPicture::Sign> m_ShownSign;
 };
 
 #endif

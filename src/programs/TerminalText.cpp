@@ -103,7 +103,7 @@ QString TerminalText::json(const QJsonValue& value) {
         return '{' + parts.join(',') + '}';
     }
     if (value.isArray()) {
-        for (const QJsonValue& element : value.toArray()) parts.append(json(element));
+        for (const auto& element : value.toArray()) parts.append(json(element));
         return '[' + parts.join(',') + ']';
     }
     return value.isString() ? jsonString(value.toString()) : jsonWord(value);
