@@ -160,7 +160,7 @@ void NetConnectSettingUILogic::keepConfiguration() {
 // A file that is just not there is no problem by itself, but it is where it was there before.
 void NetConnectSettingUILogic::reportKept(const QString& path) {
     if (LastStorageProblem().file != path)
-        m_pXMLParse->reportProblem(path, reasonText("can't be read now; what was last read of it stays in force"));
+        m_pXMLParse->reportProblem(path, Reason("can't be read now; what was last read of it stays in force"));
 }
 
 int NetConnectSettingUILogic::readConfigPair(QString group, QString module, UserPrompt* prompt) {

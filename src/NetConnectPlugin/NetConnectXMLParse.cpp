@@ -38,7 +38,7 @@ QString NetConnectXMLParse::getUserDataDirectory() {
 QString NetConnectXMLParse::userProfilePath() {
     const QString directory = getUserDataDirectory();
     if (!directory.isEmpty()) return directory + QLatin1String(NetConnectFileNames::User);
-    reportProblem(QLatin1String(NetConnectFileNames::User), reasonText("the user data directory can't be had"));
+    reportProblem(QLatin1String(NetConnectFileNames::User), Reason("the user data directory can't be had"));
     return QString();
 }
 
@@ -59,7 +59,7 @@ QString NetConnectXMLParse::configurationPath() {
     return shippedPath(NetConnectFileNames::Configuration);
 }
 
-void NetConnectXMLParse::reportProblem(const QString& file, const QString& reason, qint64 line, qint64 column) {
+void NetConnectXMLParse::reportProblem(const QString& file, const Reason& reason, qint64 line, qint64 column) {
     m_bKeepProblem = false;
     m_Problem.file = file;
     m_Problem.reason = reason;
@@ -69,7 +69,7 @@ void NetConnectXMLParse::reportProblem(const QString& file, const QString& reaso
 
 void NetConnectXMLParse::reportOutOfMemory(const QString& path) {
     qDebug("Error open file: ");
-    reportProblem(path, reasonText("there is not enough memory for it"));
+    reportProblem(path, Reason("there is not enough memory for it"));
 }
 
 void NetConnectXMLParse::clearProblem(const QString& file) {
@@ -77,7 +77,7 @@ void NetConnectXMLParse::clearProblem(const QString& file) {
 }
 
 int NetConnectXMLParse::readFile(const QString& path, QByteArray* content) {
-    QString reason;
+    Reason reason;
     const FileReplacement::Outcome outcome = FileReplacement::read(path, content, &reason);
     if (outcome == FileReplacement::Done) return 0;
     if (outcome == FileReplacement::Missing) {
@@ -85,23 +85,23 @@ int NetConnectXMLParse::readFile(const QString& path, QByteArray* content) {
         return NetConnectStatus::FileMissing;
     }
     qDebug("Error open file: ");
-    reportProblem(path, reasonText("can't be read: %1").arg(reason));
+    reportProblem(path, Reason("can't be read: %1").arg(reason));
     return NetConnectStatus::FileNotOpened;
 }
 
 void NetConnectXMLParse::traceReadError(const char* function) { qDebug("%s: %s: Read Error: n", __FILE__, function); }
 
 int NetConnectXMLParse::reportReadError(const QXmlStreamReader& reader, const QString& path) {
-    reportProblem(path, reader.errorString(), reader.lineNumber(), reader.columnNumber());
+    reportProblem(path, Reason(reader.errorString()), reader.lineNumber(), reader.columnNumber());
     return NetConnectStatus::ReadError;
 }
 
 int NetConnectXMLParse::writeFile(const QString& path, const QByteArray& content, FileReplacement::Purpose purpose,
                                   FileReplacement::Placing placing) {
-    QString reason = reasonText("can't be written as XML");
+    Reason reason = Reason("can't be written as XML");
     FileReplacement::Outcome outcome = FileReplacement::Failed;
     if (!content.isEmpty()) {
-        reason.clear();
+        reason = Reason();
         outcome = FileReplacement::write(path, content, purpose, placing, &reason);
     }
     if (outcome == FileReplacement::Taken) return TargetAppeared;

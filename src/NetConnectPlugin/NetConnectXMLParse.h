@@ -123,7 +123,7 @@ public:
     FileStamp userFileStamp() const { return m_User.stamp; }
 
     NetConnectStorageProblem lastProblem() const { return m_Problem; }
-    void reportProblem(const QString& file, const QString& reason, qint64 line = 0, qint64 column = 0);
+    void reportProblem(const QString& file, const Reason& reason, qint64 line = 0, qint64 column = 0);
 
     // Forgets the last problem if it was this file's.
     void clearProblem(const QString& file);
@@ -133,8 +133,10 @@ private:
     struct KeptFile {
         KeptFile() : isComplete(false), revision(0) {}
         bool isCurrent(const QString& file, const FileStamp& now) const {
-            return (isComplete || !damage.isNull()) && path == file && stamp.settled && stamp.exists() && stamp == now;
+            return (isComplete || isTold()) && path == file && stamp.settled && stamp.exists() && stamp == now;
         }
+        // A reader tells of damage in the language of the moment, so that it is asked again in another one.
+        bool isTold() const;
         // Whether the document is that of these bytes, which were just read from the file.
         bool isOf(const QString& file, const QByteArray& bytes) const {
             return isComplete && path == file && !content.isEmpty() && content == bytes;
@@ -145,6 +147,7 @@ private:
         bool isComplete;  // read or written to its end
         ProfileDocument document;
         NetConnectStorageProblem damage;  // why it could not be read to its end; the document is then a part
+        QString language;                 // of the damage
         QByteArray content;  // the file's bytes as long as its stamp can't vouch for them; empty after that
         int revision;
     };

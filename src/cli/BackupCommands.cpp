@@ -24,10 +24,10 @@ public:
 // Passwords stay in the form in which they are stored. False when there is no such file.
 bool readDocument(const QString& path, ProfileDocument* document) {
     QByteArray content;
-    QString reason;
+    Reason reason;
     const FileReplacement::Outcome outcome = FileReplacement::read(path, &content, &reason);
     if (outcome == FileReplacement::Missing) return false;
-    if (outcome != FileReplacement::Done) throw CommandError::failed(withReason(path, reason));
+    if (outcome != FileReplacement::Done) throw CommandError::failed(withReason(path, reason.text()));
     if (document->scan(content)) return true;
     QXmlStreamReader reader(content);
     document->read(reader);
@@ -44,12 +44,12 @@ QStringList namesOf(const ProfileDocument& document) {
 }
 
 void write(const OutputFile& file, const ProfileDocument& document) {
-    QString reason;
+    Reason reason;
     const QByteArray content = document.write();
     const bool isWritten =
         !content.isEmpty() && FileReplacement::write(file.path(), content, FileReplacement::Export,
                                                      FileReplacement::OverOld, &reason) == FileReplacement::Done;
-    if (!isWritten) throw CommandError::failed(message("%1: can't be written: %2", {file.path(), reason}));
+    if (!isWritten) throw CommandError::failed(message("%1: can't be written: %2", {file.path(), reason.text()}));
     file.finish();
 }
 

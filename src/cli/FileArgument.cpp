@@ -54,10 +54,10 @@ FileArgument::FileArgument(const QString& argument, const char* streamName) {
 
 InputFile::InputFile(const QString& argument) : FileArgument(argument, "standard input") {
     if (!isStream()) return;
-    QString reason;
+    Reason reason;
     if (FileReplacement::write(path(), standardInput(), FileReplacement::Export, FileReplacement::OnlyNew, &reason) !=
         FileReplacement::Done)
-        throw CommandError::failed(withReason(path(), reason));
+        throw CommandError::failed(withReason(path(), reason.text()));
 }
 
 OutputFile::OutputFile(const QString& argument, bool mayReplaceAny) : FileArgument(argument, "standard output") {

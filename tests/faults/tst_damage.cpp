@@ -39,7 +39,7 @@ private:
         QVERIFY(fixture.logic()->LastStorageProblem().line > 0);
 
         QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("zzz")), 0);
-        const QString reason = fixture.logic()->LastStorageProblem().reason;
+        const QString reason = fixture.logic()->LastStorageProblem().reason.text();
         QCOMPARE(fixture.names(), readable + QStringList("zzz"));
         QCOMPARE(fixture.logic()->DelDialUpProfile("zzz"), 0);
         // The damage is put aside once.

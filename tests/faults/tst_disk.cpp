@@ -66,7 +66,7 @@ private slots:
             const NetConnectStorageProblem problem = logic->LastStorageProblem();
             QCOMPARE(status, 25);
             QVERIFY2(problem.file == file || problem.file == file + ".lock", qPrintable(problem.file));
-            QVERIFY2(problem.reason.contains(fault.reason()), qPrintable(problem.reason));
+            QVERIFY2(problem.reason.text().contains(fault.reason()), qPrintable(problem.reason.text()));
             QVERIFY(contents() == before);
         };
         const auto orbisctlRefuses = [&](const QStringList& arguments, const QString& file) {
@@ -122,7 +122,7 @@ private slots:
         FaultsFixture fixture;
         const Failing failing({"fsync folder", EIO});
         QCOMPARE(fixture.logic()->SaveDialUpProfile(LogicFixture::named("New")), 0);
-        QVERIFY(fixture.logic()->LastStorageProblem().reason.contains(strerror(EIO)));
+        QVERIFY(fixture.logic()->LastStorageProblem().reason.text().contains(strerror(EIO)));
         QVERIFY(FaultsFixture::read(fixture.userFile()).contains("New"));
     }
 

@@ -131,7 +131,7 @@ private slots:
         give(path(cell("link")), User);
         QCOMPARE(LogicFixture::names().contains("Secret"), false);
         QCOMPARE(save("New"), 25);
-        QVERIFY(logic()->LastStorageProblem().reason.contains("link"));
+        QVERIFY(logic()->LastStorageProblem().reason.text().contains("link"));
         QCOMPARE(TestFolder::read(path("victim")), before);
         TestFolder::write(path("victim"), "precious");
     }

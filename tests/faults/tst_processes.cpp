@@ -121,7 +121,7 @@ private slots:
             QVERIFY(::rename(qPrintable(file + ".new"), qPrintable(file)) == 0);
         });
         UserFileLock lock;
-        QString reason;
+        Reason reason;
         QVERIFY(lock.acquire(file, &reason) && lock.isInPlace());
     }
 
@@ -131,7 +131,7 @@ private slots:
         QCOMPARE(logic()->ExportChosenProfiles({"Alpha"}, file), 0);
         const QByteArray before = FaultsFixture::read(file);
         UserFileLock other;
-        QString reason;
+        Reason reason;
         QVERIFY(other.acquireIfThere(file, &reason) && other.isHeld());
         UserFileLock::setLongestWait(100);
         QCOMPARE(logic()->ExportChosenProfiles({"Beta"}, file), 25);

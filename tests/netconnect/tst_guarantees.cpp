@@ -68,7 +68,7 @@ private slots:
         QCOMPARE(kept.size(), 1);
         QCOMPARE(read(path(kept[0])), damaged);
         QCOMPARE(mode(path(kept[0])), 0600);
-        QVERIFY(logic()->LastStorageProblem().reason.contains(path(kept[0])));
+        QVERIFY(logic()->LastStorageProblem().reason.text().contains(path(kept[0])));
         QVERIFY(read(file).contains("name=\"A\"") && read(file).contains("name=\"New\""));
     }
 
@@ -118,14 +118,14 @@ private slots:
         timer.start();
         QCOMPARE(logic()->SaveDialUpProfile(named("A")), 25);
         QVERIFY(timer.elapsed() >= 200 && timer.elapsed() < 2000);
-        QVERIFY(logic()->LastStorageProblem().reason.contains("locked"));
+        QVERIFY(logic()->LastStorageProblem().reason.text().contains("locked"));
         QVERIFY(!QFile::exists(userFile()));
 
         // Why the save failed is told until one succeeds, not only until somebody gets the lock.
         other.release();
         NetConnectStoreAction action;
         QCOMPARE(action.lock(), 0);
-        QVERIFY(logic()->LastStorageProblem().reason.contains("locked"));
+        QVERIFY(logic()->LastStorageProblem().reason.text().contains("locked"));
         QCOMPARE(logic()->SaveDialUpProfile(named("A")), 0);
         QCOMPARE(action.commit(), 0);
         QVERIFY(logic()->LastStorageProblem().isNull());
@@ -152,7 +152,7 @@ private slots:
         QCOMPARE(logic()->SaveDialUpProfile(named("A")), 0);
         QVERIFY(QFile::remove(userFile() + ".lock"));
         QCOMPARE(action.commit(), 25);
-        QVERIFY(logic()->LastStorageProblem().reason.contains("removed"));
+        QVERIFY(logic()->LastStorageProblem().reason.text().contains("removed"));
         QVERIFY(!QFile::exists(userFile()));
     }
 
@@ -162,13 +162,13 @@ private slots:
         QFile large(file);
         QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(FileReplacement::LargestFile + 1));  // takes no space
         QByteArray content;
-        QString reason;
+        Reason reason;
         QCOMPARE(FileReplacement::read(file, &content, &reason), FileReplacement::Failed);
-        QVERIFY(reason.contains("too large"));
+        QVERIFY(reason.text().contains("too large"));
         const QByteArray larger(int(FileReplacement::LargestFile) + 1, Qt::Uninitialized);
         QCOMPARE(FileReplacement::write(file, larger, FileReplacement::Export, FileReplacement::OverOld, &reason),
                  FileReplacement::Failed);
-        QVERIFY(reason.contains("too large to be read again"));
+        QVERIFY(reason.text().contains("too large to be read again"));
         QCOMPARE(large.size(), FileReplacement::LargestFile + 1);
     }
 
@@ -189,7 +189,7 @@ private slots:
 
 private:
     bool acquire(UserFileLock* lock) const {
-        QString reason;
+        Reason reason;
         return lock->acquire(userFile() + ".lock", &reason);
     }
 

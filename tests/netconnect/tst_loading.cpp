@@ -111,6 +111,33 @@ private slots:
         QVERIFY(logic()->LastStorageProblem().isNull());
     }
 
+    void problemsFollowTheLanguage_data() {
+        const Rows<QByteArray, QString, QString> row("user", "english", "german");
+        row("of a file", "<!DOCTYPE vrksdoc [<!ENTITY a 'b'>]><vrksdoc/>", "declares entities",
+            QString::fromUtf8("deklariert Entit\u00e4ten"));
+        row("of a moment", document(profile("Own")), "can't be exported",
+            QString::fromUtf8("in diese Datei k\u00f6nnen keine"));
+    }
+    void problemsFollowTheLanguage() {
+        shipTexts();
+        const QString german = "/lang/orbisdial_de.qm";
+        QVERIFY(QFile::copy(ORBISDIAL_LIBRARY_DIR + german, path("library" + german)));
+        write(userFile(), cell<QByteArray>("user"));
+        QTest::qWait(150);  // a file that is just written is read again each time
+        restart();
+        QStringList chosen("Own");
+        if (logic()->LastStorageProblem().isNull()) logic()->ExportSelectedProfilesToFile(&chosen, userFile());
+        QVERIFY2(logic()->LastStorageProblem().text().contains(cell("english")),
+                 qPrintable(logic()->LastStorageProblem().text()));
+        Change::SetLanguage("de");
+        names();
+        const QString said = logic()->LastStorageProblem().text();
+        Change::SetLanguage("en");
+        QVERIFY2(said.contains(cell("german")), qPrintable(said));
+        names();
+        QVERIFY(logic()->LastStorageProblem().text().contains(cell("english")));
+    }
+
     void aDeviceThatIsNotReadySelectsNothing() {
         setDevice("STATUS", "2");
         shipConfig(section("Function", {"IMSIAPN=true"}) + section("IMSIProfileList imsi='31026'", {"US=default"}));

@@ -141,7 +141,8 @@ private slots:
         };
         for (const auto& attempt : hostile) {
             QCOMPARE(load(attempt.first), 6);
-            QVERIFY2(xml()->lastProblem().reason.contains(attempt.second), qPrintable(xml()->lastProblem().reason));
+            QVERIFY2(xml()->lastProblem().reason.text().contains(attempt.second),
+                     qPrintable(xml()->lastProblem().reason.text()));
         }
     }
 
@@ -154,10 +155,10 @@ private slots:
         const QByteArray skipped = wide(QByteArray("<!--").leftJustified(declaration.size() / 2, ' '));
         write(userFile(), declaration + skipped + wide(manyAttributes(400000)));
         QCOMPARE(load(), 6);
-        QVERIFY(xml()->lastProblem().reason.contains("attributes"));
+        QVERIFY(xml()->lastProblem().reason.text().contains("attributes"));
         write(userFile(), "<?xml " + QByteArray(5000, ' ') + "version='1.0'?><v/>");
         QCOMPARE(load(), 6);
-        QVERIFY(xml()->lastProblem().reason.contains("declaration"));
+        QVERIFY(xml()->lastProblem().reason.text().contains("declaration"));
     }
 
     // What stands before a mistake is read, whatever the mistake makes of what follows.

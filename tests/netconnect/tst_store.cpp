@@ -127,7 +127,8 @@ private slots:
         restart();
         QTEST(fetch("A").password, "password");
         QTEST(fetch("A").encrypttype, "method");
-        QCOMPARE(logic()->LastStorageProblem().reason.contains("sealed password"), attributes.contains("orbis1:"));
+        QCOMPARE(logic()->LastStorageProblem().reason.text().contains("sealed password"),
+                 attributes.contains("orbis1:"));
     }
 
     // What can't be opened is shown as empty, which is no wish to have it empty. An edit by us, and by another plug-in,

@@ -134,7 +134,7 @@ QStringList keysOfTexts(const QString& context, const QString& folder, const QSt
 QStringList usedMessages() {
     const QString literal = "\\s*\"((?:[^\"\\\\]|\\\\.)*)\"";
     return keysOfTexts("Programs/", "src", "(?:\\bmessage\\(|QT_TRANSLATE_NOOP\\(\"Programs\",)" + literal) +
-           keysOfTexts("Reasons/", "src", "(?:\\breasonText\\(|\"Reasons\",)" + literal) +
+           keysOfTexts("Reasons/", "src", "(?:\\b(?:reasonText|Reason)\\(|\"Reasons\",)" + literal) +
            keysOfTexts("Reasons/", "src/NetConnectPlugin", "\\b(?:refuse|systemFailure|fail)\\(" + literal);
 }
 

@@ -240,7 +240,7 @@ bool NetConnectSettingUILogic::openPassword(DialupProfile* profile) {
 void NetConnectSettingUILogic::reportUnopened(const DialupProfile& profile) {
     m_pXMLParse->reportProblem(
         m_pXMLParse->userProfilePath(),
-        reasonText("the sealed password of \"%1\" was changed outside and can't be opened").arg(profile.name));
+        Reason("the sealed password of \"%1\" was changed outside and can't be opened").arg(profile.name));
 }
 
 // Seals a plain password when the configuration says so; false when it can't be sealed.
@@ -272,7 +272,7 @@ int NetConnectSettingUILogic::AddDialUpProfile(const DialupProfile& profile) {
     if (HasUserProfile(profile.name)) return operation.hasFailed() ? FileNotOpened : NameTaken;
     DialupProfile stored = profile;
     if (!sealPassword(&stored)) {
-        m_pXMLParse->reportProblem(m_pXMLParse->userProfilePath(), reasonText("a password can't be sealed"));
+        m_pXMLParse->reportProblem(m_pXMLParse->userProfilePath(), Reason("a password can't be sealed"));
         return FileNotOpened;
     }
     m_UserProfileList.append(stored);

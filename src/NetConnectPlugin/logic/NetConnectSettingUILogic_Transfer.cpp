@@ -194,7 +194,7 @@ int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, con
     for (int i = 0; i < mostAttempts && status == NetConnectXMLParse::TargetAppeared; ++i)
         status = exportInto(path, names, users, shipped);
     if (status == NetConnectXMLParse::TargetAppeared) {
-        m_pXMLParse->reportProblem(path, reasonText("other programs make and remove it all the time"));
+        m_pXMLParse->reportProblem(path, Reason("other programs make and remove it all the time"));
         status = FileNotOpened;
     }
     return status;
@@ -205,7 +205,7 @@ int NetConnectSettingUILogic::ExportChosenProfiles(const QStringList& names, con
 int NetConnectSettingUILogic::exportInto(const QString& path, const QStringList& names, const ProfilesByName& users,
                                          const ProfilesByName& shipped) {
     UserFileLock lock;
-    QString reason;
+    Reason reason;
     if (!lock.acquireIfThere(path, &reason)) {
         m_pXMLParse->reportProblem(path, reason);
         return FileNotOpened;
@@ -228,7 +228,7 @@ int NetConnectSettingUILogic::exportInto(const QString& path, const QStringList&
 // The user's own file would lose its default, and an empty path means that very file.
 int NetConnectSettingUILogic::refuseExportTo(const QString& path) {
     if (!path.isEmpty() && !FileReplacement::isSameFile(path, m_pXMLParse->userProfilePath())) return Success;
-    m_pXMLParse->reportProblem(path, reasonText("profiles can't be exported to this file"));
+    m_pXMLParse->reportProblem(path, Reason("profiles can't be exported to this file"));
     return FileNotOpened;
 }
 

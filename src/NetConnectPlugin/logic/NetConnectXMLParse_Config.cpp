@@ -93,7 +93,7 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
     m_Config = KeptConfig();
     QByteArray content;
     if (!stamp.exists() && path != shippedPath(NetConnectFileNames::Configuration))
-        reportProblem(path, reasonText("leads to no file"));
+        reportProblem(path, Reason("leads to no file"));
     if (!stamp.exists() || readFile(path, &content) != 0) return NetConnectStatus::FileMissing;
 
     if (!document->scan(content)) {

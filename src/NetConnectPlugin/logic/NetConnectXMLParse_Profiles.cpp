@@ -3,6 +3,7 @@
 
 #include <new>
 
+#include "Change.h"
 #include "FileReplacement.h"
 #include "NetConnectXMLParse.h"
 #include "ReasonText.h"
@@ -53,6 +54,8 @@ int NetConnectXMLParse::openDocument(const QString& fileName, bool leavesProfile
     }
 }
 
+bool NetConnectXMLParse::KeptFile::isTold() const { return !damage.isNull() && language == Change::GetLangName(); }
+
 // Parses a file, or takes what is kept of it when it has not changed.
 int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, ProfileDocument* document) {
     const FileStamp stamp = FileStamp::of(path);
@@ -87,6 +90,7 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     kept->isComplete = status == 0;
     kept->document = *document;
     kept->damage = status == NetConnectStatus::ReadError ? m_Problem : NetConnectStorageProblem();
+    kept->language = Change::GetLangName();
     kept->content = status == 0 && !stamp.settled ? content : QByteArray();
     ++kept->revision;
     return status;
@@ -228,14 +232,14 @@ bool NetConnectXMLParse::prepareTarget(const QString& path, const KeptFile& kept
     document.read(reader);
     if (content.isEmpty() || !reader.hasError()) return true;
 
-    QString reason;
+    Reason reason;
     if (!copy->make(path, content, purpose, &reason)) {
         qDebug("Error open file: ");
-        reportProblem(path, reasonText("is damaged, and can't be kept: %1").arg(reason));
+        reportProblem(path, Reason("is damaged, and can't be kept: %1").arg(reason));
         return false;
     }
     reportProblem(
-        path, reasonText("was damaged (%1); the damaged file is kept as %2").arg(reader.errorString(), copy->path()),
+        path, Reason("was damaged (%1); the damaged file is kept as %2").arg(reader.errorString()).arg(copy->path()),
         reader.lineNumber(), reader.columnNumber());
     m_bKeepProblem = true;
     return true;

@@ -55,9 +55,9 @@ private:
 };
 
 // Stores what failed and why, from errno; always false.
-inline bool systemFailure(const char* what, QString* reason) {
+inline bool systemFailure(const char* what, Reason* reason) {
     const int error = errno;
-    *reason = reasonText("%1: %2").arg(reasonText(what), QString::fromLocal8Bit(strerror(error)));
+    *reason = Reason("%1: %2").arg(Reason(what)).arg(QString::fromLocal8Bit(strerror(error)));
     return false;
 }
 

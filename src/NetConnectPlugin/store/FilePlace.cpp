@@ -27,7 +27,7 @@ static QByteArray takeName(QByteArray* path) {
     return name;
 }
 
-bool FilePlace::fail(const char* what, QString* reason) {
+bool FilePlace::fail(const char* what, Reason* reason) {
     m_bMissing = errno == ENOENT || errno == ENOTDIR;
     return systemFailure(what, reason);
 }
@@ -43,10 +43,10 @@ bool FilePlace::enter(int from, const QByteArray& name) {
 
 QString FilePlace::path() const { return QFile::decodeName(m_FolderPath + m_Name); }
 
-bool FilePlace::followLink(const QByteArray& name, const struct stat& link, QByteArray* rest, QString* reason) {
+bool FilePlace::followLink(const QByteArray& name, const struct stat& link, QByteArray* rest, Reason* reason) {
     if (!mayFollow(folder(), link)) {
-        *reason = reasonText("a link in a folder where others may have put it is not followed: %1")
-                      .arg(QFile::decodeName(name));
+        *reason =
+            Reason("a link in a folder where others may have put it is not followed: %1").arg(QFile::decodeName(name));
         return false;
     }
     char target[PATH_MAX];
@@ -58,7 +58,7 @@ bool FilePlace::followLink(const QByteArray& name, const struct stat& link, QByt
     return enter(AT_FDCWD, "/") || fail("can't enter the root folder", reason);
 }
 
-bool FilePlace::open(const QString& path, QString* reason) {
+bool FilePlace::open(const QString& path, Reason* reason) {
     const char* const entering = QT_TRANSLATE_NOOP("Reasons", "can't enter the folder");
     int linksLeft = 40;  // as the kernel bounds a chain of them
     QByteArray rest = QFile::encodeName(path);

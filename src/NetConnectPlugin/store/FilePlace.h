@@ -13,9 +13,9 @@
 // done in the folder that is held open can't be led elsewhere any more.
 class FilePlace {
 public:
-    // Finds the folder; the file itself need not exist, and is no link. False, with the reason in English, when it
-    // can't be had; isMissing() tells whether because something on the way does not exist.
-    bool open(const QString& path, QString* reason);
+    // Finds the folder; the file itself need not exist, and is no link. False, with the reason, when it can't be had;
+    // isMissing() tells whether because something on the way does not exist.
+    bool open(const QString& path, Reason* reason);
 
     bool isMissing() const { return m_bMissing; }
     int folder() const { return m_Folder.get(); }
@@ -33,9 +33,9 @@ public:
     bool operator==(const FilePlace& other) const;
 
 private:
-    bool fail(const char* what, QString* reason);
+    bool fail(const char* what, Reason* reason);
     bool enter(int from, const QByteArray& name);
-    bool followLink(const QByteArray& name, const struct stat& link, QByteArray* rest, QString* reason);
+    bool followLink(const QByteArray& name, const struct stat& link, QByteArray* rest, Reason* reason);
 
     Descriptor m_Folder;
     QByteArray m_FolderPath;  // ends with a slash; empty for the current folder

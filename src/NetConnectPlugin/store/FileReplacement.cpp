@@ -188,7 +188,7 @@ const struct stat* ownerFor(FileReplacement::Purpose purpose, const struct stat*
 }
 
 // Gives the new file the owner and the mode that it should have.
-bool applyRights(int fd, const FilePlace& place, FileReplacement::Purpose purpose, QString* reason) {
+bool applyRights(int fd, const FilePlace& place, FileReplacement::Purpose purpose, Reason* reason) {
     struct stat before;
     struct stat folder;
     struct stat now;
@@ -208,7 +208,7 @@ bool applyRights(int fd, const FilePlace& place, FileReplacement::Purpose purpos
 QString megabytes(qint64 bytes) { return QString::number(bytes / (1024 * 1024)); }
 
 bool fill(TemporaryFile* file, const FilePlace& place, const QByteArray& content, FileReplacement::Purpose purpose,
-          QString* reason) {
+          Reason* reason) {
     if (!file->create()) return systemFailure("can't create a file in the folder", reason);
     if (!applyRights(file->get(), place, purpose, reason)) return false;
     if (!writeAll(file->get(), content)) return systemFailure("can't write", reason);
@@ -217,7 +217,7 @@ bool fill(TemporaryFile* file, const FilePlace& place, const QByteArray& content
 }
 
 FileReplacement::Outcome writeAt(const FilePlace& place, const QByteArray& content, FileReplacement::Purpose purpose,
-                                 FileReplacement::Placing placing, QString* reason) {
+                                 FileReplacement::Placing placing, Reason* reason) {
     const bool isClean = removeLeftovers(place);
     cleanFolders().remove(FolderState(place).key);
     {
@@ -239,7 +239,7 @@ FileReplacement::Outcome writeAt(const FilePlace& place, const QByteArray& conte
 
 namespace FileReplacement {
 
-Outcome read(const QString& path, QByteArray* content, QString* reason) {
+Outcome read(const QString& path, QByteArray* content, Reason* reason) {
     const char* const opening = QT_TRANSLATE_NOOP("Reasons", "can't be opened");
     FilePlace place;
     if (path.isEmpty()) return Missing;
@@ -252,12 +252,12 @@ Outcome read(const QString& path, QByteArray* content, QString* reason) {
     }
     // A pipe or a device could be opened, but would never end.
     if (!S_ISREG(info.st_mode)) {
-        *reason = reasonText("it is not a regular file");
+        *reason = Reason("it is not a regular file");
         return Failed;
     }
     if (info.st_size > LargestFile) {
         *reason =
-            reasonText("it is too large: %1 of at most %2 MB").arg(megabytes(info.st_size), megabytes(LargestFile));
+            Reason("it is too large: %1 of at most %2 MB").arg(megabytes(info.st_size)).arg(megabytes(LargestFile));
         return Failed;
     }
     const Descriptor file(Descriptor::openAt(place.folder(), place.name().constData(), O_RDONLY));
@@ -271,10 +271,11 @@ Outcome read(const QString& path, QByteArray* content, QString* reason) {
     return Failed;
 }
 
-Outcome write(const QString& path, const QByteArray& content, Purpose purpose, Placing placing, QString* reason) {
+Outcome write(const QString& path, const QByteArray& content, Purpose purpose, Placing placing, Reason* reason) {
     if (content.size() > LargestFile) {
-        *reason = reasonText("not written: it would be too large to be read again, %1 of at most %2 MB")
-                      .arg(megabytes(content.size()), megabytes(LargestFile));
+        *reason = Reason("not written: it would be too large to be read again, %1 of at most %2 MB")
+                      .arg(megabytes(content.size()))
+                      .arg(megabytes(LargestFile));
         return Failed;
     }
     FilePlace place;
@@ -286,7 +287,7 @@ DamagedCopy::~DamagedCopy() {
     if (m_bExists) ::unlinkat(m_Place.folder(), m_Place.name().constData(), 0);
 }
 
-bool DamagedCopy::make(const QString& path, const QByteArray& content, Purpose purpose, QString* reason) {
+bool DamagedCopy::make(const QString& path, const QByteArray& content, Purpose purpose, Reason* reason) {
     const int mostNames = 100;
     if (!m_Place.open(path, reason)) return false;
     const QByteArray stem = m_Place.name() + DamageMark +
@@ -297,7 +298,7 @@ bool DamagedCopy::make(const QString& path, const QByteArray& content, Purpose p
         m_bExists = outcome == Done;
         if (outcome != Taken) return m_bExists;
     }
-    *reason = reasonText("every name for a copy of the damaged file is taken");
+    *reason = Reason("every name for a copy of the damaged file is taken");
     return false;
 }
 
@@ -309,7 +310,7 @@ bool isSameFile(const QString& one, const QString& other) {
         return isSameInode(first, second);
     FilePlace firstPlace;
     FilePlace secondPlace;
-    QString ignored;
+    Reason ignored;
     return firstPlace.open(one, &ignored) && secondPlace.open(other, &ignored) && firstPlace == secondPlace;
 }
 

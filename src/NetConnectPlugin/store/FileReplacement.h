@@ -9,7 +9,7 @@
 #include "FilePlace.h"
 #include "XmlText.h"
 
-// Links are followed as FilePlace says; reasons are in English.
+// Links are followed as FilePlace says.
 namespace FileReplacement {
 
 const qint64 LargestFile = XmlText::LargestDocument;
@@ -34,12 +34,12 @@ enum Outcome {
 };
 
 // Reads a regular file whole: Done, Missing or Failed.
-Outcome read(const QString& path, QByteArray* content, QString* reason);
+Outcome read(const QString& path, QByteArray* content, Reason* reason);
 
 // Writes the content beside the file under a temporary name, flushes it to disk, gives it the file's name and flushes
 // the folder: Done, Taken or Failed. When it is not done the old file stays and the temporary one goes. When only the
 // folder could not be flushed it is done, with a reason.
-Outcome write(const QString& path, const QByteArray& content, Purpose purpose, Placing placing, QString* reason);
+Outcome write(const QString& path, const QByteArray& content, Purpose purpose, Placing placing, Reason* reason);
 
 // True when two paths lead to the same file, hard links included, or would if it existed.
 bool isSameFile(const QString& one, const QString& other);
@@ -51,7 +51,7 @@ public:
     DamagedCopy() : m_bExists(false) {}
     ~DamagedCopy();
 
-    bool make(const QString& path, const QByteArray& content, Purpose purpose, QString* reason);
+    bool make(const QString& path, const QByteArray& content, Purpose purpose, Reason* reason);
     QString path() const { return m_Place.path(); }
     void keep() { m_bExists = false; }
 

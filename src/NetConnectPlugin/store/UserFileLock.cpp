@@ -26,7 +26,7 @@ static useconds_t pause(qint64 waited) {
 }
 
 // A file that is no longer the one of its name locks out nobody.
-UserFileLock::Attempt UserFileLock::attempt(QString* reason) {
+UserFileLock::Attempt UserFileLock::attempt(Reason* reason) {
     struct stat named;
     if (!m_Place.look(&named)) {
         if (errno == ENOENT) return Absent;
@@ -34,7 +34,7 @@ UserFileLock::Attempt UserFileLock::attempt(QString* reason) {
         return Failed;
     }
     if (!S_ISREG(named.st_mode)) {
-        *reason = reasonText("can't be locked: it is not a regular file");
+        *reason = Reason("can't be locked: it is not a regular file");
         return Failed;
     }
     // Locks of some network file systems need a file that can be written.
@@ -64,7 +64,7 @@ bool UserFileLock::isInPlace() const {
     return isHeld() && ::fstat(m_File.get(), &held) == 0 && m_Place.look(&named) && isSameInode(held, named);
 }
 
-bool UserFileLock::wait(const QString& path, bool makesFile, QString* reason) {
+bool UserFileLock::wait(const QString& path, bool makesFile, Reason* reason) {
     release();
     if (!m_Place.open(path, reason)) return false;
     QElapsedTimer timer;
@@ -81,6 +81,6 @@ bool UserFileLock::wait(const QString& path, bool makesFile, QString* reason) {
             if (made == FileReplacement::Failed) return false;
         }
     }
-    *reason = reasonText("another program keeps it locked");
+    *reason = Reason("another program keeps it locked");
     return false;
 }

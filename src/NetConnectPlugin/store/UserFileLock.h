@@ -17,11 +17,11 @@ public:
 
     // Locks a lock file, which is made when it is missing. Waits for as long as setLongestWait() says. On failure the
     // reason is stored, in English.
-    bool acquire(const QString& path, QString* reason) { return wait(path, true, reason); }
+    bool acquire(const QString& path, Reason* reason) { return wait(path, true, reason); }
 
     // The same for a file that others replace by renaming: one that is missing needs no lock, and is not made. True
     // also then; isHeld() tells.
-    bool acquireIfThere(const QString& path, QString* reason) { return wait(path, false, reason); }
+    bool acquireIfThere(const QString& path, Reason* reason) { return wait(path, false, reason); }
 
     void release() { m_File.reset(); }
     bool isHeld() const { return m_File.isOpen(); }
@@ -36,8 +36,8 @@ private:
     Q_DISABLE_COPY(UserFileLock)
 
     enum Attempt { Locked, Absent, Busy, Failed };
-    Attempt attempt(QString* reason);
-    bool wait(const QString& path, bool makesFile, QString* reason);
+    Attempt attempt(Reason* reason);
+    bool wait(const QString& path, bool makesFile, Reason* reason);
 
     FilePlace m_Place;
     Descriptor m_File;

@@ -129,7 +129,7 @@ bool UserStore::lockFile() {
 }
 
 bool UserStore::acquireBeside(const QString& userFile) {
-    QString reason;
+    Reason reason;
     m_strLockPath = userFile + QLatin1String(".lock");
     if (!m_Lock.acquire(m_strLockPath, &reason)) {
         m_pFiles->reportProblem(m_strLockPath, reason);
@@ -176,7 +176,7 @@ int UserStore::store() {
 // Whoever removes the lock file lets others lock a new one: what the user's file holds is then no longer known here.
 bool UserStore::isStillLocked() {
     if (m_Lock.isInPlace()) return true;
-    m_pFiles->reportProblem(m_strLockPath, reasonText("was removed while the profiles were being changed"));
+    m_pFiles->reportProblem(m_strLockPath, Reason("was removed while the profiles were being changed"));
     return false;
 }
 
