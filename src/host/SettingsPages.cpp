@@ -165,6 +165,7 @@ void SettingsPages::showCurrent() {
     for (QWidget* child : m_Frame->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
         if (!child->isWindow()) m_FrameLayout->addWidget(child);
     }
+    setTabOrder(m_Cancel, m_List);  // and from there into the page, which stands at the order's end
 }
 
 void SettingsPages::selectCurrentRow() {

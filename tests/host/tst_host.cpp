@@ -232,6 +232,19 @@ private slots:
     }
 
     // The dialog goes to the page that can't be stored.
+    void tabsFromTheListIntoThePage() {
+        m_Host->window()->openSettings();
+        for (const int row : {FakeRow, HostRow}) {
+            clickRow(row);
+            pageList()->setFocus();
+            QTest::keyClick(pageList(), Qt::Key_Tab);
+            QVERIFY(child<QWidget>("Host_PageFrame")->isAncestorOf(QApplication::focusWidget()));
+            child<QWidget>("Host_CancelButton")->setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget(), pageList());
+        }
+    }
+
     void saysWhenSettingsAreNotStored() {
         TestFolder::write(m_Folder->path("file"), "");
         qputenv("ORBISDIAL_CONFIG_DIR", QFile::encodeName(m_Folder->path("file/config")));
