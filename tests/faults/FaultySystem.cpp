@@ -99,8 +99,6 @@ FAULTY("fchmod", fchmod, (int fd, mode_t mode), (fd, mode))
 FAULTY("fchown", fchown, (int fd, uid_t user, gid_t group), (fd, user, group))
 FAULTY("rename", rename, (const char* from, const char* to), (from, to))
 FAULTY("rename", renameat, (int oldFolder, const char* from, int folder, const char* to), (oldFolder, from, folder, to))
-FAULTY("rename", renameat2, (int oldFolder, const char* from, int folder, const char* to, unsigned flags),
-       (oldFolder, from, folder, to, flags))
 FAULTY("linkat", linkat, (int oldFolder, const char* from, int folder, const char* to, int flags),
        (oldFolder, from, folder, to, flags))
 FAULTY("unlink", unlink, (const char* path), (path))
@@ -131,6 +129,14 @@ FAULTY_OPEN(open, (const char* path, int flags, ...), (path, flags, mode))
 FAULTY_OPEN(open64, (const char* path, int flags, ...), (path, flags, mode))
 FAULTY_OPEN(openat, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
 FAULTY_OPEN(openat64, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
+
+INTERPOSED int renameat2(int oldFolder, const char* from, int folder, const char* to, unsigned flags) noexcept {
+    if (failsAt("rename")) return -1;
+    if (flags == 0 || strcmp(failing, "rename with flags") != 0)
+        return next<decltype(renameat2)>("renameat2")(oldFolder, from, folder, to, flags);
+    errno = EINVAL;
+    return -1;
+}
 
 INTERPOSED ssize_t read(int fd, void* data, size_t size) {
     if (failsAt("read")) return -1;

@@ -14,7 +14,8 @@ void killAt(int n);
 // Lets the n-th call of a name from now on fail with this errno, or every call for n = 0; null none. The names are the
 // functions', but that "rename", "unlink" and "stat" stand for all of their kind, "open to read" for an open that
 // writes nothing, "fsync folder" for the flush of a folder, "write in full" for a write that takes only half of its
-// data, "read in full" for reads of at most 100 bytes, and "write anything" for one that takes nothing.
+// data, "read in full" for reads of at most 100 bytes, "write anything" for one that takes nothing, and "rename with
+// flags" for a file system that knows none.
 // $ORBISDIAL_TEST_FAULT ("name=errno@n") does the same from the program's start.
 void fail(const char* call, int error, int n = 0);
 

@@ -44,9 +44,10 @@ const QMap<QString, Errors>& errorsByCall() {
     return errors;
 }
 
-// Interrupted calls are made again, and those that did a part go on.
-const QStringList Interruptible{"open",          "open to read", "read",         "read in full", "write",
-                                "write in full", "fsync",        "fsync folder", "close",        "flock"};
+// Interrupted calls are made again, those that did a part go on, and what a file system can't do is done otherwise.
+const QStringList Interruptible{"open",          "open to read",      "read",  "read in full", "write",
+                                "write in full", "rename with flags", "fsync", "fsync folder", "close",
+                                "flock"};
 
 void dropTrace(QtMsgType, const QMessageLogContext&, const QString&) {}
 
