@@ -175,11 +175,13 @@ private slots:
         row("missing", "new.prof", 23, 0);
         row("folder", "folder", 25, 25);
         row("pipe", "pipe", 25, 25);
+        row("a link to itself", "loop", 25, 25);
     }
     void placesThatAreNoFile() {
         QFETCH(QString, name);
         QDir().mkpath(path("folder"));
         QCOMPARE(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+        QFile::link(path("loop"), path("loop"));
         QTEST(load(path(name)), "readStatus");
         QTEST(save({}, QString(), path(name), false), "writeStatus");
     }
