@@ -177,6 +177,7 @@ private slots:
         row("while the modem dials, in vain", InVain, VRKS_STEP_CONNECTING);
         row("while the modem dials, with success", Answered, VRKS_STEP_CONNECTING);
         row("while a modem dials that does not answer", Silent, VRKS_STEP_CONNECTING);
+        row("while the modem dials and NetworkManager hangs", Hung, VRKS_STEP_CONNECTING);
         row("while PPP negotiates", NoAddress, VRKS_STEP_CONNECTING);
     }
 
@@ -196,6 +197,7 @@ private slots:
         }
         QVERIFY2(connection().state == VRKS_CONNECTION_DIALLING, shown());
         QVERIFY(!dial());
+        if (where == Hung) QVERIFY(m_Stack.freeze("NetworkManager"));
         QVERIFY(hangUp());
         QVERIFY2(connection().state != VRKS_CONNECTION_DIALLING, shown());
         if (where == Frozen) QVERIFY(m_Stack.thaw("NetworkManager"));
@@ -207,8 +209,9 @@ private slots:
                        connection().state == VRKS_CONNECTION_DOWN);
         QVERIFY2(connection().failure == VRKS_FAILURE_CANCELLED, shown());
         QVERIFY(!hangUp());
+        if (where == Hung) QVERIFY(m_Stack.thaw("NetworkManager"));
         if (where == Unmanaged) QVERIFY(nmcli("device set gsm-port managed yes"));
-        if (where == Begun || where == Silent) QVERIFY(m_Stack.send("gsm", NoCarrier));
+        if (where == Begun || where >= Silent) QVERIFY(m_Stack.send("gsm", NoCarrier));
 
         QVERIFY(m_Stack.reply("gsm", Dialling, Connected));
         QVERIFY(m_Stack.setPppd("up"));
@@ -424,7 +427,7 @@ private slots:
     }
 
 private:
-    enum { Begun, Unmanaged, Frozen, NoAddress, InVain, Answered, Silent };
+    enum { Begun, Unmanaged, Frozen, NoAddress, InVain, Answered, Silent, Hung };
 
     static int modemCount() {
         char id[VRKS_MODEM_ID_SIZE];

@@ -138,5 +138,7 @@ Failure failureOf(const GError* error) {
     g_dbus_error_strip_remote_error(copy.get());
     if (g_error_matches(error, NM_CLIENT_ERROR, NM_CLIENT_ERROR_MANAGER_NOT_RUNNING))
         return {VRKS_FAILURE_NO_NETWORK_SERVICE, copy->message};
+    if (g_error_matches(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT))
+        return {VRKS_FAILURE_NO_NETWORK_SERVICE, NetworkHangs};
     return failureOf(NamedError{textOf(name.get()), copy->message});
 }

@@ -31,7 +31,10 @@ Failure failureOf(const Ending& ending);
 // Whether a bearer could not dial because its port still belongs to a call of before.
 bool isStuck(const std::vector<NamedError>& bearerErrors);
 
-// Of a call that NetworkManager answered with an error.
+// The words for a NetworkManager that hangs.
+constexpr char NetworkHangs[] = "NetworkManager does not answer";
+
+// Of a call that NetworkManager answered with an error, or not at all.
 Failure failureOf(const NamedError& error);
 Failure failureOf(const GError* error);
 

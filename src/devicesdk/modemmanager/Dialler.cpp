@@ -24,7 +24,6 @@ constexpr int PulseAnswerMs = 10000;                   // in which it must
 constexpr unsigned RemovalMs = 3000;                   // from the hanging up of a modem that goes until it is gone
 constexpr unsigned SettlingMs = 100;                   // two daemons tell of one failure, in any order
 const char RadioIsOff[] = "Mobile broadband is switched off";
-const char NetworkHangs[] = "NetworkManager does not answer";
 const char ModemHangs[] = "ModemManager does not answer";
 constexpr auto RadioSettling = std::chrono::seconds(1);  // a radio that came on may be switched once more in this time
 
@@ -51,6 +50,8 @@ bool dialsOverSerialPort(MMModem* modem) {
     return mm_modem_peek_ports(modem, &ports, &count) &&
            std::none_of(ports, ports + count, [](const auto& port) { return port.type == MM_MODEM_PORT_TYPE_NET; });
 }
+
+bool isTimeOver(const GError* error) { return g_error_matches(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT); }
 
 bool isReadyToDial(NMDevice* device) { return device && nm_device_get_state(device) == NM_DEVICE_STATE_DISCONNECTED; }
 
@@ -259,7 +260,8 @@ void Dialler::look() {
     if (m_Watch->isRadioOff()) return awaitRadio();
     NMDevice* device = m_Watch->device();
     NMActiveConnection* foreign = device ? nm_device_get_active_connection(device) : nullptr;
-    if (foreign && m_Watch->has(foreign) && nm_device_get_state(device) > NM_DEVICE_STATE_DISCONNECTED &&
+    if (foreign && m_Watch->has(foreign) && !isGivenUp(foreign) &&
+        nm_device_get_state(device) > NM_DEVICE_STATE_DISCONNECTED &&
         nm_device_get_state(device) <= NM_DEVICE_STATE_ACTIVATED)
         return fail({VRKS_FAILURE_IN_USE, textOf(nm_active_connection_get_id(foreign))});
     if (isReadyToDial(device) && !isRadioSettling()) return ask();
@@ -404,8 +406,11 @@ void Dialler::deactivate() {
 // without a link nothing is left of it.
 void Dialler::stopWaiting() {
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
-    if (!device || textOf(nm_device_get_ip_iface(device)).empty()) return waitForReason();
-    m_Patience.start(EndingMs, [this] { stopWaiting(); });
+    const bool hasLink = device && !textOf(nm_device_get_ip_iface(device)).empty();
+    if (hasLink) return m_Patience.start(EndingMs, [this] { stopWaiting(); });
+    m_GivenUp = m_Dialled.isOwn ? m_Dialled.askedAt : m_Dialled.stamp;
+    m_IsTakenBack = true;
+    waitForReason();
 }
 
 void Dialler::onDeactivated(GObject* source, GAsyncResult* result, gpointer self) {
@@ -414,7 +419,7 @@ void Dialler::onDeactivated(GObject* source, GAsyncResult* result, gpointer self
     const Error failure(error);
     if (!failure || isCancelled(failure)) return;
     auto* dialler = static_cast<Dialler*>(self);
-    if (dialler->m_Phase != Phase::Activating && dialler->m_Phase != Phase::Up) return;
+    if (dialler->m_Phase != Phase::Activating && dialler->m_Phase != Phase::Up) return dialler->keepInSight(failure);
     dialler->m_Patience.stop();
     dialler->m_Dialled.isHangingUp = false;
     dialler->m_Dialled.isDeactivating = false;
@@ -436,7 +441,7 @@ void Dialler::require(const Daemon& daemon, WorkerThread::Work answers, WorkerTh
     if (!isUnderWay() || !m_Bus) return;
     probe(m_Bus.get(), daemon, PulseAnswerMs, m_Cancellation.get(), [=](const GError* error) {
         if (!isUnderWay() || m_Pulse.isRunning()) return;
-        g_error_matches(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT) ? hangs() : answers();
+        isTimeOver(error) ? hangs() : answers();
     });
 }
 
@@ -471,14 +476,18 @@ void Dialler::takeBack(NMActiveConnection* connection) {
         nm_client_deactivate_connection_async(m_Watch->client(), connection, m_Cancellation.get(), onTakenBack, this);
 }
 
-// What can't be taken back is shown.
 void Dialler::onTakenBack(GObject* source, GAsyncResult* result, gpointer self) {
     GError* error = nullptr;
     nm_client_deactivate_connection_finish(NM_CLIENT(source), result, &error);
     const Error failure(error);
-    if (!failure || isCancelled(failure)) return;
-    static_cast<Dialler*>(self)->m_GivenUp.reset();
-    static_cast<Dialler*>(self)->updateSoon();
+    if (failure && !isCancelled(failure)) static_cast<Dialler*>(self)->keepInSight(failure);
+}
+
+// A connection that was given up and can't be taken back.
+void Dialler::keepInSight(const Error& error) {
+    if (isTimeOver(error.get())) return;
+    m_GivenUp.reset();
+    updateSoon();
 }
 
 // The first reason tells; the states after it only clean up.

@@ -105,6 +105,7 @@ private:
     void giveUpConnection();
     bool isGivenUp(NMActiveConnection* connection) const;
     void takeBack(NMActiveConnection* connection);
+    void keepInSight(const Error& error);
     static void onTakenBack(GObject* source, GAsyncResult* result, gpointer self);
     static void onDeactivated(GObject* source, GAsyncResult* result, gpointer self);
     void deviceStateChanged(NMDeviceState now, unsigned reason);
@@ -151,8 +152,8 @@ private:
     Timer m_Settling;
     Timer m_Beginning;
     Timer m_Pulse;
-    std::optional<DialStamp> m_GivenUp;  // of the connection of ours in which a daemon hung
-    bool m_IsTakenBack = false;          // that one
+    std::optional<DialStamp> m_GivenUp;  // of a connection that is over for us
+    bool m_IsTakenBack = false;          // NetworkManager was asked to end that one
     bool m_IsUpdateDue = false;
     Cancellation m_Cancellation;
     std::atomic<int> m_WaitingDials{0};    // accepted, and not yet seen by the machine
