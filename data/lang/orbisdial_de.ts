@@ -1145,7 +1145,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>IDS_HOST_BALANCE_UNKNOWN</source>
-        <translation>Wie Ihr Anbieter das Guthaben nennt, ist hier nicht bekannt. Wenn Sie seinen Befehl kennen, geben Sie ihn ein; gesendet wird erst, wenn Sie „Abfragen“ drücken.</translation>
+        <translation>Wie Ihr Anbieter das Guthaben mitteilt, ist hier nicht bekannt. Wenn Sie seinen Befehl kennen, geben Sie ihn ein; gesendet wird erst, wenn Sie „Abfragen“ drücken.</translation>
     </message>
     <message>
         <source>IDS_HOST_BALANCE_COMMAND</source>
@@ -1909,7 +1909,7 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     </message>
     <message>
         <source>how %1 tells a balance is not known; see orbisctl ussd CODE</source>
-        <translation>wie %1 das Guthaben nennt, ist nicht bekannt; siehe orbisctl ussd CODE</translation>
+        <translation>wie %1 das Guthaben mitteilt, ist nicht bekannt; siehe orbisctl ussd CODE</translation>
     </message>
     <message>
         <source>how many attempts are left is not known</source>

@@ -76,7 +76,7 @@ NewProfileDialog::NewProfileDialog(const DialupProfile& values, const QString& w
     QString name;
     if (IPresetLibrary* const library = Plugins::presets()) library->ProposeProfileName(wish, &name);
     m_Name->setText(name);
-    m_Name->selectAll();
+    m_Name->setSelection(name.size(), -name.size());  // a long one shows its beginning
     retranslate();
 }
 

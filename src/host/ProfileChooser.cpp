@@ -62,7 +62,6 @@ void ProfileChooser::retranslate() {
     for (QWidget* widget :
          {static_cast<QWidget*>(this), static_cast<QWidget*>(lineEdit()), static_cast<QWidget*>(view())})
         widget->setAccessibleName(hostText("IDS_HOST_PROFILE"));
-    setToolTip(hostText("IDS_HOST_PROFILE_TIP"));
     m_IsFilled = false;
     showCurrent();
 }
@@ -146,8 +145,10 @@ void ProfileChooser::showCurrent() {
     }
     setCurrentIndex(rowOf(name));
     const QString none = m_IsAwaited ? QString() : hostText("IDS_HOST_NO_DEFAULT_PROFILE");
-    setEditText(name.isEmpty() ? none : shownName(name));
+    const QString shown = name.isEmpty() ? none : shownName(name);
+    setEditText(shown);
     lineEdit()->setCursorPosition(0);
+    setToolTip(directed(shown) + QLatin1Char('\n') + hostText("IDS_HOST_PROFILE_TIP"));  // a long one is cut
 }
 
 // What was typed may be a whole name, or the part of a single one.
