@@ -290,18 +290,18 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::buildMenus() {
     m_ConnectionMenu = menuBar()->addMenu(QString());
     m_Action = m_ConnectionMenu->addAction(QString(), this, &MainWindow::act);
-    m_Action->setShortcut(Qt::CTRL | Qt::Key_Return);
+    m_Action->setShortcut(QStringLiteral("Ctrl+Return"));
     m_UnlockAction = addEntry(m_ConnectionMenu, "IDS_HOST_UNLOCK", {}, &MainWindow::unlock);
     addEntry(m_ConnectionMenu, "IDS_HOST_BALANCE", {}, &MainWindow::askBalance);
     m_ConnectionMenu->addSeparator();
-    addEntry(m_ConnectionMenu, "IDS_HOST_PRESETS", QKeySequence(Qt::CTRL | Qt::Key_P), &MainWindow::openPresets);
+    addEntry(m_ConnectionMenu, "IDS_HOST_PRESETS", QStringLiteral("Ctrl+P"), &MainWindow::openPresets);
     addEntry(m_ConnectionMenu, "IDS_HOST_NEW_FROM", QKeySequence::New, &MainWindow::copyProfile);
     m_ConnectionMenu->addSeparator();
-    addEntry(m_ConnectionMenu, "IDS_HOST_SETTINGS", QKeySequence(Qt::CTRL | Qt::Key_Comma), &MainWindow::openSettings);
+    addEntry(m_ConnectionMenu, "IDS_HOST_SETTINGS", QStringLiteral("Ctrl+,"), &MainWindow::openSettings);
     m_ConnectionMenu->addSeparator();
     QAction* const quit = m_ConnectionMenu->addAction(QString(), this, &MainWindow::quit);
     quit->setShortcut(QKeySequence::Quit);
-    if (quit->shortcut().isEmpty()) quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    if (quit->shortcut().isEmpty()) quit->setShortcut(QStringLiteral("Ctrl+Q"));
     quit->setMenuRole(QAction::QuitRole);
     m_Entries.append({quit, "IDS_HOST_QUIT"});
     m_HelpMenu = menuBar()->addMenu(QString());

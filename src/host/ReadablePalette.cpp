@@ -32,7 +32,7 @@ QList<QColor> groundsOf(const QPalette& palette) {
     QList<QColor> grounds;
     for (const QPalette::ColorRole role : Grounds) {
         for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Disabled}) {
-            const QColor ground = palette.color(group, role);
+            const QColor& ground = palette.color(group, role);
             grounds << ground << ground.lighter(Lighter) << ground.darker(Darker);
         }
     }
