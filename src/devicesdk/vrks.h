@@ -62,6 +62,12 @@ extern "C" {
 
 #define VRKS_PRODUCT_TYPE_CDMA 1 /* of VRKS_DevSrv_GetProductType */
 
+/* Of VRKS_NetSrv_GetSysInfoEx. CDMA's sub-modes from the first to the last here are those of eHRPD. */
+#define VRKS_SYSTEM_MODE_NONE 0 /* no network */
+#define VRKS_SYSTEM_MODE_CDMA 2
+#define VRKS_SYSTEM_SUBMODE_EHRPD_FIRST 31
+#define VRKS_SYSTEM_SUBMODE_EHRPD_LAST 36
+
 typedef int (*VRKS_DevInitEventCallback)(int event, void* data);
 
 /* Adds a callback; one that is registered already is a failure. */

@@ -8,12 +8,6 @@
 
 namespace {
 
-// System modes and sub-modes of the device SDK.
-constexpr int NoNetworkMode = 0;
-constexpr int CdmaMode = 2;
-constexpr int FirstEhrpdSubMode = 31;
-constexpr int LastEhrpdSubMode = 36;
-
 int numberAt(const unsigned char* place) {
     int number = 0;
     std::memcpy(&number, place, sizeof number);
@@ -28,9 +22,10 @@ std::optional<NetworkKind::Kind> NetworkKind::now() {
     if (VRKS_NetSrv_GetSysInfoEx(record) != 0) return std::nullopt;
     const int mode = numberAt(record + VRKS_SYSINFO_MODE_OFFSET);
     const int subMode = numberAt(record + VRKS_SYSINFO_SUBMODE_OFFSET);
-    if (mode == NoNetworkMode) return None;
-    if (mode != CdmaMode) return Other;
-    return subMode >= FirstEhrpdSubMode && subMode <= LastEhrpdSubMode ? Ehrpd : Cdma;
+    if (mode == VRKS_SYSTEM_MODE_NONE) return None;
+    if (mode != VRKS_SYSTEM_MODE_CDMA) return Other;
+    const bool isEhrpd = subMode >= VRKS_SYSTEM_SUBMODE_EHRPD_FIRST && subMode <= VRKS_SYSTEM_SUBMODE_EHRPD_LAST;
+    return isEhrpd ? Ehrpd : Cdma;
 }
 
 bool NetworkKind::hasChanged() {

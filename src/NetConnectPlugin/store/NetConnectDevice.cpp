@@ -103,9 +103,6 @@ QString cardOperator() {
 }
 
 bool isEhrpd(const Caller& caller) {
-    const unsigned int cdmaMode = 2;
-    const unsigned int firstEhrpd = 31;
-    const unsigned int lastEhrpd = 36;
     unsigned char record[VRKS_SYSINFO_SIZE] = {0};
     if (VRKS_NetSrv_GetSysInfoEx(record) != 0) {
         qDebug("<======== %s: %s: %s:\tVRKS_NetSrv_GetSysInfoEx Failed", traceTime().constData(), caller.file,
@@ -113,7 +110,8 @@ bool isEhrpd(const Caller& caller) {
         return false;
     }
     const unsigned int subMode = valueAt(record, VRKS_SYSINFO_SUBMODE_OFFSET);
-    return valueAt(record, VRKS_SYSINFO_MODE_OFFSET) == cdmaMode && subMode >= firstEhrpd && subMode <= lastEhrpd;
+    return valueAt(record, VRKS_SYSINFO_MODE_OFFSET) == VRKS_SYSTEM_MODE_CDMA &&
+           subMode >= VRKS_SYSTEM_SUBMODE_EHRPD_FIRST && subMode <= VRKS_SYSTEM_SUBMODE_EHRPD_LAST;
 }
 
 bool credentials(QString* user, QString* password, const Caller& caller) {

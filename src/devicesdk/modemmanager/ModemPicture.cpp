@@ -14,8 +14,8 @@ constexpr unsigned CardModeNone = 0;
 constexpr unsigned CardModeWcdma = 1;
 constexpr unsigned CardModeCdma = 2;
 
-// System modes; 2 is the one that callers know.
-enum { ModeNone, ModeGsm, ModeCdma, ModeUmts, ModeLte, ModeNr };
+// System modes.
+enum { ModeNone = VRKS_SYSTEM_MODE_NONE, ModeGsm, ModeCdma = VRKS_SYSTEM_MODE_CDMA, ModeUmts, ModeLte, ModeNr };
 
 struct Technology {
     unsigned bit;
@@ -24,8 +24,7 @@ struct Technology {
     int mode;
 };
 
-// The better ones first; a sub-mode is a row's number from the end, counted from 1. They stay below 31, where the
-// sub-modes of eHRPD begin, which ModemManager can't tell.
+// The better ones first; a sub-mode is a row's number from the end, counted from 1.
 const Technology Technologies[] = {
     {MM_MODEM_ACCESS_TECHNOLOGY_5GNR, "5G", 5, ModeNr},
     {MM_MODEM_ACCESS_TECHNOLOGY_LTE, "LTE", 4, ModeLte},
@@ -45,6 +44,8 @@ const Technology Technologies[] = {
     {MM_MODEM_ACCESS_TECHNOLOGY_GSM_COMPACT, "GSM", 2, ModeGsm},
     {MM_MODEM_ACCESS_TECHNOLOGY_GSM, "GSM", 2, ModeGsm},
 };
+// ModemManager can't tell eHRPD.
+static_assert(std::size(Technologies) < VRKS_SYSTEM_SUBMODE_EHRPD_FIRST, "a sub-mode would be taken for eHRPD");
 
 const Technology* technologyOf(const KnownModem& modem) {
     const auto place = std::find_if(std::begin(Technologies), std::end(Technologies),
