@@ -85,20 +85,28 @@ def told(item):
 
 def check(title):
     """A window, in which nothing lacks a name and no disabled button a reason."""
+    controls, found = wait_for(f"a look at {title}", lambda: look(title))
+    faults.extend(found)
+    return controls
+
+
+def look(title):
+    """The controls of a window, and what is wrong with them."""
+    found = []
     top = window(title)
     if top.get_role() not in WINDOWS:
-        faults.append(f"{title}: is no window but a {top.get_role_name()}")
+        found.append(f"{title}: is no window but a {top.get_role_name()}")
     controls = [item for item in walk(top) if item.get_role() in CONTROLS]
     if len(controls) < 5:
-        faults.append(f"{title}: only {len(controls)} controls were found")
+        found.append(f"{title}: only {len(controls)} controls were found")
     for item in controls:
         if not item.get_name():
             parents = told(item.get_parent())
-            faults.append(f"{title}: a {item.get_role_name()} in {parents} has no name")
+            found.append(f"{title}: a {item.get_role_name()} in {parents} has no name")
         is_dead = item.get_role() in BUTTONS and not has(item, Atspi.StateType.ENABLED)
         if is_dead and not item.get_description():
-            faults.append(f"{title}: {told(item)} does not say why it is disabled")
-    return controls
+            found.append(f"{title}: {told(item)} does not say why it is disabled")
+    return controls, found
 
 
 def press(keys):
