@@ -984,6 +984,14 @@
         <translation>يعثر OrbisDial على أجهزة المودم عبر ModemManager، وهو لا يعمل أو لا يستجيب. ثبّته أو أعد تشغيله.</translation>
     </message>
     <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE</source>
+        <translation>خدمة الاتصالات غير متاحة</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE_DETAIL</source>
+        <translation>يتصل OrbisDial عبر NetworkManager، وهو لا يستجيب. أعد تشغيله أو اسأل المسؤول.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_NO_MODEM</source>
         <translation>لا يوجد مودم</translation>
     </message>

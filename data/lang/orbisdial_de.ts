@@ -984,6 +984,14 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>OrbisDial findet Modems über den Dienst ModemManager, der nicht läuft oder nicht antwortet. Installieren Sie ihn oder starten Sie ihn neu.</translation>
     </message>
     <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE</source>
+        <translation>Verbindungsdienst nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE_DETAIL</source>
+        <translation>OrbisDial verbindet über den Dienst NetworkManager, der nicht antwortet. Starten Sie ihn neu oder fragen Sie Ihren Administrator.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_NO_MODEM</source>
         <translation>Kein Modem</translation>
     </message>

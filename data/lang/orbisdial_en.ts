@@ -1173,6 +1173,14 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
         <translation>OrbisDial finds modems through ModemManager, which is not running or does not answer. Install it, or start it again.</translation>
     </message>
     <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE</source>
+        <translation>Connection service not available</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE_DETAIL</source>
+        <translation>OrbisDial connects through NetworkManager, which does not answer. Start it again, or ask your administrator.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_NO_MODEM</source>
         <translation>No modem</translation>
     </message>

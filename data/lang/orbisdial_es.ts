@@ -984,6 +984,14 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>OrbisDial encuentra los módems mediante ModemManager, que no está en marcha o no responde. Instálelo o reinícielo.</translation>
     </message>
     <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE</source>
+        <translation>El servicio de conexiones no está disponible</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE_DETAIL</source>
+        <translation>OrbisDial se conecta mediante NetworkManager, que no responde. Reinícielo o pregunte a su administrador.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_NO_MODEM</source>
         <translation>Ningún módem</translation>
     </message>

@@ -984,6 +984,14 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>OrbisDial trouve les modems grâce à ModemManager, qui n’est pas lancé ou ne répond pas. Installez-le ou relancez-le.</translation>
     </message>
     <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE</source>
+        <translation>Le service des connexions n’est pas disponible</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE_DETAIL</source>
+        <translation>OrbisDial se connecte grâce à NetworkManager, qui ne répond pas. Relancez-le ou demandez à votre administrateur.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_NO_MODEM</source>
         <translation>Aucun modem</translation>
     </message>

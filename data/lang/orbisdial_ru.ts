@@ -984,6 +984,14 @@
         <translation>OrbisDial находит модемы через ModemManager, который не запущен или не отвечает. Установите или перезапустите его.</translation>
     </message>
     <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE</source>
+        <translation>Служба подключений недоступна</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE_DETAIL</source>
+        <translation>OrbisDial подключается через NetworkManager, который не отвечает. Перезапустите его или обратитесь к администратору.</translation>
+    </message>
+    <message>
         <source>IDS_HOST_NO_MODEM</source>
         <translation>Нет модема</translation>
     </message>

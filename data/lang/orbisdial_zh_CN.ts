@@ -984,6 +984,14 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>OrbisDial 通过 ModemManager 查找调制解调器，但它未运行或没有响应。请安装或重新启动它。</translation>
     </message>
     <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE</source>
+        <translation>连接服务不可用</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_NETWORK_SERVICE_DETAIL</source>
+        <translation>OrbisDial 通过 NetworkManager 连接，但它没有响应。请重新启动它，或联系管理员。</translation>
+    </message>
+    <message>
         <source>IDS_HOST_NO_MODEM</source>
         <translation>没有调制解调器</translation>
     </message>

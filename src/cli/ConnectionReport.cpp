@@ -102,14 +102,9 @@ CommandError::ExitStatus exitStatus(int failure) {
 
 }  // namespace
 
-bool ConnectionReport::isKnown() {
-    VRKS_Connection record{};
-    record.size = sizeof record;
-    return VRKS_NetConnectSrv_GetConnection(&record) == 0;
-}
-
 void ConnectionReport::requireKnown() {
-    if (!isKnown()) throw Platform::silence("NetworkManager", message("nothing can tell of connections"));
+    if (!DataConnection::current().isKnown)
+        throw Platform::silence("NetworkManager", message("nothing can tell of connections"));
 }
 
 QJsonObject ConnectionReport::lasting(const DataConnection& connection) {

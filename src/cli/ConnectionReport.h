@@ -11,10 +11,7 @@
 
 namespace ConnectionReport {
 
-// False when nothing can tell.
-bool isKnown();
-
-// Throws a CommandError when it is not.
+// Throws a CommandError when nothing can tell.
 void requireKnown();
 
 // Its state and all that belongs to it; null for what is unknown or not there.

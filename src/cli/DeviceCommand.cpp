@@ -98,8 +98,8 @@ QJsonValue addModem(QStringList* lines) {
 }
 
 QJsonValue addConnection(QStringList* lines) {
-    if (!ConnectionReport::isKnown()) return QJsonValue();
     const DataConnection connection = DataConnection::current();
+    if (!connection.isKnown) return QJsonValue();
     lines->append(ModemReport::line(QT_TRANSLATE_NOOP("Programs", "connection"), ConnectionReport::line(connection)));
     return ConnectionReport::object(connection);
 }

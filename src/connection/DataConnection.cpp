@@ -6,6 +6,7 @@ DataConnection DataConnection::current() {
     record.size = sizeof record;
     DataConnection connection;
     if (VRKS_NetConnectSrv_GetConnection(&record) != 0) return connection;
+    connection.isKnown = true;
     connection.state = record.state;
     connection.step = record.step;
     connection.failure = record.failure;

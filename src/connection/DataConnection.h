@@ -10,6 +10,7 @@
 
 // The members mean what those of VRKS_Connection mean.
 struct DataConnection {
+    bool isKnown = false;  // false: nothing can tell, as while the service that connects hangs
     int state = VRKS_CONNECTION_DOWN;
     int step = VRKS_STEP_NONE;
     int failure = VRKS_FAILURE_NONE;

@@ -24,7 +24,7 @@ bool isModemChanged(const Picture& before, const Picture& after) {
            before.devStatus != after.devStatus;
 }
 
-// As it is answered.
+// As it is answered; that it is known now is told, too.
 Connection connectionIn(const Picture& picture) {
     return picture.isConnectionKnown ? picture.connection : Connection();
 }
@@ -62,7 +62,8 @@ Events eventsBetween(const Picture& before, const Picture& after) {
     if (isModemChanged(before, after)) events.others.push_back(VRKS_EVENT_MODEM_CHANGED);
     if (before.systemMode != after.systemMode) events.others.push_back(VRKS_EVENT_SYSTEM_MODE_CHANGED);
     if (isUnlockResult(before, after)) events.others.push_back(VRKS_EVENT_UNLOCK_RESULT);
-    if (connectionIn(before) != connectionIn(after)) events.others.push_back(VRKS_EVENT_CONNECTION_CHANGED);
+    if (connectionIn(before) != connectionIn(after) || (!before.isConnectionKnown && after.isConnectionKnown))
+        events.others.push_back(VRKS_EVENT_CONNECTION_CHANGED);
     if (isUssdResult(before, after)) events.others.push_back(VRKS_EVENT_USSD_RESULT);
     return events;
 }

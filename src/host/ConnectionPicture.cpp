@@ -45,6 +45,8 @@ const Obstacle Obstacles[] = {
      "IDS_HOST_STARTING", "IDS_HOST_STARTING_DETAIL"},
     {[](const ConnectionFacts& facts) { return facts.modem.status != VRKS_DEV_STATUS_READY; }, Picture::Failed,
      "IDS_HOST_MODEM_FAILED", "IDS_HOST_MODEM_FAILED_DETAIL"},
+    {[](const ConnectionFacts& facts) { return !facts.connection.isKnown && !facts.isSettling; }, Picture::Missing,
+     "IDS_HOST_NO_NETWORK_SERVICE", "IDS_HOST_NO_NETWORK_SERVICE_DETAIL"},
 };
 
 const Obstacle* obstacleOf(const ConnectionFacts& facts) {

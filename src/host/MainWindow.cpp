@@ -80,7 +80,6 @@ MainWindow::MainWindow(QWidget* parent)
     connect(m_View, &ConnectionView::settingsWanted, this, &MainWindow::openSettings);
     connect(m_View, &ConnectionView::presetsWanted, this, &MainWindow::openPresets);
     connect(m_View, &ConnectionView::copyWanted, this, &MainWindow::copyProfile);
-    m_SinceStart.start();
     m_Settled.setSingleShot(true);
     connect(&m_Settled, &QTimer::timeout, this, &MainWindow::refresh);
     m_Settled.start(SettlingMs);
@@ -123,7 +122,7 @@ void MainWindow::openSettings() {
 
 void MainWindow::refresh() {
     ConnectionFacts facts = m_HasBegun ? ConnectionFacts::now() : ConnectionFacts::starting();
-    facts.isSettling = !m_SinceStart.hasExpired(SettlingMs);
+    facts.isSettling = m_Settled.isActive();
     facts.wantsOperator = facts.wantsOperator && !m_View->chooser()->isChosen();
     m_Picture = ConnectionPicture::of(facts);
     m_View->refresh(facts, m_Picture);

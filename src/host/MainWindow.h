@@ -3,7 +3,6 @@
 #ifndef ORBISDIAL_MAINWINDOW_H
 #define ORBISDIAL_MAINWINDOW_H
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
@@ -136,7 +135,6 @@ private:
     QVector<SettingsPage> m_Pages;
     QVector<PluginProblem> m_Problems;
     ConnectionPicture m_Picture;
-    QElapsedTimer m_SinceStart;
     QTimer m_Settled;
     bool m_HasBegun = false;
     bool m_HidesOnClose = false;

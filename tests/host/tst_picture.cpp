@@ -22,7 +22,7 @@ void set(char* place, const char* text) { std::strcpy(place, text); }
 // A ready modem in its home network.
 ConnectionFacts readyFacts() {
     ConnectionFacts facts;
-    facts.isModemKnown = facts.hasDialer = true;
+    facts.isModemKnown = facts.connection.isKnown = facts.hasDialer = true;
     facts.modem.status = VRKS_DEV_STATUS_READY;
     facts.modem.card = VRKS_CARD_PRESENT;
     facts.modem.registration = VRKS_REGISTRATION_HOME;
@@ -85,6 +85,9 @@ private slots:
         add(
             "no service", [](ConnectionFacts& facts) { facts.isModemKnown = false; }, Picture::Missing,
             "Modem service not available", "ModemManager", Picture::Connect, false);
+        add(
+            "connections unknown", [](ConnectionFacts& facts) { facts.connection.isKnown = false; }, Picture::Missing,
+            "Connection service not available", "NetworkManager", Picture::Connect, false);
         add(
             "no modem", [](ConnectionFacts& facts) { facts.modem.status = VRKS_DEV_STATUS_NO_MODEM; }, Picture::Missing,
             "No modem", "Plug in", Picture::Connect, false);
