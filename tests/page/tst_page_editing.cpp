@@ -20,7 +20,17 @@ QString shown(QString name) { return name.replace("(Default)", text("IDS_STC_NET
 enum { SecretLength = 48, TailLength = 12 };
 char secretAt(int place) { return char('a' + ((place + 5) * 2654435761u >> 13) % 26); }
 
-// Looks through everything that the process may write to.
+bool holdsSecret(const QByteArray& bytes) {
+    const auto* units = reinterpret_cast<const ushort*>(bytes.constData());
+    for (int i = 0; i + TailLength <= bytes.size() / 2; ++i) {
+        int same = 0;
+        while (same < TailLength && units[i + same] == secretAt(SecretLength - TailLength + same)) ++same;
+        if (same == TailLength) return true;
+    }
+    return false;
+}
+
+// Looks through everything that the process may write to. What it looks at must not be found by the next look.
 bool isSecretInMemory() {
     QFile maps("/proc/self/maps"), memory("/proc/self/mem");
     if (!maps.open(QIODevice::ReadOnly) || !memory.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return false;
@@ -29,13 +39,10 @@ bool isSecretInMemory() {
         if (range.size() != 2 || !line.contains(" rw-p ")) continue;
         const qint64 start = range[0].toLongLong(nullptr, 16);
         if (!memory.seek(start)) continue;
-        const QByteArray bytes = memory.read(range[1].toLongLong(nullptr, 16) - start);
-        const auto* units = reinterpret_cast<const ushort*>(bytes.constData());
-        for (int i = 0; i + TailLength <= bytes.size() / 2; ++i) {
-            int same = 0;
-            while (same < TailLength && units[i + same] == secretAt(SecretLength - TailLength + same)) ++same;
-            if (same == TailLength) return true;
-        }
+        QByteArray bytes = memory.read(range[1].toLongLong(nullptr, 16) - start);
+        const bool isThere = holdsSecret(bytes);
+        bytes.fill('\0');
+        if (isThere) return true;
     }
     return false;
 }
