@@ -12,7 +12,10 @@ void makeRoom(QWidget* widget) {
     QLayout* const layout = widget->layout();
     if (!layout || !layout->hasHeightForWidth()) return;
     const int most = widget->screen()->availableGeometry().height() * 9 / 10;
-    widget->setMinimumHeight(qMin(layout->totalHeightForWidth(widget->width()), most));
+    const int least = qMin(layout->totalHeightForWidth(widget->width()), most);
+    widget->setMinimumHeight(least);
+    // Qt opens a window as high as it would be if it were as narrow as its texts allow.
+    if (widget->isWindow() && !widget->isVisible()) widget->resize(widget->width(), least);
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -49,6 +49,8 @@ QString resultText(const VRKS_ModemInfo& modem) {
     }
 }
 
+void addLine(QGridLayout* grid, QWidget* widget) { grid->addWidget(widget, grid->rowCount(), 0, 1, 2); }
+
 }  // namespace
 
 UnlockDialog::UnlockDialog(QWidget* parent)
@@ -64,17 +66,15 @@ UnlockDialog::UnlockDialog(QWidget* parent)
     setObjectName(QStringLiteral("Host_UnlockDialog"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     m_UseLast->setObjectName(QStringLiteral("Unlock_UseLast"));
-    auto* form = new QFormLayout(this);
+    auto* grid = new QGridLayout(this);  // closes up where rows are hidden
     LeastHeight::keep(this);
     setMinimumWidth(LettersOfWidth * fontMetrics().averageCharWidth());  // what it says is sentences
-    form->addRow(m_Intro);
-    m_Code = addField(form, m_CodeLabel, "Unlock_Code");
-    m_Pin = addField(form, m_PinLabel, "Unlock_NewPin");
-    m_Repeat = addField(form, m_RepeatLabel, "Unlock_RepeatPin");
-    form->addRow(m_Attempts);
-    form->addRow(m_UseLast);
-    form->addRow(m_Result);
-    form->addRow(m_Buttons);
+    addLine(grid, m_Intro);
+    m_Code = addField(grid, m_CodeLabel, "Unlock_Code");
+    m_Pin = addField(grid, m_PinLabel, "Unlock_NewPin");
+    m_Repeat = addField(grid, m_RepeatLabel, "Unlock_RepeatPin");
+    for (QWidget* line : std::initializer_list<QWidget*>{m_Attempts, m_UseLast, m_Result, m_Buttons})
+        addLine(grid, line);
     connect(m_UseLast, &QCheckBox::toggled, this, &UnlockDialog::refreshButtons);
     connect(m_Buttons, &QDialogButtonBox::accepted, this, &UnlockDialog::accept);
     connect(m_Buttons, &QDialogButtonBox::rejected, this, &UnlockDialog::reject);
@@ -82,7 +82,7 @@ UnlockDialog::UnlockDialog(QWidget* parent)
     retranslate();
 }
 
-QLineEdit* UnlockDialog::addField(QFormLayout* form, QLabel* label, const char* name) {
+QLineEdit* UnlockDialog::addField(QGridLayout* grid, QLabel* label, const char* name) {
     auto* field = new QLineEdit;
     field->setObjectName(QLatin1String(name));
     field->setEchoMode(QLineEdit::Password);
@@ -90,7 +90,9 @@ QLineEdit* UnlockDialog::addField(QFormLayout* form, QLabel* label, const char* 
     field->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), field));
     field->setInputMethodHints(Qt::ImhDigitsOnly | Qt::ImhHiddenText | Qt::ImhSensitiveData);
     label->setBuddy(field);
-    form->addRow(label, field);
+    const int row = grid->rowCount();
+    grid->addWidget(label, row, 0);
+    grid->addWidget(field, row, 1);
     connect(field, &QLineEdit::textChanged, this, &UnlockDialog::refreshButtons);
     return field;
 }

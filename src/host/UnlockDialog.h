@@ -9,7 +9,7 @@
 
 class QCheckBox;
 class QDialogButtonBox;
-class QFormLayout;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 
@@ -30,7 +30,7 @@ protected:
     void accept() override;  // sends what was typed
 
 private:
-    QLineEdit* addField(QFormLayout* form, QLabel* label, const char* name);
+    QLineEdit* addField(QGridLayout* grid, QLabel* label, const char* name);
     void ask(const VRKS_ModemInfo& modem);
     void refreshButtons();
     void say(const VRKS_ModemInfo& modem);
