@@ -5,6 +5,8 @@
 #include <QStyleOption>
 #include <QWidget>
 
+#include "TextValues.h"
+
 namespace {
 
 bool isProfileList(const QWidget* widget) {
@@ -33,6 +35,12 @@ void drawRim(QPainter* painter, const QStyleOption& option, bool isRound) {
     painter->restore();
 }
 
+// A menu's shortcut stands behind a tab. "Ctrl+," would show its comma first among words from right to left.
+QString withDirectedKeys(const QString& text) {
+    const int tab = text.indexOf(QLatin1Char('\t'));
+    return tab < 0 ? text : text.left(tab + 1) + TextValues::isolated(text.mid(tab + 1));
+}
+
 }  // namespace
 
 int HostStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -42,6 +50,16 @@ int HostStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     // Windows with pictures on some of their buttons look unfinished.
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+void HostStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element != CE_MenuItem || !item || item->direction != Qt::RightToLeft)
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionMenuItem directed(*item);
+    directed.text = withDirectedKeys(item->text);
+    QProxyStyle::drawControl(element, &directed, painter, widget);
 }
 
 void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
