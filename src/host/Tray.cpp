@@ -12,8 +12,13 @@ namespace {
 
 constexpr int MostProfiles = 30;  // more don't fit a screen; the window has them all
 
-// A menu takes a single "&" for a mnemonic.
-QString plain(QString text) { return text.replace(QLatin1Char('&'), QLatin1String("&&")); }
+// A menu is as wide as its longest text, and takes a single "&" for a mnemonic.
+QString fitting(const QMenu& menu, const QString& text) {
+    constexpr int MostLetters = 60;
+    const QFontMetrics metrics = menu.fontMetrics();
+    return metrics.elidedText(text, Qt::ElideRight, MostLetters * metrics.averageCharWidth())
+        .replace(QLatin1Char('&'), QLatin1String("&&"));
+}
 
 }  // namespace
 
@@ -41,8 +46,8 @@ void Tray::refresh(const ConnectionPicture& picture) {
     if (picture.sign != m_Picture.sign) m_Icon.setIcon(StateSign::icon(picture.sign));
     m_Picture = picture;
     m_Icon.setToolTip(picture.headline + QLatin1Char('\n') + picture.detail);
-    m_State->setText(plain(picture.headline));
-    m_Action->setText(plain(ConnectionPicture::actionText(picture.action)));
+    m_State->setText(fitting(m_Menu, picture.headline));
+    m_Action->setText(fitting(m_Menu, ConnectionPicture::actionText(picture.action)));
     m_Action->setEnabled(picture.isActionAllowed);
     m_Profiles->setEnabled(picture.mayConnect());
 }
@@ -78,6 +83,6 @@ void Tray::addProfiles(const QStringList& names) {
     Plugins::profiles()->GetDefaultDialUpProfileName(&standard);
     for (const QString& name : names) {
         const QString text = name == standard ? hostText("IDS_HOST_PROFILE_DEFAULT", {name}) : name;
-        m_Profiles->addAction(plain(text), this, [this, name] { emit connectWanted(name); });
+        m_Profiles->addAction(fitting(m_Menu, text), this, [this, name] { emit connectWanted(name); });
     }
 }

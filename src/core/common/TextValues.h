@@ -12,7 +12,8 @@
 namespace TextValues {
 
 // In a window, where the current language is written from right to left, invisible marks keep a value's characters
-// together and do not let them reorder the text around; elsewhere the value itself.
+// together and do not let them reorder the text around; others let a word break that is longer than a line may be.
+// Elsewhere the value itself.
 HOSTCORE_EXPORT QString isolated(const QString& value);
 
 // The text with "%1", "%2" and so on replaced by the values, isolated.
