@@ -105,7 +105,7 @@ void ConnectionView::buildState() {
     auto* grid = new QGridLayout(this);
     grid->addWidget(m_Sign, 0, 0, 2, 1, Qt::AlignTop);
     grid->addWidget(m_State, 0, 1);
-    grid->addWidget(m_Action, 0, 2);
+    grid->addWidget(m_Action, 0, 2, Qt::AlignTop);
     grid->addLayout(detail, 1, 1, 1, 2);
     grid->addWidget(m_Transfer, 2, 1, 1, 2);
     grid->addWidget(m_Failure, 3, 0, 1, 3);
@@ -140,7 +140,9 @@ void ConnectionView::refresh(const ConnectionFacts& facts, const ConnectionPictu
     m_Signal->setPercent(picture.signal);
     refreshButton();
     m_Failure->show(picture);
-    m_Chooser->setEnabled(facts.isDown() && !facts.areProfilesAwaited);
+    const bool mayChoose = facts.isDown() && !facts.areProfilesAwaited;
+    if (!mayChoose && m_Chooser->hasFocus()) m_Action->setFocus();  // which now cancels, instead of the next one
+    m_Chooser->setEnabled(mayChoose);
     m_Chooser->refresh(facts.areProfilesAwaited ? std::nullopt : std::optional(facts.defaultProfile));
     showOrHide(m_Notes, picture.notes);
     showOrHide(m_Card, picture.card);

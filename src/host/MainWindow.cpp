@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QUrl>
@@ -158,7 +159,8 @@ void MainWindow::retranslate() {
 
 void MainWindow::restore() {
     restoreState(HostSettings::windowState());
-    if (!restoreGeometry(HostSettings::windowGeometry())) resize(sizeHint());
+    if (!restoreGeometry(HostSettings::windowGeometry()))
+        resize(sizeHint().boundedTo(screen()->availableGeometry().size()));
 }
 
 void MainWindow::present() {
@@ -320,7 +322,6 @@ void MainWindow::addDock() {
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(m_ModemPanel);
     m_Dock = new QDockWidget(this);
     m_Dock->setObjectName(QStringLiteral("Host_ModemDock"));
@@ -330,11 +331,13 @@ void MainWindow::addDock() {
     m_HelpMenu->insertAction(m_HelpMenu->actions().first(), toggle);
 }
 
-// The panel's texts decide its width.
+// The panel's texts decide its width, unless the screen leaves less beside the connection: then it scrolls.
 void MainWindow::retranslateDock() {
     m_Dock->setWindowTitle(hostText("IDS_HOST_MODEM_TITLE"));
     auto* const area = qobject_cast<QScrollArea*>(m_Dock->widget());
-    area->setMinimumWidth(m_ModemPanel->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    const int bar = area->verticalScrollBar()->sizeHint().width();
+    const int left = screen()->availableGeometry().width() - centralWidget()->minimumSizeHint().width() - bar;
+    area->setMinimumWidth(qMin(m_ModemPanel->sizeHint().width() + bar, qMax(left, area->minimumSizeHint().width())));
 }
 
 void MainWindow::act() { m_View->act(); }

@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSet>
 #include <QStandardItemModel>
 #include <QWheelEvent>
@@ -18,6 +19,7 @@ namespace {
 
 constexpr int NameRole = Qt::UserRole;
 constexpr int LettersOfWidth = 24;
+constexpr int LeastLetters = 10;  // of the width, where a large font meets a small screen
 
 // Those of the names that are the user's own; all of them where nobody tells presets apart.
 QSet<QString> ownNames(const QStringList& all) {
@@ -45,6 +47,8 @@ ProfileChooser::ProfileChooser(QWidget* parent) : QComboBox(parent), m_Items(new
     connect(this, QOverload<int>::of(&QComboBox::activated), this, [this](int row) {
         choose(itemData(row, NameRole).toString());
         emit chosenByUser();
+        // The completer sets the text once more, and would leave the end of a long name in sight.
+        QMetaObject::invokeMethod(this, &ProfileChooser::showCurrent, Qt::QueuedConnection);
     });
     connect(lineEdit(), &QLineEdit::editingFinished, this, &ProfileChooser::takeTyped);
 }
@@ -72,6 +76,19 @@ void ProfileChooser::choose(const QString& name) {
     showCurrent();
 }
 
+QSize ProfileChooser::minimumSizeHint() const {
+    const int spare = (LettersOfWidth - LeastLetters) * fontMetrics().horizontalAdvance(QLatin1Char('X'));
+    return QComboBox::minimumSizeHint() - QSize(spare, 0);
+}
+
+// Of the longest name, and no more than what is left of the window beside it.
+int ProfileChooser::popupWidth() const {
+    const int begin = mapTo(window(), isRightToLeft() ? rect().topRight() : rect().topLeft()).x();
+    const int room = isRightToLeft() ? begin : window()->width() - begin;
+    const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
+    return qMin(view()->sizeHintForColumn(0) + bar, room);
+}
+
 void ProfileChooser::fill() {
     if (m_IsFilled) return;
     m_IsFilled = true;
@@ -93,6 +110,7 @@ void ProfileChooser::fill() {
 
 void ProfileChooser::showPopup() {
     fill();
+    view()->setMinimumWidth(popupWidth());
     QComboBox::showPopup();
 }
 

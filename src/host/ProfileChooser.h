@@ -37,6 +37,7 @@ public:
     void fill();
 
     void showPopup() override;
+    QSize minimumSizeHint() const override;
 
 signals:
     void chosenByUser();
@@ -55,6 +56,7 @@ private:
     void addProfile(const QString& name);
     void showCurrent();
     void takeTyped();
+    int popupWidth() const;
     QString shownName(const QString& name) const;
     int rowOf(const QString& name) const;
 
