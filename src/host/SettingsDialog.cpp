@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QStyle>
 
 #include "HostText.h"
 #include "SettingsPages.h"
@@ -20,6 +21,8 @@ QAccessibleInterface* makeAccessible(const QString&, QObject* object) {
     return dialog ? new QAccessibleWidget(dialog, QAccessible::Dialog) : nullptr;
 }
 
+QSize mostOf(const QWidget* window) { return window->screen()->availableGeometry().size() * 9 / 10; }
+
 }  // namespace
 
 SettingsDialog::SettingsDialog(QWidget* parent) : QWidget(parent, Qt::Dialog), m_Pages(new SettingsPages) {
@@ -29,6 +32,7 @@ SettingsDialog::SettingsDialog(QWidget* parent) : QWidget(parent, Qt::Dialog), m
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_Pages);
     connect(m_Pages, &SettingsPages::done, this, &QWidget::hide);
+    connect(m_Pages, &SettingsPages::shown, this, &SettingsDialog::makeRoom);
     retranslate();
 }
 
@@ -37,13 +41,9 @@ void SettingsDialog::open() {
         raise();
         return activateWindow();
     }
+    resize(size().boundedTo(mostOf(this)));  // the screen may be another one
     m_Pages->begin();
-    // As large as the page wants, where the screen has the room; else the page scrolls.
-    const QSize room = screen()->availableGeometry().size() * 9 / 10;
-    resize(size()
-               .expandedTo(sizeHint())
-               .expandedTo({LettersOfWidth * fontMetrics().averageCharWidth(), 0})
-               .boundedTo(room));
+    makeRoom();
     show();
     activateWindow();
     m_Pages->focusPage();
@@ -65,6 +65,21 @@ void SettingsDialog::abandon() {
 void SettingsDialog::retranslate() {
     setWindowTitle(hostText("IDS_HOST_SETTINGS_TITLE"));
     m_Pages->retranslate();
+}
+
+// As large as the page wants, where the screen has the room; else the page scrolls.
+void SettingsDialog::makeRoom() {
+    const QSize most = mostOf(this);
+    QSize wanted = sizeHint().expandedTo({LettersOfWidth * fontMetrics().averageCharWidth(), 0});
+    if (wanted.height() > most.height()) wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize grown = size().expandedTo(wanted.boundedTo(most));
+    if (grown == size()) return;
+    resize(grown);
+    if (!isVisible()) return;
+    const QRect room = screen()->availableGeometry();
+    const QPoint outside(qMax(0, frameGeometry().right() - room.right()),
+                         qMax(0, frameGeometry().bottom() - room.bottom()));
+    if (!outside.isNull()) move(pos() - outside);
 }
 
 void SettingsDialog::closeEvent(QCloseEvent* event) { event->setAccepted(finish()); }

@@ -36,6 +36,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void makeRoom();
+
     SettingsPages* m_Pages;
 };
 

@@ -166,6 +166,8 @@ void SettingsPages::showCurrent() {
         if (!child->isWindow()) m_FrameLayout->addWidget(child);
     }
     setTabOrder(m_Cancel, m_List);  // and from there into the page, which stands at the order's end
+    updateGeometry();               // a scroll area does not tell that what it holds became larger
+    emit shown();
 }
 
 void SettingsPages::selectCurrentRow() {

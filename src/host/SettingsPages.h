@@ -53,6 +53,9 @@ signals:
     // OK or Cancel was pressed, and the pages agreed.
     void done();
 
+    // A page is on show, which may want more room than the one before.
+    void shown();
+
     // A page was left, saved or undone: what the profiles say may have changed.
     void acted();
 

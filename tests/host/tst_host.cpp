@@ -7,10 +7,13 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QLayout>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPluginLoader>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QtTest>
 #include <memory>
@@ -245,6 +248,15 @@ private slots:
         }
     }
 
+    void makesRoomForEachPage() {
+        for (const int row : {FakeRow, HostRow, HostRow}) {
+            m_Host->window()->openSettings();
+            clickRow(row);
+            QTRY_COMPARE(dialog()->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
+            if (row == HostRow) dialog()->close();
+        }
+    }
+
     void saysWhenSettingsAreNotStored() {
         TestFolder::write(m_Folder->path("file"), "");
         qputenv("ORBISDIAL_CONFIG_DIR", QFile::encodeName(m_Folder->path("file/config")));
@@ -346,6 +358,8 @@ private slots:
         QTRY_VERIFY(card->height() > before && isWhole());
         window->resize(window->width() / 2, 1);
         QTRY_VERIFY(isWhole());
+        card->setText(hostText("IDS_HOST_SIM", {QString(255, 'm')}));
+        QVERIFY(card->minimumSizeHint().width() < window->width());
     }
 
     void unlocks() {
@@ -357,7 +371,9 @@ private slots:
         auto* code = child<QLineEdit>("Unlock_Code");
         auto* result = child<QLabel>("Unlock_Result");
         auto* left = child<QLabel>("Unlock_Attempts");
-        auto* ok = child<QDialog>("Host_UnlockDialog")->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        auto* unlock = child<QDialog>("Host_UnlockDialog");
+        auto* ok = unlock->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        QCOMPARE(unlock->height(), unlock->layout()->totalHeightForWidth(unlock->width()));
         QTest::keyClicks(code, "9x9");
         QVERIFY(code->text() == "99" && !ok->isEnabled());
         QTest::keyClicks(code, "99");
