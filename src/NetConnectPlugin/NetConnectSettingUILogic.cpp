@@ -21,6 +21,10 @@ NetConnectSettingUILogic* NetConnectSettingUILogic::GetInstance(LoadMoment momen
     return m_pNetConnectSettingUILogic;
 }
 
+void NetConnectSettingUILogic::ReadAhead() {
+    if (!m_pNetConnectSettingUILogic) NetConnectXMLParse::GetInstance()->readAhead();
+}
+
 void NetConnectSettingUILogic::Destroy() {
     NetConnectSettingUILogic* logic = m_pNetConnectSettingUILogic;
     if (!logic) return;

@@ -2,6 +2,7 @@
 #include "NetConnectUIService.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 
 #include "CallTrace.h"
 #include "Change.h"
@@ -77,6 +78,8 @@ void CNetConnectUIService::forgetPage() {
 bool CNetConnectUIService::Init() {
     CallTrace trace(__FILE__, "Init", "%s: %s: called", "%s: %s: exit");
     if (m_pNetConnectWidget) return true;
+    NetConnectSettingUILogic::ReadAhead();
+    QFontMetrics(QApplication::font()).height();  // the first font of a process takes longer than the files
     m_pLogic = NetConnectSettingUILogic::GetInstance(NetConnectSettingUILogic::WhenNeeded);
     if (!m_pLogic) return false;
     connect(m_pLogic, SIGNAL(DeviceInit()), m_pReloadGate, SLOT(request()), Qt::UniqueConnection);

@@ -21,6 +21,7 @@
 #include "NetConnectConfigDocument.h"
 #include "NetConnectDevice.h"
 #include "NetConnectFileNames.h"
+#include "NetConnectFilesAhead.h"
 #include "NetConnectRecords.h"
 #include "NetConnectStatus.h"
 #include "NetConnectStorageProblem.h"
@@ -90,6 +91,10 @@ public:
 
     // Rewrites the system file; 23 for no items (the file stays).
     int ModifyProfileTemplateToSysXML(QHash<QString, NetConnectXML>* templates);
+
+    // Begins to read the configuration and the library on another thread; the next reading of each takes what came of
+    // that, if the file did not change meanwhile.
+    void readAhead() { m_Ahead.begin(configurationPath(), shippedPath(NetConnectFileNames::Library)); }
 
     // --- places ---
 
@@ -182,6 +187,7 @@ private:
     KeptFile* keptFile(const QString& fileName);
     int openDocument(const QString& fileName, bool leavesProfiles, ProfileDocument* document);
     int loadDocument(const QString& path, KeptFile* kept, ProfileDocument* document);
+    int parseDocument(const QString& path, const QByteArray& content, bool leavesProfiles, ProfileDocument* document);
     void applyDocument(const ProfileDocument& document, bool isComplete, QList<DialupProfile>* profiles,
                        QString* defaultName, bool* isUserSet);
     void applyDefault(const ProfileDefaultEntry& entry, const NetConnectCardMode& card, QString* defaultName,
@@ -199,6 +205,7 @@ private:
                   FileReplacement::Placing placing, FileReplacement::DamagedCopy* damaged);
 
     int loadConfig(NetConnectConfigDocument* document);
+    int keepConfig(const QString& path, const FileStamp& stamp, const NetConnectConfigDocument& document);
     void fileElement(const NetConnectConfigElement& element, const ConfigTargets& targets);
     void fileItem(const NetConnectConfigElement& item, const ConfigTargets& targets);
     void fileModeElement(const NetConnectConfigElement& element, const ConfigTargets& targets,
@@ -219,6 +226,7 @@ private:
     KeptFile m_Library;
     bool m_bUserFileRead;
     KeptConfig m_Config;
+    NetConnectFilesAhead m_Ahead;
     KeptOperators m_Operators;
     NetConnectRememberedDefaults m_Remembered;
     NetConnectConfigElement::Kind m_Section;  // in which the items stand

@@ -292,6 +292,35 @@ private slots:
         }
     }
 
+    // What counts is what the files say when the logic is made.
+    void filesReadAhead_data() {
+        const Rows<QByteArray, QByteArray> row("afterwards", "counts");
+        row("as they were", "first", "first");
+        row("changed", "other", "other");
+        row("damaged", "first\"<", "");
+        row("gone", QByteArray(), "");
+    }
+    void filesReadAhead() {
+        QFETCH(QByteArray, afterwards);
+        const auto shipBoth = [this](const QByteArray& value) {
+            shipConfig(section("Function", {"where=" + value}) + section("ProfileList", {"Preset"}));
+            const QString file = pluginDir() + "/NetConnectConfig.xml";
+            write(file, read(file).replace('\'', '"'));  // the form that is read ahead
+            shipLibrary(profile("Preset", "apn='" + value + "' "));
+        };
+        shipBoth("first");
+        QTest::qWait(130);  // until the files' stamps vouch for them
+        end();
+        NetConnectSettingUILogic::ReadAhead();
+        if (afterwards.isNull()) QVERIFY(QDir(pluginDir()).removeRecursively() && QDir().mkpath(pluginDir()));
+        if (!afterwards.isEmpty() && afterwards != "first") shipBoth(afterwards);
+        QString value;
+        logic()->GetFunctionConfigStringValues("where", &value);
+        QTEST(value.toUtf8(), "counts");
+        QTEST(fetch("Preset").apn.toUtf8(), "counts");
+        NetConnectSettingUILogic::ReadAhead();  // of no use to an instance that is there
+    }
+
     void passwords() {
         for (const char* method : {"1", "2"}) {
             const QString password = QString::fromUtf8("caf\xc3\xa9"), stored = logic()->XorEncrypt(password, method);

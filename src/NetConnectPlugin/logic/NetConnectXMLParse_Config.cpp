@@ -91,6 +91,7 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
         return 0;
     }
     m_Config = KeptConfig();
+    if (m_Ahead.take(path, stamp, document)) return keepConfig(path, stamp, *document);
     QByteArray content;
     if (!stamp.exists() && path != shippedPath(NetConnectFileNames::Configuration))
         reportProblem(path, Reason("leads to no file"));
@@ -103,10 +104,15 @@ int NetConnectXMLParse::loadConfig(NetConnectConfigDocument* document) {
         document->read(reader);
         if (reader.hasError()) return reportReadError(reader, path);
     }
+    return keepConfig(path, stamp, *document);
+}
+
+int NetConnectXMLParse::keepConfig(const QString& path, const FileStamp& stamp,
+                                   const NetConnectConfigDocument& document) {
     clearProblem(path);
     m_Config.path = path;
     m_Config.stamp = stamp;
-    m_Config.document = *document;
+    m_Config.document = document;
     return 0;
 }
 

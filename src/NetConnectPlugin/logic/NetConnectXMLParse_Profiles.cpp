@@ -66,7 +66,8 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
         return NetConnectStatus::ReadError;
     }
     QByteArray content;
-    int status = readFile(path, &content);
+    const bool isReadAhead = kept == &m_Library && m_Ahead.take(path, stamp, document);
+    int status = isReadAhead ? 0 : readFile(path, &content);
     // One failed look is no proof.
     if (status == NetConnectStatus::FileMissing && FileStamp::of(path).exists()) status = readFile(path, &content);
     if (status == 0 && kept && kept->isOf(path, content)) {
@@ -76,13 +77,7 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
         *document = kept->document;
         return 0;
     }
-    if (status == 0 && !(kept == &m_Library ? document->look(content) : document->scan(content))) {
-        const QString refusal = XmlText::refusal(content);
-        QXmlStreamReader reader(content);
-        if (!refusal.isEmpty()) reader.raiseError(refusal);
-        document->read(reader);
-        if (reader.hasError()) status = reportReadError(reader, path);
-    }
+    if (status == 0 && !isReadAhead) status = parseDocument(path, content, kept == &m_Library, document);
     if (status == 0 || status == NetConnectStatus::FileMissing) clearProblem(path);
     if (!kept) return status;
     kept->path = path;
@@ -94,6 +89,16 @@ int NetConnectXMLParse::loadDocument(const QString& path, KeptFile* kept, Profil
     kept->content = status == 0 && !stamp.settled ? content : QByteArray();
     ++kept->revision;
     return status;
+}
+
+int NetConnectXMLParse::parseDocument(const QString& path, const QByteArray& content, bool leavesProfiles,
+                                      ProfileDocument* document) {
+    if (leavesProfiles ? document->look(content) : document->scan(content)) return 0;
+    const QString refusal = XmlText::refusal(content);
+    QXmlStreamReader reader(content);
+    if (!refusal.isEmpty()) reader.raiseError(refusal);
+    document->read(reader);
+    return reader.hasError() ? reportReadError(reader, path) : 0;
 }
 
 int NetConnectXMLParse::readXML(QXmlStreamReader& reader, QList<DialupProfile>* profiles, QString* defaultName,
