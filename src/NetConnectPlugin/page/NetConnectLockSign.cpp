@@ -42,8 +42,14 @@ NetConnectProfileDelegate::NetConnectProfileDelegate(CNetConnectUIService* servi
 
 void NetConnectProfileDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                       const QModelIndex& index) const {
-    QStyledItemDelegate::paint(painter, option, index);
-    if (!m_pService->isPreset(index.row())) return;
+    if (!m_pService->isPreset(index.row())) return QStyledItemDelegate::paint(painter, option, index);
+    // The name keeps off the sign; what is chosen is marked below both.
+    QApplication::style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter);
+    const int room = 2 * signRoom(option.fontMetrics);
+    const bool isMirrored = option.direction == Qt::RightToLeft;
+    QStyleOptionViewItem name(option);
+    name.rect.adjust(isMirrored ? room : 0, 0, isMirrored ? 0 : -room, 0);
+    QStyledItemDelegate::paint(painter, name, index);
     const bool isSelected = option.state & QStyle::State_Selected;
     const QColor colour = option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
     const int margin = signRoom(option.fontMetrics) - signSide(option.fontMetrics);
