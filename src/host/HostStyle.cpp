@@ -2,9 +2,9 @@
 #include "HostStyle.h"
 
 #include <QPainter>
-#include <QStyleOption>
 #include <QWidget>
 
+#include "HostText.h"
 #include "TextValues.h"
 
 namespace {
@@ -41,6 +41,13 @@ QString withDirectedKeys(const QString& text) {
     return tab < 0 ? text : text.left(tab + 1) + TextValues::isolated(text.mid(tab + 1));
 }
 
+// A name keeps its order, with the mark of the default behind it, which is a word of the language.
+QString withDirectedName(const QString& text) {
+    const QString mark = hostText("IDS_HOST_PROFILE_DEFAULT").remove(QLatin1String("%1"));
+    if (!text.endsWith(mark)) return TextValues::isolated(text);
+    return directed(TextValues::isolated(text.left(text.size() - mark.size())) + mark);
+}
+
 }  // namespace
 
 int HostStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -54,12 +61,17 @@ int HostStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
 
 void HostStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
-    const auto* const item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (element != CE_MenuItem || !item || item->direction != Qt::RightToLeft)
-        return QProxyStyle::drawControl(element, option, painter, widget);
-    QStyleOptionMenuItem directed(*item);
-    directed.text = withDirectedKeys(item->text);
-    QProxyStyle::drawControl(element, &directed, painter, widget);
+    const bool isMirrored = option && option->direction == Qt::RightToLeft;
+    if (isMirrored && element == CE_MenuItem)
+        return drawChanged<QStyleOptionMenuItem>(element, option, painter, widget,
+                                                 [](auto* item) { item->text = withDirectedKeys(item->text); });
+    if (isMirrored && element == CE_ItemViewItem)
+        return drawChanged<QStyleOptionViewItem>(element, option, painter, widget,
+                                                 [](auto* item) { item->text = withDirectedName(item->text); });
+    if (isMirrored && element == CE_ComboBoxLabel)
+        return drawChanged<QStyleOptionComboBox>(
+            element, option, painter, widget, [](auto* box) { box->currentText = withDirectedName(box->currentText); });
+    QProxyStyle::drawControl(element, option, painter, widget);
 }
 
 void HostStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

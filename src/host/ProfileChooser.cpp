@@ -9,11 +9,13 @@
 #include <QScrollBar>
 #include <QSet>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <memory>
 
 #include "HostText.h"
 #include "Plugins.h"
+#include "TextValues.h"
 
 namespace {
 
@@ -36,6 +38,7 @@ QSet<QString> ownNames(const QStringList& all) {
 ProfileChooser::ProfileChooser(QWidget* parent) : QComboBox(parent), m_Items(new QStandardItemModel(this)) {
     setObjectName(QStringLiteral("Host_ProfileChooser"));
     setModel(m_Items);
+    setItemDelegate(new QStyledItemDelegate(this));  // the one of a box that can be edited draws past the style
     setEditable(true);
     lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);  // the box has one
     setInsertPolicy(NoInsert);
@@ -81,12 +84,15 @@ QSize ProfileChooser::minimumSizeHint() const {
     return QComboBox::minimumSizeHint() - QSize(spare, 0);
 }
 
-// Of the longest name, and no more than what is left of the window beside it.
+// Of the name with the most letters, as measuring thousands takes a second, and no more than the window has room for.
 int ProfileChooser::popupWidth() const {
     const int begin = mapTo(window(), isRightToLeft() ? rect().topRight() : rect().topLeft()).x();
     const int room = isRightToLeft() ? begin : window()->width() - begin;
-    const int bar = view()->verticalScrollBar()->sizeHint().width() + 2 * view()->frameWidth();
-    return qMin(view()->sizeHintForColumn(0) + bar, room);
+    QString longest;
+    for (int row = 0; row < count(); ++row)
+        if (itemText(row).size() > longest.size()) longest = itemText(row);
+    const int margin = view()->verticalScrollBar()->sizeHint().width() + fontMetrics().height();
+    return qMin(fontMetrics().horizontalAdvance(longest) + margin, room);
 }
 
 void ProfileChooser::fill() {
@@ -112,6 +118,8 @@ void ProfileChooser::showPopup() {
     fill();
     view()->setMinimumWidth(popupWidth());
     QComboBox::showPopup();
+    QWidget* const popup = view()->window();  // Qt lets a wide one begin at the left in every language
+    if (isRightToLeft()) popup->move(mapToGlobal(rect().topRight()).x() + 1 - popup->width(), popup->y());
 }
 
 void ProfileChooser::focusInEvent(QFocusEvent* event) {
@@ -166,7 +174,8 @@ void ProfileChooser::showCurrent() {
     const QString shown = name.isEmpty() ? none : shownName(name);
     setEditText(shown);
     lineEdit()->setCursorPosition(0);
-    setToolTip(directed(shown) + QLatin1Char('\n') + hostText("IDS_HOST_PROFILE_TIP"));  // a long one is cut
+    setToolTip(directed(TextValues::isolated(shown)) + QLatin1Char('\n') +
+               hostText("IDS_HOST_PROFILE_TIP"));  // a long one is cut
 }
 
 // What was typed may be a whole name, or the part of a single one.

@@ -7,6 +7,7 @@
 #include "HostText.h"
 #include "Plugins.h"
 #include "StateSign.h"
+#include "TextValues.h"
 
 namespace {
 
@@ -82,7 +83,8 @@ void Tray::addProfiles(const QStringList& names) {
     QString standard;
     Plugins::profiles()->GetDefaultDialUpProfileName(&standard);
     for (const QString& name : names) {
-        const QString text = name == standard ? hostText("IDS_HOST_PROFILE_DEFAULT", {name}) : name;
+        const QString text =
+            name == standard ? hostText("IDS_HOST_PROFILE_DEFAULT", {name}) : TextValues::isolated(name);
         m_Profiles->addAction(fitting(m_Menu, text), this, [this, name] { emit connectWanted(name); });
     }
 }
