@@ -1392,6 +1392,10 @@
         <translation>%1 متصل؛ انظر orbisctl disconnect</translation>
     </message>
     <message>
+        <source>%1 is being connected; see orbisctl disconnect</source>
+        <translation>يجري توصيل %1؛ انظر orbisctl disconnect</translation>
+    </message>
+    <message>
         <source>%1 is no field to set; fields: %2</source>
         <translation>%1 ليس حقلًا يمكن تعيينه؛ الحقول: %2</translation>
     </message>

@@ -1392,6 +1392,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1 ist verbunden; siehe orbisctl disconnect</translation>
     </message>
     <message>
+        <source>%1 is being connected; see orbisctl disconnect</source>
+        <translation>%1 wird gerade verbunden; siehe orbisctl disconnect</translation>
+    </message>
+    <message>
         <source>%1 is no field to set; fields: %2</source>
         <translation>%1 ist kein setzbares Feld; Felder: %2</translation>
     </message>

@@ -1392,6 +1392,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>%1 está conectado; vea orbisctl disconnect</translation>
     </message>
     <message>
+        <source>%1 is being connected; see orbisctl disconnect</source>
+        <translation>%1 se está conectando; vea orbisctl disconnect</translation>
+    </message>
+    <message>
         <source>%1 is no field to set; fields: %2</source>
         <translation>%1 no es un campo modificable; campos: %2</translation>
     </message>

@@ -1392,6 +1392,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>%1 est connecté&#xa0;; voir orbisctl disconnect</translation>
     </message>
     <message>
+        <source>%1 is being connected; see orbisctl disconnect</source>
+        <translation>%1 est en cours de connexion&#xa0;; voir orbisctl disconnect</translation>
+    </message>
+    <message>
         <source>%1 is no field to set; fields: %2</source>
         <translation>%1 n’est pas un champ modifiable&#xa0;; champs&#xa0;: %2</translation>
     </message>

@@ -1392,6 +1392,10 @@
         <translation>%1 уже подключён; см. orbisctl disconnect</translation>
     </message>
     <message>
+        <source>%1 is being connected; see orbisctl disconnect</source>
+        <translation>%1 подключается; см. orbisctl disconnect</translation>
+    </message>
+    <message>
         <source>%1 is no field to set; fields: %2</source>
         <translation>%1 — не изменяемое поле; поля: %2</translation>
     </message>

@@ -109,16 +109,24 @@ public:
     }
 
 private:
-    // One of this name that is there already is as good as a new one.
     void begin(const Wanted& wanted) {
-        if (DataConnection::current().state == VRKS_CONNECTION_HANGING_UP) waitUntilDown(m_Events, m_Deadline);
-        const DataConnection before = DataConnection::current();
-        if (!before.isDown() && before.name != wanted.name)
-            throw CommandError::refused(message("%1 is connected; see orbisctl disconnect", {quoted(before.name)}));
-        if (!before.isDown()) return;
+        while (DataConnection::current().state == VRKS_CONNECTION_HANGING_UP)
+            waitForMore(QT_TRANSLATE_NOOP("Programs", "the connection has not ended yet"));
+        if (isThere(wanted.name)) return;
         warn(ConnectionText::notes(wanted.profile));
         const DialCall call(wanted.profile, wanted.name, m_bHolds);
-        if (call.dial() != 0) throw ConnectionReport::error(DataConnection::current());
+        if (call.dial() == 0 || isThere(wanted.name)) return;  // another program may have been faster
+        throw ConnectionReport::error(DataConnection::current());
+    }
+
+    // One of this name is as good as a new one.
+    static bool isThere(const QString& name) {
+        const DataConnection present = DataConnection::current();
+        if (present.isDown() || present.name == name) return !present.isDown();
+        const char* const text = present.isUp()
+                                     ? QT_TRANSLATE_NOOP("Programs", "%1 is connected; see orbisctl disconnect")
+                                     : QT_TRANSLATE_NOOP("Programs", "%1 is being connected; see orbisctl disconnect");
+        throw CommandError::refused(message(text, {quoted(present.name)}));
     }
 
     DataConnection waitUntilUp() {
@@ -243,7 +251,8 @@ void disconnect(const Invocation& invocation, Output& output) {
         if (!vrks_simulated_active()) stopWaitingOnes(events);
         return output.result({{"disconnected", QJsonValue()}}, {message("not connected")});
     }
-    if (VRKS_NetConnectSrv_HangUp() != 0 && !DataConnection::current().isDown())
+    const bool isEnding = before.state == VRKS_CONNECTION_HANGING_UP || VRKS_NetConnectSrv_HangUp() == 0;
+    if (!isEnding && !DataConnection::current().isDown())
         throw CommandError::refused(message("the connection can't be ended"));
     if (!waitUntilDown(events, deadline)) throw stillUp();
     output.result({{"disconnected", before.name}}, {message("disconnected: %1", {before.name})});
