@@ -12,6 +12,7 @@
 #include "Program.h"
 #include "Rows.h"
 #include "Stack.h"
+#include "TestFolder.h"
 
 namespace {
 
@@ -358,6 +359,33 @@ private slots:
         QVERIFY2(connection().state == VRKS_CONNECTION_UP, shown());
         QCOMPARE(runProgram(ORBISCTL, {"disconnect"}).out, QByteArray("disconnected: Home\n"));
         TRY_DOWN(VRKS_FAILURE_HUNG_UP);
+    }
+
+    void theCommandLineSaysWhatIsThere_data() {
+        const Rows<QString, QStringList, QByteArray> row("modemSays", "command", "text");
+        row("on its way", "(silence)", {"connect", "Work"}, "\"Home\" is being connected");
+        row("up", Connected, {"connect", "Work"}, "\"Home\" is connected");
+        row("ending", Connected, {"status"}, "disconnecting: Home");
+    }
+
+    void theCommandLineSaysWhatIsThere() {
+        const bool isUp = cell("modemSays") == Connected, isEnding = !cell<QStringList>("command").contains("Work");
+        const QTemporaryDir folder;
+        TestFolder::write(folder.filePath("UserProfile.prof"),
+                          "<vrksdoc type='Profile'><ProfileGroup><Profile name='Work' phonenumber='*99#'/>"
+                          "</ProfileGroup></vrksdoc>");
+        QVERIFY(m_Stack.reply("gsm", Dialling, cell("modemSays")));
+        const int dialled = dialCommands();
+        QVERIFY(dial());
+        TRY_CONNECTION(isUp ? connection().state == VRKS_CONNECTION_UP : dialCommands() > dialled);
+        if (isEnding) QVERIFY(m_Stack.freeze("ModemManager"));
+        if (isEnding) QVERIFY(nmcli("--wait 0 connection down id Home"));
+        const QStringList command{"ORBISDIAL_DEVICE_WAIT_MS=2000", ORBISCTL, "--data-dir", folder.path()};
+        const Outcome outcome = runProgram("env", command + cell<QStringList>("command"));
+        if (isEnding) QVERIFY(m_Stack.thaw("ModemManager"));
+        QVERIFY2((outcome.out + outcome.err).contains(cell<QByteArray>("text")), outcome.out + outcome.err);
+        hangUp();
+        TRY_CONNECTION((isUp || m_Stack.send("gsm", NoCarrier)) && connection().state == VRKS_CONNECTION_DOWN);
     }
 
     // As it reaches this process, so it reaches one that pauses before it dials by itself.

@@ -75,6 +75,7 @@ void Dialler::busCame(GDBusConnection* bus) {
 
 void Dialler::watchNetwork() {
     const auto begun = [this] {
+        if (m_Phase == Phase::Idle) m_Watch->hasBeenCut() ? tellCut() : adoptEnding();
         update();
         const bool isStartAwaited = m_Phase == Phase::Up && m_Dialled.stamp && !m_Dialled.upSince;
         isStartAwaited ? m_Beginning.start(StartMs, [this] { tellKnown(); }) : tellKnown();
@@ -228,7 +229,7 @@ void Dialler::followDevice() {
 
 void Dialler::observe() {
     if (m_WaitingDials > 0) return;
-    NMActiveConnection* marked = m_Watch ? m_Watch->markedConnection() : nullptr;
+    NMActiveConnection* marked = m_Watch ? m_Watch->markedConnection(NetworkWatch::Lasting) : nullptr;
     if (marked && isGivenUp(marked)) return takeBack(marked);
     if (marked) return adopt(marked);
     NMDevice* device = m_Watch ? m_Watch->device() : nullptr;
@@ -252,6 +253,23 @@ void Dialler::adopt(NMActiveConnection* connection) {
     m_Phase = Phase::Activating;
     takePulse();
     watch();
+}
+
+// There may have been a connection.
+void Dialler::tellCut() {
+    m_Host.change([this](Picture& picture) {
+        if (m_WaitingDials > 0 || picture.connection.failure != VRKS_FAILURE_NONE) return false;
+        picture.connection.failure = VRKS_FAILURE_NO_NETWORK_SERVICE;
+        return true;
+    });
+}
+
+// NetworkManager may take a minute to end one when the modem does not answer. Who has it ended, and why, is not known.
+void Dialler::adoptEnding() {
+    NMActiveConnection* ending = m_Watch->markedConnection(NetworkWatch::Ending);
+    if (!ending || isGivenUp(ending) || m_WaitingDials > 0) return;
+    adopt(ending);
+    m_Dialled.wasUp = m_Dialled.isHangingUp = m_Dialled.isDeactivating = true;
 }
 
 void Dialler::look() {

@@ -77,6 +77,8 @@ private:
     void followDevice();
     void observe();
     void adopt(NMActiveConnection* connection);
+    void adoptEnding();
+    void tellCut();
     void look();
     void awaitRadio();
     bool isRadioSettling();

@@ -29,7 +29,10 @@ NetworkWatch::NetworkWatch(GDBusConnection* bus, Handlers handlers)
       m_Ipv4([this] { changed(); }),
       m_Ipv6([this] { changed(); }) {
     // A client that is made while NetworkManager hangs takes it for absent, for good.
-    probe(bus, NetworkManagerDaemon, ProbeWithoutEnd, m_Cancellation.get(), [this, bus](const GError*) { make(bus); });
+    probe(bus, NetworkManagerDaemon, ProbeWithoutEnd, m_Cancellation.get(), [this, bus](const GError* error) {
+        m_IsCut = g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_NO_REPLY);
+        make(bus);
+    });
 }
 
 // What it may do is seen when it does it.
@@ -61,10 +64,10 @@ NMDevice* NetworkWatch::deviceOf(const std::string& modemPath) const {
     });
 }
 
-NMActiveConnection* NetworkWatch::markedConnection() const {
+NMActiveConnection* NetworkWatch::markedConnection(Course course) const {
     if (!isRunning()) return nullptr;
-    return findIn<NMActiveConnection>(nm_client_get_active_connections(m_Client.get()), [](NMActiveConnection* one) {
-        return !isEnding(one) && !markOf(one).name.empty();
+    return findIn<NMActiveConnection>(nm_client_get_active_connections(m_Client.get()), [=](NMActiveConnection* one) {
+        return isEnding(one) == (course == Ending) && !markOf(one).name.empty();
     });
 }
 

@@ -28,6 +28,8 @@ public:
     NetworkWatch& operator=(const NetworkWatch&) = delete;
 
     bool hasBegun() const { return m_HasBegun; }
+    // NetworkManager ended before it told what there was, and has not come again.
+    bool hasBeenCut() const { return m_IsCut && !isRunning(); }
     // The switch for all of mobile broadband, which is NetworkManager's.
     bool isRadioOff() const { return isRunning() && !nm_client_wwan_get_enabled(m_Client.get()); }
     bool isRunning() const { return m_Client && nm_client_get_nm_running(m_Client.get()); }
@@ -36,8 +38,10 @@ public:
     // Null when NetworkManager does not have it, or not yet. By the path that the modem has at ModemManager.
     NMDevice* deviceOf(const std::string& modemPath) const;
 
-    // One that a process of ours made, with its mark; null when there is none.
-    NMActiveConnection* markedConnection() const;
+    enum Course { Lasting, Ending };
+
+    // One that a process of ours made, with its mark; null when there is none that takes this course.
+    NMActiveConnection* markedConnection(Course course) const;
 
     bool has(NMActiveConnection* connection) const;
     bool has(NMDevice* device) const;
@@ -57,6 +61,7 @@ private:
 
     Handlers m_Handlers;
     bool m_HasBegun = false;
+    bool m_IsCut = false;
     Follower<NMClient> m_Changes;
     Follower<NMDevice> m_Device;
     Follower<NMActiveConnection> m_Connection;
