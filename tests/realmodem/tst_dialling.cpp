@@ -388,6 +388,25 @@ private slots:
         TRY_CONNECTION((isUp || m_Stack.send("gsm", NoCarrier)) && connection().state == VRKS_CONNECTION_DOWN);
     }
 
+    // After the process that hung up has given up waiting for NetworkManager.
+    void aHangUpIsAnsweredLate() {
+        QVERIFY(dial());
+        TRY_UP();
+        QProcess other;
+        other.start(DIALLER, {"Other", "staying"});
+        QByteArray told;
+        QTRY_VERIFY2_WITH_TIMEOUT((told += other.readAllStandardOutput()).startsWith("2 0\n"), told, Patience);
+        QVERIFY(m_Stack.freeze("NetworkManager"));
+        QVERIFY(hangUp());
+        TRY_CONNECTION(connection().failure == VRKS_FAILURE_NO_NETWORK_SERVICE);
+        QVERIFY(m_Stack.thaw("NetworkManager"));
+        TRY_DOWN(VRKS_FAILURE_NONE);
+        const QByteArray last = "0 " + QByteArray::number(VRKS_FAILURE_HUNG_UP) + '\n';
+        QTRY_VERIFY2_WITH_TIMEOUT((told += other.readAllStandardOutput()).endsWith(last), told, Patience);
+        other.closeWriteChannel();
+        QVERIFY(other.waitForFinished());
+    }
+
     // As it reaches this process, so it reaches one that pauses before it dials by itself.
     void hangingUpNothingIsTold() {
         TRY_CONNECTION(connection().state == VRKS_CONNECTION_DOWN);

@@ -164,7 +164,19 @@ void Dialler::tellToStayDown() {
 void Dialler::hungUpElsewhere(const std::string& connection) {
     if (connection == HangUpSignal::Nothing) return stayDown();
     NMActiveConnection* active = m_Watch ? m_Watch->connection() : nullptr;
-    if (active && connection == nm_object_get_path(NM_OBJECT(active))) m_Dialled.hungUpAt = Clock::now();
+    if (!active || connection != nm_object_get_path(NM_OBJECT(active))) return;
+    m_Dialled.hungUpAt = Clock::now();
+    if (!std::exchange(m_Dialled.isHangUpUnheard, true)) awaitHungUp(connection);
+}
+
+// A NetworkManager that hangs does it when it answers again: it takes what it is asked one after the other.
+void Dialler::awaitHungUp(const std::string& connection) {
+    probe(m_Bus.get(), NetworkManagerDaemon, ProbeWithoutEnd, m_Cancellation.get(), [=](const GError*) {
+        NMActiveConnection* active = m_Watch ? m_Watch->connection() : nullptr;
+        if (!active || connection != nm_object_get_path(NM_OBJECT(active))) return;
+        m_Dialled.isHangUpUnheard = false;
+        m_Dialled.hungUpAt = Clock::now();
+    });
 }
 
 // Who was to dial next takes it as the end of a connection.
@@ -442,6 +454,7 @@ void Dialler::onDeactivated(GObject* source, GAsyncResult* result, gpointer self
     dialler->m_Dialled.isHangingUp = false;
     dialler->m_Dialled.isDeactivating = false;
     dialler->m_Dialled.refusal = failureOf(failure.get());
+    dialler->m_Dialled.isAnswerMissing = isTimeOver(failure.get());
     dialler->updateSoon();
 }
 
@@ -515,18 +528,19 @@ void Dialler::deviceStateChanged(NMDeviceState now, unsigned reason) {
     const bool isEnd = now <= NM_DEVICE_STATE_DISCONNECTED || now >= NM_DEVICE_STATE_DEACTIVATING;
     if (m_Phase < Phase::Asking || !isEnd || m_Dialled.ending.reason != NM_DEVICE_STATE_REASON_NONE) return;
     m_Dialled.ending.reason = reason;
+    m_Dialled.endedAt = Clock::now();
 }
 
 void Dialler::waitForReason() {
     m_Phase = Phase::Ended;
     m_Patience.stop();
-    m_Dialled.endedAt = Clock::now();
+    if (m_Dialled.ending.reason == NM_DEVICE_STATE_REASON_NONE) m_Dialled.endedAt = Clock::now();
     m_Counters.stop();
     m_Settling.start(SettlingMs, [this] { conclude(); });
 }
 
 void Dialler::conclude() {
-    if (isHangingUp()) return finish({});
+    if (isHangingUp() || wasHungUpLate()) return finish({});
     if (wasHungUpElsewhere()) return finish({VRKS_FAILURE_HUNG_UP, {}});
     if (canRevive()) return revive();
     if (isRadioInDoubt() || isRemovalLikely()) return;
@@ -539,8 +553,13 @@ void Dialler::conclude() {
     update();
 }
 
+// By this process, which has given up waiting for it.
+bool Dialler::wasHungUpLate() const {
+    return m_Dialled.isAnswerMissing && m_Dialled.ending.reason == NM_DEVICE_STATE_REASON_USER_REQUESTED;
+}
+
 bool Dialler::wasHungUpElsewhere() const {
-    return m_Dialled.hungUpAt && m_Dialled.endedAt - *m_Dialled.hungUpAt < HangUpTime;
+    return m_Dialled.isHangUpUnheard || (m_Dialled.hungUpAt && m_Dialled.endedAt - *m_Dialled.hungUpAt < HangUpTime);
 }
 
 // A process that was killed while it dialled leaves a call that is taken back too soon, see isAnswerDue(). Then nobody

@@ -54,15 +54,17 @@ private:
         bool isRepeated = false;  // it was ended by a radio that had just come on
         std::string stuckModem;   // its object's path when it hung in a call of before; it is looked for anew
         bool isHangingUp = false;
-        bool isDeactivating = false;  // NetworkManager was asked to end it
-        Failure refusal{};            // why it did not
+        bool isDeactivating = false;   // NetworkManager was asked to end it
+        Failure refusal{};             // why it did not
+        bool isAnswerMissing = false;  // whether it does
         bool wasUp = false;
         bool wasInDoubt = false;        // whether the radio was switched off
         bool wasRemovalLikely = false;  // and was waited for
         std::int64_t since = 0;
         std::optional<Clock::time_point> upSince;
-        Clock::time_point endedAt;
+        Clock::time_point endedAt;                  // or began to end
         std::optional<Clock::time_point> hungUpAt;  // by another process of ours
+        bool isHangUpUnheard = false;               // by NetworkManager, which hangs
         std::optional<DialStamp> stamp;             // of another process that dialled
         DialStamp askedAt;                          // by this one
         bool isStartAsked = false;                  // since when that one is up
@@ -93,6 +95,7 @@ private:
     void forgetBus();
     void end();
     void hungUpElsewhere(const std::string& connection);
+    void awaitHungUp(const std::string& connection);
     void tellToStayDown();
     void stayDown();
     void giveBack();
@@ -113,6 +116,7 @@ private:
     void deviceStateChanged(NMDeviceState now, unsigned reason);
     void waitForReason();
     void conclude();
+    bool wasHungUpLate() const;
     bool wasHungUpElsewhere() const;
     bool isRadioInDoubt();
     bool isRemovalLikely();
