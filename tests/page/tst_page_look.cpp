@@ -71,6 +71,23 @@ private slots:
         }
     }
 
+    void nothingOverlapsInALowPlace() {
+        const QFont before = QApplication::font();
+        QFont large = before;
+        large.setPointSize(20);
+        QApplication::setFont(large);
+        f->start(F::profile("Home"));
+        f->select("Preset");
+        const QWidget* const groups = f->find("NoticePlace")->parentWidget();
+        QRegion taken;
+        for (const QWidget* child : groups->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (child->isHidden()) continue;
+            QVERIFY2(!taken.intersects(child->geometry()), qPrintable(child->objectName()));
+            taken += child->geometry();
+        }
+        QApplication::setFont(before);
+    }
+
     void listShowsEightAndMarksPresets() {
         QByteArray many;
         for (char c = 'A'; c < 'M'; ++c) many += F::profile(QByteArray(1, c));

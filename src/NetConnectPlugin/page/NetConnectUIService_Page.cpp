@@ -7,6 +7,7 @@
 #include "NetConnectLockSign.h"
 #include "NetConnectPageWatch.h"
 #include "NetConnectProfileRules.h"
+#include "NetConnectScrollPlace.h"
 #include "NetConnectSettingUILogic.h"
 #include "NetConnectUIService.h"
 #include "QtCompatPage.h"
@@ -195,7 +196,7 @@ void CNetConnectUIService::assemblePage() {
     m_pGroupBoxLayout->addWidget(m_Page.askUserName);
     m_pGroupBoxLayout->addWidget(m_Page.protocolGroup);
     m_pGroupBoxLayout->addStretch();
-    m_pDialuptabLayout->addLayout(m_pGroupBoxLayout);
+    m_pDialuptabLayout->addWidget(new NetConnectScrollPlace(m_pGroupBoxLayout));
     m_pNetConectLayout->addWidget(m_pTabWidget);
     m_pNetConectLayout->addLayout(m_pBtnOtherLayout);
 }
