@@ -1242,7 +1242,7 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     </message>
     <message>
         <source>IDS_HOST_SIGNAL</source>
-        <translation>signal %1 %</translation>
+        <translation>signal %1 %</translation>
     </message>
     <message>
         <source>IDS_HOST_ROAMING</source>

@@ -795,7 +795,7 @@
     </message>
     <message>
         <source>IDS_HOST_PRESETS_NONE</source>
-        <translation>Rien trouvé. Essayez avec moins de mots ou une autre orthographe.</translation>
+        <translation>Aucun résultat. Essayez avec moins de mots ou une autre orthographe.</translation>
     </message>
     <message>
         <source>IDS_HOST_PRESETS_OTHER</source>

@@ -116,11 +116,11 @@ private slots:
             "searching", [](ConnectionFacts& facts) { facts.modem.registration = VRKS_REGISTRATION_SEARCHING; },
             Picture::Idle, "Not connected", "Searching", Picture::Connect, true);
         add(
-            "home", [](ConnectionFacts&) {}, Picture::Idle, "Not connected", "Example \u00b7 LTE \u00b7 signal 64 %",
-            Picture::Connect, true);
+            "home", [](ConnectionFacts&) {}, Picture::Idle, "Not connected",
+            "Example \u00b7 LTE \u00b7 signal 64\u00a0%", Picture::Connect, true);
         add(
             "roaming", [](ConnectionFacts& facts) { facts.modem.registration = VRKS_REGISTRATION_ROAMING; },
-            Picture::Idle, "Not connected", "signal 64 % \u00b7 roaming", Picture::Connect, true);
+            Picture::Idle, "Not connected", "signal 64\u00a0% \u00b7 roaming", Picture::Connect, true);
         add(
             "denied", [](ConnectionFacts& facts) { facts.modem.registration = VRKS_REGISTRATION_DENIED; },
             Picture::Idle, "Not connected", "refuses this SIM card", Picture::Connect, true);
