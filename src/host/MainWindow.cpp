@@ -26,6 +26,7 @@
 #include "HostText.h"
 #include "INetConnectSetting.h"
 #include "LeastHeight.h"
+#include "Mnemonics.h"
 #include "ModemPanel.h"
 #include "NewProfileDialog.h"
 #include "Plugins.h"
@@ -165,6 +166,7 @@ void MainWindow::restore() {
 
 void MainWindow::present() {
     if (isMinimized()) showNormal();
+    if (isHidden() && !m_LastPlace.isEmpty()) restoreGeometry(m_LastPlace);
     show();
     raise();
     activateWindow();
@@ -283,6 +285,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(!m_Settings || m_Settings->finish());
     if (!event->isAccepted()) return;
     const bool hides = m_HidesOnClose && !m_IsEnding && HostSettings::isOn(HostSettings::ClosesToTray);
+    m_LastPlace = saveGeometry();  // a window that is shown again is placed anew otherwise
     if (hides) return;
     event->setAccepted(agreesToEnd());
     if (event->isAccepted()) closeForGood();
@@ -290,7 +293,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::buildMenus() {
     m_ConnectionMenu = menuBar()->addMenu(QString());
+    Mnemonics::keep(m_ConnectionMenu);
     m_Action = m_ConnectionMenu->addAction(QString(), this, &MainWindow::act);
+    m_Action->setObjectName(QStringLiteral("IDS_HOST_CONNECT"));
     m_Action->setShortcut(QStringLiteral("Ctrl+Return"));
     m_UnlockAction = addEntry(m_ConnectionMenu, "IDS_HOST_UNLOCK", {}, &MainWindow::unlock);
     addEntry(m_ConnectionMenu, "IDS_HOST_BALANCE", {}, &MainWindow::askBalance);
@@ -303,9 +308,11 @@ void MainWindow::buildMenus() {
     QAction* const quit = m_ConnectionMenu->addAction(QString(), this, &MainWindow::quit);
     quit->setShortcut(QKeySequence::Quit);
     if (quit->shortcut().isEmpty()) quit->setShortcut(QStringLiteral("Ctrl+Q"));
+    quit->setObjectName(QStringLiteral("IDS_HOST_QUIT"));
     quit->setMenuRole(QAction::QuitRole);
     m_Entries.append({quit, "IDS_HOST_QUIT"});
     m_HelpMenu = menuBar()->addMenu(QString());
+    Mnemonics::keep(m_HelpMenu);
     addEntry(m_HelpMenu, "IDS_HOST_GUIDE", QKeySequence(Qt::Key_F1), &MainWindow::openGuide);
     addEntry(m_HelpMenu, "IDS_HOST_ABOUT", {}, &MainWindow::showAbout);
 }
@@ -328,6 +335,7 @@ void MainWindow::addDock() {
     m_Dock->setWidget(area);
     addDockWidget(Qt::RightDockWidgetArea, m_Dock);
     QAction* const toggle = m_Dock->toggleViewAction();
+    toggle->setObjectName(QStringLiteral("IDS_HOST_MODEM_TITLE"));
     m_HelpMenu->insertAction(m_HelpMenu->actions().first(), toggle);
 }
 

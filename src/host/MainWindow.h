@@ -138,6 +138,7 @@ private:
     QTimer m_Settled;
     bool m_HasBegun = false;
     bool m_HidesOnClose = false;
+    QByteArray m_LastPlace;
     bool m_IsEnding = false;
     bool m_IsConnectionRemembered = false;
 };

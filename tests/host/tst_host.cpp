@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPluginLoader>
 #include <QPushButton>
@@ -257,6 +258,22 @@ private slots:
         }
     }
 
+    // Also where a language has no letters on a keyboard's keys, and when its texts change.
+    void givesEachEntryALetter() {
+        for (const char* language : {"ar", "de"}) {
+            QVERIFY(m_Host->changeLanguage(language));
+            for (const QAction* title : m_Host->window()->menuBar()->actions()) {
+                QMenu* const menu = title->menu();
+                QMetaObject::invokeMethod(menu, "aboutToShow");
+                QStringList letters;
+                for (const QAction* action : menu->actions())
+                    if (!action->isSeparator()) letters.append(QKeySequence::mnemonic(action->text()).toString());
+                QVERIFY2(letters.size() > 2 && !letters.contains(QString()), qPrintable(letters.join(' ')));
+                QCOMPARE(letters.removeDuplicates(), 0);
+            }
+        }
+    }
+
     void saysWhenSettingsAreNotStored() {
         TestFolder::write(m_Folder->path("file"), "");
         qputenv("ORBISDIAL_CONFIG_DIR", QFile::encodeName(m_Folder->path("file/config")));
@@ -448,7 +465,7 @@ private slots:
     void followsTheModem() {
         auto* detail = child<QLabel>("Host_ConnectionDetail");
         vrks_simulated_change("SIGNAL", "20");
-        QTRY_VERIFY2(detail->text().contains("20 %"), qPrintable(detail->text()));
+        QTRY_VERIFY2(detail->text().contains("20\u00a0%"), qPrintable(detail->text()));
         // LTE, UMTS, none, UMTS: nothing to read again; CDMA, its eHRPD.
         const struct {
             const char *mode, *subMode;
