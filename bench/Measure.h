@@ -19,10 +19,12 @@ struct Side {
     std::function<void()> run;
     std::function<void()> prepare = [] {};
     std::function<void()> finish = [] {};
+    std::function<void()> count = [] {};  // the last run counts
 };
 
-// Runs both sides once in each iteration, in changing order, so that a busy machine slows them alike. Counters:
-// "ratio" of the medians, "ours_ms" and "reference_ms".
+// Runs both sides once in each iteration, in changing order, so that a busy machine slows them alike; again where the
+// host of a virtual machine took its processors away meanwhile. Counters: "ratio" of the medians, "ours_ms" and
+// "reference_ms", and in "disturbed" the share of iterations for which no undisturbed one could be had.
 void compare(benchmark::State& state, const Side& ours, const Side& reference);
 
 // Times one side alone: "ours_ms".
