@@ -1832,6 +1832,10 @@
         <translation>تتعذر كتابة الصورة %1</translation>
     </message>
     <message>
+        <source>no window can be opened: %1</source>
+        <translation>يتعذر فتح أي نافذة: %1</translation>
+    </message>
+    <message>
         <source>card</source>
         <translation>البطاقة</translation>
     </message>

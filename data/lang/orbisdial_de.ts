@@ -1832,6 +1832,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>das Bild %1 kann nicht geschrieben werden</translation>
     </message>
     <message>
+        <source>no window can be opened: %1</source>
+        <translation>es kann kein Fenster geöffnet werden: %1</translation>
+    </message>
+    <message>
         <source>card</source>
         <translation>Karte</translation>
     </message>

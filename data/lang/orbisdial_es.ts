@@ -1832,6 +1832,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>no se puede escribir la imagen %1</translation>
     </message>
     <message>
+        <source>no window can be opened: %1</source>
+        <translation>no se puede abrir ninguna ventana: %1</translation>
+    </message>
+    <message>
         <source>card</source>
         <translation>tarjeta</translation>
     </message>

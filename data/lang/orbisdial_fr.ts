@@ -1832,6 +1832,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>impossible d’écrire l’image %1</translation>
     </message>
     <message>
+        <source>no window can be opened: %1</source>
+        <translation>impossible d’ouvrir une fenêtre&#xa0;: %1</translation>
+    </message>
+    <message>
         <source>card</source>
         <translation>carte</translation>
     </message>

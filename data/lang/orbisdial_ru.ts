@@ -1832,6 +1832,10 @@
         <translation>не удаётся записать изображение %1</translation>
     </message>
     <message>
+        <source>no window can be opened: %1</source>
+        <translation>не удаётся открыть окно: %1</translation>
+    </message>
+    <message>
         <source>card</source>
         <translation>карта</translation>
     </message>

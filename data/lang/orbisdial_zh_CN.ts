@@ -1832,6 +1832,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>无法写入图片 %1</translation>
     </message>
     <message>
+        <source>no window can be opened: %1</source>
+        <translation>无法打开窗口：%1</translation>
+    </message>
+    <message>
         <source>card</source>
         <translation>卡</translation>
     </message>

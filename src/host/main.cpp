@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
-// orbisdial: the reference host. Exit status: 0 done, 1 something can't be written or memory is out, 2 wrong
-// usage.
+// orbisdial: the reference host. Exit status: 0 done, 1 something can't be written, there is no display or memory is
+// out, 2 wrong usage.
 #include <malloc.h>
 
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QPixmap>
 #include <QTimer>
-#include <algorithm>
-#include <cstring>
+#include <cstdlib>
 #include <memory>
 
 #include "EndSignals.h"
@@ -103,11 +102,19 @@ int run(const Options& options) {
     return QCoreApplication::exec();
 }
 
-// Help and the version need no display.
-bool isQuestion(const char* word) {
-    for (const char* question : {"-h", "--help", "--help-all", "-v", "--version"})
-        if (std::strcmp(word, question) == 0) return true;
-    return false;
+QtMessageHandler usualHandler = nullptr;
+
+// Qt aborts without a display. What needs none is done all the same: help, the version, and what is wrong in the
+// command line.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    static QString problem;  // the first warning tells the reason
+    if (type == QtDebugMsg || type == QtInfoMsg) return usualHandler(type, context, text);
+    if (problem.isEmpty()) problem = text.simplified();
+    if (type != QtFatalMsg) return;
+    qInstallMessageHandler(nullptr);
+    Options::fromArguments(*QCoreApplication::instance());
+    say(message("no window can be opened: %1", {problem}));
+    std::exit(Failed);
 }
 
 }  // namespace
@@ -115,11 +122,12 @@ bool isQuestion(const char* word) {
 int main(int argc, char* argv[]) {
     ProgramStart::prepare("orbisdial", Failed);
     giveMemoryBack();
-    if (std::any_of(argv, argv + argc, isQuestion)) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("orbisdial"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORBISDIAL_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("orbisdial"));
+    usualHandler = qInstallMessageHandler(endWithoutDisplay);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
 
     const Options options = Options::fromArguments(application);
     useDesktopFontSize();

@@ -31,6 +31,8 @@ private slots:
         row("language", {"--lang", "xx"}, 2, "en, ar, de, es, fr, ru, zh_CN");
         row("picture of an import", picture + QStringList("x.prof"), 2, "a file to import");
         row("page", {"--page", "None"}, 2, "FakeSettingsPlugin, Host");
+        row("no display", {"-platform", "nowhere"}, 1, "no window can be opened: Could not find");
+        row("no display, wrong option", {"-platform", "nowhere", "--wrong"}, 2, "Unknown option 'wrong'");
     }
 
     void runs() {
