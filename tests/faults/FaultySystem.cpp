@@ -99,8 +99,6 @@ FAULTY("fchmod", fchmod, (int fd, mode_t mode), (fd, mode))
 FAULTY("fchown", fchown, (int fd, uid_t user, gid_t group), (fd, user, group))
 FAULTY("rename", rename, (const char* from, const char* to), (from, to))
 FAULTY("rename", renameat, (int oldFolder, const char* from, int folder, const char* to), (oldFolder, from, folder, to))
-FAULTY("linkat", linkat, (int oldFolder, const char* from, int folder, const char* to, int flags),
-       (oldFolder, from, folder, to, flags))
 FAULTY("unlink", unlink, (const char* path), (path))
 FAULTY("unlink", unlinkat, (int folder, const char* path, int flags), (folder, path, flags))
 FAULTY("flock", flock, (int fd, int operation), (fd, operation))
@@ -132,9 +130,16 @@ FAULTY_OPEN(openat64, (int folder, const char* path, int flags, ...), (folder, p
 
 INTERPOSED int renameat2(int oldFolder, const char* from, int folder, const char* to, unsigned flags) noexcept {
     if (failsAt("rename")) return -1;
-    if (flags == 0 || strcmp(failing, "rename with flags") != 0)
+    if (flags == 0 || strncmp(failing, "rename with flags", strlen("rename with flags")) != 0)
         return next<decltype(renameat2)>("renameat2")(oldFolder, from, folder, to, flags);
     errno = EINVAL;
+    return -1;
+}
+
+INTERPOSED int linkat(int oldFolder, const char* from, int folder, const char* to, int flags) noexcept {
+    if (strcmp(failing, "rename with flags or link") != 0)
+        return failsAt("linkat") ? -1 : next<decltype(linkat)>("linkat")(oldFolder, from, folder, to, flags);
+    errno = EPERM;
     return -1;
 }
 

@@ -15,7 +15,7 @@ void killAt(int n);
 // functions', but that "rename", "unlink" and "stat" stand for all of their kind, "open to read" for an open that
 // writes nothing, "fsync folder" for the flush of a folder, "write in full" for a write that takes only half of its
 // data, "read in full" for reads of at most 100 bytes, "write anything" for one that takes nothing, and "rename with
-// flags" for a file system that knows none.
+// flags" for a file system that knows none, "rename with flags or link" for one that knows no hard links either.
 // $ORBISDIAL_TEST_FAULT ("name=errno@n") does the same from the program's start.
 void fail(const char* call, int error, int n = 0);
 

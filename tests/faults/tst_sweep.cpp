@@ -45,8 +45,17 @@ const QMap<QString, Errors>& errorsByCall() {
 }
 
 // Interrupted calls are made again, those that did a part go on, and what a file system can't do is done otherwise.
-const QStringList Interruptible{"open",          "open to read",      "read",  "read in full", "write",
-                                "write in full", "rename with flags", "fsync", "fsync folder", "close",
+const QStringList Interruptible{"open",
+                                "open to read",
+                                "read",
+                                "read in full",
+                                "write",
+                                "write in full",
+                                "rename with flags",
+                                "rename with flags or link",
+                                "fsync",
+                                "fsync folder",
+                                "close",
                                 "flock"};
 
 void dropTrace(QtMsgType, const QMessageLogContext&, const QString&) {}

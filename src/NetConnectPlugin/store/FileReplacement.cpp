@@ -110,13 +110,40 @@ public:
 private:
     Q_DISABLE_COPY(TemporaryFile)
 
-    // Not every kind of file system can rename without replacing.
+    // Not every kind of file system can rename without replacing, or has a second name for a file.
     bool putNew(int folder, const char* name) const {
         if (::renameat2(folder, m_Name.constData(), folder, name, RENAME_NOREPLACE) == 0) return true;
         if (errno != EINVAL && errno != ENOSYS) return false;
-        if (::linkat(folder, m_Name.constData(), folder, name, 0) != 0) return false;
+        if (::linkat(folder, m_Name.constData(), folder, name, 0) != 0)
+            return isWithoutLinks() && putReserved(folder, name);
         ::unlinkat(folder, m_Name.constData(), 0);
         return true;
+    }
+
+    static bool isWithoutLinks() { return errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS || errno == EMLINK; }
+
+    // An empty file takes the name first, which fails when there is one; nobody else can take it then. What is to be
+    // empty itself is a lock: that file may be locked by now, so it stays.
+    bool putReserved(int folder, const char* name) const {
+        struct stat filled;
+        if (::fstatat(folder, m_Name.constData(), &filled, AT_SYMLINK_NOFOLLOW) != 0) return false;
+        const Descriptor reserved(Descriptor::openAt(folder, name, O_WRONLY | O_CREAT | O_EXCL, 0600));
+        if (!reserved.isOpen()) return false;
+        const bool isLock = filled.st_size == 0;
+        const bool isPut =
+            isLock ? hasOwner(reserved.get(), filled) : ::renameat(folder, m_Name.constData(), folder, name) == 0;
+        const int error = errno;
+        if (!isPut) ::unlinkat(folder, name, 0);
+        if (isPut && isLock) ::unlinkat(folder, m_Name.constData(), 0);
+        errno = error;
+        return isPut;
+    }
+
+    static bool hasOwner(int fd, const struct stat& filled) {
+        struct stat now;
+        if (::fstat(fd, &now) != 0) return false;
+        const bool isOwned = now.st_uid == filled.st_uid && now.st_gid == filled.st_gid;
+        return isOwned || ::fchown(fd, filled.st_uid, filled.st_gid) == 0;
     }
 
     const FilePlace& m_Place;
