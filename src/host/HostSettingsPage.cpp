@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <utility>
 
 #include "CommonUtils.h"
 #include "ConnectionSettings.h"
@@ -80,7 +81,7 @@ bool HostSettingsPage::IsActiveSetting() { return m_Widget && m_Widget->isVisibl
 void HostSettingsPage::retranslate() {
     if (!m_Widget) return;
     m_LanguageLabel->setText(hostText("IDS_HOST_LANGUAGE"));
-    for (const Box& box : qAsConst(m_Boxes)) box.widget->setText(hostText(box.text));
+    for (const Box& box : std::as_const(m_Boxes)) box.widget->setText(hostText(box.text));
 }
 
 void HostSettingsPage::build() {
@@ -108,12 +109,12 @@ void HostSettingsPage::build() {
 void HostSettingsPage::load() {
     m_IsOpen = true;
     m_Language->setCurrentIndex(m_Language->findData(Change::GetLangName()));
-    for (const Box& box : qAsConst(m_Boxes)) box.widget->setChecked(box.isOn());
+    for (const Box& box : std::as_const(m_Boxes)) box.widget->setChecked(box.isOn());
 }
 
 bool HostSettingsPage::store() {
     if (!m_Widget) return true;
-    for (const Box& box : qAsConst(m_Boxes)) {
+    for (const Box& box : std::as_const(m_Boxes)) {
         const bool on = box.widget->isChecked();
         if (on != box.isOn() && !box.store(on)) return false;
     }

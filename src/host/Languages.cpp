@@ -2,6 +2,7 @@
 #include "Languages.h"
 
 #include <QLocale>
+#include <utility>
 
 #include "Change.h"
 #include "CommonUtils.h"
@@ -25,7 +26,7 @@ void Languages::useStored() {
     QStringList candidates = QLocale::system().uiLanguages();
     candidates.prepend(CommonUtils::GetSettings(Group, Key));
     candidates.append(English);
-    for (const QString& code : qAsConst(candidates)) {
+    for (const QString& code : std::as_const(candidates)) {
         if (Change::SetLanguage(code)) return;
     }
 }

@@ -16,6 +16,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QUrl>
+#include <utility>
 
 #include "AboutBox.h"
 #include "BalanceDialog.h"
@@ -143,7 +144,7 @@ void MainWindow::retranslate() {
     setWindowTitle(hostText(m_ModemPanel ? "IDS_HOST_TITLE_SIMULATED" : "IDS_HOST_TITLE"));
     m_ConnectionMenu->setTitle(hostText("IDS_HOST_MENU_CONNECTION"));
     m_HelpMenu->setTitle(hostText("IDS_HOST_MENU_HELP"));
-    for (const Entry& entry : qAsConst(m_Entries)) entry.action->setText(hostText(entry.id));
+    for (const Entry& entry : std::as_const(m_Entries)) entry.action->setText(hostText(entry.id));
     if (m_Settings) m_Settings->retranslate();
     m_View->retranslate();
     if (m_Unlock) m_Unlock->retranslate();
@@ -195,7 +196,7 @@ QString MainWindow::importProblem(const QString& file) {
 
 // False when the page on show refuses to go, or this one is not there.
 bool MainWindow::openPage(const QObject* page) {
-    for (const SettingsPage& candidate : qAsConst(m_Pages)) {
+    for (const SettingsPage& candidate : std::as_const(m_Pages)) {
         if (candidate.object != page || !pages()->showPage(candidate.pluginName)) continue;
         openSettings();
         return true;

@@ -12,6 +12,7 @@
 #include <QRegularExpressionValidator>
 #include <QSpinBox>
 #include <cstring>
+#include <utility>
 
 #include "HostText.h"
 
@@ -130,7 +131,7 @@ ModemPanel::ModemPanel(QWidget* parent)
 void ModemPanel::refresh() { select(m_Outcome, valueOf("DIAL")); }
 
 void ModemPanel::retranslate() {
-    for (const Text& text : qAsConst(m_Texts)) text.widget->setProperty("text", hostText(text.id));
+    for (const Text& text : std::as_const(m_Texts)) text.widget->setProperty("text", hostText(text.id));
     m_Imsi->setPlaceholderText(hostText("IDS_HOST_MODEM_NO_CARD"));
     retranslateBox(m_CardMode, CardModes);
     retranslateBox(m_Outcome, Outcomes);

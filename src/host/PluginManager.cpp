@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QLibrary>
 #include <QPluginLoader>
+#include <utility>
 
 #include "HostText.h"
 #include "INetConnectSetting.h"
@@ -52,10 +53,10 @@ void PluginManager::start(const QString& folder) {
         if (load(&plugin) && enlist(plugin)) enlisted.append(plugin);
     }
     // Only now, so that each finds its peers in the container.
-    for (const Plugin& plugin : qAsConst(enlisted)) {
+    for (const Plugin& plugin : std::as_const(enlisted)) {
         if (init(plugin)) m_Plugins.append(plugin);
     }
-    for (const Plugin& plugin : qAsConst(m_Plugins)) takeInterfaces(plugin);
+    for (const Plugin& plugin : std::as_const(m_Plugins)) takeInterfaces(plugin);
 }
 
 void PluginManager::stop() {

@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QStandardItemModel>
 #include <algorithm>
+#include <utility>
 
 #include "Change.h"
 #include "Countries.h"
@@ -80,7 +81,7 @@ void PresetTree::fill(const QList<PresetOperator>& operators) {
         if (a.isEmpty() != b.isEmpty()) return b.isEmpty();  // nobody's last
         return order.compare(place(a), place(b)) < 0;
     });
-    for (const QString& code : qAsConst(codes)) addCountry(code, countries.value(code));
+    for (const QString& code : std::as_const(codes)) addCountry(code, countries.value(code));
     setSourceModel(m_Items);
 }
 
@@ -93,7 +94,7 @@ void PresetTree::addCountry(const QString& country, const QList<int>& operators)
     const QCollator order = collator();
     std::sort(sorted.begin(), sorted.end(),
               [&](int a, int b) { return order.compare(nameOf(m_Operators.at(a)), nameOf(m_Operators.at(b))) < 0; });
-    for (const int number : qAsConst(sorted)) addOperator(number, names, item);
+    for (const int number : std::as_const(sorted)) addOperator(number, names, item);
     m_Items->appendRow({item, makeItem(QString())});
 }
 

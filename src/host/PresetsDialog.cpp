@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTreeView>
+#include <utility>
 
 #include "ConnectionPicture.h"
 #include "HostText.h"
@@ -180,7 +181,7 @@ void PresetsDialog::retranslate() {
     m_Search->setAccessibleDescription(m_Search->placeholderText());
     m_View->setAccessibleName(hostText("IDS_HOST_PRESETS_LIST"));
     m_Hint->setText(hostText("IDS_HOST_PRESETS_HINT"));
-    for (const Detail& detail : qAsConst(m_Details)) detail.title->setText(directed(hostText(detail.id)));
+    for (const Detail& detail : std::as_const(m_Details)) detail.title->setText(directed(hostText(detail.id)));
     m_Use->setText(hostText("IDS_HOST_PRESETS_USE"));
     m_Connect->setText(hostText("IDS_HOST_CONNECT"));
     m_Close->setText(hostText("IDS_HOST_CLOSE"));

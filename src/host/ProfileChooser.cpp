@@ -12,6 +12,7 @@
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 #include <memory>
+#include <utility>
 
 #include "HostText.h"
 #include "Plugins.h"
@@ -103,7 +104,7 @@ void ProfileChooser::fill() {
         QList<QString> names;
         profiles->GetAllDialUpProfile(&names);
         const QSet<QString> mine = ownNames(names);
-        for (const QString& name : qAsConst(names)) (mine.contains(name) ? own : presets).append(name);
+        for (const QString& name : std::as_const(names)) (mine.contains(name) ? own : presets).append(name);
     }
     if (!m_Chosen.isEmpty() && !own.contains(m_Chosen) && !presets.contains(m_Chosen)) m_Chosen.clear();
     const QSignalBlocker quiet(this);

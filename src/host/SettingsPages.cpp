@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <utility>
 
 #include "HostText.h"
 
@@ -100,7 +101,7 @@ QSize SettingsPages::sizeHint() const {
 void SettingsPages::retranslate() {
     const QSignalBlocker quiet(m_List);
     m_List->clear();
-    for (const SettingsPage& page : qAsConst(m_Pages)) {
+    for (const SettingsPage& page : std::as_const(m_Pages)) {
         m_List->addItem(page.object ? page.page->GetModuleName() : QString());
     }
     m_List->setCurrentRow(m_Current);

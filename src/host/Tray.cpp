@@ -3,6 +3,7 @@
 
 #include <QSet>
 #include <algorithm>
+#include <utility>
 
 #include "HostText.h"
 #include "Plugins.h"
@@ -72,7 +73,7 @@ void Tray::listProfiles() {
     profiles->GetAllDialUpProfile(&names);
     if (IPresetLibrary* const library = Plugins::presets()) library->GetOwnProfileNames(&own);
     const QSet<QString> mine(own.begin(), own.end());
-    for (const QString& name : qAsConst(names))
+    for (const QString& name : std::as_const(names))
         if (!mine.contains(name)) presets.append(name);
     addProfiles(own.mid(0, MostProfiles));
     if (!own.isEmpty() && !presets.isEmpty()) m_Profiles->addSeparator();

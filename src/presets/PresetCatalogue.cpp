@@ -5,6 +5,7 @@
 #include <QVector>
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 #include "PresetNames.h"
 
@@ -118,7 +119,7 @@ QList<OperatorEntry> operatorsOf(const QVector<Preset>& presets) {
         std::stable_sort(own.begin(), own.end(),
                          [](const Preset& a, const Preset& b) { return a.point.usage < b.point.usage; });
         operators.append(entryOf(*first->provider));
-        for (const Preset& preset : qAsConst(own)) {
+        for (const Preset& preset : std::as_const(own)) {
             operators.last().presets.append(preset.name);
             operators.last().plans.append({preset.point.label, preset.point.plan});
         }

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <algorithm>
+#include <utility>
 
 #include "NetConnectProfileRules.h"
 
@@ -124,7 +125,7 @@ public:
         }
         number();
         QStringList result;
-        for (const Entry& entry : qAsConst(m_Entries)) result.append(entry.name);
+        for (const Entry& entry : std::as_const(m_Entries)) result.append(entry.name);
         return result;
     }
 
@@ -140,7 +141,7 @@ private:
     // Takes every entry whose name clashes one level up; false when none was left to raise.
     bool raiseClashing() {
         QHash<QString, int> uses;
-        for (const Entry& entry : qAsConst(m_Entries)) ++uses[entry.name.toCaseFolded()];
+        for (const Entry& entry : std::as_const(m_Entries)) ++uses[entry.name.toCaseFolded()];
         bool raised = false;
         for (Entry& entry : m_Entries) {
             const QString key = entry.name.toCaseFolded();
@@ -154,7 +155,7 @@ private:
 
     void number() {
         QSet<QString> taken = m_Reserved;
-        for (const Entry& entry : qAsConst(m_Entries))
+        for (const Entry& entry : std::as_const(m_Entries))
             if (entry.level != ByNumber) taken.insert(entry.name.toCaseFolded());
         QHash<QString, int> next;
         for (Entry& entry : m_Entries) {

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <new>
+#include <utility>
 
 #include "FilesCheck.h"
 #include "OperatorDatabase.h"
@@ -77,7 +78,7 @@ QStringList namesOf(const QList<DialupProfile>& profiles) {
 QList<Provider> readProviders(const QString& database) {
     QStringList warnings;
     const QList<Provider> providers = readOperatorDatabase(database, &warnings);
-    for (const QString& warning : qAsConst(warnings)) say(warning);
+    for (const QString& warning : std::as_const(warnings)) say(warning);
     return providers;
 }
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstring>
 #include <mutex>
+#include <utility>
 
 #include "Rows.h"
 #include "vrks.h"
@@ -41,7 +42,7 @@ QString takeEvents() {
     const std::lock_guard lock(eventsMutex);
     std::sort(events.begin(), events.end());
     QStringList texts;
-    for (int event : qAsConst(events)) texts += QString::number(event);
+    for (int event : std::as_const(events)) texts += QString::number(event);
     events.clear();
     return texts.join(' ');
 }

@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QProcess>
 #include <memory>
+#include <utility>
 
 #include "Change.h"
 #include "ConnectionView.h"
@@ -223,7 +224,7 @@ private:
         QCOMPARE(last.title, title);
         QVERIFY2(last.body.contains(body), qPrintable(last.body));
         QCOMPARE(last.actions.value(0), QString("default"));
-        for (const Notifications::Message& message : qAsConst(m_Service->messages))
+        for (const Notifications::Message& message : std::as_const(m_Service->messages))
             for (const QString& secret : {Password, Imsi})
                 QVERIFY(!message.title.contains(secret) && !message.body.contains(secret));
     }
