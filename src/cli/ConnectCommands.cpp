@@ -84,13 +84,13 @@ void warn(const QStringList& notes) {
         if (!note.isEmpty()) printWarning(note);
 }
 
-// False when it did not end in time, or was not allowed to.
+// False when it did not end in time, or was not allowed to. A signal is why it is to end, and no reason to wait less.
 bool waitUntilDown(const EventWait& events, const QDeadlineTimer& deadline) {
     for (;;) {
         const DataConnection connection = DataConnection::current();
         if (connection.isDown()) return true;
         if (connection.isUp() && connection.failure != VRKS_FAILURE_NONE) return false;
-        if (events.wait(deadline) == EventWait::TimeIsUp) return false;
+        if (events.wait(deadline, EventWait::NoSignal) == EventWait::TimeIsUp) return false;
     }
 }
 
@@ -140,20 +140,28 @@ private:
     }
 
     // Services tell the address a moment after the connection is up.
-    DataConnection withAddress(DataConnection connection) const {
+    DataConnection withAddress(DataConnection connection) {
         const QDeadlineTimer deadline(AddressMs);
-        while (connection.isUp() && connection.address.isEmpty() && connection.address6.isEmpty() &&
-               m_Events.wait(deadline) == EventWait::Changed)
+        while (connection.isUp() && connection.address.isEmpty() && connection.address6.isEmpty()) {
+            const EventWait::Waking waking = m_Events.wait(deadline);
+            if (waking == EventWait::SignalCame) obey();
+            if (waking == EventWait::TimeIsUp) break;
             connection = DataConnection::current();
+        }
         return connection;
     }
 
     void waitForMore(const char* late) {
         const EventWait::Waking waking = m_Events.wait(m_Deadline);
         if (waking == EventWait::Changed) return;
+        if (waking == EventWait::SignalCame) obey();
         hangUpOwn();
-        if (waking == EventWait::SignalCame) EndingSignals::obey();
         throw CommandError::timedOut(message(late));
+    }
+
+    [[noreturn]] void obey() {
+        hangUpOwn();
+        EndingSignals::obey();
     }
 
     // What another process began is left to it.
@@ -164,7 +172,7 @@ private:
 
     void showStep(const DataConnection& connection) {
         const QString step = ConnectionReport::step(connection);
-        if (step != m_Step && ::isatty(STDERR_FILENO)) printDiagnostic(step);
+        if (step != m_Step && !step.isEmpty() && ::isatty(STDERR_FILENO)) printDiagnostic(step);
         m_Step = step;
     }
 

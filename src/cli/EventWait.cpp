@@ -100,6 +100,6 @@ EventWait::Waking EventWait::wait(const QDeadlineTimer& deadline, Also also) con
     endLoopAt(deadline, &loop, &timer);
     const Waker input(&loop, also == StandardInput ? STDIN_FILENO : -1, QSocketNotifier::Read, InputCame);
     const Waker output(&loop, also == StandardOutput ? STDOUT_FILENO : -1, QSocketNotifier::Exception, ReaderGone);
-    const Waker ending(&loop, signalBell, QSocketNotifier::Read, SignalCame);
+    const Waker ending(&loop, also == NoSignal ? -1 : signalBell, QSocketNotifier::Read, SignalCame);
     return Waking(loop.exec());
 }

@@ -20,7 +20,8 @@ public:
     [[noreturn]] static void obey();
 };
 
-// Listens to the SDK while it lives. What happens between two waits ends the second one at once.
+// Listens to the SDK while it lives. What happens between two waits ends the second one at once, and a signal that came
+// each one: who has obeyed it, and goes on waiting, wants NoSignal.
 class EventWait {
 public:
     enum Waking {
@@ -30,7 +31,7 @@ public:
         InputCame,   // standard input can be read, or has ended
         ReaderGone,  // of the standard output
     };
-    enum Also { NothingElse, StandardInput, StandardOutput };
+    enum Also { NothingElse, StandardInput, StandardOutput, NoSignal };
 
     Waking wait(const QDeadlineTimer& deadline, Also also = NothingElse) const;
 
