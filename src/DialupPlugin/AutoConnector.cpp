@@ -49,6 +49,7 @@ void AutoConnector::stop() {
 }
 
 void AutoConnector::connectionChanged(const DataConnection& connection) {
+    if (m_Policy.isBegunElsewhere(connection)) m_Policy.userConnects(AutoConnectSettings::isOn(connection.name));
     const bool isRefused = m_Policy.observe(connection, m_Clock.elapsed());
     if (isRefused || connection.isUp()) AutoConnectSettings::setRefused(connection.name, isRefused);
     consider();

@@ -58,6 +58,10 @@ void AutoConnectPolicy::userConnects(bool isAutomatic) {
     forgetFailures();
 }
 
+bool AutoConnectPolicy::isBegunElsewhere(const DataConnection& connection) const {
+    return m_Last.isDown() && !connection.isDown() && !connection.isOwn;
+}
+
 void AutoConnectPolicy::userHangsUp() { m_IsHeld = true; }
 
 void AutoConnectPolicy::dials() { m_Last.state = VRKS_CONNECTION_DIALLING; }

@@ -46,6 +46,10 @@ public:
     // The user begins to connect with a profile; whether that one is to connect by itself.
     void userConnects(bool isAutomatic);
 
+    // Whether that is what the connection tells: another program does not connect by itself. To be asked before
+    // observe().
+    bool isBegunElsewhere(const DataConnection& connection) const;
+
     // The user ends the connection or gives it up, here or in another program.
     void userHangsUp();
 

@@ -144,6 +144,20 @@ private slots:
         QCOMPARE(decide().hold, int(AutoConnectHungUp));
     }
 
+    // What another program begins is the user's doing, and ends what his hanging up began.
+    void knowsWhatOthersBegin() {
+        DataConnection connection;
+        QVERIFY(!m_Policy.isBegunElsewhere(connection));
+        connection.state = VRKS_CONNECTION_DIALLING;
+        QVERIFY(m_Policy.isBegunElsewhere(connection));
+        connection.isOwn = true;
+        QVERIFY(!m_Policy.isBegunElsewhere(connection));
+        connection.isOwn = false;
+        m_Policy.observe(connection, m_Now);
+        connection.state = VRKS_CONNECTION_UP;
+        QVERIFY(!m_Policy.isBegunElsewhere(connection));
+    }
+
 private:
     AutoConnectDecision decide() const { return m_Policy.decide(m_Candidate, m_Modem, m_Now); }
 
