@@ -6,6 +6,7 @@
 #include <libmm-glib.h>
 
 #include <functional>
+#include <string>
 
 #include "../DialRequest.h"
 #include "../Picture.h"
@@ -27,6 +28,9 @@ public:
 
     // On the thread: the modem in use at ModemManager; null: none. Its D-Bus path is mm_object_get_path()'s.
     virtual MMObject* modemInUse() = 0;
+
+    // On the thread: the one with this D-Bus path; null: it is gone.
+    virtual MMObject* modemAt(const std::string& path) = 0;
 };
 
 // Answers for Picture::connection. It lives as long as the process; what it has, it makes and gives up on the thread.

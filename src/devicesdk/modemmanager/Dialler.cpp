@@ -110,8 +110,7 @@ void Dialler::tellKnown() {
 void Dialler::stop() { wipe(m_Dialled.request.password); }
 
 void Dialler::modemChanged() {
-    MMObject* modem = m_Host.modemInUse();
-    m_Modem.follow(modem ? mm_object_peek_modem(modem) : nullptr);
+    followModem();
     updateSoon();
 }
 
@@ -217,6 +216,7 @@ void Dialler::updateSoon() {
 void Dialler::update() {
     m_IsUpdateDue = false;
     followDevice();
+    followModem();
     switch (m_Phase) {
         case Phase::Idle:
             return observe();
@@ -237,6 +237,12 @@ void Dialler::update() {
 void Dialler::followDevice() {
     if (!m_Watch || m_Phase > Phase::Looking) return;
     m_Watch->follow(m_Watch->deviceOf(modemPath()));
+}
+
+// And so does its modem, whichever is in use meanwhile.
+void Dialler::followModem() {
+    MMObject* modem = m_Host.modemAt(modemPath());
+    m_Modem.follow(modem ? mm_object_peek_modem(modem) : nullptr);
 }
 
 void Dialler::observe() {
@@ -263,6 +269,7 @@ void Dialler::adopt(NMActiveConnection* connection) {
     if (devices && devices->len > 0) m_Watch->follow(static_cast<NMDevice*>(devices->pdata[0]));
     m_Counters.stop();
     m_Phase = Phase::Activating;
+    followModem();
     takePulse();
     watch();
 }
@@ -380,9 +387,7 @@ void Dialler::comeUp() {
 
 // Since when another process has it the modem's data session tells; once, when the modem is known too.
 void Dialler::askStart() {
-    NMDevice* device = m_Watch->device();
-    const bool isModemKnown = m_Modem.get() && device && textOf(nm_device_get_udi(device)) == modemPath();
-    if (!m_Dialled.stamp || !isModemKnown || m_Dialled.isStartAsked) return;
+    if (!m_Dialled.stamp || !m_Modem.get() || m_Dialled.isStartAsked) return;
     m_Dialled.isStartAsked = true;
     m_SessionStart.ask(m_Modem.get(), [this](std::int64_t start) { started(start); });
 }
@@ -540,6 +545,7 @@ void Dialler::waitForReason() {
 }
 
 void Dialler::conclude() {
+    followModem();
     if (isHangingUp() || wasHungUpLate()) return finish({});
     if (wasHungUpElsewhere()) return finish({VRKS_FAILURE_HUNG_UP, {}});
     if (canRevive()) return revive();

@@ -77,6 +77,7 @@ private:
     void update();
     void updateSoon();
     void followDevice();
+    void followModem();
     void observe();
     void adopt(NMActiveConnection* connection);
     void adoptEnding();
@@ -139,7 +140,7 @@ private:
     bool isHangingUp() const { return m_Dialled.isHangingUp || m_WaitingHangUps > 0; }
     void publish();
     void publishUser(const std::string& usedBy);
-    std::string modemPath() const;
+    std::string modemPath() const;  // of the connection, or else of the modem in use
     std::string modemKey() const;
 
     ConnectionHost& m_Host;

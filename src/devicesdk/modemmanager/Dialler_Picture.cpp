@@ -34,6 +34,8 @@ int stepOfModem(MMModemState state) {
 }  // namespace
 
 std::string Dialler::modemPath() const {
+    NMDevice* device = m_Phase > Phase::Looking && m_Watch ? m_Watch->device() : nullptr;
+    if (device) return textOf(nm_device_get_udi(device));
     MMObject* modem = m_Host.modemInUse();
     return modem ? textOf(mm_object_get_path(modem)) : std::string();
 }

@@ -49,6 +49,7 @@ private:
     WorkerThread& thread() override { return m_Thread; }
     bool change(const Edit& edit) override { return m_Board.change(edit); }
     MMObject* modemInUse() override;
+    MMObject* modemAt(const std::string& path) override { return m_Watch.modemAt(path); }
 
     void connected(GDBusConnection* bus);
     void disconnected();

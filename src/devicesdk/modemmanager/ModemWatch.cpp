@@ -228,10 +228,19 @@ Known ModemWatch::known() {
     return known;
 }
 
-MMObject* ModemWatch::modem(const std::string& device) {
+template <class Condition>
+MMObject* ModemWatch::find(Condition condition) {
     MMObject* found = nullptr;
     forEachModem([&](MMObject* object) {
-        if (deviceOf(object) == device) found = object;
+        if (condition(object)) found = object;
     });
     return found;
+}
+
+MMObject* ModemWatch::modem(const std::string& device) {
+    return find([&](MMObject* object) { return deviceOf(object) == device; });
+}
+
+MMObject* ModemWatch::modemAt(const std::string& path) {
+    return find([&](MMObject* object) { return pathOf(object) == path; });
 }

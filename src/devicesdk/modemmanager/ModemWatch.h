@@ -34,6 +34,7 @@ public:
 
     // Null when there is no such modem. Whoever keeps it refs it.
     MMObject* modem(const std::string& device);
+    MMObject* modemAt(const std::string& path);
 
 private:
     // One card's object, asked for once.
@@ -73,6 +74,9 @@ private:
 
     template <class Function>
     void forEachModem(Function function);
+
+    template <class Condition>
+    MMObject* find(Condition condition);
 
     WorkerThread& m_Thread;
     std::function<void()> m_Changed;
