@@ -24,6 +24,7 @@
 namespace {
 
 constexpr int PatienceSeconds = 120;  // networks give up earlier
+constexpr int EndingMs = 5000;        // the device SDK gives up earlier
 
 CommandError::ExitStatus exitStatus(int failure) {
     switch (failure) {
@@ -66,7 +67,7 @@ public:
     Conversation(const About& about, qint64 patience, Output& output)
         : m_About(about), m_Patience(patience), m_Output(output) {}
     ~Conversation() {
-        if (m_bOpen) VRKS_NetSrv_CancelUssd();
+        if (m_bOpen) end();
     }
     Conversation(const Conversation&) = delete;
     Conversation& operator=(const Conversation&) = delete;
@@ -138,9 +139,20 @@ private:
         return size > 0 && m_Input.size() < VRKS_USSD_SIZE;
     }
 
-    [[noreturn]] static void cancelAndEnd() {
-        VRKS_NetSrv_CancelUssd();
+    [[noreturn]] void cancelAndEnd() const {
+        end();
         EndingSignals::obey();
+    }
+
+    // A second signal ends the program at once.
+    void end() const {
+        if (VRKS_NetSrv_CancelUssd() != 0) return;
+        const QDeadlineTimer deadline(EndingMs);
+        VRKS_Ussd ussd{};
+        ussd.size = sizeof ussd;
+        while (VRKS_NetSrv_GetUssd(&ussd) == 0 && ussd.state == VRKS_USSD_SENT &&
+               m_Events.wait(deadline, EventWait::NoSignal) == EventWait::Changed)
+            continue;
     }
 
     About m_About;

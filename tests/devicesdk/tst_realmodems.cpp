@@ -396,7 +396,7 @@ private slots:
         QVERIFY(m_Stack.reply("ussd", "AT+CUSD=1,*", "OK"));
         QCOMPARE(VRKS_NetSrv_SendUssd("*102#"), 0L);
         QCOMPARE(VRKS_NetSrv_CancelUssd(), 0L);
-        QCOMPARE(ussd().failure, int(VRKS_USSD_FAILURE_CANCELLED));
+        QTRY_COMPARE_WITH_TIMEOUT(ussd().failure, int(VRKS_USSD_FAILURE_CANCELLED), Patience);
         QVERIFY(VRKS_NetSrv_CancelUssd() != 0);
     }
 

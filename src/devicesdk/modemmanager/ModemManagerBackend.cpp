@@ -95,6 +95,7 @@ Traffic ModemManagerBackend::traffic() { return m_Connecting->traffic(); }
 void ModemManagerBackend::stop() {
     m_Watch.interrupt();
     m_Thread.stop([this] {
+        m_Ussd.stop();
         m_Connecting->stop();
         if (m_Offer && !m_IsOffered) m_Bus.drop();
     });

@@ -7,6 +7,9 @@
 namespace {
 
 constexpr int AnswerTimeout = 120000;  // milliseconds; networks take their time
+constexpr int EndTimeout = 3000;       // of a session; a modem is asked
+constexpr int LastEndTimeout = 1000;   // while the program ends
+const char EndMethod[] = "Cancel";
 
 bool isOpen(const Picture& picture) {
     return picture.ussd.state == VRKS_USSD_SENT || picture.ussd.state == VRKS_USSD_ASKS;
@@ -123,24 +126,40 @@ void UssdSession::end(unsigned turn, const Ussd& outcome) {
     });
 }
 
+// It is over once the modem was told: a program that ends before leaves it open, and then nobody can begin another.
 bool UssdSession::cancel() {
     std::string modem;
+    unsigned turn = 0;
     const bool isMine = m_Board.change([&](Picture& picture) {
         if (!isOpen(picture)) return false;
         modem = picture.modemInUse;
-        ++m_Turn;
-        picture.ussd = failed(VRKS_USSD_FAILURE_CANCELLED, {});
+        turn = ++m_Turn;
+        picture.ussd = {VRKS_USSD_SENT, VRKS_USSD_FAILURE_NONE, {}, {}};
         return true;
     });
-    if (!isMine) return false;
-    m_Thread.invoke([this, modem] {
-        if (MMModem3gppUssd* proxy = ussd(modem))
-            mm_modem_3gpp_ussd_cancel(proxy, m_Cancellation.get(), onCancelled, nullptr);
-    });
-    return true;
+    if (isMine) m_Thread.invoke([=] { runCancel(modem, turn); });
+    return isMine;
 }
 
-// For us it is over already; a network that goes on talks to nobody.
-void UssdSession::onCancelled(GObject* source, GAsyncResult* result, gpointer) {
-    mm_modem_3gpp_ussd_cancel_finish(MM_MODEM_3GPP_USSD(source), result, nullptr);
+void UssdSession::runCancel(const std::string& modem, unsigned turn) {
+    MMModem3gppUssd* proxy = ussd(modem);
+    if (!proxy) return end(turn, failed(VRKS_USSD_FAILURE_CANCELLED, {}));
+    g_dbus_proxy_call(G_DBUS_PROXY(proxy), EndMethod, nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, EndTimeout,
+                      m_Cancellation.get(), onCancelled, new Turn{this, turn});
+}
+
+// For us it is over, whatever the answer; a network that goes on talks to nobody.
+void UssdSession::onCancelled(GObject* source, GAsyncResult* result, gpointer data) {
+    const std::unique_ptr<Turn> turn(static_cast<Turn*>(data));
+    GError* raw = nullptr;
+    const Variant answer(g_dbus_proxy_call_finish(G_DBUS_PROXY(source), result, &raw));
+    if (!isCancelled(Error(raw))) turn->session->end(turn->number, failed(VRKS_USSD_FAILURE_CANCELLED, {}));
+}
+
+void UssdSession::stop() {
+    const std::shared_ptr<const Picture> picture = m_Board.get();
+    if (!picture || !isOpen(*picture)) return;
+    if (MMModem3gppUssd* proxy = ussd(picture->modemInUse))
+        Variant(g_dbus_proxy_call_sync(G_DBUS_PROXY(proxy), EndMethod, nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START,
+                                       LastEndTimeout, nullptr, nullptr));
 }

@@ -18,6 +18,9 @@ public:
     bool answer(const std::string& answer);
     bool cancel();
 
+    // On the worker thread, which ends: so does the session.
+    void stop();
+
 private:
     struct Turn;
     using Condition = bool (*)(const Picture&);
@@ -25,11 +28,12 @@ private:
 
     bool begin(Condition isPossible, Send send);
     void run(const std::string& modem, unsigned turn, const Send& send);
+    void runCancel(const std::string& modem, unsigned turn);
     void end(unsigned turn, const Ussd& outcome);
     MMModem3gppUssd* ussd(const std::string& modem);
     static void onInitiated(GObject* source, GAsyncResult* result, gpointer turn);
     static void onResponded(GObject* source, GAsyncResult* result, gpointer turn);
-    static void onCancelled(GObject* source, GAsyncResult* result, gpointer nothing);
+    static void onCancelled(GObject* source, GAsyncResult* result, gpointer turn);
     static void finish(GObject* ussd, Turn* turn, char* reply, GError* error);
 
     WorkerThread& m_Thread;
