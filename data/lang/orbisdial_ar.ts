@@ -1260,6 +1260,14 @@
         <translation>البقاء متصلًا بعد إنهاء البرنامج</translation>
     </message>
     <message>
+        <source>IDS_HOST_LIMIT</source>
+        <translation>الحد الشهري لبيانات بطاقة SIM هذه:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_LIMIT</source>
+        <translation>بلا حد</translation>
+    </message>
+    <message>
         <source>IDS_HOST_END_DISCONNECTS</source>
         <translation>أنت متصل. سينتهي الاتصال بإنهاء البرنامج.</translation>
     </message>

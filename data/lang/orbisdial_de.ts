@@ -1260,6 +1260,14 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Nach dem Ende des Programms verbunden bleiben</translation>
     </message>
     <message>
+        <source>IDS_HOST_LIMIT</source>
+        <translation>Monatliches Datenlimit dieser SIM-Karte:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_LIMIT</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
         <source>IDS_HOST_END_DISCONNECTS</source>
         <translation>Sie sind verbunden. Mit dem Programm endet die Verbindung.</translation>
     </message>

@@ -1455,6 +1455,14 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
         <translation>Stay connected when the program ends</translation>
     </message>
     <message>
+        <source>IDS_HOST_LIMIT</source>
+        <translation>Monthly data limit of this SIM card:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_LIMIT</source>
+        <translation>None</translation>
+    </message>
+    <message>
         <source>IDS_HOST_END_DISCONNECTS</source>
         <translation>You are connected. The connection ends with the program.</translation>
     </message>

@@ -1260,6 +1260,14 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>Seguir conectado al salir del programa</translation>
     </message>
     <message>
+        <source>IDS_HOST_LIMIT</source>
+        <translation>Límite mensual de datos de esta tarjeta SIM:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_LIMIT</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
         <source>IDS_HOST_END_DISCONNECTS</source>
         <translation>Está conectado. La conexión terminará con el programa.</translation>
     </message>

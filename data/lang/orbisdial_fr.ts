@@ -1260,6 +1260,14 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>Rester connecté à la fermeture du programme</translation>
     </message>
     <message>
+        <source>IDS_HOST_LIMIT</source>
+        <translation>Limite mensuelle de données de cette carte SIM&#xa0;:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_LIMIT</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
         <source>IDS_HOST_END_DISCONNECTS</source>
         <translation>Vous êtes connecté. La connexion prendra fin avec le programme.</translation>
     </message>

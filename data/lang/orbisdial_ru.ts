@@ -1260,6 +1260,14 @@
         <translation>Оставаться подключённым после выхода из программы</translation>
     </message>
     <message>
+        <source>IDS_HOST_LIMIT</source>
+        <translation>Месячный лимит трафика этой SIM-карты:</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_LIMIT</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
         <source>IDS_HOST_END_DISCONNECTS</source>
         <translation>Вы подключены. При выходе из программы подключение будет разорвано.</translation>
     </message>

@@ -1260,6 +1260,14 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>退出程序后保持连接</translation>
     </message>
     <message>
+        <source>IDS_HOST_LIMIT</source>
+        <translation>此 SIM 卡每月的流量上限：</translation>
+    </message>
+    <message>
+        <source>IDS_HOST_NO_LIMIT</source>
+        <translation>无</translation>
+    </message>
+    <message>
         <source>IDS_HOST_END_DISCONNECTS</source>
         <translation>您已连接。退出程序将断开连接。</translation>
     </message>

@@ -1,27 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "Amounts.h"
 
-#include <QLocale>
 #include <iterator>
 
 #include "HostText.h"
 
 namespace {
 
-// With the digits of the times and the card's numbers beside them.
-QLocale locale() {
-    const QLocale own(Change::GetLangName());
-    return own.zeroDigit() == QLatin1Char('0') ? own : QLocale::c();
-}
-
 QString withUnit(double value, const char* const (&units)[4]) {
     size_t unit = 0;
     for (; value >= 999.5 && unit + 1 < std::size(units); ++unit) value /= 1000;
     const int decimals = unit > 0 && value < 99.95 ? 1 : 0;
-    return hostText(units[unit], {locale().toString(value, 'f', decimals)});
+    return hostText(units[unit], {Amounts::locale().toString(value, 'f', decimals)});
 }
 
 }  // namespace
+
+QLocale Amounts::locale() {
+    const QLocale own(Change::GetLangName());
+    return own.zeroDigit() == QLatin1Char('0') ? own : QLocale::c();
+}
 
 QString Amounts::volume(quint64 bytes) {
     return withUnit(double(bytes),

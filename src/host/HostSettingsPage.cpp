@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <utility>
 
@@ -12,6 +13,7 @@
 #include "HostSettings.h"
 #include "HostText.h"
 #include "Languages.h"
+#include "LimitBox.h"
 
 namespace {
 
@@ -81,6 +83,7 @@ bool HostSettingsPage::IsActiveSetting() { return m_Widget && m_Widget->isVisibl
 void HostSettingsPage::retranslate() {
     if (!m_Widget) return;
     m_LanguageLabel->setText(hostText("IDS_HOST_LANGUAGE"));
+    m_Limit->retranslate();
     for (const Box& box : std::as_const(m_Boxes)) box.widget->setText(hostText(box.text));
 }
 
@@ -103,6 +106,12 @@ void HostSettingsPage::build() {
         form->addRow(widget);
         m_Boxes.append({widget, box.text, box.isOn, box.store});
     }
+    m_Limit = new LimitBox;
+    auto* limit = new QHBoxLayout;  // its long label would move the language away from its own
+    limit->addWidget(m_Limit->label());
+    limit->addWidget(m_Limit);
+    limit->addStretch();
+    form->addRow(limit);
     retranslate();
 }
 
@@ -110,6 +119,7 @@ void HostSettingsPage::load() {
     m_IsOpen = true;
     m_Language->setCurrentIndex(m_Language->findData(Change::GetLangName()));
     for (const Box& box : std::as_const(m_Boxes)) box.widget->setChecked(box.isOn());
+    m_Limit->load();
 }
 
 bool HostSettingsPage::store() {
@@ -118,7 +128,7 @@ bool HostSettingsPage::store() {
         const bool on = box.widget->isChecked();
         if (on != box.isOn() && !box.store(on)) return false;
     }
-    return storeLanguage();
+    return m_Limit->store() && storeLanguage();
 }
 
 bool HostSettingsPage::storeLanguage() {

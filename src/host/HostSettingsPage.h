@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The host's own settings page: the language, and the switch that keeps the default profile.
+// The host's own settings page: the language, its switches, and the card's limit of data volume.
 #ifndef ORBISDIAL_HOSTSETTINGSPAGE_H
 #define ORBISDIAL_HOSTSETTINGSPAGE_H
 
@@ -8,6 +8,7 @@
 
 #include "ISettingUIPlugin.h"
 
+class LimitBox;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -50,6 +51,7 @@ private:
     QPointer<QWidget> m_Widget;  // with the parent of the last show, which may delete it
     QLabel* m_LanguageLabel = nullptr;
     QComboBox* m_Language = nullptr;
+    LimitBox* m_Limit = nullptr;
     QVector<Box> m_Boxes;
     bool m_IsOpen = false;  // there are choices that are not stored yet
 };

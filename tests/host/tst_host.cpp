@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLayout>
 #include <QListWidget>
@@ -22,6 +23,7 @@
 #include "Change.h"
 #include "CommonUtils.h"
 #include "ConnectionView.h"
+#include "DataUsage.h"
 #include "FakeProfiles.h"
 #include "Host.h"
 #include "HostSettings.h"
@@ -233,6 +235,26 @@ private slots:
         QVERIFY(Languages::store("xx"));
         Languages::useStored();
         QCOMPARE(Change::GetLangName(), QString("en"));
+    }
+
+    // The limit is that of the card in the modem; what is not chosen stays as it is stored, to the byte.
+    void limitsWhatACardMoves() {
+        const quint64 stored = 1234567890;
+        QVERIFY(DataUsage().setLimit("262011234567890", stored));
+        for (const char* imsi : {"262011234567890", "262019999999999", ""}) {
+            vrks_simulated_set("IMSI", *imsi ? imsi : nullptr);
+            for (const char* button : {"Host_OkButton", "Host_CancelButton"}) {
+                m_Host->window()->openSettings();
+                clickRow(HostRow);
+                auto* box = child<QDoubleSpinBox>("Host_LimitBox");
+                QCOMPARE(box->isVisible(), *imsi != 0);
+                if (QByteArray(imsi).endsWith('9')) QTest::keyClick(box, Qt::Key_Up);
+                click(button);
+            }
+        }
+        QCOMPARE(DataUsage().limit("262011234567890"), stored);
+        QCOMPARE(DataUsage().limit("262019999999999"), quint64(500000000));
+        QCOMPARE(DataUsage().limit(QString()), quint64(0));
     }
 
     // The dialog goes to the page that can't be stored.
