@@ -350,7 +350,8 @@ VRKS_API long VRKS_NetSrv_SendUssd(const char* command);
 /* Answers the network's question, on the same terms; fails unless it asks. */
 VRKS_API long VRKS_NetSrv_AnswerUssd(const char* answer);
 
-/* Ends the session; fails when there is none. */
+/* Begins to end the session; fails when there is none. VRKS_EVENT_USSD_RESULT tells that it has ended, at once or
+ * when the modem was told, which takes three seconds at most. Until then no other one can begin. */
 VRKS_API long VRKS_NetSrv_CancelUssd(void);
 
 /* The last session: its state and the network's last text. */
