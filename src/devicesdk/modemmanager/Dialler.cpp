@@ -616,12 +616,12 @@ bool Dialler::isAwaitingRevived() const {
     return modemKey() != m_Revived || modemPath() == m_Dialled.stuckModem;
 }
 
-// The device becomes unavailable before NetworkManager says that it was switched off.
+// The device fails and becomes unavailable before NetworkManager says that it was switched off.
 bool Dialler::isRadioInDoubt() {
-    const bool isInDoubt = m_Watch && m_Watch->isRunning() && m_Watch->has(m_Watch->device()) &&
-                           nm_device_get_state(m_Watch->device()) == NM_DEVICE_STATE_UNAVAILABLE &&
-                           !m_Watch->isRadioOff() && !m_Dialled.wasInDoubt;
-    if (!isInDoubt) return false;
+    if (!m_Watch || !m_Watch->isRunning() || m_Watch->isRadioOff() || isDeviceGone() || m_Dialled.wasInDoubt)
+        return false;
+    const NMDeviceState state = nm_device_get_state(m_Watch->device());
+    if (state != NM_DEVICE_STATE_UNAVAILABLE && state != NM_DEVICE_STATE_FAILED) return false;
     m_Settling.start(RadioMs, [this] { conclude(); });
     return m_Dialled.wasInDoubt = true;
 }
