@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Reads and replaces whole files so that a death at any moment leaves the old content or the new one. For one thread.
+// Reads and replaces whole files so that a death at any moment leaves the old content or the new one. One thread
+// writes; any may read.
 #ifndef ORBISDIAL_FILEREPLACEMENT_H
 #define ORBISDIAL_FILEREPLACEMENT_H
 
