@@ -253,7 +253,7 @@ public:
     int ExportChosenProfiles(const QStringList& names, const QString& path);
 
     // The profiles that were last read for an import.
-    QList<DialupProfile> ImportCandidates() const;
+    const QList<DialupProfile>& ImportCandidates() const;
 
     // --- problems ---
 

@@ -56,7 +56,7 @@ int NetConnectSettingUILogic::GetDialUpProfileFromFile(QList<QString>* names, QS
     return status;
 }
 
-QList<DialupProfile> NetConnectSettingUILogic::ImportCandidates() const { return m_ImportList; }
+const QList<DialupProfile>& NetConnectSettingUILogic::ImportCandidates() const { return m_ImportList; }
 
 // A name that was chosen for an import.
 struct NetConnectSettingUILogic::ImportChoice {
