@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "AutoConnector.h"
 
-#include <QCryptographicHash>
 #include <QEvent>
 #include <QFileInfo>
 
 #include "Change.h"
 #include "CommonUtilsBase.h"
+#include "CredentialsMark.h"
 #include "DialupProfiles.h"
 
 namespace {
 
-// A change of these makes a refused profile worth another attempt.
-QByteArray credentialsOf(const QString& name) {
+// A change of it makes a refused profile worth another attempt.
+QString markOf(const QString& name) {
     DialupProfile profile;
-    if (!DialupProfiles::find(name, &profile)) return QByteArray();
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    for (const QString& field : {profile.user, profile.password, profile.autoapn, profile.apn}) {
-        hash.addData(field.toUtf8());
-        hash.addData(QByteArray(1, '\0'));
-    }
-    return hash.result();
+    return DialupProfiles::find(name, &profile) ? CredentialsMark::of(profile) : QString();
 }
 
 // Presets follow the card and names the language; only among the same ones do lists tell of a renaming.
@@ -49,9 +43,13 @@ void AutoConnector::stop() {
 }
 
 void AutoConnector::connectionChanged(const DataConnection& connection) {
-    if (m_Policy.isBegunElsewhere(connection)) m_Policy.userConnects(AutoConnectSettings::isOn(connection.name));
+    if (m_Policy.isBegunElsewhere(connection)) {
+        m_Policy.userConnects(AutoConnectSettings::isOn(connection.name));
+        m_Tried = markOf(connection.name);
+    }
     const bool isRefused = m_Policy.observe(connection, m_Clock.elapsed());
-    if (isRefused || connection.isUp()) AutoConnectSettings::setRefused(connection.name, isRefused);
+    if (isRefused || connection.isUp())
+        AutoConnectSettings::setRefused(connection.name, isRefused ? m_Tried : QString());
     consider();
 }
 
@@ -71,6 +69,11 @@ void AutoConnector::profilesChanged() {
 void AutoConnector::userConnects(const QString& profileName) {
     m_Policy.userConnects(AutoConnectSettings::isOn(profileName));
     m_Pause.stop();
+}
+
+void AutoConnector::dials(const DialupProfile& profile) {
+    m_Tried = CredentialsMark::of(profile);
+    m_Policy.dials();
 }
 
 void AutoConnector::userHangsUp() {
@@ -114,13 +117,11 @@ void AutoConnector::followProfiles() {
 }
 
 void AutoConnector::followCredentials() {
-    QHash<QString, QByteArray> now;
+    QHash<QString, QString> now;
     const Rules rules = AutoConnectSettings::rules();
     for (const QString& name : rules.keys()) {
-        now.insert(name, credentialsOf(name));
-        if (!m_Credentials.contains(name) || m_Credentials[name] == now[name]) continue;
-        AutoConnectSettings::setRefused(name, false);
-        m_Policy.forgetFailures();
+        now.insert(name, markOf(name));
+        if (m_Credentials.contains(name) && m_Credentials[name] != now[name]) m_Policy.forgetFailures();
     }
     m_Credentials = now;
 }
@@ -151,7 +152,8 @@ AutoConnectPolicy::Candidate AutoConnector::candidate(const Rules& rules) const 
 AutoConnectPolicy::Candidate AutoConnector::candidateNamed(const QString& name, const Rules& rules) {
     DialupProfile profile;
     if (!DialupProfiles::find(name, &profile)) return {};
-    return {name, rules.value(name), DialupProfiles::mustAsk(profile)};
+    const AutoConnectSettings::Rule rule = rules.value(name);
+    return {name, rule.mayRoam, rule.isRefused(profile), DialupProfiles::mustAsk(profile)};
 }
 
 void AutoConnector::setHold(int hold) {

@@ -11,6 +11,8 @@
 #include <QTimer>
 
 #include "AutoConnectPolicy.h"
+#include "ConnectionSettings.h"
+#include "NetConnectRecords.h"
 
 class AutoConnector : public QObject {
     Q_OBJECT
@@ -30,7 +32,7 @@ public:
     // What the user and the dialler do, see AutoConnectPolicy.
     void userConnects(const QString& profileName);
     void userHangsUp();
-    void dials() { m_Policy.dials(); }
+    void dials(const DialupProfile& profile);
     void cannotDial();  // with the profile as it is
 
     // What keeps it from connecting, an AutoConnectHold, and with which profile.
@@ -67,8 +69,9 @@ private:
     // What the profiles looked like at the last reading, and for whom.
     QStringList m_Names;
     QString m_ReadFor;
-    QHash<QString, QByteArray> m_Credentials;  // their hashes, of the profiles that connect by themselves
-    QString m_ReadyCard;                       // null: no modem is ready
+    QHash<QString, QString> m_Credentials;  // the marks, of the profiles that connect by themselves
+    QString m_Tried;                        // the mark of what the connection was begun with
+    QString m_ReadyCard;                    // null: no modem is ready
 };
 
 #endif

@@ -156,7 +156,7 @@ int DialupPlugin::dial(const DialupProfile& profile) {
     m_Problem = {};
     m_Dialled = profile;
     m_Dialled.password.clear();
-    m_Automatic.dials();
+    m_Automatic.dials(profile);
     const bool isBegun = DialCall(profile, m_ProfileName, !ConnectionSettings::staysAfterExit()).dial() == 0;
     takeConnection(true);
     return isBegun || !m_Connection.isDown() ? Begun : ObjectMissing;

@@ -11,18 +11,26 @@
 
 namespace {
 
-QString sentence(bool isOn, const AutoConnectSettings::Rule& rule) {
+// Of a profile that is on.
+bool isRefused(const QString& name, const AutoConnectSettings::Rule& rule) {
+    if (rule.refused.isEmpty()) return false;
+    ProfileSession session(ProfileSession::Reading);
+    return rule.isRefused(session.profile(name));
+}
+
+QString sentence(bool isOn, bool waits, const AutoConnectSettings::Rule& rule) {
     if (!isOn) return message("off");
     const QString on = rule.mayRoam ? message("on, roaming too") : message("on");
-    return rule.isRefused ? message("%1; waits, since the network refused user name or password", {on}) : on;
+    return waits ? message("%1; waits, since the network refused user name or password", {on}) : on;
 }
 
 void show(const QString& name, Output& output) {
     const AutoConnectSettings::Rules rules = AutoConnectSettings::rules();
     const bool isOn = rules.contains(name);
     const AutoConnectSettings::Rule rule = rules.value(name);
-    output.result({{"name", name}, {"autoconnect", isOn}, {"roaming", rule.mayRoam}, {"refused", rule.isRefused}},
-                  {sentence(isOn, rule)});
+    const bool waits = isRefused(name, rule);
+    output.result({{"name", name}, {"autoconnect", isOn}, {"roaming", rule.mayRoam}, {"refused", waits}},
+                  {sentence(isOn, waits, rule)});
 }
 
 bool isOn(const QString& word) {

@@ -38,12 +38,9 @@ void requireNameFree(int status, const QString& name) {
         throw CommandError::refused(message("there is a profile %1 already", {quoted(name)}));
 }
 
-// Its automatic connection goes where the profile goes; new credentials are worth another attempt.
-void followChange(const QString& before, const QString& after, const FieldAssignments& changes) {
-    bool isStored = AutoConnectSettings::rename(before, after);
-    if (changes.contains("user") || changes.contains("password"))
-        isStored &= AutoConnectSettings::setRefused(after, false);
-    if (!isStored) printWarning(message("the settings of automatic connection can't be stored"));
+void followRenaming(const QString& before, const QString& after) {
+    if (!AutoConnectSettings::rename(before, after))
+        printWarning(message("the settings of automatic connection can't be stored"));
 }
 
 void showDefault(Output& output) {
@@ -101,7 +98,7 @@ void setFields(const Invocation& invocation, Output& output) {
     requireNameFree(status, profile.name);
     session.require(status, message("the profile can't be changed"));
     session.finish();
-    followChange(name, profile.name, changes);
+    followRenaming(name, profile.name);
     changes.warn();
     output.result({{"changed", profile.name}}, {});
 }

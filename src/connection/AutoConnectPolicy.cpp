@@ -109,12 +109,12 @@ AutoConnectDecision AutoConnectPolicy::decide(const Candidate& candidate, const 
     if (!m_Last.isDown()) return {};
     if (candidate.name.isEmpty()) return {AutoConnectIsOff};
     if (m_IsHeld) return {AutoConnectHungUp};
-    if (candidate.rule.isRefused) return {AutoConnectRefused};
+    if (candidate.isRefused) return {AutoConnectRefused};
     if (candidate.mustAsk) return {AutoConnectMustAsk};
     if (m_IsUseless) return {AutoConnectFailed};
     if (!m_Last.usedBy.isEmpty()) return {AutoConnectInUse};
     if (modem.obstacle() != VRKS_FAILURE_NONE) return {AutoConnectNotReady};
-    if (const int hold = registrationHold(modem.registration, candidate.rule.mayRoam)) return {hold};
+    if (const int hold = registrationHold(modem.registration, candidate.mayRoam)) return {hold};
     if (now < m_NotBefore) return {AutoConnectPause, false, m_NotBefore - now};
     return {AutoConnectNoHold, true};
 }

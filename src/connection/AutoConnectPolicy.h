@@ -6,7 +6,6 @@
 #include <QString>
 #include <optional>
 
-#include "ConnectionSettings.h"
 #include "DataConnection.h"
 
 // Why it does not connect now.
@@ -37,7 +36,8 @@ public:
 
     struct Candidate {
         QString name = {};  // empty: there is none
-        AutoConnectSettings::Rule rule = {};
+        bool mayRoam = false;
+        bool isRefused = false;  // the network refused these credentials
         bool mustAsk = false;
     };
 

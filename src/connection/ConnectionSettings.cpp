@@ -6,6 +6,7 @@
 #include <QSet>
 
 #include "CommonUtilsBase.h"
+#include "CredentialsMark.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ using AutoConnectSettings::Rules;
 bool store(const Rules& rules) {
     QJsonObject all;
     for (auto rule = rules.begin(); rule != rules.end(); ++rule)
-        all.insert(rule.key(), QJsonObject{{RoamsKey, rule->mayRoam}, {RefusedKey, rule->isRefused}});
+        all.insert(rule.key(), QJsonObject{{RoamsKey, rule->mayRoam}, {RefusedKey, rule->refused}});
     const QByteArray text = rules.isEmpty() ? QByteArray() : QJsonDocument(all).toJson(QJsonDocument::Compact);
     return CommonUtilsBase::SetSettings(Group, AutomaticKey, QString::fromUtf8(text));
 }
@@ -45,7 +46,7 @@ Rules AutoConnectSettings::rules() {
     Rules rules;
     for (auto rule = all.begin(); rule != all.end(); ++rule) {
         const QJsonObject values = rule->toObject();
-        rules.insert(rule.key(), {values.value(RoamsKey).toBool(), values.value(RefusedKey).toBool()});
+        rules.insert(rule.key(), {values.value(RoamsKey).toBool(), values.value(RefusedKey).toString()});
     }
     return rules;
 }
@@ -55,15 +56,19 @@ bool AutoConnectSettings::isOn(const QString& profileName) { return rules().cont
 bool AutoConnectSettings::set(const QString& profileName, bool on, bool mayRoam) {
     if (!on) return forget(profileName);
     Rules all = rules();
-    all.insert(profileName, {mayRoam, false});
+    all.insert(profileName, {mayRoam});
     return store(all);
 }
 
-bool AutoConnectSettings::setRefused(const QString& profileName, bool isRefused) {
+bool Rule::isRefused(const DialupProfile& profile) const {
+    return !refused.isEmpty() && refused == CredentialsMark::of(profile);
+}
+
+bool AutoConnectSettings::setRefused(const QString& profileName, const QString& mark) {
     Rules all = rules();
     const auto rule = all.find(profileName);
-    if (rule == all.end() || rule->isRefused == isRefused) return true;
-    rule->isRefused = isRefused;
+    if (rule == all.end() || rule->refused == mark) return true;
+    rule->refused = mark;
     return store(all);
 }
 

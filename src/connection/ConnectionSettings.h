@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "NetConnectRecords.h"
+
 namespace ConnectionSettings {
 
 // Whether a connection that the window begins stays when the window ends. Counts from the next connection.
@@ -22,7 +24,10 @@ namespace AutoConnectSettings {
 
 struct Rule {
     bool mayRoam = false;
-    bool isRefused = false;  // the network refused its user name or password; it waits until somebody changes them
+    QString refused = {};  // the CredentialsMark of what the network refused; empty: nothing
+
+    // Whether these are the credentials that the network refused; it waits until somebody changes them.
+    bool isRefused(const DialupProfile& profile) const;
 };
 
 using Rules = QMap<QString, Rule>;  // those that are on
@@ -34,9 +39,9 @@ bool isOn(const QString& profileName);
 // Switches it on or off; switching on anew forgets a refusal. False: can't be stored.
 bool set(const QString& profileName, bool on, bool mayRoam = false);
 
-// Keeps that the network refused the profile's credentials, or forgets it: after its credentials were changed, and
-// after the user connected with it himself. Does nothing for a profile that is off.
-bool setRefused(const QString& profileName, bool isRefused);
+// Keeps which credentials of the profile's the network refused, by their CredentialsMark; an empty one, after it
+// accepted some, forgets it. Does nothing for a profile that is off.
+bool setRefused(const QString& profileName, const QString& mark);
 
 // The setting follows its profile: after a renaming, after a deletion.
 bool rename(const QString& from, const QString& to);

@@ -36,7 +36,7 @@ private slots:
         m_Modem.status = cell<int>("status");
         m_Modem.lock = cell<int>("lock");
         m_Modem.registration = cell<int>("registration");
-        m_Candidate.rule.mayRoam = cell<bool>("mayRoam");
+        m_Candidate.mayRoam = cell<bool>("mayRoam");
         const AutoConnectDecision decision = decide();
         QTEST(decision.hold, "hold");
         QCOMPARE(decision.mustDial, decision.hold == AutoConnectNoHold);
@@ -46,7 +46,7 @@ private slots:
     void looksAtTheProfile() {
         m_Candidate.mustAsk = true;
         QCOMPARE(decide().hold, int(AutoConnectMustAsk));
-        m_Candidate.rule.isRefused = true;
+        m_Candidate.isRefused = true;
         QCOMPARE(decide().hold, int(AutoConnectRefused));
         m_Candidate.name.clear();
         QCOMPARE(decide().hold, int(AutoConnectIsOff));

@@ -182,12 +182,12 @@ private slots:
         QVERIFY(set(odd, true, true) && set("Home", true));
         QCOMPARE(rules().keys(), QList<QString>({odd, "Home"}));
         QVERIFY(rules()[odd].mayRoam && !rules()["Home"].mayRoam);
-        QVERIFY(setRefused("Home", true) && setRefused("Gone", true));
+        QVERIFY(setRefused("Home", "mark") && setRefused("Gone", "mark"));
         QVERIFY(AutoConnectSettings::rename("Home", "House") && AutoConnectSettings::rename("Gone", "Went"));
         QCOMPARE(rules().keys(), QList<QString>({odd, "House"}));
-        QVERIFY(rules()["House"].isRefused);
+        QCOMPARE(rules()["House"].refused, QString("mark"));
         QVERIFY(set("House", true));
-        QVERIFY(!rules()["House"].isRefused);
+        QCOMPARE(rules()["House"].refused, QString());
         QVERIFY(forget(odd) && set("House", false));
         QVERIFY(rules().isEmpty());
     }
