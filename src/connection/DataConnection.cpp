@@ -24,6 +24,7 @@ DataConnection DataConnection::current() {
     connection.address6 = QString::fromUtf8(record.address6);
     for (const char* server : record.dns)
         if (*server) connection.dns.append(QString::fromUtf8(server));
+    connection.imsi = QString::fromLatin1(record.imsi);
     return connection;
 }
 

@@ -27,6 +27,7 @@ struct DataConnection {
     QString address;
     QString address6;
     QStringList dns;
+    QString imsi;
 
     bool isUp() const { return state == VRKS_CONNECTION_UP; }
     bool isDown() const { return state == VRKS_CONNECTION_DOWN; }

@@ -29,6 +29,11 @@ Connection connectionIn(const Picture& picture) {
     return picture.isConnectionKnown ? picture.connection : Connection();
 }
 
+bool isConnectionChanged(const Picture& before, const Picture& after) {
+    return connectionIn(before) != connectionIn(after) || before.connectionImsi() != after.connectionImsi() ||
+           (!before.isConnectionKnown && after.isConnectionKnown);
+}
+
 bool isUnlockResult(const Picture& before, const Picture& after) {
     const int result = after.modem().unlockResult;
     return result > VRKS_UNLOCK_PENDING && before.modem().unlockResult == VRKS_UNLOCK_PENDING;
@@ -52,6 +57,11 @@ const ModemInfo& Picture::modem() const {
     return inUse ? *inUse : none;
 }
 
+std::string Picture::connectionImsi() const {
+    const auto card = connection.state == VRKS_CONNECTION_UP ? cards.find(connection.modem) : cards.end();
+    return card == cards.end() ? std::string() : card->second;
+}
+
 Events eventsBetween(const Picture& before, const Picture& after) {
     Events events;
     if (!isReady(before) && isReady(after)) events.device.push_back(VRKS_EVENT_DEV_DEVICE_INIT_FINISH);
@@ -62,8 +72,7 @@ Events eventsBetween(const Picture& before, const Picture& after) {
     if (isModemChanged(before, after)) events.others.push_back(VRKS_EVENT_MODEM_CHANGED);
     if (before.systemMode != after.systemMode) events.others.push_back(VRKS_EVENT_SYSTEM_MODE_CHANGED);
     if (isUnlockResult(before, after)) events.others.push_back(VRKS_EVENT_UNLOCK_RESULT);
-    if (connectionIn(before) != connectionIn(after) || (!before.isConnectionKnown && after.isConnectionKnown))
-        events.others.push_back(VRKS_EVENT_CONNECTION_CHANGED);
+    if (isConnectionChanged(before, after)) events.others.push_back(VRKS_EVENT_CONNECTION_CHANGED);
     if (isUssdResult(before, after)) events.others.push_back(VRKS_EVENT_USSD_RESULT);
     return events;
 }

@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -65,7 +66,7 @@ struct ModemInfo {
     }
 };
 
-// The members mean what those of VRKS_Connection mean; the counters are asked for apart.
+// The members mean what those of VRKS_Connection mean; counters and IMSI are asked for apart.
 struct Connection {
     int state = VRKS_CONNECTION_DOWN;
     int step = VRKS_STEP_NONE;
@@ -81,10 +82,11 @@ struct Connection {
     std::string address;
     std::string address6;
     std::vector<std::string> dns;
+    std::string modem;  // that has it, as Picture::cards names it; empty: not known
 
     auto tied() const {
         return std::tie(state, step, failure, isOwn, endsWithProcess, since, upSince, name, usedBy, words,
-                        interfaceName, address, address6, dns);
+                        interfaceName, address, address6, dns, modem);
     }
 };
 
@@ -122,6 +124,8 @@ struct Picture {
     std::vector<ModemInfo> modems;  // in the order of their keys
     std::string modemInUse;         // its key; empty: none
 
+    std::map<std::string, std::string> cards;  // IMSIs that can be read, by a name of the modem that the backend has
+
     // Of the modem in use.
     std::optional<int> devStatus;
     std::optional<std::string> customizeName;
@@ -138,6 +142,8 @@ struct Picture {
     const ModemInfo* modem(const std::string& id) const;
     // The one in use; one that is empty when there is none.
     const ModemInfo& modem() const;
+    // The IMSI of the card that the connection goes through; empty unless it is up.
+    std::string connectionImsi() const;
 };
 
 struct Events {

@@ -132,7 +132,13 @@ long long secondsSince(const std::optional<std::chrono::steady_clock::time_point
     return std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - *start).count();
 }
 
-VRKS_Connection recordOf(const Connection& connection, const Traffic& traffic) {
+// An IMSI is never cut: a part of it is another card's.
+void fillImsi(char (&place)[VRKS_IMSI_SIZE], const std::string& imsi) {
+    if (imsi.size() < sizeof place) fill(place, imsi);
+}
+
+VRKS_Connection recordOf(const Picture& picture, const Traffic& traffic) {
+    const Connection& connection = picture.connection;
     VRKS_Connection record{};
     record.state = connection.state;
     record.step = connection.step;
@@ -151,6 +157,7 @@ VRKS_Connection recordOf(const Connection& connection, const Traffic& traffic) {
     fill(record.address6, connection.address6);
     const std::size_t servers = std::min<std::size_t>(connection.dns.size(), VRKS_DNS_COUNT);
     for (std::size_t i = 0; i < servers; ++i) fill(record.dns[i], connection.dns[i]);
+    fillImsi(record.imsi, picture.connectionImsi());
     return record;
 }
 
@@ -359,7 +366,7 @@ long VRKS_NetConnectSrv_HangUp(void) {
 long VRKS_NetConnectSrv_GetConnection(VRKS_Connection* connection) {
     if (!connection || !isSizeKnown(connection->size)) return Failure;
     return withPicture([=](const Picture& picture, Backend& backend) {
-        return picture.isConnectionKnown && writeRecord(connection, recordOf(picture.connection, backend.traffic()));
+        return picture.isConnectionKnown && writeRecord(connection, recordOf(picture, backend.traffic()));
     });
 }
 

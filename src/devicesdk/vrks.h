@@ -309,6 +309,7 @@ typedef struct VRKS_Connection {
     char address[VRKS_ADDRESS_SIZE];    /* IPv4 */
     char address6[VRKS_ADDRESS_SIZE];   /* IPv6 */
     char dns[VRKS_DNS_COUNT][VRKS_ADDRESS_SIZE]; /* the servers in force, the first ones */
+    char imsi[VRKS_IMSI_SIZE]; /* of the SIM card that it goes through, 3GPP TS 23.003; empty: unknown */
 } VRKS_Connection;
 
 VRKS_API long VRKS_NetConnectSrv_GetConnection(VRKS_Connection* connection); /* fails while nothing can tell */

@@ -262,6 +262,35 @@ private slots:
         QCOMPARE(pictureOf({b}, picture, "a").devStatus, std::optional<int>(VRKS_DEV_STATUS_NO_MODEM));
     }
 
+    void connectionHasItsOwnModemsCard_data() {
+        QTest::addColumn<QString>("modem");
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QString>("imsi");
+        const int up = VRKS_CONNECTION_UP;
+        QTest::newRow("in use") << "/Modem/0" << up << "460110123456789";
+        QTest::newRow("not in use") << "/Modem/1" << up << "26201";
+        QTest::newRow("gone") << "/Modem/2" << up << "";
+        QTest::newRow("down") << "/Modem/0" << int(VRKS_CONNECTION_DOWN) << "";
+    }
+
+    void connectionHasItsOwnModemsCard() {
+        KnownModem first = gsm(), second = named("b", MM_MODEM_STATE_REGISTERED);
+        first.path = "/Modem/0";
+        second.path = "/Modem/1";
+        second.card->imsi = "26201";
+        QFETCH(const QString, modem);
+        QFETCH(const int, state);
+        Picture before = pictureOf({first});
+        before.connection.modem = modem.toStdString();
+        before.connection.state = state;
+        const Picture picture = pictureOf({first, second}, before);
+        QFETCH(const QString, imsi);
+        QCOMPARE(QString::fromStdString(picture.connectionImsi()), imsi);
+        const std::vector<int> told = eventsBetween(before, picture).others;
+        const bool isTold = std::count(told.begin(), told.end(), VRKS_EVENT_CONNECTION_CHANGED) > 0;
+        QCOMPARE(isTold, imsi == "26201");
+    }
+
     void withoutDaemonNothingIsKnown() {
         const Picture before = pictureOf({gsm()});
         const Picture picture = ::pictureOf({}, {}, before);

@@ -351,6 +351,21 @@ private slots:
         QVERIFY(takeEvents().contains("5"));
     }
 
+    void connectionKeepsItsCard() {
+        set({"2_PRESENT=1", "IMSI=26201", "2_IMSI=26202"});
+        QCOMPARE(dial(), 0L);
+        QVERIFY(reaches(VRKS_CONNECTION_UP));
+        QCOMPARE(VRKS_DevSrv_SelectModem("/simulated/2"), 0L);
+        char chosen[VRKS_IMSI_SIZE];
+        QCOMPARE(VRKS_DevSrv_GetImsiInfo(chosen), 0L);
+        QCOMPARE(QString(chosen), QString("26202"));
+        QCOMPARE(QString(connection().imsi), QString("26201"));
+        set({"IMSI=2620112345678901"});  // too long for one
+        QCOMPARE(QString(connection().imsi), QString());
+        QCOMPARE(vrks_simulated_change("PRESENT", "0"), 0L);
+        QVERIFY(reaches(VRKS_CONNECTION_DOWN));
+    }
+
     // Each failure has a name, which the simulated network goes by, and the older names still stand for theirs.
     void dialFails_data() {
         const Rows<QString, QString> row("setting", "failure");

@@ -121,6 +121,12 @@ private slots:
         QCOMPARE(up.dns[1], "10.64.0.3");
         QVERIFY(up.since >= began && up.since <= std::time(nullptr));
         QVERIFY(up.seconds >= 0);
+        char imsi[VRKS_IMSI_SIZE] = "";
+        QCOMPARE(VRKS_DevSrv_GetImsiInfo(imsi), 0L);
+        QVERIFY(*imsi);
+        QVERIFY(use("cdma"));
+        QCOMPARE(connection().imsi, imsi);
+        QVERIFY(use("gsm"));
 
         sendDatagram("10.64.0.1");
         TRY_CONNECTION(connection().sent >= up.sent + 100 && connection().received >= up.received + 100);

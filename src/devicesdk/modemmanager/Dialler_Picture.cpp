@@ -58,6 +58,7 @@ void Dialler::describeLink(Connection& connection) const {
     NMIPConfig* ipv4 = nm_active_connection_get_ip4_config(active);
     NMIPConfig* ipv6 = nm_active_connection_get_ip6_config(active);
     if (device) connection.interfaceName = textOf(nm_device_get_ip_iface(device));
+    connection.modem = modemPath();
     connection.address = addressOf(ipv4);
     connection.address6 = addressOf(ipv6);
     addNameServers(connection.dns, ipv4);

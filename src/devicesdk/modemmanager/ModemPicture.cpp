@@ -261,6 +261,8 @@ Picture pictureOf(const Known& known, const std::string& wanted, const Picture& 
     if (known.hasDaemon) picture.devStatus = VRKS_DEV_STATUS_NO_MODEM;
     for (const KnownModem& modem : known.modems)
         if (modem.device == picture.modemInUse) describeModemInUse(&picture, modem, before);
+    for (const KnownModem& modem : known.modems)
+        if (modem.card && !modem.card->imsi.empty()) picture.cards[modem.path] = modem.card->imsi;
     picture.isConnectionKnown = before.isConnectionKnown;
     picture.connection = before.connection;
     picture.ussd = ussdOf(picture, before);

@@ -18,7 +18,15 @@ constexpr int AllPukAttempts = 10;
 constexpr int Steps[] = {VRKS_STEP_REGISTERING, VRKS_STEP_CONNECTING, VRKS_STEP_ADDRESSING};
 constexpr int UpstreamShare = 8;  // of what is received, one part in so many is sent
 
+std::size_t indexOf(const std::string& key) {
+    std::size_t index = 0;
+    while (index < NoModem && key != Keys[index]) ++index;
+    return index;
+}
+
 std::string textOf(const std::optional<std::string>& text) { return text.value_or(std::string()); }
+
+bool isPresent(const SimulatedModem& modem) { return modem.present.value_or(0) != 0; }
 
 bool isLocked(const SimulatedModem& modem) { return modem.lock.value_or(VRKS_LOCK_NONE) != VRKS_LOCK_NONE; }
 
@@ -155,11 +163,15 @@ ModemInfo SimulatedBackend::infoOf(std::size_t index) const {
 
 Picture SimulatedBackend::makePicture() {
     Picture picture;
-    for (std::size_t i = 0; i < m_Settings.modems.size(); ++i)
-        if (m_Settings.modems[i].present.value_or(0) != 0) picture.modems.push_back(infoOf(i));
+    for (std::size_t i = 0; i < m_Settings.modems.size(); ++i) {
+        const SimulatedModem& modem = m_Settings.modems[i];
+        if (!isPresent(modem)) continue;
+        picture.modems.push_back(infoOf(i));
+        if (modem.imsi && !isLocked(modem)) picture.cards[Keys[i]] = *modem.imsi;
+    }
     m_InUse = chooseModem(picture.modems, m_Wanted, m_InUse);
     picture.modemInUse = m_InUse;
-    const std::size_t index = indexInUse();
+    const std::size_t index = indexOf(m_InUse);
     if (index == NoModem) {
         picture.devStatus = VRKS_DEV_STATUS_NO_MODEM;
     } else {
@@ -169,12 +181,6 @@ Picture SimulatedBackend::makePicture() {
     if (m_Connection.state == VRKS_CONNECTION_DOWN) picture.connection.usedBy = textOf(m_Settings.network.usedBy);
     picture.ussd = m_Ussd;
     return picture;
-}
-
-std::size_t SimulatedBackend::indexInUse() const {
-    std::size_t index = 0;
-    while (index < NoModem && m_InUse != Keys[index]) ++index;
-    return index;
 }
 
 template <class Task>
@@ -198,7 +204,7 @@ bool SimulatedBackend::enterPuk(const std::string& puk, const std::string& newPi
 
 template <class Check>
 bool SimulatedBackend::beginUnlocking(int lock, Check check) {
-    const std::size_t index = indexInUse();
+    const std::size_t index = indexOf(m_InUse);
     if (index == NoModem || m_Settings.modems[index].lock != lock) return false;
     if (m_Unlockings[index].result == VRKS_UNLOCK_PENDING) return false;
     m_Unlockings[index] = {VRKS_UNLOCK_PENDING, {}};
@@ -257,6 +263,7 @@ bool SimulatedBackend::dial(const DialRequest& request) {
         m_Connection.state = VRKS_CONNECTION_DIALLING;
         m_Connection.step = VRKS_STEP_PREPARING;
         m_Connection.isOwn = true;
+        m_Connection.modem = m_InUse;
         m_Connection.endsWithProcess = true;  // whatever was asked for: the modem itself does
         m_Dialled = std::make_shared<const DialRequest>(request);
         m_LastTraffic = {};
@@ -345,13 +352,12 @@ void SimulatedBackend::end(int failure) {
     publish();
 }
 
-// A connection does not outlive its modem's being ready.
+// A connection does not outlive its modem's being ready; which modem is in use is all the same to it.
 void SimulatedBackend::endWithoutModem() {
-    const std::string before = m_InUse;
-    const Picture picture = makePicture();
     if (m_Connection.state == VRKS_CONNECTION_DOWN) return;
-    if (picture.modemInUse != before) return end(VRKS_FAILURE_MODEM_GONE);
-    if (picture.devStatus != VRKS_DEV_STATUS_READY) end(VRKS_FAILURE_DROPPED);
+    const SimulatedModem& modem = m_Settings.modems[indexOf(m_Connection.modem)];
+    if (!isPresent(modem)) return end(VRKS_FAILURE_MODEM_GONE);
+    if (statusOf(modem) != VRKS_DEV_STATUS_READY) end(VRKS_FAILURE_DROPPED);
 }
 
 Traffic SimulatedBackend::trafficNow() const {
@@ -364,7 +370,7 @@ Traffic SimulatedBackend::trafficNow() const {
 
 bool SimulatedBackend::sendUssd(const std::string&) {
     const Lock lock(m_Mutex);
-    const std::size_t index = indexInUse();
+    const std::size_t index = indexOf(m_InUse);
     if (index == NoModem || m_Ussd.state == VRKS_USSD_SENT || m_Ussd.state == VRKS_USSD_ASKS) return false;
     const bool isPossible = m_Settings.modems[index].hasUssd.value_or(0) != 0;
     const int outcome = m_Settings.network.ussd.value_or(UssdAnswers);

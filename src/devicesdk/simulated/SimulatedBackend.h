@@ -49,7 +49,6 @@ private:
     ModemInfo infoOf(std::size_t index) const;
     Picture makePicture();
     void publish() { m_Picture.publish(makePicture()); }
-    std::size_t indexInUse() const;
     // Runs the task with the mutex held, unless the run has been counted on by then.
     template <class Task>
     void later(int ms, unsigned* run, Task task);
