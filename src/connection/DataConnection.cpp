@@ -28,6 +28,8 @@ DataConnection DataConnection::current() {
     return connection;
 }
 
+QString DataConnection::card() const { return imsi.isEmpty() ? ModemState::current().imsi : imsi; }
+
 ModemState ModemState::current() {
     VRKS_ModemInfo info{};
     info.size = sizeof info;

@@ -32,6 +32,10 @@ struct DataConnection {
     bool isUp() const { return state == VRKS_CONNECTION_UP; }
     bool isDown() const { return state == VRKS_CONNECTION_DOWN; }
 
+    // The IMSI of the card whose volume is counted: the connection's own, or where that is not known, as while it is
+    // down, the chosen modem's. Empty: none.
+    QString card() const;
+
     // What it is now; a default-made one where nothing can tell. Any thread; waits for nothing.
     static DataConnection current();
 };

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr quint64 FirstWarningLeaves = 5;  // a fifth of the limit
+constexpr qint64 SettledSeconds = 5;       // in which a connection's own program has said from where it counts
 
 // Empty when there is no such directory: then nothing is counted.
 QString userDataFile() {
@@ -21,8 +22,6 @@ QString userDataFile() {
     const std::unique_ptr<unsigned short[]> owner(directory);
     return QString::fromUtf16(reinterpret_cast<const char16_t*>(directory)) + "usage.json";
 }
-
-QString monthOf(const QDate& day) { return day.toString(QStringLiteral("yyyy-MM")); }
 
 QByteArray contentOf(const QString& file) {
     QFile in(file);
@@ -93,15 +92,16 @@ DataUsage::Followed DataUsage::met(const DataConnection& connection, const QStri
     return {instanceOf(connection, folder), imsi, connection.since, countersOf(folder).value_or(own) - own};
 }
 
-// Whether there is anything to count. Another program's connection is not when it is met: its own program says first
-// from where.
+// Whether there is anything to count. Another program's connection is not when it is met while it is new: its own
+// program says first from where.
 bool DataUsage::follow(const DataConnection& connection, const QString& imsi) {
     if (!connection.isUp() || connection.interfaceName.isEmpty()) return m_Followed.has_value();
     const Followed now = met(connection, imsi);
     const bool isKnown = m_Followed && m_Followed->instance == now.instance && m_Followed->since == now.since;
     if (!isKnown) m_Followed = now;
+    if (!connection.imsi.isEmpty()) m_Followed->imsi = connection.imsi;
     if (m_Followed->imsi.isEmpty()) m_Followed->imsi = imsi;
-    return isKnown || connection.isOwn;
+    return isKnown || connection.isOwn || connection.seconds >= SettledSeconds;
 }
 
 // Another program may have counted a part. What the interface moved before the connection is not its.
@@ -113,7 +113,7 @@ bool DataUsage::count(const DataConnection& connection, const QString& imsi, con
         const UsageTotals counted = larger(before, m_Followed->base);
         const UsageTotals more = now - counted;
         if (more.all() == 0 && (counted - before).all() == 0) return false;
-        UsageTotals& total = records.cards[records.cardOf(m_Followed->imsi)].months[monthOf(today)];
+        UsageTotals& total = records.cards[records.cardOf(m_Followed->imsi)].months[nameOf(today)];
         total = total + more;
         records.mark(m_Followed->instance, counted + more);
         return true;
@@ -123,20 +123,29 @@ bool DataUsage::count(const DataConnection& connection, const QString& imsi, con
     return isCounted;
 }
 
+bool DataUsage::isReadable() const { return UsageFile::isSound(m_File); }
+
 UsageTotals DataUsage::month(const QString& imsi, const QDate& day) const {
     UsageRecords records;
     UsageFile::read(m_File, &records);
-    return records.cards.value(records.cardOf(imsi)).months.value(monthOf(day));
+    return records.cards.value(records.cardOf(imsi)).months.value(nameOf(day));
 }
 
 UsageTotals DataUsage::monthWith(const DataConnection& connection, const QString& imsi, const QDate& day) const {
+    return months(connection, imsi, day).value(nameOf(day));
+}
+
+QMap<QString, UsageTotals> DataUsage::months(const DataConnection& connection, const QString& imsi,
+                                             const QDate& day) const {
     UsageRecords records;
     UsageFile::read(m_File, &records);
-    const UsageTotals counted = records.cards.value(records.cardOf(imsi)).months.value(monthOf(day));
-    if (!connection.isUp() || connection.interfaceName.isEmpty()) return counted;
+    QMap<QString, UsageTotals> months = records.cards.value(records.cardOf(imsi)).months;
+    if (!connection.isUp() || connection.interfaceName.isEmpty()) return months;
     const Followed now = met(connection, imsi);
     const UsageTotals moved = now.base + UsageTotals{connection.received, connection.sent};
-    return counted + (moved - larger(records.countedOf(now.instance), now.base));
+    UsageTotals& month = months[nameOf(day)];
+    month = month + (moved - larger(records.countedOf(now.instance), now.base));
+    return months;
 }
 
 quint64 DataUsage::limit(const QString& imsi) const {
@@ -156,7 +165,7 @@ bool DataUsage::setLimit(const QString& imsi, quint64 bytes) {
 }
 
 int DataUsage::takeWarning(const QString& imsi, const QDate& today) {
-    const QString month = monthOf(today);
+    const QString month = nameOf(today);
     UsageRecords seen;
     UsageFile::read(m_File, &seen);
     if (warningOf(seen.cards.value(seen.cardOf(imsi)), month) == 0) return 0;  // as nearly always: no lock for it

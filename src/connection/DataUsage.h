@@ -8,6 +8,7 @@
 #define ORBISDIAL_DATAUSAGE_H
 
 #include <QDate>
+#include <QMap>
 #include <QString>
 #include <optional>
 
@@ -27,17 +28,27 @@ public:
     // Another file, and another folder for the kernel's network interfaces.
     explicit DataUsage(const QString& file, const QString& interfacesFolder = QStringLiteral("/sys/class/net"));
 
-    // Counts what the connection moved since it was last counted, by any program, to the card and the day's month.
-    // To be called when a connection changed, its end included, and now and then while it is up. False: the file can't
-    // be written just now; the next call makes up for it.
+    // Counts what the connection moved since it was last counted, by any program, to its card and the day's month; the
+    // given card's where the connection's own is not known. To be called when a connection changed, its end included,
+    // and now and then while it is up. False: the file can't be written just now; the next call makes up for it.
     bool count(const DataConnection& connection, const QString& imsi, const QDate& today = QDate::currentDate());
+
+    // Whether what was counted can be read. Of a damaged file, and of one that can't be opened, nothing is known.
+    bool isReadable() const;
 
     // The total of a month, as counted last.
     UsageTotals month(const QString& imsi, const QDate& day = QDate::currentDate()) const;
 
-    // The same with what the connection moved since; it is up on this card.
+    // The same with what the connection moved since, if it is up; it is on this card.
     UsageTotals monthWith(const DataConnection& connection, const QString& imsi,
                           const QDate& day = QDate::currentDate()) const;
+
+    // All months that are kept, by "2026-11", and the day's with what the connection moved since.
+    QMap<QString, UsageTotals> months(const DataConnection& connection, const QString& imsi,
+                                      const QDate& day = QDate::currentDate()) const;
+
+    // A month's name in months().
+    static QString nameOf(const QDate& day) { return day.toString(QStringLiteral("yyyy-MM")); }
 
     // The card's limit for a month, both ways together, in bytes; 0: none. A changed limit may warn anew.
     quint64 limit(const QString& imsi) const;

@@ -129,6 +129,12 @@ bool UsageFile::read(const QString& file, UsageRecords* records) {
     return found != Found::Locked;
 }
 
+bool UsageFile::isSound(const QString& file) {
+    UsageRecords ignored;
+    const Found found = readRecords(file, &ignored);
+    return found == Found::Nothing || found == Found::Records;
+}
+
 struct UsageFile::Edit::State {
     QString file;
     QLockFile lock;

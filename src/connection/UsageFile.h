@@ -40,6 +40,9 @@ namespace UsageFile {
 // can't be opened, so it must not be replaced.
 bool read(const QString& file, UsageRecords* records);
 
+// Whether read() takes what there is: the file is missing, or whole.
+bool isSound(const QString& file);
+
 // Reads, changes and replaces, under a lock that every program of ours takes. The change answers whether there is
 // anything to write. False: it could not be done. A damaged file is moved aside first.
 template <class Change>

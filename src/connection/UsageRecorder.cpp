@@ -24,7 +24,8 @@ void UsageRecorder::observe(const DataConnection& connection) {
 }
 
 void UsageRecorder::record() {
-    const QString imsi = ModemState::current().imsi;
-    m_Usage.count(DataConnection::current(), imsi);
-    if (const int percent = m_Usage.takeWarning(imsi)) emit warned(percent);
+    const DataConnection connection = DataConnection::current();
+    if (connection.isUp()) m_Imsi = connection.card();
+    if (!m_Usage.count(connection, m_Imsi)) emit failed();
+    if (const int percent = m_Usage.takeWarning(m_Imsi)) emit warned(percent);
 }

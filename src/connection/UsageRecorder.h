@@ -21,15 +21,17 @@ public:
     // Counts now, as at the program's end.
     void record();
 
-    DataUsage* usage() { return &m_Usage; }
-
 signals:
-    // So many percent of the card's limit are used, 80 or 100; each once a month.
+    // So many percent of the limit of the connection's card are used, 80 or 100; each once a month.
     void warned(int percent);
+
+    // The file can't be written just now.
+    void failed();
 
 private:
     DataUsage m_Usage;
     int m_State = VRKS_CONNECTION_DOWN;
+    QString m_Imsi;  // of the connection's card, or of the last one's
     QTimer m_EachMinute;
 };
 

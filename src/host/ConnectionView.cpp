@@ -243,7 +243,7 @@ void ConnectionView::count() {
 }
 
 void ConnectionView::showMonth(const DataConnection& connection) {
-    const QString imsi = ModemState::current().imsi;
+    const QString imsi = connection.card();
     const DataUsage usage;
     const quint64 all = usage.monthWith(connection, imsi).all();
     const quint64 limit = usage.limit(imsi);

@@ -71,6 +71,32 @@ private slots:
         QCOMPARE(usage.month("310260123456789", Day).all(), quint64(0));
     }
 
+    // Another modem may be chosen meanwhile, and the card be known a moment after the connection.
+    void countsToTheCardItGoesThrough() {
+        const QString chosen = "310260123456789";
+        DataUsage usage = make();
+        DataConnection connection = up(100, 0);
+        QVERIFY(usage.count(connection, Card, Day));
+        connection.imsi = Card;
+        connection.received = 300;
+        QCOMPARE(connection.card(), Card);
+        QVERIFY(usage.count(connection, chosen, Day));
+        QVERIFY(usage.count(down(400, 0), chosen, Day));
+        compareMonth(400, 0);
+        QCOMPARE(make().month(chosen, Day).all(), quint64(0));
+    }
+
+    void tellsItsMonths() {
+        DataUsage usage = make();
+        usage.count(up(100, 0), Card, Day);
+        usage.count(up(300, 0), Card, Day.addDays(1));
+        const QMap<QString, UsageTotals> months = usage.months(up(350, 5), Card, Day.addDays(1));
+        QCOMPARE(months.keys(), QStringList({"2026-11", "2026-12"}));
+        QCOMPARE(months["2026-11"].all(), quint64(100));
+        QCOMPARE(months["2026-12"].received, quint64(250));
+        QCOMPARE(usage.months(down(350, 5), Card, Day)["2026-12"].received, quint64(200));
+    }
+
     // On an interface of the kernel's every program sees the same counters.
     void severalProgramsCountOnce() {
         setInterface(7, 5000, 500);  // moved before the connection
@@ -87,6 +113,24 @@ private slots:
         QVERIFY(window.count(down(5450, 545), Card, Day));
         QVERIFY(dialling.count(down(450, 45), Card, Day));
         compareMonth(450, 45);
+    }
+
+    // A command that ends a connection meets it once.
+    void meetsAnothersConnection_data() {
+        const Rows<int, int> row("seconds", "counted");
+        row("unknown", -1, 0);
+        row("new", 1, 0);
+        row("settled", 10, 3000);
+    }
+    void meetsAnothersConnection() {
+        setInterface(7, 3000, 0);
+        DataConnection connection = up(3000, 0, false);
+        connection.seconds = cell<int>("seconds");
+        DataUsage usage = make();
+        QVERIFY(usage.count(connection, Card, Day));
+        compareMonth(quint64(cell<int>("counted")), 0);
+        QVERIFY(usage.count(down(3500, 0), Card, Day));
+        compareMonth(3500, 0);
     }
 
     // What was moved while no program looked is counted by the one that meets the connection.
@@ -165,8 +209,10 @@ private slots:
         QFETCH(QByteArray, content);
         TestFolder::write(m_File, content);
         DataUsage usage = make();
+        QVERIFY(!usage.isReadable());
         QCOMPARE(usage.month(Card, Day).all(), quint64(0));
         QVERIFY(usage.count(up(100, 10), Card, Day));
+        QVERIFY(usage.isReadable());
         compareMonth(100, 10);
         const QStringList kept = QDir(m_Root->path()).entryList({"usage.json.damaged-*"});
         QCOMPARE(kept.size(), 1);
