@@ -315,6 +315,38 @@
         <source>IDS_DIALUP_AUTO_MUST_ASK</source>
         <translation>لا يمكن للاتصال التلقائي استخدام «%1» لأنه يسأل عن اسم المستخدم وكلمة المرور.</translation>
     </message>
+    <message>
+        <source>IDS_DIALUP_BYTES</source>
+        <translation>%1 بايت</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBYTES</source>
+        <translation>%1 ك.ب</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABYTES</source>
+        <translation>%1 م.ب</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABYTES</source>
+        <translation>%1 غ.ب</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BITS_PER_SECOND</source>
+        <translation>%1 بت/ث</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBITS_PER_SECOND</source>
+        <translation>%1 كيلوبت/ث</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABITS_PER_SECOND</source>
+        <translation>%1 ميغابت/ث</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABITS_PER_SECOND</source>
+        <translation>%1 غيغابت/ث</translation>
+    </message>
 </context>
 <context>
     <name>NetConnectPlugin</name>
@@ -1104,38 +1136,6 @@
         <translation>هذا الشهر: %1 من %2</translation>
     </message>
     <message>
-        <source>IDS_HOST_BYTES</source>
-        <translation>%1 بايت</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBYTES</source>
-        <translation>%1 ك.ب</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABYTES</source>
-        <translation>%1 م.ب</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABYTES</source>
-        <translation>%1 غ.ب</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BITS_PER_SECOND</source>
-        <translation>%1 بت/ث</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
-        <translation>%1 كيلوبت/ث</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
-        <translation>%1 ميغابت/ث</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
-        <translation>%1 غيغابت/ث</translation>
-    </message>
-    <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>إلغاء قفل بطاقة SIM</translation>
     </message>
@@ -1408,6 +1408,10 @@
         <translation>%1 ليس حقلًا يمكن تعيينه؛ الحقول: %2</translation>
     </message>
     <message>
+        <source>%1 is no limit; say a volume such as 500MB or 1.5GB</source>
+        <translation>%1 ليس حدًا؛ حدّد حجمًا مثل 500MB أو 1.5GB</translation>
+    </message>
+    <message>
         <source>%1 is read-only; make one of your own from it: %2</source>
         <translation>%1 للقراءة فقط؛ أنشئ منه ملف تعريف خاصًا بك: %2</translation>
     </message>
@@ -1424,6 +1428,10 @@
         <translation>ليست أرقام IMSI (من 5 إلى 15 رقمًا): %1 من %2</translation>
     </message>
     <message>
+        <source>%1 percent of the limit of %2</source>
+        <translation>%1 بالمئة من الحد البالغ %2</translation>
+    </message>
+    <message>
         <source>%1, %2:</source>
         <translation>%1، %2:</translation>
     </message>
@@ -1434,6 +1442,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 received, %3 sent, %4 together</source>
+        <translation>%1: استُلم %2، وأُرسل %3، والمجموع %4</translation>
     </message>
     <message>
         <source>%1: can't be written: %2</source>
@@ -1656,6 +1668,10 @@
         <translation>عرض قيمة من تهيئة الوظائف، أو كلها.</translation>
     </message>
     <message>
+        <source>Show each month that is kept.</source>
+        <translation>عرض كل شهر محفوظ.</translation>
+    </message>
+    <message>
         <source>Show the connection.</source>
         <translation>عرض الاتصال.</translation>
     </message>
@@ -1682,6 +1698,10 @@
     <message>
         <source>Show this help, or that of a command.</source>
         <translation>عرض هذه المساعدة أو مساعدة أمر.</translation>
+    </message>
+    <message>
+        <source>Show what the SIM card moved this month, or set its limit.</source>
+        <translation>عرض ما نقلته بطاقة SIM هذا الشهر، أو تحديد حدها.</translation>
     </message>
     <message>
         <source>Show what the modem and its SIM card report, and the connection.</source>
@@ -1720,6 +1740,10 @@
         <translation>إلغاء الاختيار.</translation>
     </message>
     <message>
+        <source>Take the limit away.</source>
+        <translation>إزالة الحد.</translation>
+    </message>
+    <message>
         <source>Tell what is wrong with the shipped files, or with these.</source>
         <translation>ذكر الأخطاء في الملفات المرفقة أو في هذه الملفات.</translation>
     </message>
@@ -1750,6 +1774,10 @@
     <message>
         <source>Wait no longer than so many seconds.</source>
         <translation>عدم الانتظار أكثر من هذا العدد من الثواني.</translation>
+    </message>
+    <message>
+        <source>Warn at 80 and 100 percent of so much a month, such as 500MB or 1.5GB.</source>
+        <translation>التحذير عند 80 و100 بالمئة من هذا الحجم شهريًا، مثل 500MB أو 1.5GB.</translation>
     </message>
     <message>
         <source>What the SIM cards call their operator.</source>
@@ -1838,6 +1866,10 @@
     <message>
         <source>can't write the picture %1</source>
         <translation>تتعذر كتابة الصورة %1</translation>
+    </message>
+    <message>
+        <source>no limit is set</source>
+        <translation>لم يُحدَّد أي حد</translation>
     </message>
     <message>
         <source>no window can be opened: %1</source>
@@ -2060,6 +2092,10 @@
         <translation>%1 لا يستجيب</translation>
     </message>
     <message>
+        <source>nothing has been counted yet</source>
+        <translation>لم يُحسب شيء بعد</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>لم يُستورد شيء من %1</translation>
     </message>
@@ -2078,6 +2114,10 @@
     <message>
         <source>on, roaming too</source>
         <translation>مفعّل، وأثناء التجوال أيضًا</translation>
+    </message>
+    <message>
+        <source>only one of these goes at a time: %1</source>
+        <translation>لا يمكن استعمال أكثر من واحد من هذه في المرة: %1</translation>
     </message>
     <message>
         <source>other</source>
@@ -2296,6 +2336,10 @@
         <translation>مجلد البيانات %1 ليس مجلدًا</translation>
     </message>
     <message>
+        <source>the data volume can't be stored</source>
+        <translation>لا يمكن حفظ حجم البيانات</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>لا يمكن إلغاء الافتراضي</translation>
     </message>
@@ -2318,6 +2362,10 @@
     <message>
         <source>the file's name is empty</source>
         <translation>اسم الملف فارغ</translation>
+    </message>
+    <message>
+        <source>the limit can't be stored</source>
+        <translation>لا يمكن حفظ الحد</translation>
     </message>
     <message>
         <source>the modem does not answer</source>
@@ -2486,6 +2534,10 @@
     <message>
         <source>warning: %1</source>
         <translation>تحذير: %1</translation>
+    </message>
+    <message>
+        <source>what was counted can't be read, or is damaged</source>
+        <translation>لا يمكن قراءة ما حُسب، أو أنه تالف</translation>
     </message>
     <message>
         <source>wrong %1: %2</source>

@@ -315,6 +315,38 @@
         <source>IDS_DIALUP_AUTO_MUST_ASK</source>
         <translation>Die automatische Verbindung kann „%1“ nicht verwenden, da das Profil nach Benutzernamen und Kennwort fragt.</translation>
     </message>
+    <message>
+        <source>IDS_DIALUP_BYTES</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBYTES</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABYTES</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABYTES</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
 </context>
 <context>
     <name>NetConnectPlugin</name>
@@ -1104,38 +1136,6 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>In diesem Monat: %1 von %2</translation>
     </message>
     <message>
-        <source>IDS_HOST_BYTES</source>
-        <translation>%1 B</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBYTES</source>
-        <translation>%1 kB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABYTES</source>
-        <translation>%1 MB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABYTES</source>
-        <translation>%1 GB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BITS_PER_SECOND</source>
-        <translation>%1 bit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
-        <translation>%1 Mbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
-        <translation>%1 Gbit/s</translation>
-    </message>
-    <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>SIM-Karte entsperren</translation>
     </message>
@@ -1408,6 +1408,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1 ist kein setzbares Feld; Felder: %2</translation>
     </message>
     <message>
+        <source>%1 is no limit; say a volume such as 500MB or 1.5GB</source>
+        <translation>%1 ist kein Limit; geben Sie ein Volumen wie 500MB oder 1.5GB an</translation>
+    </message>
+    <message>
         <source>%1 is read-only; make one of your own from it: %2</source>
         <translation>%1 ist schreibgeschützt; machen Sie daraus ein eigenes Profil: %2</translation>
     </message>
@@ -1424,6 +1428,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1 von %2 waren keine IMSI, die 5 bis 15 Ziffern hat</translation>
     </message>
     <message>
+        <source>%1 percent of the limit of %2</source>
+        <translation>%1 Prozent des Limits von %2</translation>
+    </message>
+    <message>
         <source>%1, %2:</source>
         <translation>%1, %2:</translation>
     </message>
@@ -1434,6 +1442,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 received, %3 sent, %4 together</source>
+        <translation>%1: %2 empfangen, %3 gesendet, %4 zusammen</translation>
     </message>
     <message>
         <source>%1: can't be written: %2</source>
@@ -1656,6 +1668,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Einen Wert der Funktionskonfiguration anzeigen oder alle.</translation>
     </message>
     <message>
+        <source>Show each month that is kept.</source>
+        <translation>Jeden aufbewahrten Monat anzeigen.</translation>
+    </message>
+    <message>
         <source>Show the connection.</source>
         <translation>Die Verbindung anzeigen.</translation>
     </message>
@@ -1682,6 +1698,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>Show this help, or that of a command.</source>
         <translation>Diese Hilfe anzeigen oder die eines Befehls.</translation>
+    </message>
+    <message>
+        <source>Show what the SIM card moved this month, or set its limit.</source>
+        <translation>Zeigen, was die SIM-Karte in diesem Monat übertragen hat, oder ihr Limit festlegen.</translation>
     </message>
     <message>
         <source>Show what the modem and its SIM card report, and the connection.</source>
@@ -1720,6 +1740,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>Die Wahl zurücknehmen.</translation>
     </message>
     <message>
+        <source>Take the limit away.</source>
+        <translation>Das Limit aufheben.</translation>
+    </message>
+    <message>
         <source>Tell what is wrong with the shipped files, or with these.</source>
         <translation>Sagen, was an den mitgelieferten oder diesen Dateien falsch ist.</translation>
     </message>
@@ -1750,6 +1774,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>Wait no longer than so many seconds.</source>
         <translation>Höchstens so viele Sekunden warten.</translation>
+    </message>
+    <message>
+        <source>Warn at 80 and 100 percent of so much a month, such as 500MB or 1.5GB.</source>
+        <translation>Bei 80 und 100 Prozent von so viel im Monat warnen, etwa 500MB oder 1.5GB.</translation>
     </message>
     <message>
         <source>What the SIM cards call their operator.</source>
@@ -1838,6 +1866,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>can't write the picture %1</source>
         <translation>das Bild %1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>no limit is set</source>
+        <translation>kein Limit festgelegt</translation>
     </message>
     <message>
         <source>no window can be opened: %1</source>
@@ -2060,6 +2092,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>%1 antwortet nicht</translation>
     </message>
     <message>
+        <source>nothing has been counted yet</source>
+        <translation>es wurde noch nichts gezählt</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>aus %1 wurde nichts importiert</translation>
     </message>
@@ -2078,6 +2114,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>on, roaming too</source>
         <translation>ein, auch im Roaming</translation>
+    </message>
+    <message>
+        <source>only one of these goes at a time: %1</source>
+        <translation>nur eines davon geht auf einmal: %1</translation>
     </message>
     <message>
         <source>other</source>
@@ -2296,6 +2336,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>der Datenordner %1 ist kein Ordner</translation>
     </message>
     <message>
+        <source>the data volume can't be stored</source>
+        <translation>das Datenvolumen kann nicht gespeichert werden</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>der Standard kann nicht aufgehoben werden</translation>
     </message>
@@ -2318,6 +2362,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>the file's name is empty</source>
         <translation>der Dateiname ist leer</translation>
+    </message>
+    <message>
+        <source>the limit can't be stored</source>
+        <translation>das Limit kann nicht gespeichert werden</translation>
     </message>
     <message>
         <source>the modem does not answer</source>
@@ -2486,6 +2534,10 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
     <message>
         <source>warning: %1</source>
         <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>what was counted can't be read, or is damaged</source>
+        <translation>was gezählt wurde, kann nicht gelesen werden oder ist beschädigt</translation>
     </message>
     <message>
         <source>wrong %1: %2</source>

@@ -393,6 +393,38 @@
         <extracomment>What automatic connection does; %1 is the profile's name.</extracomment>
         <translation>Automatic connection can't use "%1", which asks for user name and password.</translation>
     </message>
+    <message>
+        <source>IDS_DIALUP_BYTES</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBYTES</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABYTES</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABYTES</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
 </context>
 <context>
     <name>NetConnectPlugin</name>
@@ -1292,38 +1324,6 @@ MIT licence. Made with Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) and the publ
     <message>
         <source>IDS_HOST_MONTH_OF</source>
         <translation>This month: %1 of %2</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BYTES</source>
-        <translation>%1 B</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBYTES</source>
-        <translation>%1 kB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABYTES</source>
-        <translation>%1 MB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABYTES</source>
-        <translation>%1 GB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BITS_PER_SECOND</source>
-        <translation>%1 bit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
-        <translation>%1 Mbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
-        <translation>%1 Gbit/s</translation>
     </message>
     <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>

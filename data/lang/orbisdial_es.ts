@@ -315,6 +315,38 @@
         <source>IDS_DIALUP_AUTO_MUST_ASK</source>
         <translation>La conexión automática no puede usar «%1», que pide nombre de usuario y contraseña.</translation>
     </message>
+    <message>
+        <source>IDS_DIALUP_BYTES</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBYTES</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABYTES</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABYTES</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
 </context>
 <context>
     <name>NetConnectPlugin</name>
@@ -1104,38 +1136,6 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>Este mes: %1 de %2</translation>
     </message>
     <message>
-        <source>IDS_HOST_BYTES</source>
-        <translation>%1 B</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBYTES</source>
-        <translation>%1 kB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABYTES</source>
-        <translation>%1 MB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABYTES</source>
-        <translation>%1 GB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BITS_PER_SECOND</source>
-        <translation>%1 bit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
-        <translation>%1 Mbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
-        <translation>%1 Gbit/s</translation>
-    </message>
-    <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>Desbloquear la tarjeta SIM</translation>
     </message>
@@ -1408,6 +1408,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>%1 no es un campo modificable; campos: %2</translation>
     </message>
     <message>
+        <source>%1 is no limit; say a volume such as 500MB or 1.5GB</source>
+        <translation>%1 no es un límite; indique un volumen como 500MB o 1.5GB</translation>
+    </message>
+    <message>
         <source>%1 is read-only; make one of your own from it: %2</source>
         <translation>%1 es de solo lectura; cree uno propio a partir de él: %2</translation>
     </message>
@@ -1424,6 +1428,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>no son IMSI (de 5 a 15 dígitos): %1 de %2</translation>
     </message>
     <message>
+        <source>%1 percent of the limit of %2</source>
+        <translation>%1 por ciento del límite de %2</translation>
+    </message>
+    <message>
         <source>%1, %2:</source>
         <translation>%1, %2:</translation>
     </message>
@@ -1434,6 +1442,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 received, %3 sent, %4 together</source>
+        <translation>%1: %2 recibidos, %3 enviados, %4 en total</translation>
     </message>
     <message>
         <source>%1: can't be written: %2</source>
@@ -1656,6 +1668,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>Mostrar un valor de la configuración de funciones o todos.</translation>
     </message>
     <message>
+        <source>Show each month that is kept.</source>
+        <translation>Mostrar cada mes conservado.</translation>
+    </message>
+    <message>
         <source>Show the connection.</source>
         <translation>Mostrar la conexión.</translation>
     </message>
@@ -1682,6 +1698,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>Show this help, or that of a command.</source>
         <translation>Mostrar esta ayuda o la de una orden.</translation>
+    </message>
+    <message>
+        <source>Show what the SIM card moved this month, or set its limit.</source>
+        <translation>Mostrar lo que la tarjeta SIM ha transferido este mes, o fijar su límite.</translation>
     </message>
     <message>
         <source>Show what the modem and its SIM card report, and the connection.</source>
@@ -1720,6 +1740,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>Anular la elección.</translation>
     </message>
     <message>
+        <source>Take the limit away.</source>
+        <translation>Quitar el límite.</translation>
+    </message>
+    <message>
         <source>Tell what is wrong with the shipped files, or with these.</source>
         <translation>Decir qué está mal en los archivos incluidos o en estos.</translation>
     </message>
@@ -1750,6 +1774,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>Wait no longer than so many seconds.</source>
         <translation>No esperar más que estos segundos.</translation>
+    </message>
+    <message>
+        <source>Warn at 80 and 100 percent of so much a month, such as 500MB or 1.5GB.</source>
+        <translation>Avisar al 80 y al 100 por ciento de este volumen al mes, como 500MB o 1.5GB.</translation>
     </message>
     <message>
         <source>What the SIM cards call their operator.</source>
@@ -1838,6 +1866,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>can't write the picture %1</source>
         <translation>no se puede escribir la imagen %1</translation>
+    </message>
+    <message>
+        <source>no limit is set</source>
+        <translation>no hay límite establecido</translation>
     </message>
     <message>
         <source>no window can be opened: %1</source>
@@ -2060,6 +2092,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>%1 no responde</translation>
     </message>
     <message>
+        <source>nothing has been counted yet</source>
+        <translation>aún no se ha contado nada</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>no se importó nada de %1</translation>
     </message>
@@ -2078,6 +2114,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>on, roaming too</source>
         <translation>activada, también en itinerancia</translation>
+    </message>
+    <message>
+        <source>only one of these goes at a time: %1</source>
+        <translation>solo una de estas opciones a la vez: %1</translation>
     </message>
     <message>
         <source>other</source>
@@ -2296,6 +2336,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>la carpeta de datos %1 no es una carpeta</translation>
     </message>
     <message>
+        <source>the data volume can't be stored</source>
+        <translation>no se puede guardar el volumen de datos</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>no se puede quitar el perfil por defecto</translation>
     </message>
@@ -2318,6 +2362,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>the file's name is empty</source>
         <translation>el nombre del archivo está vacío</translation>
+    </message>
+    <message>
+        <source>the limit can't be stored</source>
+        <translation>no se puede guardar el límite</translation>
     </message>
     <message>
         <source>the modem does not answer</source>
@@ -2486,6 +2534,10 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
     <message>
         <source>warning: %1</source>
         <translation>aviso: %1</translation>
+    </message>
+    <message>
+        <source>what was counted can't be read, or is damaged</source>
+        <translation>lo que se contó no se puede leer o está dañado</translation>
     </message>
     <message>
         <source>wrong %1: %2</source>

@@ -315,6 +315,38 @@
         <source>IDS_DIALUP_AUTO_MUST_ASK</source>
         <translation>La connexion automatique ne peut pas utiliser «&#xa0;%1&#xa0;», qui demande le nom d’utilisateur et le mot de passe.</translation>
     </message>
+    <message>
+        <source>IDS_DIALUP_BYTES</source>
+        <translation>%1 o</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBYTES</source>
+        <translation>%1 ko</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABYTES</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABYTES</source>
+        <translation>%1 Go</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
 </context>
 <context>
     <name>NetConnectPlugin</name>
@@ -1104,38 +1136,6 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>Ce mois-ci&#xa0;: %1 sur %2</translation>
     </message>
     <message>
-        <source>IDS_HOST_BYTES</source>
-        <translation>%1 o</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBYTES</source>
-        <translation>%1 ko</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABYTES</source>
-        <translation>%1 Mo</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABYTES</source>
-        <translation>%1 Go</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BITS_PER_SECOND</source>
-        <translation>%1 bit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
-        <translation>%1 Mbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
-        <translation>%1 Gbit/s</translation>
-    </message>
-    <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>Déverrouiller la carte SIM</translation>
     </message>
@@ -1408,6 +1408,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>%1 n’est pas un champ modifiable&#xa0;; champs&#xa0;: %2</translation>
     </message>
     <message>
+        <source>%1 is no limit; say a volume such as 500MB or 1.5GB</source>
+        <translation>%1 n'est pas une limite&#xa0;; indiquez un volume comme 500MB ou 1.5GB</translation>
+    </message>
+    <message>
         <source>%1 is read-only; make one of your own from it: %2</source>
         <translation>%1 est en lecture seule&#xa0;; créez le vôtre à partir de celui-ci&#xa0;: %2</translation>
     </message>
@@ -1424,6 +1428,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>ne sont pas des IMSI (5 à 15 chiffres)&#xa0;: %1 sur %2</translation>
     </message>
     <message>
+        <source>%1 percent of the limit of %2</source>
+        <translation>%1 pour cent de la limite de %2</translation>
+    </message>
+    <message>
         <source>%1, %2:</source>
         <translation>%1, %2&#xa0;:</translation>
     </message>
@@ -1434,6 +1442,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 received, %3 sent, %4 together</source>
+        <translation>%1&#xa0;: %2 reçus, %3 envoyés, %4 en tout</translation>
     </message>
     <message>
         <source>%1: can't be written: %2</source>
@@ -1656,6 +1668,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>Afficher une valeur de la configuration des fonctions, ou toutes.</translation>
     </message>
     <message>
+        <source>Show each month that is kept.</source>
+        <translation>Afficher chaque mois conservé.</translation>
+    </message>
+    <message>
         <source>Show the connection.</source>
         <translation>Afficher la connexion.</translation>
     </message>
@@ -1682,6 +1698,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>Show this help, or that of a command.</source>
         <translation>Afficher cette aide, ou celle d’une commande.</translation>
+    </message>
+    <message>
+        <source>Show what the SIM card moved this month, or set its limit.</source>
+        <translation>Afficher ce que la carte SIM a transféré ce mois-ci, ou fixer sa limite.</translation>
     </message>
     <message>
         <source>Show what the modem and its SIM card report, and the connection.</source>
@@ -1720,6 +1740,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>Annuler le choix.</translation>
     </message>
     <message>
+        <source>Take the limit away.</source>
+        <translation>Supprimer la limite.</translation>
+    </message>
+    <message>
         <source>Tell what is wrong with the shipped files, or with these.</source>
         <translation>Dire ce qui ne va pas dans les fichiers fournis, ou dans ceux-ci.</translation>
     </message>
@@ -1750,6 +1774,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>Wait no longer than so many seconds.</source>
         <translation>Ne pas attendre plus que ce nombre de secondes.</translation>
+    </message>
+    <message>
+        <source>Warn at 80 and 100 percent of so much a month, such as 500MB or 1.5GB.</source>
+        <translation>Avertir à 80 et 100 pour cent de ce volume par mois, comme 500MB ou 1.5GB.</translation>
     </message>
     <message>
         <source>What the SIM cards call their operator.</source>
@@ -1838,6 +1866,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>can't write the picture %1</source>
         <translation>impossible d’écrire l’image %1</translation>
+    </message>
+    <message>
+        <source>no limit is set</source>
+        <translation>aucune limite n'est fixée</translation>
     </message>
     <message>
         <source>no window can be opened: %1</source>
@@ -2060,6 +2092,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>%1 ne répond pas</translation>
     </message>
     <message>
+        <source>nothing has been counted yet</source>
+        <translation>rien n'a encore été compté</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>rien n’a été importé de %1</translation>
     </message>
@@ -2078,6 +2114,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>on, roaming too</source>
         <translation>activée, y compris en itinérance</translation>
+    </message>
+    <message>
+        <source>only one of these goes at a time: %1</source>
+        <translation>une seule de ces options à la fois&#xa0;: %1</translation>
     </message>
     <message>
         <source>other</source>
@@ -2296,6 +2336,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>le dossier de données %1 n’est pas un dossier</translation>
     </message>
     <message>
+        <source>the data volume can't be stored</source>
+        <translation>le volume de données ne peut pas être enregistré</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>le profil par défaut ne peut pas être effacé</translation>
     </message>
@@ -2318,6 +2362,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>the file's name is empty</source>
         <translation>le nom du fichier est vide</translation>
+    </message>
+    <message>
+        <source>the limit can't be stored</source>
+        <translation>la limite ne peut pas être enregistrée</translation>
     </message>
     <message>
         <source>the modem does not answer</source>
@@ -2486,6 +2534,10 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
     <message>
         <source>warning: %1</source>
         <translation>attention&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>what was counted can't be read, or is damaged</source>
+        <translation>ce qui a été compté ne peut pas être lu, ou est endommagé</translation>
     </message>
     <message>
         <source>wrong %1: %2</source>

@@ -315,6 +315,38 @@
         <source>IDS_DIALUP_AUTO_MUST_ASK</source>
         <translation>Автоматическое подключение не может использовать «%1»: этот профиль спрашивает имя пользователя и пароль.</translation>
     </message>
+    <message>
+        <source>IDS_DIALUP_BYTES</source>
+        <translation>%1 Б</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBYTES</source>
+        <translation>%1 кБ</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABYTES</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABYTES</source>
+        <translation>%1 ГБ</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BITS_PER_SECOND</source>
+        <translation>%1 бит/с</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBITS_PER_SECOND</source>
+        <translation>%1 кбит/с</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABITS_PER_SECOND</source>
+        <translation>%1 Мбит/с</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABITS_PER_SECOND</source>
+        <translation>%1 Гбит/с</translation>
+    </message>
 </context>
 <context>
     <name>NetConnectPlugin</name>
@@ -1104,38 +1136,6 @@
         <translation>В этом месяце: %1 из %2</translation>
     </message>
     <message>
-        <source>IDS_HOST_BYTES</source>
-        <translation>%1 Б</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBYTES</source>
-        <translation>%1 кБ</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABYTES</source>
-        <translation>%1 МБ</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABYTES</source>
-        <translation>%1 ГБ</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BITS_PER_SECOND</source>
-        <translation>%1 бит/с</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
-        <translation>%1 кбит/с</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
-        <translation>%1 Мбит/с</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
-        <translation>%1 Гбит/с</translation>
-    </message>
-    <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>Разблокировка SIM-карты</translation>
     </message>
@@ -1408,6 +1408,10 @@
         <translation>%1 — не изменяемое поле; поля: %2</translation>
     </message>
     <message>
+        <source>%1 is no limit; say a volume such as 500MB or 1.5GB</source>
+        <translation>%1 не лимит; укажите объём, например 500MB или 1.5GB</translation>
+    </message>
+    <message>
         <source>%1 is read-only; make one of your own from it: %2</source>
         <translation>%1 доступен только для чтения; создайте на его основе свой: %2</translation>
     </message>
@@ -1424,6 +1428,10 @@
         <translation>не IMSI (от 5 до 15 цифр): %1 из %2</translation>
     </message>
     <message>
+        <source>%1 percent of the limit of %2</source>
+        <translation>%1 процентов лимита в %2</translation>
+    </message>
+    <message>
         <source>%1, %2:</source>
         <translation>%1, %2:</translation>
     </message>
@@ -1434,6 +1442,10 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 received, %3 sent, %4 together</source>
+        <translation>%1: получено %2, отправлено %3, всего %4</translation>
     </message>
     <message>
         <source>%1: can't be written: %2</source>
@@ -1656,6 +1668,10 @@
         <translation>Показать одно значение конфигурации функций или все.</translation>
     </message>
     <message>
+        <source>Show each month that is kept.</source>
+        <translation>Показать каждый сохранённый месяц.</translation>
+    </message>
+    <message>
         <source>Show the connection.</source>
         <translation>Показать подключение.</translation>
     </message>
@@ -1682,6 +1698,10 @@
     <message>
         <source>Show this help, or that of a command.</source>
         <translation>Показать эту справку или справку по команде.</translation>
+    </message>
+    <message>
+        <source>Show what the SIM card moved this month, or set its limit.</source>
+        <translation>Показать, сколько SIM-карта передала за этот месяц, или задать её лимит.</translation>
     </message>
     <message>
         <source>Show what the modem and its SIM card report, and the connection.</source>
@@ -1720,6 +1740,10 @@
         <translation>Отменить выбор.</translation>
     </message>
     <message>
+        <source>Take the limit away.</source>
+        <translation>Снять лимит.</translation>
+    </message>
+    <message>
         <source>Tell what is wrong with the shipped files, or with these.</source>
         <translation>Сообщить, что не так с файлами из поставки или с этими.</translation>
     </message>
@@ -1750,6 +1774,10 @@
     <message>
         <source>Wait no longer than so many seconds.</source>
         <translation>Ждать не дольше указанного числа секунд.</translation>
+    </message>
+    <message>
+        <source>Warn at 80 and 100 percent of so much a month, such as 500MB or 1.5GB.</source>
+        <translation>Предупреждать при 80 и 100 процентах такого объёма в месяц, например 500MB или 1.5GB.</translation>
     </message>
     <message>
         <source>What the SIM cards call their operator.</source>
@@ -1838,6 +1866,10 @@
     <message>
         <source>can't write the picture %1</source>
         <translation>не удаётся записать изображение %1</translation>
+    </message>
+    <message>
+        <source>no limit is set</source>
+        <translation>лимит не задан</translation>
     </message>
     <message>
         <source>no window can be opened: %1</source>
@@ -2060,6 +2092,10 @@
         <translation>%1 не отвечает</translation>
     </message>
     <message>
+        <source>nothing has been counted yet</source>
+        <translation>пока ничего не подсчитано</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>из %1 ничего не импортировано</translation>
     </message>
@@ -2078,6 +2114,10 @@
     <message>
         <source>on, roaming too</source>
         <translation>включено, в том числе в роуминге</translation>
+    </message>
+    <message>
+        <source>only one of these goes at a time: %1</source>
+        <translation>можно указать только одно из этого: %1</translation>
     </message>
     <message>
         <source>other</source>
@@ -2296,6 +2336,10 @@
         <translation>папка данных %1 — не папка</translation>
     </message>
     <message>
+        <source>the data volume can't be stored</source>
+        <translation>объём данных нельзя сохранить</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>нельзя отменить выбор основного профиля</translation>
     </message>
@@ -2318,6 +2362,10 @@
     <message>
         <source>the file's name is empty</source>
         <translation>имя файла пустое</translation>
+    </message>
+    <message>
+        <source>the limit can't be stored</source>
+        <translation>лимит нельзя сохранить</translation>
     </message>
     <message>
         <source>the modem does not answer</source>
@@ -2486,6 +2534,10 @@
     <message>
         <source>warning: %1</source>
         <translation>предупреждение: %1</translation>
+    </message>
+    <message>
+        <source>what was counted can't be read, or is damaged</source>
+        <translation>подсчитанное нельзя прочитать, или оно повреждено</translation>
     </message>
     <message>
         <source>wrong %1: %2</source>

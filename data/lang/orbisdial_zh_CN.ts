@@ -315,6 +315,38 @@
         <source>IDS_DIALUP_AUTO_MUST_ASK</source>
         <translation>自动连接无法使用“%1”，因为它会询问用户名和密码。</translation>
     </message>
+    <message>
+        <source>IDS_DIALUP_BYTES</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBYTES</source>
+        <translation>%1 kB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABYTES</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABYTES</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_BITS_PER_SECOND</source>
+        <translation>%1 bit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_KILOBITS_PER_SECOND</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_MEGABITS_PER_SECOND</source>
+        <translation>%1 Mbit/s</translation>
+    </message>
+    <message>
+        <source>IDS_DIALUP_GIGABITS_PER_SECOND</source>
+        <translation>%1 Gbit/s</translation>
+    </message>
 </context>
 <context>
     <name>NetConnectPlugin</name>
@@ -1104,38 +1136,6 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>本月：%1，共 %2</translation>
     </message>
     <message>
-        <source>IDS_HOST_BYTES</source>
-        <translation>%1 B</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBYTES</source>
-        <translation>%1 kB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABYTES</source>
-        <translation>%1 MB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABYTES</source>
-        <translation>%1 GB</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_BITS_PER_SECOND</source>
-        <translation>%1 bit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_KILOBITS_PER_SECOND</source>
-        <translation>%1 kbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_MEGABITS_PER_SECOND</source>
-        <translation>%1 Mbit/s</translation>
-    </message>
-    <message>
-        <source>IDS_HOST_GIGABITS_PER_SECOND</source>
-        <translation>%1 Gbit/s</translation>
-    </message>
-    <message>
         <source>IDS_HOST_UNLOCK_TITLE</source>
         <translation>解锁 SIM 卡</translation>
     </message>
@@ -1408,6 +1408,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>%1 不是可设置的字段；字段：%2</translation>
     </message>
     <message>
+        <source>%1 is no limit; say a volume such as 500MB or 1.5GB</source>
+        <translation>%1 不是上限；请指定流量，例如 500MB 或 1.5GB</translation>
+    </message>
+    <message>
         <source>%1 is read-only; make one of your own from it: %2</source>
         <translation>%1 为只读；请由它新建自己的配置文件：%2</translation>
     </message>
@@ -1424,6 +1428,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>%2 个中有 %1 个不是 IMSI（IMSI 为 5 到 15 位数字）</translation>
     </message>
     <message>
+        <source>%1 percent of the limit of %2</source>
+        <translation>上限 %2 的百分之 %1</translation>
+    </message>
+    <message>
         <source>%1, %2:</source>
         <translation>%1，%2：</translation>
     </message>
@@ -1434,6 +1442,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: %2 received, %3 sent, %4 together</source>
+        <translation>%1：已接收 %2，已发送 %3，共 %4</translation>
     </message>
     <message>
         <source>%1: can't be written: %2</source>
@@ -1656,6 +1668,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>显示功能配置的某个值或全部。</translation>
     </message>
     <message>
+        <source>Show each month that is kept.</source>
+        <translation>显示保存的每个月。</translation>
+    </message>
+    <message>
         <source>Show the connection.</source>
         <translation>显示连接。</translation>
     </message>
@@ -1682,6 +1698,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>Show this help, or that of a command.</source>
         <translation>显示此帮助或某个命令的帮助。</translation>
+    </message>
+    <message>
+        <source>Show what the SIM card moved this month, or set its limit.</source>
+        <translation>显示 SIM 卡本月的流量，或设置其上限。</translation>
     </message>
     <message>
         <source>Show what the modem and its SIM card report, and the connection.</source>
@@ -1720,6 +1740,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>取消所做的选择。</translation>
     </message>
     <message>
+        <source>Take the limit away.</source>
+        <translation>取消上限。</translation>
+    </message>
+    <message>
         <source>Tell what is wrong with the shipped files, or with these.</source>
         <translation>指出随附文件或这些文件中的错误。</translation>
     </message>
@@ -1750,6 +1774,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>Wait no longer than so many seconds.</source>
         <translation>最多等待这么多秒。</translation>
+    </message>
+    <message>
+        <source>Warn at 80 and 100 percent of so much a month, such as 500MB or 1.5GB.</source>
+        <translation>达到每月此流量的百分之 80 和 100 时警告，例如 500MB 或 1.5GB。</translation>
     </message>
     <message>
         <source>What the SIM cards call their operator.</source>
@@ -1838,6 +1866,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>can't write the picture %1</source>
         <translation>无法写入图片 %1</translation>
+    </message>
+    <message>
+        <source>no limit is set</source>
+        <translation>未设置上限</translation>
     </message>
     <message>
         <source>no window can be opened: %1</source>
@@ -2060,6 +2092,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>%1 没有响应</translation>
     </message>
     <message>
+        <source>nothing has been counted yet</source>
+        <translation>尚无任何流量记录</translation>
+    </message>
+    <message>
         <source>nothing was imported from %1</source>
         <translation>没有从 %1 导入任何内容</translation>
     </message>
@@ -2078,6 +2114,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>on, roaming too</source>
         <translation>开，漫游时也自动连接</translation>
+    </message>
+    <message>
+        <source>only one of these goes at a time: %1</source>
+        <translation>以下选项每次只能使用一个：%1</translation>
     </message>
     <message>
         <source>other</source>
@@ -2296,6 +2336,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>数据文件夹 %1 不是文件夹</translation>
     </message>
     <message>
+        <source>the data volume can't be stored</source>
+        <translation>无法保存流量</translation>
+    </message>
+    <message>
         <source>the default can't be cleared</source>
         <translation>无法清除默认配置文件</translation>
     </message>
@@ -2318,6 +2362,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>the file's name is empty</source>
         <translation>文件名为空</translation>
+    </message>
+    <message>
+        <source>the limit can't be stored</source>
+        <translation>无法保存上限</translation>
     </message>
     <message>
         <source>the modem does not answer</source>
@@ -2486,6 +2534,10 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
     <message>
         <source>warning: %1</source>
         <translation>警告：%1</translation>
+    </message>
+    <message>
+        <source>what was counted can't be read, or is damaged</source>
+        <translation>无法读取流量记录，或记录已损坏</translation>
     </message>
     <message>
         <source>wrong %1: %2</source>

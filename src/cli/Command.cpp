@@ -26,6 +26,11 @@ constexpr CommandOption Timeout{"timeout", QT_TRANSLATE_NOOP("Programs", "Wait n
                                 "SECONDS"};
 constexpr CommandOption Hold{"hold", QT_TRANSLATE_NOOP("Programs", "Stay, and hang up on Ctrl-C."), nullptr};
 constexpr CommandOption Watch{"watch", QT_TRANSLATE_NOOP("Programs", "Stay, and show each change."), nullptr};
+constexpr CommandOption Months{"months", QT_TRANSLATE_NOOP("Programs", "Show each month that is kept."), nullptr};
+constexpr CommandOption Limit{
+    "limit", QT_TRANSLATE_NOOP("Programs", "Warn at 80 and 100 percent of so much a month, such as 500MB or 1.5GB."),
+    "SIZE"};
+constexpr CommandOption ClearLimit{"clear", QT_TRANSLATE_NOOP("Programs", "Take the limit away."), nullptr};
 constexpr CommandOption Roaming{"roaming", QT_TRANSLATE_NOOP("Programs", "While roaming, too."), nullptr};
 constexpr CommandOption Check{
     "check", QT_TRANSLATE_NOOP("Programs", "Tell what is wrong with the shipped files, or with these."), nullptr};
@@ -84,6 +89,8 @@ const std::vector<Command> Commands = {
     {"disconnect", "", 0, 0, with(Timeout), QT_TRANSLATE_NOOP("Programs", "End the connection, or give it up."),
      disconnect},
     {"status", "", 0, 0, with(Watch), QT_TRANSLATE_NOOP("Programs", "Show the connection."), showStatus},
+    {"usage", "", 0, 0, with(Months, Limit, ClearLimit),
+     QT_TRANSLATE_NOOP("Programs", "Show what the SIM card moved this month, or set its limit."), showUsage},
     {"autoconnect", "NAME [on|off]", 1, 2, with(Roaming),
      QT_TRANSLATE_NOOP("Programs", "Whether the window connects with a profile by itself."), setAutoConnect},
     {"ussd", "CODE", 1, 1, with(Timeout),
@@ -175,11 +182,11 @@ QList<QCommandLineOption> optionsOf(const Command& command) {
 
 QList<QCommandLineOption> allOptions() {
     QList<QCommandLineOption> options = globalOptions();
-    QSet<const CommandOption*> added;
+    QSet<QString> added;
     for (const Command& command : Commands) {
         for (const CommandOption* option : command.options) {
-            if (!option || added.contains(option)) continue;
-            added.insert(option);
+            if (!option || added.contains(option->name)) continue;
+            added.insert(option->name);
             options.append({option->name, message(option->help), option->value});
         }
     }

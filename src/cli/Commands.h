@@ -50,6 +50,9 @@ void connectProfile(const Invocation& invocation, Output& output);
 void disconnect(const Invocation& invocation, Output& output);
 void showStatus(const Invocation& invocation, Output& output);
 
+// UsageCommand.cpp
+void showUsage(const Invocation& invocation, Output& output);
+
 // AutoConnectCommand.cpp
 void setAutoConnect(const Invocation& invocation, Output& output);
 

@@ -15,6 +15,7 @@
 #include "Message.h"
 #include "Output.h"
 #include "ProfileSession.h"
+#include "VolumeCount.h"
 
 namespace {
 
@@ -103,6 +104,7 @@ public:
         begin(wanted);
         const DataConnection connection = waitUntilUp();
         if (!connection.isUp()) throw ConnectionReport::error(connection);
+        m_Volume.follow();
         warn({ConnectionText::addressNote(wanted.profile, connection)});
         showUp(connection);
         if (m_bHolds) hold(connection.name);
@@ -166,8 +168,16 @@ private:
 
     // What another process began is left to it.
     void hangUpOwn() {
-        if (!DataConnection::current().isOwn || VRKS_NetConnectSrv_HangUp() != 0) return;
-        waitUntilDown(m_Events, QDeadlineTimer(HangUpSeconds * 1000));
+        if (DataConnection::current().isOwn) hangUp();
+    }
+
+    // Counted while the interface is still there, and with the last counts.
+    bool hangUp() {
+        m_Volume.count();
+        const bool isEnded =
+            VRKS_NetConnectSrv_HangUp() == 0 && waitUntilDown(m_Events, QDeadlineTimer(HangUpSeconds * 1000));
+        m_Volume.count();
+        return isEnded;
     }
 
     void showStep(const DataConnection& connection) {
@@ -184,10 +194,9 @@ private:
 
     void hold(const QString& name) {
         m_Deadline = QDeadlineTimer(QDeadlineTimer::Forever);
-        while (!DataConnection::current().isDown()) {
+        while (!m_Volume.follow().isDown()) {
             if (m_Events.wait(m_Deadline) != EventWait::SignalCame) continue;
-            const bool isEnded =
-                VRKS_NetConnectSrv_HangUp() == 0 && waitUntilDown(m_Events, QDeadlineTimer(HangUpSeconds * 1000));
+            const bool isEnded = hangUp();
             if (!isEnded) printDiagnostic(message("the connection can't be ended"));
             if (isEnded) showDown(name);
             EndingSignals::obey();
@@ -206,6 +215,7 @@ private:
     Output& m_Output;
     const EndingSignals m_Signals;
     const EventWait m_Events;
+    VolumeCount m_Volume;
     QString m_Step;
 };
 
@@ -259,10 +269,14 @@ void disconnect(const Invocation& invocation, Output& output) {
         if (!vrks_simulated_active()) stopWaitingOnes(events);
         return output.result({{"disconnected", QJsonValue()}}, {message("not connected")});
     }
+    VolumeCount volume;
+    volume.count();
     const bool isEnding = before.state == VRKS_CONNECTION_HANGING_UP || VRKS_NetConnectSrv_HangUp() == 0;
     if (!isEnding && !DataConnection::current().isDown())
         throw CommandError::refused(message("the connection can't be ended"));
-    if (!waitUntilDown(events, deadline)) throw stillUp();
+    const bool isDown = waitUntilDown(events, deadline);
+    volume.count();
+    if (!isDown) throw stillUp();
     output.result({{"disconnected", before.name}}, {message("disconnected: %1", {before.name})});
 }
 

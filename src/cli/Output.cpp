@@ -26,7 +26,7 @@ QString fieldText(const QJsonValue& value) {
 
 // The elements of what is a list, or the object itself.
 QList<QJsonObject> rowsOf(const QJsonObject& object) {
-    for (const char* list : {"profiles", "modems", "findings"}) {
+    for (const char* list : {"profiles", "modems", "findings", "months"}) {
         if (!object.contains(QLatin1String(list))) continue;
         QList<QJsonObject> rows;
         for (const auto& element : object[QLatin1String(list)].toArray()) rows.append(element.toObject());

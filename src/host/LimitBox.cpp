@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr double Gigabyte = 1e9;  // bytes, as operators count
+using Amounts::Gigabyte;
+
 constexpr double Largest = 99999;
 constexpr double Step = 0.5;
 
@@ -22,22 +23,22 @@ LimitBox::LimitBox() : m_Label(new QLabel) {
 }
 
 void LimitBox::load() {
-    m_Imsi = ModemState::current().imsi;
+    m_Imsi = DataConnection::current().card();
     m_Label->setVisible(!m_Imsi.isEmpty());
     setVisible(!m_Imsi.isEmpty());
-    setValue(double(DataUsage().limit(m_Imsi)) / Gigabyte);
+    setValue(double(DataUsage().limit(m_Imsi)) / double(Gigabyte));
     m_Stored = value();
 }
 
 // What another program stored meanwhile, or more exactly, stays where nothing else was chosen.
 bool LimitBox::store() {
     if (m_Imsi.isEmpty() || value() == m_Stored) return true;
-    return DataUsage().setLimit(m_Imsi, quint64(qRound64(value() * Gigabyte)));
+    return DataUsage().setLimit(m_Imsi, quint64(qRound64(value() * double(Gigabyte))));
 }
 
 void LimitBox::retranslate() {
     m_Label->setText(hostText("IDS_HOST_LIMIT"));
     setSpecialValueText(hostText("IDS_HOST_NO_LIMIT"));
-    setSuffix(hostText("IDS_HOST_GIGABYTES").remove(QLatin1String("%1")));
+    setSuffix(Amounts::gigabytesSuffix());
     setLocale(Amounts::locale());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How much the SIM card that is in the modem is to move in a month at most.
+// How much the SIM card is to move in a month at most: the connection's, or without one the chosen modem's.
 #ifndef ORBISDIAL_LIMITBOX_H
 #define ORBISDIAL_LIMITBOX_H
 

@@ -208,6 +208,63 @@ private slots:
         COMPARE_REFUSED(fixture.run({"autoconnect", "Alpha", "off", "--roaming"}), 2, "--roaming");
     }
 
+    void usage_data() {
+        const Rows<QStringList, QStringList, int, QByteArray> row("modem", "arguments", "status", "words");
+        row("nothing", {}, {}, 0, "0 B together\nno limit is set\n");
+        row("no months", {}, {"--months"}, 0, "nothing has been counted yet\n");
+        row("a limit", {}, {"--limit", "1,5 gb"}, 0, "\n0 percent of the limit of 1.5 GB\n");
+        row("no unit", {}, {"--limit", "5"}, 2, "\"5\"");
+        row("binary unit", {}, {"--limit", "5GiB"}, 2, "5GiB");
+        row("limit of nothing", {}, {"--limit", "0 MB"}, 2, "0 MB");
+        row("too large", {}, {"--limit", "9000001GB"}, 2, "9000001GB");
+        row("two things", {}, {"--clear", "--months"}, 2, "--months");
+        row("no card", {"IMSI="}, {}, 3, "SIM card");
+        row("no modem", {"PRESENT=0"}, {"--limit", "5MB"}, 3, "no modem");
+        row("locked", {"LOCK=pin"}, {}, 4, "locked");
+    }
+    void usage() {
+        const OrbisctlFixture fixture;
+        const SimulatedSettings settings(cell<QStringList>("modem"));
+        const QByteArray words = cell<QByteArray>("words");
+        const Outcome outcome = fixture.run(QStringList{"usage"} + cell<QStringList>("arguments"));
+        if (cell<int>("status") != 0) {
+            COMPARE_REFUSED(outcome, cell<int>("status"), words);
+            return;
+        }
+        COMPARE_DONE(outcome);
+        QVERIFY2(outcome.out.endsWith(words), outcome.out);
+    }
+
+    void countsVolume() {
+        const OrbisctlFixture fixture;
+        const SimulatedSettings settings({"RATE=1000000", "HANG_UP_MS=0"});
+        COMPARE_DONE(fixture.run({"usage", "--limit", "1 kB"}));
+        double before = 0;
+        for (const int warnings : {1, 0}) {  // the second time all is said
+            Running command({"connect", "--hold"});
+            QTRY_VERIFY(command.out().contains("connected: Alpha"));
+            QTest::qWait(20);
+            command.send(SIGINT);
+            QTRY_COMPARE(command.status(), 128 + SIGINT);
+            QCOMPARE(command.err().count("used up"), warnings);
+            const QJsonObject month = fixture.run({"--json", "usage"}).json();
+            QVERIFY(month["total"].toDouble() > before && month["percent"].toInt() >= 100);
+            before = month["total"].toDouble();
+        }
+        QCOMPARE(fixture.run({"-f", "total", "usage", "--months"}).out.trimmed().toDouble(), before);
+        QVERIFY(fixture.run({"--json", "usage", "--clear"}).json()["limit"].isNull());
+    }
+
+    void volumeThatCannotBeStoredIsNoFailure() {
+        const OrbisctlFixture fixture;
+        QVERIFY(QDir().mkpath(QFileInfo(fixture.userFile()).path() + "/usage.json"));
+        const Outcome outcome = fixture.run({"connect"});
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(outcome.err, QByteArray("orbisctl: warning: the data volume can't be stored\n"));
+        COMPARE_REFUSED(fixture.run({"usage"}), 1, "can't be read");
+        COMPARE_REFUSED(fixture.run({"usage", "--limit", "1GB"}), 1, "can't be stored");
+    }
+
     void ussd_data() {
         const Rows<QStringList, QByteArray, int, QByteArray> row("network", "input", "status", "words");
         const QByteArray question = "What now?\n", answer = "Seven left\n";

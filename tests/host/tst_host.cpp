@@ -384,6 +384,22 @@ private slots:
         QVERIFY(Fake::calls().contains("Notify 528"));
     }
 
+    // Whichever modem is chosen meanwhile.
+    void showsTheVolumeOfTheConnectionsCard() {
+        const QString card = "262011234567890";
+        vrks_simulated_set("IMSI", card.toLatin1());
+        vrks_simulated_set("2_PRESENT", "1");
+        click("Host_ConnectButton");
+        QTRY_COMPARE(child<QLabel>("Host_ConnectionState")->text(), QString("Connected with Home"));
+        QCOMPARE(VRKS_DevSrv_SelectModem("/simulated/2"), 0L);
+        QVERIFY(DataUsage().setLimit(card, 7000000000));
+        QTRY_VERIFY(child<QLabel>("Host_Month")->text().endsWith("of 7.0 GB"));
+        m_Host->window()->openSettings();
+        clickRow(HostRow);
+        QCOMPARE(child<QDoubleSpinBox>("Host_LimitBox")->value(), 7.0);
+        click("Host_CancelButton");
+    }
+
     // The last attempt is spent only after somebody agreed, and a PUK needs a new PIN twice.
     // However narrow the window is when a text comes, and however narrow it is made then.
     void cutsNoText() {
