@@ -353,9 +353,15 @@ private slots:
         QVERIFY(other.waitForFinished());
     }
 
+    // And counts what the connection moved.
     void theCommandLineHangsUp() {
+        const QTemporaryDir folder;
+        const QStringList asUser{"--data-dir", folder.path()};
         QVERIFY(dial());
         TRY_UP();
+        TRY_CONNECTION(hasAddress());
+        sendDatagram("10.64.0.1");
+        TRY_CONNECTION(connection().sent >= 100 && connection().received >= 100);
         if (isRealRoot()) {
             QVERIFY(m_Stack.permit(false));
             const Outcome refused = runProgram("setpriv", {"--reuid=65534", "--clear-groups", ORBISCTL, "disconnect"});
@@ -363,8 +369,10 @@ private slots:
             QVERIFY2(refused.status == 4 && refused.err.contains("can't be ended (Not authorized"), refused.err);
         }
         QVERIFY2(connection().state == VRKS_CONNECTION_UP, shown());
-        QCOMPARE(runProgram(ORBISCTL, {"disconnect"}).out, QByteArray("disconnected: Home\n"));
+        QCOMPARE(runProgram(ORBISCTL, asUser + QStringList("disconnect")).out, QByteArray("disconnected: Home\n"));
         TRY_DOWN(VRKS_FAILURE_HUNG_UP);
+        const QJsonObject month = runProgram(ORBISCTL, asUser + QStringList{"--json", "usage"}).json();
+        QVERIFY(month["sent"].toDouble() >= 100 && month["received"].toDouble() >= 100);
     }
 
     void theCommandLineSaysWhatIsThere_data() {
