@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_REFUSED</source>
-        <translation>رفضت الشبكة الأمر.</translation>
+        <translation>رفضت الشبكة الأمر أو أنهت الجلسة.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NO_ANSWER</source>

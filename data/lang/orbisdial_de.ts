@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_REFUSED</source>
-        <translation>Das Netz hat den Befehl abgelehnt.</translation>
+        <translation>Das Netz hat den Befehl abgelehnt oder die Sitzung beendet.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NO_ANSWER</source>

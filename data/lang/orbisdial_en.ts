@@ -216,7 +216,7 @@
     <message>
         <source>IDS_DIALUP_USSD_REFUSED</source>
         <extracomment>The same.</extracomment>
-        <translation>The network refused the command.</translation>
+        <translation>The network refused the command or ended the session.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NO_ANSWER</source>

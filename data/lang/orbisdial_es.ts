@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_REFUSED</source>
-        <translation>La red rechazó el código.</translation>
+        <translation>La red rechazó el código o terminó la sesión.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NO_ANSWER</source>

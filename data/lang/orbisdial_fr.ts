@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_REFUSED</source>
-        <translation>Le réseau a refusé le code.</translation>
+        <translation>Le réseau a refusé le code ou mis fin à la session.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NO_ANSWER</source>

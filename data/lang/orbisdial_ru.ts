@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>IDS_DIALUP_USSD_REFUSED</source>
-        <translation>Сеть отклонила команду.</translation>
+        <translation>Сеть отклонила команду или завершила сеанс.</translation>
     </message>
     <message>
         <source>IDS_DIALUP_USSD_NO_ANSWER</source>

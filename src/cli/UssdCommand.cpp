@@ -77,7 +77,8 @@ public:
             throw CommandError::refused(message("the modem is not ready for a command, or another one is under way"));
         m_bOpen = true;
         for (VRKS_Ussd ussd = answer(); !show(ussd); ussd = answer()) {
-            const QByteArray reply = readReply();
+            const QByteArray reply = readReply(ussd);
+            if (hasGoneOn(ussd)) continue;
             if (reply.isEmpty()) return;
             if (VRKS_NetSrv_AnswerUssd(reply.constData()) != 0)
                 throw CommandError::failed(message("the session has ended"));
@@ -110,10 +111,20 @@ private:
         return !asks;
     }
 
-    // The next line; empty ends the session.
-    QByteArray readReply() {
+    // Meanwhile the network may end the session, or say something else.
+    static bool hasGoneOn(const VRKS_Ussd& asked) {
+        const VRKS_Ussd now = session();
+        return now.state != asked.state || qstrcmp(now.text, asked.text) != 0;
+    }
+
+    // The next line; empty ends the session. None when the network goes on without it.
+    QByteArray readReply(const VRKS_Ussd& asked) {
         if (isTerminalInput()) askForReply();
-        while (!m_Input.contains('\n') && readMore()) continue;
+        while (!m_Input.contains('\n') && readMore(asked)) continue;
+        if (hasGoneOn(asked)) {
+            if (isTerminalInput()) StandardOutput::write(STDERR_FILENO, "\n", 1);
+            return {};
+        }
         const int end = m_Input.indexOf('\n');
         const QByteArray line = m_Input.left(end).trimmed();
         m_Input.remove(0, end < 0 ? m_Input.size() : end + 1);
@@ -125,13 +136,12 @@ private:
         StandardOutput::write(STDERR_FILENO, prompt.constData(), std::size_t(prompt.size()));
     }
 
-    // False at the end of the input. The network may end the session meanwhile.
-    bool readMore() {
+    // False at the end of the input, and when the network goes on.
+    bool readMore(const VRKS_Ussd& asked) {
         const EventWait::Waking waking =
             m_Events.wait(QDeadlineTimer(QDeadlineTimer::Forever), EventWait::StandardInput);
         if (waking == EventWait::SignalCame) cancelAndEnd();
-        const VRKS_Ussd ussd = session();
-        if (ussd.state == VRKS_USSD_FAILED) throw errorOf(ussd);
+        if (hasGoneOn(asked)) return false;
         if (waking != EventWait::InputCame) return true;
         char bytes[256];
         const ssize_t size = ::read(STDIN_FILENO, bytes, sizeof bytes);

@@ -75,8 +75,11 @@ const char* const UssdFailures[] = {nullptr,
                                     "IDS_DIALUP_USSD_NO_ANSWER",
                                     "IDS_DIALUP_USSD_CANCELLED",
                                     "IDS_DIALUP_USSD_NOT_ALLOWED",
-                                    "IDS_DIALUP_USSD_FAILED"};
-static_assert(sizeof UssdFailures / sizeof *UssdFailures == VRKS_USSD_FAILURE_OTHER + 1, "each failure has its place");
+                                    "IDS_DIALUP_USSD_FAILED",
+                                    "IDS_DIALUP_MODEM_GONE",
+                                    "IDS_DIALUP_NO_MODEM_SERVICE"};
+static_assert(sizeof UssdFailures / sizeof *UssdFailures == VRKS_USSD_FAILURE_NO_MODEM_SERVICE + 1,
+              "each failure has its place");
 
 // By the profile's attribute, and by what the SDK calls the member where that differs.
 const struct {

@@ -332,7 +332,9 @@ enum {
     VRKS_USSD_FAILURE_TIMEOUT,
     VRKS_USSD_FAILURE_CANCELLED,
     VRKS_USSD_FAILURE_NOT_ALLOWED, /* this user may not */
-    VRKS_USSD_FAILURE_OTHER
+    VRKS_USSD_FAILURE_OTHER,
+    VRKS_USSD_FAILURE_MODEM_GONE,      /* or not ready any more */
+    VRKS_USSD_FAILURE_NO_MODEM_SERVICE /* the service that knows the modems has ended */
 };
 
 typedef struct VRKS_Ussd {
@@ -344,8 +346,8 @@ typedef struct VRKS_Ussd {
 } VRKS_Ussd;
 
 /* Sends a USSD command, such as "*100#" (3GPP TS 22.090). Returns at once; VRKS_EVENT_USSD_RESULT tells that the
- * network answered, asks back, or that it failed. Fails when the modem in use is not ready, the text is empty or
- * longer than 182 characters, or a session is open. */
+ * network answered, asks back, or that it failed; also when it speaks again or ends the session while it asks. Fails
+ * when the modem in use is not ready, the text is empty or longer than 182 characters, or a session is open. */
 VRKS_API long VRKS_NetSrv_SendUssd(const char* command);
 
 /* Answers the network's question, on the same terms; fails unless it asks. */

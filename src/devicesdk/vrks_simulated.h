@@ -32,6 +32,7 @@
  *   USSD                     answers, asks, not-supported, network, timeout, not-allowed, other
  *   USSD_TEXT, USSD_QUESTION what the network answers and asks
  *   USSD_MS                  how long it takes
+ *   USSD_PATIENCE_MS         how long it waits when it asks, before it ends the session; 0: for ever
  * A number variable that holds none, and a word that is none of those, makes the query behind it fail or its value
  * unknown.
  */

@@ -293,6 +293,15 @@ private slots:
         }
     }
 
+    // Nobody types anything.
+    void theNetworkEndsAConversation() {
+        const OrbisctlFixture fixture;
+        const SimulatedSettings settings({"USSD=asks", "USSD_PATIENCE_MS=100"});
+        Terminal terminal({ORBISCTL, "ussd", "*100#"});
+        QTRY_VERIFY2(terminal.screen().endsWith("ended the session.\r\n"), terminal.screen());
+        QVERIFY2(terminal.screen().contains("session): \r\norbisctl: "), terminal.screen());
+    }
+
     void balance_data() {
         const Rows<QString, QStringList, int, QByteArray, QByteArray> row("profile", "network", "status", "out",
                                                                           "words");

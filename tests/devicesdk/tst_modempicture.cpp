@@ -306,7 +306,8 @@ private slots:
         QCOMPARE(after.modem().unlockResult, int(VRKS_UNLOCK_WRONG));
         QCOMPARE(after.connection.state, int(VRKS_CONNECTION_UP));
         QCOMPARE(after.ussd.state, int(VRKS_USSD_ASKS));
-        QCOMPARE(pictureOf({}, before).ussd.state, int(VRKS_USSD_FAILED));
+        QCOMPARE(pictureOf({}, before).ussd.failure, int(VRKS_USSD_FAILURE_MODEM_GONE));
+        QCOMPARE(::pictureOf({}, {}, before).ussd.failure, int(VRKS_USSD_FAILURE_NO_MODEM_SERVICE));
     }
 };
 

@@ -516,8 +516,14 @@ private slots:
         QVERIFY(sessionReaches(VRKS_USSD_ASKS));
         QCOMPARE(VRKS_NetSrv_CancelUssd(), 0L);
         QCOMPARE(ussd().failure, VRKS_USSD_FAILURE_CANCELLED);
-        set({"STATUS=1"});
+        QCOMPARE(VRKS_NetSrv_SendUssd("*100#"), 0L);
+        QVERIFY(vrks_simulated_change("STATUS", "1") == 0);
+        QCOMPARE(ussd().failure, VRKS_USSD_FAILURE_MODEM_GONE);
         QVERIFY(VRKS_NetSrv_SendUssd("*100#") != 0);
+        set({"STATUS=3", "USSD_PATIENCE_MS=1"});
+        QCOMPARE(VRKS_NetSrv_SendUssd("*100#"), 0L);
+        QVERIFY(sessionReaches(VRKS_USSD_FAILED));
+        QCOMPARE(ussd().failure, VRKS_USSD_FAILURE_NETWORK);
     }
 };
 

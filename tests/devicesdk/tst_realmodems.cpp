@@ -393,6 +393,20 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(ussd().state, int(VRKS_USSD_ANSWER), Patience);
         QCOMPARE(ussd().text, "Bye");
 
+        // What it says unasked: another question, a last word, nothing.
+        QVERIFY(m_Stack.reply("ussd", "AT+CUSD=1,*", "OK\n+CUSD: 1,\"1 Balance 2 Help\",15"));
+        for (const QByteArray last : {"Too slow", ""}) {
+            QCOMPARE(VRKS_NetSrv_SendUssd("*101#"), 0L);
+            QTRY_COMPARE_WITH_TIMEOUT(ussd().state, int(VRKS_USSD_ASKS), Patience);
+            QVERIFY(m_Stack.send("ussd", "+CUSD: 1,\"Still there" + last + "?\",15"));
+            QTRY_COMPARE_WITH_TIMEOUT(ussd().text, "Still there" + last + "?", Patience);
+            m_Log->clear();
+            QVERIFY(m_Stack.send("ussd", last.isEmpty() ? "+CUSD: 2" : "+CUSD: 0,\"" + last + "\",15"));
+            QTRY_VERIFY_WITH_TIMEOUT(m_Log->has(VRKS_EVENT_USSD_RESULT), Patience);
+            QCOMPARE(QByteArray(ussd().text), last);
+            QCOMPARE(ussd().failure, int(last.isEmpty() ? VRKS_USSD_FAILURE_NETWORK : VRKS_USSD_FAILURE_NONE));
+        }
+
         QVERIFY(m_Stack.reply("ussd", "AT+CUSD=1,*", "OK"));
         QCOMPARE(VRKS_NetSrv_SendUssd("*102#"), 0L);
         QCOMPARE(VRKS_NetSrv_CancelUssd(), 0L);
@@ -401,9 +415,13 @@ private slots:
     }
 
     void survivesTheDaemonsDeath() {
-        QVERIFY(plugIn("killed"));
+        QVERIFY(plugIn("killed", {"GSM", "USSD"}));
+        QVERIFY(m_Stack.reply("killed", "AT+CUSD=1,*", "(silence)"));
+        QCOMPARE(VRKS_NetSrv_SendUssd("*100#"), 0L);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_Stack.commands("killed").filter("AT+CUSD=1,").isEmpty(), Patience);
         QVERIFY(m_Stack.kill("ModemManager"));
         QTRY_COMPARE_WITH_TIMEOUT(status(), -1, Patience);
+        QCOMPARE(ussd().failure, int(VRKS_USSD_FAILURE_NO_MODEM_SERVICE));
         TRY_EVENTS(VRKS_EVENT_DEV_CARD_CHANGED);
         m_Log->clear();
         QVERIFY(m_Stack.start("ModemManager"));

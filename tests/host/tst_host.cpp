@@ -470,6 +470,11 @@ private slots:
         QTest::keyClicks(child<QLineEdit>("Balance_Reply"), "1\r");
         QTRY_COMPARE(answer->text(), QString("Your balance: 12.34"));
         QVERIFY(!child<QLineEdit>("Balance_Reply")->isVisible());
+        vrks_simulated_set("USSD_PATIENCE_MS", "20");
+        click("Balance_Ask");
+        QTRY_VERIFY(child<QLabel>("Balance_State")->text().contains("ended the session"));
+        QVERIFY(!child<QLineEdit>("Balance_Reply")->isVisible());
+        vrks_simulated_set("USSD_PATIENCE_MS", "0");
         click("Balance_Ask");
         QTRY_VERIFY(child<QLineEdit>("Balance_Reply")->isVisible());
         click("Balance_Close");

@@ -55,6 +55,7 @@ void ModemManagerBackend::describe() {
         picture = pictureOf(known, wanted, picture);
         return true;
     });
+    m_Ussd.follow();
     tellModemInUse();
 }
 

@@ -240,13 +240,13 @@ void describeModemInUse(Picture* picture, const KnownModem& modem, const Picture
 
 bool isSessionOpen(const Ussd& ussd) { return ussd.state == VRKS_USSD_SENT || ussd.state == VRKS_USSD_ASKS; }
 
-// A session ends with its modem.
+// A session ends with its modem, or with who knows it.
 Ussd ussdOf(const Picture& picture, const Picture& before) {
     const bool hasModem = picture.devStatus == VRKS_DEV_STATUS_READY && picture.modemInUse == before.modemInUse;
     if (hasModem || !isSessionOpen(before.ussd)) return before.ussd;
     Ussd ended;
     ended.state = VRKS_USSD_FAILED;
-    ended.failure = VRKS_USSD_FAILURE_NETWORK;
+    ended.failure = picture.devStatus ? VRKS_USSD_FAILURE_MODEM_GONE : VRKS_USSD_FAILURE_NO_MODEM_SERVICE;
     return ended;
 }
 

@@ -39,6 +39,20 @@ bool asksBack(MMModem3gppUssd* ussd) {
     return mm_modem_3gpp_ussd_get_state(ussd) == MM_MODEM_3GPP_USSD_SESSION_STATE_USER_RESPONSE;
 }
 
+// What ended a session; none while it lasts. A modem that is switched off forgets that it had one.
+int endOf(MMModem3gppUssd* ussd) {
+    switch (ussd ? mm_modem_3gpp_ussd_get_state(ussd) : MM_MODEM_3GPP_USSD_SESSION_STATE_UNKNOWN) {
+        case MM_MODEM_3GPP_USSD_SESSION_STATE_UNKNOWN:
+            return VRKS_USSD_FAILURE_MODEM_GONE;
+        case MM_MODEM_3GPP_USSD_SESSION_STATE_IDLE:
+            return VRKS_USSD_FAILURE_NETWORK;
+        default:
+            return VRKS_USSD_FAILURE_NONE;
+    }
+}
+
+Ussd said(int state, const std::string& text) { return {state, VRKS_USSD_FAILURE_NONE, text, {}}; }
+
 }  // namespace
 
 struct UssdSession::Turn {
@@ -112,8 +126,8 @@ void UssdSession::finish(GObject* source, Turn* data, char* rawReply, GError* ra
     const std::shared_ptr<MMModem3gppUssd> proxy(MM_MODEM_3GPP_USSD(g_object_ref(source)), Unref());
     const std::string text = textOf(reply.get());
     afterSignals(G_DBUS_PROXY(proxy.get()), self->m_Cancellation.get(), [self, proxy, number = turn->number, text] {
-        const int state = asksBack(proxy.get()) ? VRKS_USSD_ASKS : VRKS_USSD_ANSWER;
-        self->end(number, {state, VRKS_USSD_FAILURE_NONE, text, {}});
+        self->m_Heard = unasked(proxy.get());
+        self->end(number, said(asksBack(proxy.get()) ? VRKS_USSD_ASKS : VRKS_USSD_ANSWER, text));
     });
 }
 
@@ -122,6 +136,35 @@ void UssdSession::end(unsigned turn, const Ussd& outcome) {
     m_Board.change([&](Picture& picture) {
         if (turn != m_Turn || picture.ussd.state != VRKS_USSD_SENT) return false;
         picture.ussd = outcome;
+        return true;
+    });
+}
+
+UssdSession::Unasked UssdSession::unasked(MMModem3gppUssd* ussd) {
+    return {textOf(mm_modem_3gpp_ussd_get_network_notification(ussd)),
+            textOf(mm_modem_3gpp_ussd_get_network_request(ussd))};
+}
+
+// A network does not wait for ever for the user. While it owes us an answer the answer tells of the end.
+void UssdSession::follow() {
+    const std::shared_ptr<const Picture> picture = m_Board.get();
+    if (!picture || picture->ussd.state != VRKS_USSD_ASKS) return;
+    MMModem3gppUssd* const proxy = ussd(picture->modemInUse);
+    const Unasked before = m_Heard;
+    if (proxy) m_Heard = unasked(proxy);
+    const int ending = endOf(proxy);
+    const bool hasLastWord = m_Heard.notice != before.notice;
+    if (ending != VRKS_USSD_FAILURE_NONE)
+        speak(hasLastWord ? said(VRKS_USSD_ANSWER, m_Heard.notice) : failed(ending, {}));
+    else if (m_Heard.question != before.question)
+        speak(said(VRKS_USSD_ASKS, m_Heard.question));
+}
+
+// What the user answers meanwhile goes first.
+void UssdSession::speak(const Ussd& unasked) {
+    m_Board.change([&](Picture& picture) {
+        if (picture.ussd.state != VRKS_USSD_ASKS) return false;
+        picture.ussd = unasked;
         return true;
     });
 }

@@ -352,8 +352,18 @@ void SimulatedBackend::end(int failure) {
     publish();
 }
 
+// A USSD session is one with the modem in use.
+void SimulatedBackend::endSessionWithoutModem() {
+    if (!isSessionOpen()) return;
+    const std::string before = m_InUse;
+    const Picture picture = makePicture();
+    const bool hasModem = picture.modemInUse == before && picture.devStatus == VRKS_DEV_STATUS_READY;
+    if (!hasModem) endUssd(VRKS_USSD_FAILURE_MODEM_GONE);
+}
+
 // A connection does not outlive its modem's being ready; which modem is in use is all the same to it.
 void SimulatedBackend::endWithoutModem() {
+    endSessionWithoutModem();
     if (m_Connection.state == VRKS_CONNECTION_DOWN) return;
     const SimulatedModem& modem = m_Settings.modems[indexOf(m_Connection.modem)];
     if (!isPresent(modem)) return end(VRKS_FAILURE_MODEM_GONE);
@@ -371,7 +381,7 @@ Traffic SimulatedBackend::trafficNow() const {
 bool SimulatedBackend::sendUssd(const std::string&) {
     const Lock lock(m_Mutex);
     const std::size_t index = indexOf(m_InUse);
-    if (index == NoModem || m_Ussd.state == VRKS_USSD_SENT || m_Ussd.state == VRKS_USSD_ASKS) return false;
+    if (index == NoModem || isSessionOpen()) return false;
     const bool isPossible = m_Settings.modems[index].hasUssd.value_or(0) != 0;
     const int outcome = m_Settings.network.ussd.value_or(UssdAnswers);
     beginUssd(isPossible ? outcome : VRKS_USSD_FAILURE_NOT_SUPPORTED);
@@ -387,10 +397,8 @@ bool SimulatedBackend::answerUssd(const std::string&) {
 
 bool SimulatedBackend::cancelUssd() {
     const Lock lock(m_Mutex);
-    if (m_Ussd.state != VRKS_USSD_SENT && m_Ussd.state != VRKS_USSD_ASKS) return false;
-    ++m_UssdRun;
-    m_Ussd = {VRKS_USSD_FAILED, VRKS_USSD_FAILURE_CANCELLED, {}, {}};
-    publish();
+    if (!isSessionOpen()) return false;
+    endUssd(VRKS_USSD_FAILURE_CANCELLED);
     return true;
 }
 
@@ -400,12 +408,24 @@ void SimulatedBackend::beginUssd(int outcome) {
     publish();
     later(m_Settings.network.ussdMs.value_or(0), &m_UssdRun, [this, outcome] {
         const SimulatedNetwork& network = m_Settings.network;
+        if (outcome == UssdAsks) return askForReply();
         if (outcome == UssdAnswers)
             m_Ussd = {VRKS_USSD_ANSWER, 0, textOf(network.ussdText), {}};
-        else if (outcome == UssdAsks)
-            m_Ussd = {VRKS_USSD_ASKS, 0, textOf(network.ussdQuestion), {}};
         else
             m_Ussd = {VRKS_USSD_FAILED, outcome, {}, {}};
         publish();
     });
+}
+
+void SimulatedBackend::askForReply() {
+    m_Ussd = {VRKS_USSD_ASKS, 0, textOf(m_Settings.network.ussdQuestion), {}};
+    publish();
+    if (const int patience = m_Settings.network.ussdPatienceMs.value_or(0))
+        later(patience, &m_UssdRun, [this] { endUssd(VRKS_USSD_FAILURE_NETWORK); });
+}
+
+void SimulatedBackend::endUssd(int failure) {
+    ++m_UssdRun;
+    m_Ussd = {VRKS_USSD_FAILED, failure, {}, {}};
+    publish();
 }

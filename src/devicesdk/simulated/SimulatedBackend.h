@@ -67,7 +67,11 @@ private:
     void endWithoutModem();
     Traffic trafficNow() const;
     bool isUp() const { return m_Connection.state == VRKS_CONNECTION_UP; }
+    bool isSessionOpen() const { return m_Ussd.state == VRKS_USSD_SENT || m_Ussd.state == VRKS_USSD_ASKS; }
     void beginUssd(int outcome);
+    void askForReply();
+    void endUssd(int failure);
+    void endSessionWithoutModem();
 
     std::mutex m_Mutex;  // guards everything below but what guards itself
     SimulatedSettings m_Settings;

@@ -155,6 +155,7 @@ const NumberSetting<Network> NetworkNumbers[] = {
     {"RATE", &Network::rate, "100000", number<0, Most>, decimal},
     {"USSD", &Network::ussd, "answers", word<Ussds>, wordFor<Ussds>},
     {"USSD_MS", &Network::ussdMs, "300", number<0, LongestMs>, decimal},
+    {"USSD_PATIENCE_MS", &Network::ussdPatienceMs, "0", number<0, LongestMs>, decimal},
 };
 
 // Where the second modem's presets differ.

@@ -61,6 +61,7 @@ struct SimulatedNetwork {
     std::optional<int> rate;
     std::optional<int> ussd;
     std::optional<int> ussdMs;
+    std::optional<int> ussdPatienceMs;  // 0: no end
 };
 
 enum { UnlockChecks, UnlockNotAllowed, UnlockOther };  // SimulatedNetwork::unlock
