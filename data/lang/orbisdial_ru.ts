@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>%1 percent of the limit of %2</source>
-        <translation>%1 процентов лимита в %2</translation>
+        <translation>%1 % лимита в %2</translation>
     </message>
     <message>
         <source>%1, %2:</source>

@@ -4,6 +4,7 @@
 #define ORBISDIAL_TRACE_H
 
 #include <QByteArray>
+#include <QLocale>
 #include <QTime>
 #include <QtGlobal>
 
@@ -11,7 +12,7 @@
 
 // The current time as traces show it; empty when nobody wants traces, since it takes a look at the time zone's file.
 inline QByteArray traceTime() {
-    return isTraceWanted() ? QTime::currentTime().toString("hh:mm:ss:zzz").toLatin1() : QByteArray();
+    return isTraceWanted() ? QLocale::c().toString(QTime::currentTime(), "hh:mm:ss:zzz").toLatin1() : QByteArray();
 }
 
 // Writes "<format>" filled with time, file and function when made, and the exit line when it goes.

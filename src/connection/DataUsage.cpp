@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <memory>
 
 #include "DataConnection.h"
@@ -85,6 +86,9 @@ DataUsage::DataUsage() : DataUsage(userDataFile()) {}
 
 DataUsage::DataUsage(const QString& file, const QString& interfacesFolder)
     : m_File(file), m_Interfaces(interfacesFolder) {}
+
+// The system's own figures would be others with another locale.
+QString DataUsage::nameOf(const QDate& day) { return QLocale::c().toString(day, QStringLiteral("yyyy-MM")); }
 
 DataUsage::Followed DataUsage::met(const DataConnection& connection, const QString& imsi) const {
     const QString folder = m_Interfaces + '/' + connection.interfaceName;

@@ -48,7 +48,7 @@ public:
                                       const QDate& day = QDate::currentDate()) const;
 
     // A month's name in months().
-    static QString nameOf(const QDate& day) { return day.toString(QStringLiteral("yyyy-MM")); }
+    static QString nameOf(const QDate& day);
 
     // The card's limit for a month, both ways together, in bytes; 0: none. A changed limit may warn anew.
     quint64 limit(const QString& imsi) const;

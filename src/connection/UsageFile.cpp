@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 #include <QLockFile>
 #include <QMessageAuthenticationCode>
 #include <QRandomGenerator>
@@ -154,7 +155,8 @@ bool UsageFile::Edit::begin(UsageRecords* records) {
 
 bool UsageFile::Edit::end(const UsageRecords& records) {
     if (m_State->found == Found::Damage) {
-        const QString time = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddTHHmmsszzzZ"));
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const QString time = QLocale::c().toString(now, QStringLiteral("yyyyMMddTHHmmsszzzZ"));
         if (!QFile::rename(m_State->file, m_State->file + ".damaged-" + time)) return false;
     }
     QSaveFile out(m_State->file);

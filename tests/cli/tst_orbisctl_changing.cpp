@@ -386,6 +386,18 @@ private slots:
         }
         QCOMPARE(TestFolder::read(fixture.userFile()).count("<Profile name"), 2 * rounds + 1);
     }
+
+    // Whatever figures the locale has.
+    void damagedFileIsKeptUnderItsTime() {
+        const OrbisctlFixture fixture;
+        TestFolder::write(fixture.userFile(), "<vrksdoc>");
+        const QByteArray locale = qgetenv("LC_ALL");
+        qputenv("LC_ALL", "ar_EG.UTF-8");
+        fixture.run({"add", "X", "phonenumber=*99#"});
+        qputenv("LC_ALL", locale);
+        const QStringList kept = QFileInfo(fixture.userFile()).dir().entryList({"UserProfile.prof.damaged-*"});
+        QCOMPARE(kept.filter(QRegularExpression("-[0-9]{8}T[0-9]{6}Z$")).size(), 1);
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_orbisctl_changing)

@@ -252,6 +252,10 @@ private slots:
             before = month["total"].toDouble();
         }
         QCOMPARE(fixture.run({"-f", "total", "usage", "--months"}).out.trimmed().toDouble(), before);
+        const QByteArray locale = qgetenv("LC_ALL");
+        qputenv("LC_ALL", "ar_EG.UTF-8");  // which has other figures
+        QCOMPARE(fixture.run({"--json", "usage"}).json()["total"].toDouble(), before);
+        qputenv("LC_ALL", locale);
         QVERIFY(fixture.run({"--json", "usage", "--clear"}).json()["limit"].isNull());
     }
 

@@ -10,6 +10,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QHash>
+#include <QLocale>
 #include <QUuid>
 
 namespace {
@@ -317,8 +318,9 @@ DamagedCopy::~DamagedCopy() {
 bool DamagedCopy::make(const QString& path, const QByteArray& content, Purpose purpose, Reason* reason) {
     const int mostNames = 100;
     if (!m_Place.open(path, reason)) return false;
-    const QByteArray stem = m_Place.name() + DamageMark +
-                            QDateTime::currentDateTime().toUTC().toString(QLatin1String("yyyyMMddThhmmssZ")).toLatin1();
+    const QDateTime now = QDateTime::currentDateTime().toUTC();
+    const QString time = QLocale::c().toString(now, QLatin1String("yyyyMMddThhmmssZ"));  // no other figures
+    const QByteArray stem = m_Place.name() + DamageMark + time.toLatin1();
     for (int i = 1; i <= mostNames; ++i) {
         m_Place.setName(i == 1 ? stem : stem + '-' + QByteArray::number(i));
         const Outcome outcome = writeAt(m_Place, content, purpose, OnlyNew, reason);

@@ -5,13 +5,15 @@
 
 #include <QDebug>
 #include <QFontMetrics>
+#include <QLocale>
 #include <QString>
 #include <QTime>
 
 namespace CommonUtilsElide {
 
 inline void trace(const char* format, const char* function, int line) {
-    qDebug(format, QTime::currentTime().toString("hh:mm:ss:zzz").toLatin1().constData(), __FILE__, function, line);
+    const QString time = QLocale::c().toString(QTime::currentTime(), "hh:mm:ss:zzz");
+    qDebug(format, time.toLatin1().constData(), __FILE__, function, line);
 }
 
 // Both templates are this one; they differ in how the widget's text is read and set.
