@@ -3,6 +3,7 @@
 
 #include <dlfcn.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 namespace fs = std::filesystem;
@@ -25,13 +26,30 @@ std::string loaderError() {
     return text ? text : "unknown reason";
 }
 
+// Whoever preloads a library, or brings an allocator of his own, wants all of the process to use it.
+bool isSystemPlain() {
+    const char* preloaded = std::getenv("LD_PRELOAD");
+    void* const system = ::dlopen("libc.so.6", RTLD_LAZY | RTLD_NOLOAD);
+    return !(preloaded && *preloaded) && system && ::dlsym(system, "malloc") == ::dlsym(RTLD_DEFAULT, "malloc");
+}
+
+// A module brings twenty libraries with ten thousand names, each of which is looked for in the program's own twenty
+// libraries before; that is a tenth of what a command does. They look among themselves first where nothing forbids it.
+int loadingFlags() {
+    constexpr int Flags = RTLD_LAZY | RTLD_LOCAL | RTLD_NODELETE;
+#ifdef RTLD_DEEPBIND
+    if (isSystemPlain()) return Flags | RTLD_DEEPBIND;
+#endif
+    return Flags;
+}
+
 }  // namespace
 
 LoadedModule loadBackendModule(const char* name) {
     const fs::path file = moduleFile(name);
     std::error_code ignored;
     if (!fs::exists(file, ignored)) return failed(name, "there is no " + file.string());
-    void* library = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    void* library = ::dlopen(file.c_str(), loadingFlags());
     if (!library) return failed(name, loaderError());
     const auto* module = static_cast<const BackendModule*>(::dlsym(library, ORBISDIAL_BACKEND_MODULE_NAME));
     if (!module) return failed(name, loaderError());
