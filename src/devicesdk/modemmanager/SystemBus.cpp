@@ -21,20 +21,16 @@ void SystemBus::drop() {
     m_Connection.reset();
 }
 
+// Waited for, since there is nothing to be done without a bus: GLib's other way is to wait on two more threads.
 void SystemBus::connect() {
     const Text where = address();
     if (!where) return lose();
-    g_dbus_connection_new_for_address(where.get(), ConnectionFlags, nullptr, nullptr, onConnected, this);
-}
-
-void SystemBus::onConnected(GObject*, GAsyncResult* result, gpointer data) {
-    Ref<GDBusConnection> connection(g_dbus_connection_new_for_address_finish(result, nullptr));
-    auto* self = static_cast<SystemBus*>(data);
-    if (!connection) return self->lose();
-    self->m_Pause = 0;
-    self->m_Connection = std::move(connection);
-    g_signal_connect_swapped(self->m_Connection.get(), "closed", G_CALLBACK(onClosed), self);
-    self->m_Handlers.came(self->m_Connection.get());
+    m_Connection.reset(
+        g_dbus_connection_new_for_address_sync(where.get(), ConnectionFlags, nullptr, m_Connecting.get(), nullptr));
+    if (!m_Connection) return lose();
+    m_Pause = 0;
+    g_signal_connect_swapped(m_Connection.get(), "closed", G_CALLBACK(onClosed), this);
+    m_Handlers.came(m_Connection.get());
 }
 
 void SystemBus::onClosed(SystemBus* self) { self->lose(); }

@@ -23,11 +23,13 @@ public:
 
     void connect();
 
+    // From another thread: ends what the thread may be waiting for, so that it can be stopped.
+    void interrupt() { m_Connecting.cancel(); }
+
     // On the thread: gives the connection up for good.
     void drop();
 
 private:
-    static void onConnected(GObject* source, GAsyncResult* result, gpointer self);
     static void onClosed(SystemBus* self);
     void retryLater();
     void lose();
@@ -35,6 +37,7 @@ private:
     WorkerThread& m_Thread;
     Handlers m_Handlers;
     Ref<GDBusConnection> m_Connection;
+    Cancellation m_Connecting;
     unsigned int m_Pause = 0;  // before the next attempt, milliseconds
 };
 
