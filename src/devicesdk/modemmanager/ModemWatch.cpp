@@ -11,6 +11,9 @@ namespace {
 // Long enough for all that the daemon tells in one go, too short to be felt.
 constexpr unsigned int ChangesTogether = 10;  // milliseconds
 
+// A modem is not asked for data profiles by each command that has ended by then.
+constexpr unsigned int ProfilesMs = 300;
+
 std::string deviceOf(MMObject* object) { return textOf(mm_modem_get_device(mm_object_peek_modem(object))); }
 
 std::string pathOf(MMObject* object) { return textOf(mm_object_get_path(object)); }
@@ -36,7 +39,7 @@ struct ModemWatch::Request {
 };
 
 ModemWatch::ModemWatch(WorkerThread& thread, std::function<void()> changed)
-    : m_Thread(thread), m_Changed(std::move(changed)) {}
+    : m_Thread(thread), m_Changed(std::move(changed)), m_ProfilesDue(thread) {}
 
 void ModemWatch::unwatchName() {
     if (m_NameWatch) g_bus_unwatch_name(std::exchange(m_NameWatch, 0));
@@ -101,6 +104,7 @@ void ModemWatch::dropManager() {
             g_signal_handlers_disconnect_by_data(profiles, this);
     });
     m_Profiles.clear();
+    m_ProfilesDue.stop();
     if (m_Manager) g_signal_handlers_disconnect_by_data(m_Manager.get(), this);
     m_Manager.reset();
 }
@@ -182,13 +186,21 @@ void ModemWatch::onCard(GObject* source, GAsyncResult* result, gpointer data) {
     request->watch->refresh();
 }
 
-// The daemon answers when the modem is switched on.
+// The daemon answers when the modem is switched on. Null also where there is nothing to ask.
+MMModem3gppProfileManager* ModemWatch::unaskedProfiles(MMObject* object) {
+    if (mm_modem_get_state(mm_object_peek_modem(object)) < MM_MODEM_STATE_ENABLED) return nullptr;
+    return m_Profiles[pathOf(object)].isAsked ? nullptr : mm_object_peek_modem_3gpp_profile_manager(object);
+}
+
 void ModemWatch::followProfiles(MMObject* object) {
-    auto* manager = mm_object_peek_modem_3gpp_profile_manager(object);
-    if (!manager || mm_modem_get_state(mm_object_peek_modem(object)) < MM_MODEM_STATE_ENABLED) return;
-    Profiles& profiles = m_Profiles[pathOf(object)];
-    if (profiles.isAsked) return;
-    profiles.isAsked = true;
+    if (!unaskedProfiles(object) || m_ProfilesDue.isRunning()) return;
+    m_ProfilesDue.start(ProfilesMs, [this] { forEachModem([this](MMObject* one) { askProfiles(one); }); });
+}
+
+void ModemWatch::askProfiles(MMObject* object) {
+    auto* manager = unaskedProfiles(object);
+    if (!manager) return;
+    m_Profiles[pathOf(object)].isAsked = true;
     g_signal_handlers_disconnect_by_data(manager, this);
     g_signal_connect_swapped(manager, "updated", G_CALLBACK(onProfilesUpdated), this);
     mm_modem_3gpp_profile_manager_list(manager, m_Cancellation.get(), onProfiles,

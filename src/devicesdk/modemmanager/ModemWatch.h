@@ -11,6 +11,7 @@
 
 #include "Known.h"
 #include "Ref.h"
+#include "Timer.h"
 #include "WorkerThread.h"
 
 // Everything but its making and what says so happens on the thread.
@@ -45,7 +46,7 @@ private:
         bool isFinished = false;  // it came, or can't be had
     };
 
-    // Data profiles, asked for when the modem is there, and when they change.
+    // Data profiles, asked for soon after the modem is there, and when they change.
     struct Profiles {
         std::optional<KnownCredentials> first;
         bool isAsked = false;
@@ -70,6 +71,8 @@ private:
     void follow(MMObject* object);
     void followCard(MMObject* object, MMModem* modem);
     void followProfiles(MMObject* object);
+    void askProfiles(MMObject* object);
+    MMModem3gppProfileManager* unaskedProfiles(MMObject* object);
     void changeSoon();
 
     template <class Function>
@@ -85,6 +88,7 @@ private:
     Ref<MMManager> m_Manager;
     std::map<std::string, Card> m_Cards;         // by the modem's path
     std::map<std::string, Profiles> m_Profiles;  // by the modem's path
+    Timer m_ProfilesDue;
     GSource* m_ChangeSource = nullptr;
     bool m_IsAnswered = false;  // there is no daemon, or it has told its modems
     Cancellation m_Cancellation;
