@@ -16,27 +16,19 @@ ModemManagerBackend::ModemManagerBackend(EventSink& events, Condition condition)
     m_Thread.invoke([this] { m_Bus.connect(); });
 }
 
-// Until somebody offers ModemManager nothing is asked of it.
+// NetworkManager first: it takes longest to answer, and does so while ModemManager's modems are read, which nothing
+// else on the thread can happen beside. Until somebody offers ModemManager nothing is asked of it.
 void ModemManagerBackend::connected(GDBusConnection* bus) {
-    if (!m_Offer || m_IsOffered) return busCame(bus);
+    m_Connecting->busCame(bus);
+    if (!m_Offer || m_IsOffered) return m_Watch.busCame(bus);
     m_Offer->ask(bus, [this, bus] {
         m_IsOffered = true;
-        busCame(bus);
+        m_Watch.busCame(bus);
     });
 }
 
 void ModemManagerBackend::disconnected() {
     if (m_Offer) m_Offer->deny();
-    busWent();
-}
-
-// ModemManager is asked first: NetworkManager takes longer to answer, and nothing of it waits for a modem.
-void ModemManagerBackend::busCame(GDBusConnection* bus) {
-    m_Watch.busCame(bus);
-    m_Connecting->busCame(bus);
-}
-
-void ModemManagerBackend::busWent() {
     m_Connecting->busWent();
     m_Watch.busWent();
 }
@@ -94,6 +86,7 @@ Traffic ModemManagerBackend::traffic() { return m_Connecting->traffic(); }
 // What there is on the bus and in memory ends with the process; to take it apart would take a command as long as to ask
 // for it.
 void ModemManagerBackend::stop() {
+    m_Bus.interrupt();
     m_Watch.interrupt();
     m_Thread.stop([this] {
         m_Ussd.stop();

@@ -53,8 +53,6 @@ private:
 
     void connected(GDBusConnection* bus);
     void disconnected();
-    void busCame(GDBusConnection* bus);
-    void busWent();
     void describe();
     std::string wanted();
     void tellModemInUse();
