@@ -2088,10 +2088,6 @@
         <translation>لا مصدر لمعلومات أجهزة المودم</translation>
     </message>
     <message>
-        <source>%1 does not answer</source>
-        <translation>%1 لا يستجيب</translation>
-    </message>
-    <message>
         <source>nothing has been counted yet</source>
         <translation>لم يُحسب شيء بعد</translation>
     </message>

@@ -2088,10 +2088,6 @@ MIT-Lizenz. Erstellt mit Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) und der ge
         <translation>über Modems gibt nichts Auskunft</translation>
     </message>
     <message>
-        <source>%1 does not answer</source>
-        <translation>%1 antwortet nicht</translation>
-    </message>
-    <message>
         <source>nothing has been counted yet</source>
         <translation>es wurde noch nichts gezählt</translation>
     </message>

@@ -2088,10 +2088,6 @@ Licencia MIT. Hecho con Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) y la base d
         <translation>nada informa de los módems</translation>
     </message>
     <message>
-        <source>%1 does not answer</source>
-        <translation>%1 no responde</translation>
-    </message>
-    <message>
         <source>nothing has been counted yet</source>
         <translation>aún no se ha contado nada</translation>
     </message>

@@ -2088,10 +2088,6 @@ Licence MIT. Réalisé avec Qt %1 (LGPL), libsodium (ISC), ICU (Unicode) et la b
         <translation>rien ne renseigne sur les modems</translation>
     </message>
     <message>
-        <source>%1 does not answer</source>
-        <translation>%1 ne répond pas</translation>
-    </message>
-    <message>
         <source>nothing has been counted yet</source>
         <translation>rien n'a encore été compté</translation>
     </message>

@@ -2088,10 +2088,6 @@
         <translation>сведений о модемах получить неоткуда</translation>
     </message>
     <message>
-        <source>%1 does not answer</source>
-        <translation>%1 не отвечает</translation>
-    </message>
-    <message>
         <source>nothing has been counted yet</source>
         <translation>пока ничего не подсчитано</translation>
     </message>

@@ -2088,10 +2088,6 @@ MIT 许可证。使用 Qt %1 (LGPL)、libsodium (ISC)、ICU (Unicode) 以及公�
         <translation>无法获得调制解调器信息</translation>
     </message>
     <message>
-        <source>%1 does not answer</source>
-        <translation>%1 没有响应</translation>
-    </message>
-    <message>
         <source>nothing has been counted yet</source>
         <translation>尚无任何流量记录</translation>
     </message>

@@ -232,7 +232,7 @@ void watch(Output& output) {
     const EventWait events;
     QJsonObject shown;
     do {
-        const DataConnection connection = DataConnection::current();
+        const DataConnection connection = ConnectionReport::present();
         const QJsonObject now = ConnectionReport::lasting(connection);
         if (now != shown) output.result(ConnectionReport::object(connection), {ConnectionReport::line(connection)});
         shown = now;
@@ -283,6 +283,10 @@ void disconnect(const Invocation& invocation, Output& output) {
 void showStatus(const Invocation& invocation, Output& output) {
     ConnectionReport::requireKnown();
     if (invocation.isSet("watch")) return watch(output);
-    const DataConnection connection = DataConnection::current();
-    output.result(ConnectionReport::object(connection), {ConnectionReport::line(connection)});
+    const DataConnection connection = ConnectionReport::present();
+    const bool isUnknown = connection.failure == VRKS_FAILURE_NO_MODEM_SERVICE;
+    QStringList lines;
+    if (!isUnknown) lines.append(ConnectionReport::line(connection));
+    output.result(ConnectionReport::object(connection), lines);
+    if (isUnknown) throw ConnectionReport::error(connection);
 }

@@ -8,6 +8,7 @@
 
 #include "ConnectionText.h"
 #include "Message.h"
+#include "ModemReport.h"
 #include "Platform.h"
 
 namespace {
@@ -102,9 +103,23 @@ CommandError::ExitStatus exitStatus(int failure) {
 
 }  // namespace
 
+CommandError ConnectionReport::silence(int failure, const QString& withoutBackend) {
+    if (!Platform::asksDaemons()) return CommandError::failed(withoutBackend);
+    DataConnection none;
+    none.failure = failure;
+    return error(none);
+}
+
 void ConnectionReport::requireKnown() {
     if (!DataConnection::current().isKnown)
-        throw Platform::silence("NetworkManager", message("nothing can tell of connections"));
+        throw silence(VRKS_FAILURE_NO_NETWORK_SERVICE, message("nothing can tell of connections"));
+}
+
+DataConnection ConnectionReport::present() {
+    DataConnection connection = DataConnection::current();
+    const bool isWithoutReason = connection.isDown() && connection.failure == VRKS_FAILURE_NONE;
+    if (isWithoutReason && ModemReport::isServiceMissing()) connection.failure = VRKS_FAILURE_NO_MODEM_SERVICE;
+    return connection;
 }
 
 QJsonObject ConnectionReport::lasting(const DataConnection& connection) {

@@ -11,8 +11,15 @@
 
 namespace ConnectionReport {
 
+// Why nothing can tell: as connecting would fail without the daemon that is to tell; or there is no backend that could
+// ask one.
+CommandError silence(int failure, const QString& withoutBackend);
+
 // Throws a CommandError when nothing can tell.
 void requireKnown();
+
+// The one that there is. None of a modem that nobody can tell of has failed for that reason.
+DataConnection present();
 
 // Its state and all that belongs to it; null for what is unknown or not there.
 QJsonObject object(const DataConnection& connection);

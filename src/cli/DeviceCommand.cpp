@@ -82,7 +82,7 @@ const DeviceRow DeviceRows[] = {
 
 QJsonValue nullIfEmpty(const QString& text) { return text.isEmpty() ? QJsonValue() : text; }
 
-// What a daemon that hangs keeps to itself was shown as unknown.
+// What a daemon that is not there, or hangs, keeps to itself was shown as unknown.
 void requireAnswers() {
     if (!Platform::asksDaemons()) return;
     ModemReport::required();
@@ -98,7 +98,7 @@ QJsonValue addModem(QStringList* lines) {
 }
 
 QJsonValue addConnection(QStringList* lines) {
-    const DataConnection connection = DataConnection::current();
+    const DataConnection connection = ConnectionReport::present();
     if (!connection.isKnown) return QJsonValue();
     lines->append(ModemReport::line(QT_TRANSLATE_NOOP("Programs", "connection"), ConnectionReport::line(connection)));
     return ConnectionReport::object(connection);

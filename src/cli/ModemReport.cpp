@@ -4,6 +4,7 @@
 #include <QJsonValue>
 
 #include "CommandError.h"
+#include "ConnectionReport.h"
 #include "Message.h"
 #include "Platform.h"
 #include "TerminalText.h"
@@ -99,6 +100,8 @@ Info emptyInfo() {
 
 }  // namespace
 
+bool ModemReport::isServiceMissing() { return Platform::asksDaemons() && !ModemState::current().isKnown; }
+
 bool ModemReport::current(VRKS_ModemInfo* info) {
     *info = emptyInfo();
     return VRKS_DevSrv_GetModemInfo(info) == 0;
@@ -106,8 +109,8 @@ bool ModemReport::current(VRKS_ModemInfo* info) {
 
 VRKS_ModemInfo ModemReport::required() {
     VRKS_ModemInfo info;
-    if (!current(&info)) throw Platform::silence("ModemManager", message("nothing can tell of modems"));
-    return info;
+    if (current(&info) && !isServiceMissing()) return info;
+    throw ConnectionReport::silence(VRKS_FAILURE_NO_MODEM_SERVICE, message("nothing can tell of modems"));
 }
 
 QList<VRKS_ModemInfo> ModemReport::all() {

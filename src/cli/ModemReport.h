@@ -11,6 +11,9 @@
 
 namespace ModemReport {
 
+// Whether the daemon that knows real modems is not there, or hangs.
+bool isServiceMissing();
+
 // The one in use; false when nothing can tell of modems.
 bool current(VRKS_ModemInfo* info);
 

@@ -97,10 +97,6 @@ QStringList Platform::deviceKinds() { return {"simulated", "modemmanager", "none
 
 bool Platform::asksDaemons() { return qstrcmp(vrks_backend_name(nullptr), "modemmanager") == 0; }
 
-CommandError Platform::silence(const QString& daemon, const QString& without) {
-    return CommandError::failed(asksDaemons() ? message("%1 does not answer", {daemon}) : without);
-}
-
 QString Platform::dataFolderProblem() {
     unsigned short* directory = nullptr;
     const long status = VRKS_GetUserDataDirectory(&directory);

@@ -29,9 +29,6 @@ QStringList deviceKinds();
 // Whether modems and connections are daemons' to tell, as those of real modems are.
 bool asksDaemons();
 
-// Why nothing can tell: the daemon that the backend asks is silent, or there is no backend that could be asked.
-CommandError silence(const QString& daemon, const QString& without);
-
 // Why the data folder can't be had, which is made when it is missing; null when it can.
 QString dataFolderProblem();
 

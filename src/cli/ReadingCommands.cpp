@@ -9,6 +9,7 @@
 #include "Commands.h"
 #include "ConnectionText.h"
 #include "Message.h"
+#include "ModemReport.h"
 #include "Output.h"
 #include "ProfileSession.h"
 #include "TerminalText.h"
@@ -31,6 +32,9 @@ QJsonObject describe(const DialupProfile& profile, bool showsSecrets, QStringLis
     return object;
 }
 
+// Presets are missing then, and the user is told as by every other command.
+QString withoutCard() { return ConnectionText::failure(VRKS_FAILURE_NO_MODEM_SERVICE, QString()); }
+
 }  // namespace
 
 void listProfiles(const Invocation&, Output& output) {
@@ -48,6 +52,7 @@ void listProfiles(const Invocation&, Output& output) {
     }
     output.result({{"profiles", profiles}}, lines);
     session.finish();
+    if (ModemReport::isServiceMissing()) printWarning(withoutCard());
 }
 
 void showProfiles(const Invocation& invocation, Output& output) {

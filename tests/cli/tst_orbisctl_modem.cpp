@@ -61,6 +61,25 @@ private slots:
         COMPARE_DONE(fixture.run({"modem", "/simulated/2"}));  // again is no error
     }
 
+    // Every command says what connect says.
+    void withoutTheService_data() {
+        const Rows<QStringList, QByteArray> row("arguments", "out");
+        for (const char* command : {"connect", "status", "modems", "modem", "pin", "puk", "balance", "usage"})
+            row(command, {command}, "");
+        row("ussd", {"ussd", "*100#"}, "");
+        row("for a script", {"-f", "state,failure", "status"}, "down\tno-modem-service\n");
+        row("device", {"-f", "status,imsi", "device"}, "\t\n");
+    }
+
+    void withoutTheService() {
+        const OrbisctlFixture fixture;
+        qputenv("ORBISDIAL_DEVICE", "modemmanager");
+        const Outcome outcome = fixture.run(cell<QStringList>("arguments"));
+        if (outcome.err.contains("can't be loaded")) QSKIP("built without real modems");
+        COMPARE_REFUSED(outcome, 1, "(ModemManager) is not running");
+        QCOMPARE(outcome.out, cell<QByteArray>("out"));
+    }
+
     void unlocking_data() {
         const Rows<QStringList, QStringList, QByteArray, int, QByteArray> row("card", "arguments", "input", "status",
                                                                               "words");
