@@ -136,6 +136,11 @@ private slots:
         QVERIFY(!hasLink());
         QVERIFY(connection().sent >= last.sent && connection().received >= last.received);
         QCOMPARE(connection().interfaceName, "");
+
+        QVERIFY(dial());
+        QVERIFY(connection().sent == 0 && connection().received == 0);
+        QVERIFY(hangUp());
+        TRY_DOWN(VRKS_FAILURE_CANCELLED);
     }
 
     void failures_data() {

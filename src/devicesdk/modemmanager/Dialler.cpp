@@ -131,6 +131,7 @@ bool Dialler::dial(const DialRequest& request) {
         if (refusal.failure == VRKS_FAILURE_NONE) {
             connection.state = VRKS_CONNECTION_DIALLING;
             connection.step = VRKS_STEP_PREPARING;
+            m_Counters.forget();
             ++m_WaitingDials;
         }
         picture.connection = connection;
@@ -267,7 +268,7 @@ void Dialler::adopt(NMActiveConnection* connection) {
     m_Watch->follow(connection);
     const GPtrArray* devices = nm_active_connection_get_devices(connection);
     if (devices && devices->len > 0) m_Watch->follow(static_cast<NMDevice*>(devices->pdata[0]));
-    m_Counters.stop();
+    m_Counters.forget();
     m_Phase = Phase::Activating;
     followModem();
     takePulse();

@@ -26,11 +26,20 @@ std::optional<Traffic> countersOf(const std::string& interfaceName) {
     return Traffic{*received, *sent};
 }
 
-void InterfaceCounters::beginAnew() {
+void InterfaceCounters::forget() {
     const std::lock_guard lock(m_Mutex);
+    clear();
+}
+
+void InterfaceCounters::clear() {
     m_Before.clear();
     m_Interface.clear();
     m_Last = {};
+}
+
+void InterfaceCounters::beginAnew() {
+    const std::lock_guard lock(m_Mutex);
+    clear();
     std::error_code error;
     for (const fs::directory_entry& entry : fs::directory_iterator(InterfacesFolder, error)) {
         const std::string name = entry.path().filename();

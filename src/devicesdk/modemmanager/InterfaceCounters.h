@@ -16,6 +16,9 @@ std::optional<Traffic> countersOf(const std::string& interfaceName);
 // Counts one connection after the other. Every operation is safe from any thread.
 class InterfaceCounters {
 public:
+    // Another connection is on its way, which has moved nothing yet.
+    void forget();
+
     // A connection is about to be made: what the interfaces have counted so far is none of its own.
     void beginAnew();
 
@@ -28,6 +31,7 @@ public:
     Traffic get();
 
 private:
+    void clear();
     void read();
 
     std::mutex m_Mutex;  // guards what follows
