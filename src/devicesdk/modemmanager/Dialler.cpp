@@ -111,6 +111,7 @@ void Dialler::stop() { wipe(m_Dialled.request.password); }
 
 void Dialler::modemChanged() {
     followModem();
+    if (m_Modem.get() && m_Watch && !m_Watch->hasBegun()) m_SessionStart.prepare(m_Modem.get());
     updateSoon();
 }
 

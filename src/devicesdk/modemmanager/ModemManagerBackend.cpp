@@ -20,10 +20,10 @@ ModemManagerBackend::ModemManagerBackend(EventSink& events, Condition condition)
 // else on the thread can happen beside. Until somebody offers ModemManager nothing is asked of it.
 void ModemManagerBackend::connected(GDBusConnection* bus) {
     m_Connecting->busCame(bus);
-    if (!m_Offer || m_IsOffered) return m_Watch.busCame(bus);
-    m_Offer->ask(bus, [this, bus] {
+    if (!m_Offer || m_IsOffered) return m_Watch.busCame(bus, false);
+    m_Offer->ask(bus, [this, bus](bool isRunning) {
         m_IsOffered = true;
-        m_Watch.busCame(bus);
+        m_Watch.busCame(bus, isRunning);
     });
 }
 

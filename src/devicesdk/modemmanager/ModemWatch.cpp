@@ -53,10 +53,10 @@ void ModemWatch::giveUpChange() {
 }
 
 // A daemon that can be started is, since it finds no modem while it does not run.
-void ModemWatch::busCame(GDBusConnection* bus) {
+void ModemWatch::busCame(GDBusConnection* bus, bool isRunning) {
     m_Bus = bus;
-    m_NameWatch = g_bus_watch_name_on_connection(bus, MM_DBUS_SERVICE, G_BUS_NAME_WATCHER_FLAGS_AUTO_START, onAppeared,
-                                                 onVanished, this, nullptr);
+    const auto flags = isRunning ? G_BUS_NAME_WATCHER_FLAGS_NONE : G_BUS_NAME_WATCHER_FLAGS_AUTO_START;
+    m_NameWatch = g_bus_watch_name_on_connection(bus, MM_DBUS_SERVICE, flags, onAppeared, onVanished, this, nullptr);
 }
 
 void ModemWatch::busWent() {

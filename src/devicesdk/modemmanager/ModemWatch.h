@@ -22,7 +22,8 @@ public:
     ModemWatch(const ModemWatch&) = delete;
     ModemWatch& operator=(const ModemWatch&) = delete;
 
-    void busCame(GDBusConnection* bus);
+    // A daemon that does not run is started where it can be.
+    void busCame(GDBusConnection* bus, bool isRunning);
     void busWent();
 
     // From another thread: ends what the thread may be waiting for, so that it can be stopped.

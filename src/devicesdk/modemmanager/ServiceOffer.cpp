@@ -15,7 +15,7 @@ Variant answerOf(GObject* bus, GAsyncResult* result, bool* isCancelledCall) {
 
 }  // namespace
 
-void ServiceOffer::ask(GDBusConnection* bus, std::function<void()> offered) {
+void ServiceOffer::ask(GDBusConnection* bus, std::function<void(bool isRunning)> offered) {
     m_Offered = std::move(offered);
     call(bus, "NameHasOwner", g_variant_new("(s)", m_Name), onOwner);
 }
@@ -35,7 +35,7 @@ void ServiceOffer::onOwner(GObject* bus, GAsyncResult* result, gpointer data) {
     const Variant hasOwner = answerOf(bus, result, &isGone);
     if (isGone) return;
     auto* self = static_cast<ServiceOffer*>(data);
-    if (hasOwner && g_variant_get_boolean(hasOwner.get())) return self->tell(true);
+    if (hasOwner && g_variant_get_boolean(hasOwner.get())) return self->tell(Running);
     self->call(G_DBUS_CONNECTION(bus), "ListActivatableNames", nullptr, onNames);
 }
 
@@ -45,11 +45,11 @@ void ServiceOffer::onNames(GObject* bus, GAsyncResult* result, gpointer data) {
     if (isGone) return;
     auto* self = static_cast<ServiceOffer*>(data);
     const std::unique_ptr<const char*, Free> list(names ? g_variant_get_strv(names.get(), nullptr) : nullptr);
-    self->tell(list && g_strv_contains(list.get(), self->m_Name));
+    self->tell(list && g_strv_contains(list.get(), self->m_Name) ? Startable : Absent);
 }
 
-void ServiceOffer::tell(bool isOffered) {
+void ServiceOffer::tell(Found found) {
     if (std::exchange(m_IsTold, true)) return;
-    if (isOffered) m_Offered();
-    m_Answer.set_value(isOffered);
+    if (found != Absent) m_Offered(found == Running);
+    m_Answer.set_value(found != Absent);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SessionStart.h"
 
+#include <utility>
+
 namespace {
 
 // 0: it has none.
@@ -15,10 +17,27 @@ std::int64_t startOf(GVariant* bearer) {
 
 }  // namespace
 
-// Not through the bearers' own objects, which take three answers each to be made.
 void SessionStart::ask(MMModem* modem, Answer answer) {
-    m_Cancellation.renew();
+    if (modem != std::exchange(m_Prepared, nullptr)) begin(modem);
     m_Answer = std::move(answer);
+    if (m_Due == 0) m_Answer(m_Start);
+}
+
+void SessionStart::prepare(MMModem* modem) {
+    if (modem == m_Prepared || mm_modem_get_state(modem) != MM_MODEM_STATE_CONNECTED) return;
+    begin(modem);
+    m_Prepared = modem;
+}
+
+void SessionStart::giveUp() {
+    m_Cancellation.renew();
+    m_Prepared = nullptr;
+}
+
+// Not through the bearers' own objects, which take three answers each to be made.
+void SessionStart::begin(MMModem* modem) {
+    giveUp();
+    m_Answer = nullptr;
     m_Due = 0;
     m_Start = 0;
     auto* proxy = G_DBUS_PROXY(modem);
@@ -28,7 +47,6 @@ void SessionStart::ask(MMModem* modem, Answer answer) {
                                "org.freedesktop.DBus.Properties", "GetAll",
                                g_variant_new("(s)", MM_DBUS_INTERFACE_BEARER), G_VARIANT_TYPE("(a{sv})"),
                                G_DBUS_CALL_FLAGS_NONE, -1, m_Cancellation.get(), onAnswered, this);
-    if (m_Due == 0) m_Answer(0);
 }
 
 void SessionStart::onAnswered(GObject* bus, GAsyncResult* result, gpointer data) {
@@ -41,5 +59,5 @@ void SessionStart::onAnswered(GObject* bus, GAsyncResult* result, gpointer data)
         const Variant bearer(g_variant_get_child_value(answer.get(), 0));
         if (const std::int64_t start = startOf(bearer.get())) self->m_Start = start;
     }
-    if (--self->m_Due == 0) self->m_Answer(self->m_Start);
+    if (--self->m_Due == 0 && self->m_Answer) self->m_Answer(self->m_Start);
 }

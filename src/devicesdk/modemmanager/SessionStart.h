@@ -17,11 +17,17 @@ public:
 
     // Of the modem's connected bearer. An answer that is still due to an earlier call never comes.
     void ask(MMModem* modem, Answer answer);
-    void giveUp() { m_Cancellation.renew(); }
+
+    // Begins what ask() will want for this modem, where that may be soon.
+    void prepare(MMModem* modem);
+
+    void giveUp();
 
 private:
+    void begin(MMModem* modem);
     static void onAnswered(GObject* bus, GAsyncResult* result, gpointer self);
 
+    MMModem* m_Prepared = nullptr;  // only to be compared
     Answer m_Answer;
     unsigned m_Due = 0;        // answers
     std::int64_t m_Start = 0;  // as those that came tell
