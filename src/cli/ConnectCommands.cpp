@@ -4,11 +4,14 @@
 #include <unistd.h>
 #include <vrks_simulated.h>
 
+#include "AutoConnectPolicy.h"
 #include "Command.h"
 #include "CommandError.h"
 #include "Commands.h"
 #include "ConnectionReport.h"
+#include "ConnectionSettings.h"
 #include "ConnectionText.h"
+#include "CredentialsMark.h"
 #include "DialCall.h"
 #include "EventWait.h"
 #include "HiddenInput.h"
@@ -102,7 +105,8 @@ public:
 
     void run(const Wanted& wanted) {
         begin(wanted);
-        const DataConnection connection = waitUntilUp();
+        const DataConnection connection = waitForOutcome();
+        keepOutcome(wanted, connection);
         if (!connection.isUp()) throw ConnectionReport::error(connection);
         m_Volume.follow();
         warn({ConnectionText::addressNote(wanted.profile, connection)});
@@ -117,7 +121,8 @@ private:
         if (isThere(wanted.name)) return;
         warn(ConnectionText::notes(wanted.profile));
         const DialCall call(wanted.profile, wanted.name, m_bHolds);
-        if (call.dial() == 0 || isThere(wanted.name)) return;  // another program may have been faster
+        m_bHasDialled = call.dial() == 0;
+        if (m_bHasDialled || isThere(wanted.name)) return;  // another program may have been faster
         throw ConnectionReport::error(DataConnection::current());
     }
 
@@ -131,14 +136,22 @@ private:
         throw CommandError::refused(message(text, {quoted(present.name)}));
     }
 
-    DataConnection waitUntilUp() {
+    DataConnection waitForOutcome() {
         for (;;) {
             const DataConnection connection = DataConnection::current();
             if (connection.isUp()) return withAddress(connection);
-            if (connection.isDown()) throw ConnectionReport::error(connection);
+            if (connection.isDown()) return connection;
             showStep(connection);
             waitForMore(QT_TRANSLATE_NOOP("Programs", "no connection in time"));
         }
+    }
+
+    // A window does not try by itself what the network refused here.
+    void keepOutcome(const Wanted& wanted, const DataConnection& connection) const {
+        const bool isRefused = connection.isDown() && AutoConnectPolicy::isRefusal(connection.failure);
+        if (!m_bHasDialled || !(isRefused || connection.isUp()) || !AutoConnectSettings::isOn(wanted.name)) return;
+        if (!AutoConnectSettings::setRefused(wanted.name, isRefused ? CredentialsMark::of(wanted.profile) : QString()))
+            printWarning(message("the settings of automatic connection can't be stored"));
     }
 
     // Services tell the address a moment after the connection is up.
@@ -216,6 +229,7 @@ private:
     const EndingSignals m_Signals;
     const EventWait m_Events;
     VolumeCount m_Volume;
+    bool m_bHasDialled = false;
     QString m_Step;
 };
 

@@ -72,9 +72,11 @@ void AutoConnectPolicy::forgetFailures() {
     m_NotBefore = 0;
 }
 
+bool AutoConnectPolicy::isRefusal(int failure) { return consequenceOf(failure) == Consequence::Refused; }
+
 bool AutoConnectPolicy::observe(const DataConnection& connection, qint64 now) {
     const bool wasThere = !m_Last.isDown();
-    const bool isRefused = wasThere && connection.isDown() && consequenceOf(connection.failure) == Consequence::Refused;
+    const bool isRefused = wasThere && connection.isDown() && isRefusal(connection.failure);
     if (connection.isUp() && !m_UpSince) m_UpSince = now;
     if (wasThere && connection.isDown()) ended(connection, now);
     // In another program, which found none that was up.

@@ -41,6 +41,9 @@ public:
         bool mustAsk = false;
     };
 
+    // Whether this VRKS_FAILURE_... is the network's word on user name, password or PIN.
+    static bool isRefusal(int failure);
+
     // Times are milliseconds of any clock that only goes forward.
 
     // The user begins to connect with a profile; whether that one is to connect by itself.
@@ -63,8 +66,7 @@ public:
     // Profiles, settings or the modem changed in a way that makes a failure worth another attempt.
     void forgetFailures();
 
-    // The connection as it is now; each change of it must be told. Answers the credentials' refusal: true once when the
-    // network refused user name, password or PIN of the connection.
+    // The connection as it is now; each change of it must be told. Answers true once when it ended by a refusal.
     bool observe(const DataConnection& connection, qint64 now);
 
     AutoConnectDecision decide(const Candidate& candidate, const ModemState& modem, qint64 now) const;

@@ -208,6 +208,23 @@ private slots:
         COMPARE_REFUSED(fixture.run({"autoconnect", "Alpha", "off", "--roaming"}), 2, "--roaming");
     }
 
+    // Accounts get locked; a window must not try the same again.
+    void refusedCredentialsAreKept() {
+        const OrbisctlFixture fixture;
+        fixture.writeUser("<Profile name='Own' phonenumber='*99#' user='me'/>");
+        const SimulatedSettings settings({"DIAL_USER=you"});
+        const auto waits = [&] { return fixture.run({"--json", "autoconnect", "Own"}).json()["refused"].toBool(); };
+        QCOMPARE(fixture.run({"connect", "Own"}).status, 4);
+        COMPARE_DONE(fixture.run({"autoconnect", "Own", "on"}));
+        QVERIFY(!waits());
+        QCOMPARE(fixture.run({"connect", "Own"}).status, 4);
+        QVERIFY(waits());
+        COMPARE_DONE(fixture.run({"set", "Own", "user=you"}));
+        QVERIFY(!waits());
+        COMPARE_DONE(fixture.run({"connect", "Own"}));
+        QVERIFY(!waits());
+    }
+
     void usage_data() {
         const Rows<QStringList, QStringList, int, QByteArray> row("modem", "arguments", "status", "words");
         row("nothing", {}, {}, 0, "0 B together\nno limit is set\n");
