@@ -2,6 +2,7 @@
 #include "BackendLoader.h"
 
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -33,12 +34,16 @@ bool isSystemPlain() {
     return !(preloaded && *preloaded) && system && ::dlsym(system, "malloc") == ::dlsym(RTLD_DEFAULT, "malloc");
 }
 
+// A command waits for the module on its first thread; a window has it loaded beside its own start.
+bool isAwaited() { return ::gettid() == ::getpid(); }
+
 // A module brings twenty libraries with ten thousand names, each of which is looked for in the program's own twenty
 // libraries before; that is a tenth of what a command does. They look among themselves first where nothing forbids it.
+// Not in a window: what the bus has to tell would come sooner, and take the processors from the first paint.
 int loadingFlags() {
     constexpr int Flags = RTLD_LAZY | RTLD_LOCAL | RTLD_NODELETE;
 #ifdef RTLD_DEEPBIND
-    if (isSystemPlain()) return Flags | RTLD_DEEPBIND;
+    if (isAwaited() && isSystemPlain()) return Flags | RTLD_DEEPBIND;
 #endif
     return Flags;
 }
