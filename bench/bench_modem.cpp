@@ -87,8 +87,8 @@ void windowPaint(benchmark::State& state, bool isFrozen) {
     Measure::comparePaints(state, withEnvironment(Real, {HOST_WINDOW}), withEnvironment(NoModem, {HOST_WINDOW}));
     if (isFrozen) Measure::require(stack().thaw("ModemManager"), "thawing the daemon");
 }
-BENCHMARK_CAPTURE(windowPaint, up, false)->UseManualTime()->Iterations(15);
-BENCHMARK_CAPTURE(windowPaint, frozen, true)->UseManualTime()->Iterations(15);
+BENCHMARK_CAPTURE(windowPaint, up, false)->UseManualTime()->Iterations(41);
+BENCHMARK_CAPTURE(windowPaint, frozen, true)->UseManualTime()->Iterations(41);
 
 // --- a change ---
 
