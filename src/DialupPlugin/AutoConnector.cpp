@@ -45,10 +45,10 @@ void AutoConnector::stop() {
 void AutoConnector::connectionChanged(const DataConnection& connection) {
     if (m_Policy.isBegunElsewhere(connection)) {
         m_Policy.userConnects(AutoConnectSettings::isOn(connection.name));
-        m_Tried = markOf(connection.name);
+        m_Tried.clear();  // the other program knows what it tried, and keeps the outcome itself
     }
     const bool isRefused = m_Policy.observe(connection, m_Clock.elapsed());
-    if (isRefused || connection.isUp())
+    if (!m_Tried.isEmpty() && (isRefused || connection.isUp()))
         AutoConnectSettings::setRefused(connection.name, isRefused ? m_Tried : QString());
     consider();
 }

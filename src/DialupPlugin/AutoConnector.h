@@ -70,7 +70,7 @@ private:
     QStringList m_Names;
     QString m_ReadFor;
     QHash<QString, QString> m_Credentials;  // the marks, of the profiles that connect by themselves
-    QString m_Tried;                        // the mark of what the connection was begun with
+    QString m_Tried;                        // the mark of what the window began to connect with; else empty
     QString m_ReadyCard;                    // null: no modem is ready
 };
 
